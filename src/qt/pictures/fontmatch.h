@@ -1,0 +1,21 @@
+// Finds the screen font for a metafile's font: a family of the same letter widths, its size in
+// pixels, and drawn without grey edges.
+#pragma once
+
+#include <QFont>
+
+#include "qt/pictures/devicecontext.h"
+
+namespace terramark::qt {
+
+struct MatchedFont {
+  QFont Face;
+  int Ascent = 0;   // pixels
+  int Descent = 0;  // pixels
+  /// How much wider than its own proportion the font is to be drawn.
+  double Stretch = 1;
+};
+
+MatchedFont MatchFont(const DeviceContext& context);
+
+}  // namespace terramark::qt

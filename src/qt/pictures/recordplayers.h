@@ -1,0 +1,18 @@
+// The records of a metafile by kind. Each function plays the records it knows and is false for any
+// other.
+#pragma once
+
+#include "qt/pictures/devicecontext.h"
+#include "qt/pictures/metafilereader.h"
+
+namespace terramark::qt {
+
+/// Modes, mapping, objects and clip.
+bool PlayStateRecord(DeviceContext& context, const MetafileRecord& record);
+/// Lines, shapes and fills.
+bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record);
+bool PlayTextRecord(DeviceContext& context, const MetafileRecord& record);
+/// Blits and bitmap brushes.
+bool PlayBitmapRecord(DeviceContext& context, const MetafileRecord& record);
+
+}  // namespace terramark::qt
