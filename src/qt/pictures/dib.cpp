@@ -13,6 +13,7 @@ constexpr qsizetype FileHeaderBytes = 14;
 constexpr std::uint32_t CoreHeaderBytes = 12;
 constexpr std::uint32_t InfoHeaderBytes = 40;
 constexpr std::uint32_t MaxHeaderBytes = 124;
+constexpr qsizetype GreenMaskAt = 44;
 constexpr std::uint32_t RunLength8 = 1;
 constexpr std::uint32_t RunLength4 = 2;
 constexpr std::uint32_t BitFields = 3;
@@ -94,6 +95,12 @@ void AppendLong(QByteArray& bytes, std::uint32_t value) {
   bytes.append(raw, 4);
 }
 
+// The reader leaves the low bits of five- and six-bit channels clear; full must come out as 0xFF.
+QRgb Widened(QRgb pixel, int greenBits) {
+  const auto widened = [](int value, int bits) { return value | value >> bits; };
+  return qRgb(widened(qRed(pixel), 5), widened(qGreen(pixel), greenBits), widened(qBlue(pixel), 5));
+}
+
 // `head` is the header with masks and colour table as a bitmap file holds them.
 QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bits) {
   const qint64 pixels = header.Width * std::abs(header.Height);
@@ -122,9 +129,12 @@ QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bi
   QImage plain = image.hasAlphaChannel() ? image.convertToFormat(QImage::Format_ARGB32)
                                          : image.convertToFormat(QImage::Format_RGB32);
   if (plain.format() == QImage::Format_ARGB32) plain.reinterpretAsFormat(QImage::Format_RGB32);
+  const bool sixGreenBits = header.Compression == BitFields && Long(head, GreenMaskAt) == 0x07E0;
   for (int y = 0; y < plain.height(); ++y) {
     auto* row = reinterpret_cast<QRgb*>(plain.scanLine(y));
-    for (int x = 0; x < plain.width(); ++x) row[x] |= 0xFF000000;
+    for (int x = 0; x < plain.width(); ++x) {
+      row[x] = header.BitCount == 16 ? Widened(row[x], sixGreenBits ? 6 : 5) : row[x] | 0xFF000000;
+    }
   }
   return plain;
 }

@@ -78,8 +78,8 @@ MatchedFont MatchFont(const DeviceContext& context) {
   face.setPixelSize(static_cast<int>(std::clamp(size, 1.0, double{MaxPixelSize})));
 
   const QFontMetricsF metrics(face);
-  matched.Ascent = static_cast<int>(std::ceil(metrics.ascent()));
-  matched.Descent = static_cast<int>(std::ceil(metrics.descent()));
+  matched.Ascent = static_cast<int>(std::lround(metrics.ascent()));
+  matched.Descent = static_cast<int>(std::lround(metrics.descent()));
   if (wanted.Width != 0 && metrics.averageCharWidth() > 0) {
     const double width = std::abs(wanted.Width * scale.x());
     matched.Stretch = std::clamp(width / metrics.averageCharWidth(), 0.05, 50.0);
