@@ -5,6 +5,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 namespace terramark::qt {
 namespace {
@@ -12,7 +13,8 @@ namespace {
 constexpr qsizetype FileHeaderBytes = 14;
 constexpr std::uint32_t CoreHeaderBytes = 12;
 constexpr std::uint32_t InfoHeaderBytes = 40;
-constexpr std::uint32_t MaxHeaderBytes = 124;
+// The longer headers begin with the usual one.
+constexpr std::uint32_t LongHeaderBytes[] = {64, 108, 124};
 constexpr qsizetype GreenMaskAt = 44;
 constexpr std::uint32_t RunLength8 = 1;
 constexpr std::uint32_t RunLength4 = 2;
@@ -60,7 +62,9 @@ std::optional<DibHeader> ReadHeader(QByteArrayView dib) {
     header.BitCount = Word(dib, 10);
     return header;
   }
-  if (header.Bytes < InfoHeaderBytes || header.Bytes > MaxHeaderBytes) return std::nullopt;
+  const bool isLong = std::find(std::begin(LongHeaderBytes), std::end(LongHeaderBytes),
+                                header.Bytes) != std::end(LongHeaderBytes);
+  if (header.Bytes != InfoHeaderBytes && !isLong) return std::nullopt;
   header.Width = static_cast<std::int32_t>(Long(dib, 4));
   header.Height = static_cast<std::int32_t>(Long(dib, 8));
   header.BitCount = Word(dib, 14);

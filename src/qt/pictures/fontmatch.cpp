@@ -1,9 +1,11 @@
 #include "qt/pictures/fontmatch.h"
 
-#include <QFontInfo>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
+
+#include "qt/pictures/textdecoding.h"
 
 namespace terramark::qt {
 namespace {
@@ -35,7 +37,15 @@ constexpr FaceRow Faces[] = {
     {"terminal", "Liberation Mono"},
 };
 
+bool IsInstalled(const QString& family) {
+  static const QStringList Installed = QFontDatabase::families();
+  return Installed.contains(family, Qt::CaseInsensitive);
+}
+
+// A font of signs has no stand-in: without it, its letters are empty boxes.
 QString FamilyOf(const Font& font) {
+  const QString own = QString::fromLatin1(font.Face);
+  if (HoldsSigns(font) && IsInstalled(own)) return own;
   const QByteArray face = font.Face.toLower();
   for (const FaceRow& row : Faces) {
     if (face.startsWith(row.Face)) return QString::fromLatin1(row.Family);

@@ -15,6 +15,9 @@ struct Letter {
   int Bytes = 1;
 };
 
+/// Whether the font holds signs in place of letters, like the symbol font.
+bool HoldsSigns(const Font& font);
+
 /// Letters that the set does not have come out as U+FFFD.
 std::vector<Letter> DecodeText(QByteArrayView bytes, const Font& font);
 
