@@ -130,11 +130,12 @@ QImage Decode(DeviceContext& context, QByteArrayView dib, bool paletteIndices) {
 }
 
 // The older bitmap of two colours: clear bits show the text colour, set bits the background.
-QImage DecodeOldBitmap(const DeviceContext& context, const MetafileRecord& record, qsizetype at) {
+QImage DecodeOldBitmap(const DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                       qsizetype bitsAt) {
   const int width = record.Int(at + 1);
   const int height = record.Int(at + 2);
   const int rowBytes = record.Int(at + 3);
-  const QByteArrayView bits = record.From(at + 5);
+  const QByteArrayView bits = record.From(bitsAt);
   const bool mono = record.Word(at + 4) == 0x0101;
   if (!mono || width < 1 || height < 1 || rowBytes < (width + 7) / 8) return {};
   if (bits.size() < qsizetype{rowBytes} * height) return {};
@@ -163,7 +164,7 @@ void PlayBitBlt(DeviceContext& context, const MetafileRecord& record, bool old) 
   blit.To = record.PointYX(at + 2);
   blit.Size = {record.Int(at + 1), record.Int(at)};
   blit.From = QRect(record.PointYX(2), blit.Size);
-  if (!bare && old) blit.Source = DecodeOldBitmap(context, record, 8);
+  if (!bare && old) blit.Source = DecodeOldBitmap(context, record, 8, 13);
   if (!bare && !old) {
     blit.Source = Decode(context, record.From(8), false);
     FlipSource(blit, record.From(8));
@@ -180,7 +181,7 @@ void PlayStretch(DeviceContext& context, const MetafileRecord& record, qsizetype
             .Source = {}};
   const QByteArrayView dib = record.From(at + 8);
   if (old) {
-    blit.Source = DecodeOldBitmap(context, record, at + 8);
+    blit.Source = DecodeOldBitmap(context, record, at + 8, at + 13);
   } else {
     blit.Source = Decode(context, dib, paletteIndices);
     FlipSource(blit, dib);
@@ -202,6 +203,8 @@ void PlaySetDib(DeviceContext& context, const MetafileRecord& record) {
 }
 
 void CreatePattern(DeviceContext& context, QImage tile) {
+  // A brush may be kept, so its memory weighs more than pixels that are painted.
+  context.Target().Spend(std::int64_t{12} * tile.width() * tile.height());
   Brush brush;
   brush.Style = tile.isNull() ? BrushStyle::None : BrushStyle::Pattern;
   brush.Tile = std::move(tile);
@@ -241,8 +244,8 @@ bool PlayBitmapRecord(DeviceContext& context, const MetafileRecord& record) {
     case 0x0142:  // DIBCreatePatternBrush
       CreatePattern(context, Decode(context, record.From(2), record.Word(1) == 1));
       return true;
-    case 0x01F9:  // CreatePatternBrush: a bitmap head of 32 bytes, 18 unused ones, the bits
-      CreatePattern(context, QImage());
+    case 0x01F9:  // CreatePatternBrush: the bitmap's head, then 20 unused words, then its bits
+      CreatePattern(context, DecodeOldBitmap(context, record, 0, 25));
       return true;
     default:
       return false;

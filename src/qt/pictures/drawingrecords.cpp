@@ -101,7 +101,8 @@ std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
 
 void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   if (box.isEmpty()) return;
-  if (!context.Target().Touch(box)) return;
+  const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
+  if (!context.Target().Touch(box.adjusted(-pen, -pen, pen, pen))) return;
   const QRect outline = OutlineBox(context, box);
   if (outline.isEmpty() || outline.width() > 1 << 16 || outline.height() > 1 << 16) return;
   const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
@@ -173,25 +174,6 @@ void FloodFill(DeviceContext& context, const MetafileRecord& record, qsizetype c
                          context.BrushPaint(context.State.CurrentBrush));
 }
 
-// Regions are painted in logical units, unlike the clip that is made of them.
-void PaintRegion(DeviceContext& context, const MetafileRecord& record) {
-  constexpr std::uint16_t Fill = 0x0228;
-  constexpr std::uint16_t Invert = 0x012A;
-  const auto* region = std::get_if<Region>(&context.Objects.At(record.Word(0)));
-  if (region == nullptr) return;
-  Paint paint = context.BrushPaint(context.State.CurrentBrush);
-  if (record.Function == Fill) {
-    if (const auto* brush = std::get_if<Brush>(&context.Objects.At(record.Word(1)))) {
-      paint = context.BrushPaint(*brush);
-    }
-  }
-  if (record.Function == Invert) paint = {.Operation = 6, .Colour = 0xFF000000, .Pattern = {}};
-  for (const QRect& rect : region->Rects) {
-    context.Target().Rectangle(
-        context.ToDevice(rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1), paint);
-  }
-}
-
 }  // namespace
 
 bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record) {
@@ -245,11 +227,6 @@ bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record) {
       if (context.Target().Touch(QRect(at, QSize(1, 1)))) context.Target().Put(at, colour);
       return true;
     }
-    case 0x0228:  // FillRegion
-    case 0x012A:  // InvertRegion
-    case 0x012B:  // PaintRegion
-      PaintRegion(context, record);
-      return true;
     default:
       return false;
   }

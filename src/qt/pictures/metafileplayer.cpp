@@ -20,7 +20,8 @@ void PlayRecords(DeviceContext& context, QByteArrayView bytes) {
     if (!record || !context.Target().Spend(WorkPerRecord + record->Words())) return;
     // A record that none of these knows is passed over.
     (void)(PlayStateRecord(context, *record) || PlayDrawingRecord(context, *record) ||
-           PlayTextRecord(context, *record) || PlayBitmapRecord(context, *record));
+           PlayRegionRecord(context, *record) || PlayTextRecord(context, *record) ||
+           PlayBitmapRecord(context, *record));
   }
 }
 

@@ -11,6 +11,8 @@ namespace terramark::qt {
 bool PlayStateRecord(DeviceContext& context, const MetafileRecord& record);
 /// Lines, shapes and fills.
 bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record);
+/// Fills and frames of region objects.
+bool PlayRegionRecord(DeviceContext& context, const MetafileRecord& record);
 bool PlayTextRecord(DeviceContext& context, const MetafileRecord& record);
 /// Blits and bitmap brushes.
 bool PlayBitmapRecord(DeviceContext& context, const MetafileRecord& record);

@@ -72,7 +72,7 @@ bool PlayObject(DeviceContext& context, const MetafileRecord& record) {
     case 0x06FF: {  // CreateRegion
       const std::size_t searched = context.Objects.Add(ReadObject(record));
       // What stays in memory weighs more than what is drawn.
-      context.Target().Spend(static_cast<std::int64_t>(searched) + record.Words() * 4);
+      context.Target().Spend(static_cast<std::int64_t>(searched) + record.Words() * 32);
       return true;
     }
     case 0x012D:  // SelectObject

@@ -9,6 +9,7 @@ namespace {
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr int CopyOperation = 13;
 constexpr std::int64_t WorkPerCrossing = 4;
+constexpr std::int64_t WorkPerFloodPixel = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
 
@@ -111,7 +112,8 @@ void Surface::Put(QPoint at, QRgb colour) {
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
-  if (!Area().contains(seed) || !Spend(std::int64_t{Area().width()} * Area().height())) return;
+  const std::int64_t work = std::int64_t{Area().width()} * Area().height() * WorkPerFloodPixel;
+  if (!Area().contains(seed) || !Spend(work)) return;
   // Painting changes the colours that are asked for, so the filled shape is found first.
   QImage inside(Area().size(), QImage::Format_Grayscale8);
   inside.fill(0);
