@@ -12,6 +12,7 @@ namespace {
 
 constexpr int MaxPixelSize = 4096;
 constexpr int DefaultPixelSize = 16;
+constexpr double MadeItalicSlant = 0.287;  // 16 degrees
 constexpr int BoldFrom = 600;
 
 struct FaceRow {
@@ -77,7 +78,11 @@ MatchedFont MatchFont(const DeviceContext& context) {
   face.setStyleStrategy(QFont::NoAntialias);
   face.setHintingPreference(QFont::PreferFullHinting);
   face.setBold(wanted.Weight >= BoldFrom);
-  face.setItalic(wanted.Italic);
+  if (wanted.Italic && HoldsSigns(wanted)) {
+    matched.Slant = MadeItalicSlant;
+  } else {
+    face.setItalic(wanted.Italic);
+  }
   face.setUnderline(wanted.Underline);
   face.setStrikeOut(wanted.StrikeOut);
   face.setKerning(false);

@@ -14,6 +14,8 @@ struct MatchedFont {
   int Descent = 0;  // pixels
   /// How much wider than its own proportion the font is to be drawn.
   double Stretch = 1;
+  /// How far each pixel of height leans right, for a font that has no italic of its own.
+  double Slant = 0;
 };
 
 MatchedFont MatchFont(const DeviceContext& context);

@@ -88,9 +88,9 @@ QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransfo
   for (std::size_t i = 0; i < line.Letters.size(); ++i) {
     const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
     const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-    QTransform turned(place.m11() * font.Stretch, place.m12() * font.Stretch, place.m21(),
-                      place.m22(), whole.x(), whole.y());
-    painter.setTransform(turned);
+    const QTransform shape(font.Stretch, 0, -font.Slant, 1, 0, 0);
+    const QTransform turn(place.m11(), place.m12(), place.m21(), place.m22(), whole.x(), whole.y());
+    painter.setTransform(shape * turn);
     painter.drawText(QPointF(0, 0), line.Letters[i].Text);
   }
   painter.end();
