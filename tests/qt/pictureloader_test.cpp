@@ -144,7 +144,7 @@ TEST(PictureLoader, SurvivesDamagedFiles) {
   const QByteArray seeds[] = {EverythingDrawn(), BitmapCases[4].Dib.File(),
                               BitmapCases[1].Dib.File()};
   std::mt19937 random(20261124);  // NOLINT: the same damage every time
-  for (int round = 0; round < 1500; ++round) {
+  for (int round = 0; round < 4000; ++round) {
     QByteArray bytes = seeds[round % 3];
     const auto flips = 1 + random() % 6;
     for (auto left = flips; left > 0; --left) {

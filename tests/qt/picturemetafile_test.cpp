@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QSet>
-#include <QTransform>
 #include <cstdlib>
 
 #include "picturebytes.h"
 #include "qt/pictures/metafileplayer.h"
+#include "qt/pictures/textdecoding.h"
 
 namespace terramark::qt {
 namespace {
@@ -75,6 +75,64 @@ TEST(Metafile, TextHasNoGreyEdges) {
   EXPECT_EQ(Colours(Play(file, {300, 300})), QSet<QRgb>({White, Black}));
 }
 
+TEST(Metafile, TextIsReadInTheCharacterSetOfItsFont) {
+  struct Row {
+    int Charset;
+    const char* Bytes;
+    QString Letters;
+  };
+  const Row rows[] = {
+      {0, "\xE4\x80", QStringLiteral(u"\u00E4\u20AC")},  // Western
+      {161, "\xE1", QStringLiteral(u"\u03B1")},          // Greek
+      {204, "\xC6", QStringLiteral(u"\u0416")},          // Cyrillic
+      {128, "A\x83\x41\xB1",
+       QStringLiteral(u"A\u30A2\uFF71")},        // Japanese, one or two bytes a letter
+      {2, "a", QStringLiteral(u"\uF061")},       // signs
+      {204, "\x98", QStringLiteral(u"\uFFFD")},  // not assigned
+  };
+  for (const Row& row : rows) {
+    Font font;
+    font.Charset = row.Charset;
+    QString text;
+    int bytes = 0;
+    for (const Letter& letter : DecodeText(row.Bytes, font)) {
+      text += letter.Text;
+      bytes += letter.Bytes;
+    }
+    EXPECT_EQ(text, row.Letters) << row.Charset;
+    EXPECT_EQ(bytes, qstrlen(row.Bytes)) << row.Charset;
+  }
+}
+
+// The box around everything that is not white.
+QRect Inked(const QImage& image) {
+  QRect inked;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) != White) inked |= QRect(x, y, 1, 1);
+    }
+  }
+  return inked;
+}
+
+TEST(Metafile, TextStandsWhereItsAlignmentPutsIt) {
+  const auto inked = [](int align, int escapement) {
+    MetafileBytes file;
+    file.Record(0x02FB, {-20, 0, escapement, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x012D, {0});
+    file.Record(0x012E, {align}).Record(0x0102, {1});
+    // "HH", with 15 from letter to letter.
+    return Inked(Play(file.Record(0x0A32, {50, 50, 2, 0, 0x4848, 15, 15})));
+  };
+  EXPECT_EQ(inked(24, 0).bottom(), 49) << "on the baseline";
+  EXPECT_GT(inked(0, 0).top(), 50) << "below the reference";
+  EXPECT_LT(inked(8, 0).bottom(), 49) << "above it";
+  EXPECT_EQ(inked(24 | 2, 0).left() + 30, inked(24, 0).left()) << "to the left";
+  EXPECT_EQ(inked(24 | 6, 0).left() + 15, inked(24, 0).left()) << "centred";
+  const QRect upwards = inked(24, 900);
+  EXPECT_LT(upwards.bottom(), 51) << "turned against the clock";
+  EXPECT_GT(upwards.height(), upwards.width());
+}
+
 TEST(Metafile, FillsBothAxesOfTheBox) {
   MetafileBytes corners;
   corners.Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(100, 50, 3000, 1050);
@@ -111,7 +169,7 @@ TEST(Metafile, ShapesLeaveOutTheirRightAndBottomEdge) {
   EXPECT_EQ(round.pixel(89, 50), Black);
   EXPECT_EQ(round.pixel(90, 50), White);
   EXPECT_EQ(round.pixel(50, 50), Red);
-  EXPECT_EQ(round, round.mirrored(true, true).copy(-1 + 1, 0, 100, 100)) << "not symmetric";
+  EXPECT_EQ(round, round.mirrored(true, true)) << "not symmetric";
   MetafileBytes line;
   line.Line(10, 10, 20, 10);
   EXPECT_EQ(Count(Play(line), Black), 10) << "the last pixel belongs to the next line";
@@ -177,9 +235,120 @@ TEST(Metafile, HatchesAndBlitsPaint) {
   EXPECT_EQ(stretched.pixel(21, 21), Red) << "the first stored row is the lowest";
   EXPECT_EQ(stretched.pixel(78, 78), Green);
   EXPECT_EQ(Count(stretched, Red), 60 * 30);
+  MetafileBytes unscaled;
+  unscaled.Record(0x0D33, {0, 2, 0, 0, 0, 2, 2, 30, 40}, dib);
+  EXPECT_EQ(Inked(Play(unscaled, {200, 200})), QRect(80, 60, 2, 2)) << "its size is in pixels";
+  MetafileBytes mirrored;
+  mirrored.Record(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, -60, 60, 80, 20}, dib);
+  EXPECT_EQ(Play(mirrored).pixel(21, 21), Green);
+  MetafileBytes masked;
+  masked.Record(0x0940, {0xC6, 0x88, 0, 0, 2, 2, 10, 10}, dib);
+  EXPECT_EQ(Play(masked).pixel(10, 10), Red) << "white and the picture";
+  MetafileBytes tiled;
+  tiled.Pen(NullPen, 0, 0).Record(0x0142, {5, 0}, dib).Record(0x012D, {1});
+  EXPECT_EQ(Count(Play(tiled.Rectangle(0, 0, 101, 101)), Red), 50 * 100);
+  MetafileBytes shrunk;
+  shrunk.Record(0x0F43, {0x20, 0xCC, 0, 2, 2, 0, 0, 1, 1, 20, 20}, dib);
+  EXPECT_EQ(Play(shrunk).pixel(20, 20), Black)
+      << "pixels that fall together are laid over each other";
   MetafileBytes invert;
   invert.Record(0x061D, {0x09, 0x55, 30, 30, 10, 10});
   EXPECT_EQ(Count(Play(invert), Black), 30 * 30);
+}
+
+TEST(Metafile, ArcsRunAgainstTheClock) {
+  // From the right end of the box to its top: the upper right quarter.
+  const auto arc = [](int function) {
+    MetafileBytes file;
+    file.Brush(0, RedRef).Record(function, {0, 50, 50, 100, 91, 91, 10, 10});
+    return Play(file);
+  };
+  const QImage open = arc(0x0817);
+  EXPECT_EQ(Count(open, Red), 0);
+  EXPECT_EQ(open.pixel(51, 10), Black);
+  EXPECT_TRUE(Inked(open).left() >= 49 && Inked(open).bottom() <= 51);
+  const QImage pie = arc(0x081A);
+  EXPECT_EQ(pie.pixel(60, 40), Red);
+  EXPECT_EQ(pie.pixel(50, 30), Black) << "the way back to the centre";
+  const QImage chord = arc(0x0830);
+  EXPECT_EQ(chord.pixel(55, 45), White) << "the centre lies outside";
+  EXPECT_EQ(chord.pixel(78, 25), Red);
+}
+
+TEST(Metafile, FloodsStopAtTheirBorder) {
+  const auto flood = [](int function, std::initializer_list<int> words) {
+    MetafileBytes file;
+    file.Brush(1, 0).Rectangle(20, 20, 60, 60).Brush(0, RedRef);
+    return Play(file.Record(function, words));
+  };
+  EXPECT_EQ(Count(flood(0x0419, {0, 0, 30, 30}), Red), 38 * 38) << "up to black";
+  EXPECT_EQ(Count(flood(0x0548, {1, -1, 0xFF, 30, 30}), Red), 38 * 38) << "over white";
+  EXPECT_EQ(Count(flood(0x0548, {1, 0, 0, 20, 20}), Red), 4 * 39) << "over black";
+  EXPECT_EQ(Count(flood(0x0419, {0, 0, 200, 200}), Red), 0) << "from outside the picture";
+}
+
+TEST(Metafile, DashesShowTheBackgroundInTheirGaps) {
+  const auto line = [](int style, int mode) {
+    MetafileBytes file;
+    file.Record(0x0201, {0x00FF, 0}).Record(0x0102, {mode}).Pen(style, 0, 0);
+    return Play(file.Line(0, 10, 72, 10));
+  };
+  constexpr int Transparent = 1;
+  EXPECT_EQ(Count(line(1, Transparent), Black), 54) << "18 on, 6 off";
+  EXPECT_EQ(Count(line(1, Transparent), Red), 0);
+  EXPECT_EQ(Count(line(1, 2), Red), 18);
+  EXPECT_EQ(Count(line(2, Transparent), Black), 36);
+  EXPECT_EQ(Count(line(NullPen, 2), White), 100 * 100);
+}
+
+TEST(Metafile, WidePensTakeTheirWidthFromTheMapping) {
+  MetafileBytes file;
+  file.Pen(0, 10, 0).Line(20, 50, 80, 50);
+  const QRect inked = Inked(Play(file, {200, 100}));
+  EXPECT_EQ(inked.height(), 20) << "by the scale across";
+  EXPECT_EQ(inked.width(), 140) << "with a round end at both sides";
+}
+
+TEST(Metafile, ViewportAndPaletteAndJustificationAct) {
+  MetafileBytes viewport;
+  viewport.Record(0x020D, {30, 20}).Record(0x020E, {50, 50}).Pen(NullPen, 0, 0).Brush(0, RedRef);
+  viewport.Rectangle(0, 0, 102, 102);
+  EXPECT_EQ(Inked(Play(viewport)), QRect(20, 30, 50, 50));
+
+  MetafileBytes indexed;
+  indexed.Record(0x02FC, {0, 1, 0x0100, 0}).Record(0x012D, {0}).Record(0x02FA, {5, 0, 0, 0, 0});
+  indexed.Record(0x012D, {1}).Record(0x00F7, {0x300, 2, 0, 0, 0x00FF, 0}).Record(0x0234, {2});
+  EXPECT_EQ(Play(indexed.Rectangle(0, 0, 101, 101)).pixel(50, 50), Red)
+      << "a brush's palette entry is looked up when it paints";
+
+  const auto width = [](std::initializer_list<int> justification) {
+    MetafileBytes file;
+    file.Record(0x02FB, {-12, 0, 0, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x012D, {0});
+    file.Record(0x020A, justification).Record(0x0102, {1});
+    return Inked(Play(file.Record(0x0521, {3, 0x2048, 0x48, 10, 10}))).width();
+  };
+  EXPECT_EQ(width({1, 9}), width({0, 0}) + 9);
+}
+
+TEST(Metafile, RegionsClipAndPaint) {
+  const auto region = [](MetafileBytes& file) {
+    // Two scans: 10 to 50 in rows 10 to 20, 10 to 30 in rows 20 to 40.
+    file.Record(0x06FF, {0, 6,  0,  0,  0,  2, 2, 10, 10, 50, 40,  //
+                         2, 10, 20, 10, 50, 2, 2, 20, 40, 10, 30, 2});
+  };
+  MetafileBytes painted;
+  painted.Pen(NullPen, 0, 0).Brush(0, RedRef);
+  region(painted);
+  EXPECT_EQ(Count(Play(MetafileBytes(painted).Record(0x012B, {2})), Red), 40 * 10 + 20 * 20);
+  EXPECT_EQ(Count(Play(MetafileBytes(painted).Record(0x012A, {2})), Black), 40 * 10 + 20 * 20);
+  const QImage framed = Play(MetafileBytes(painted).Record(0x0429, {2, 1, 2, 3}));
+  EXPECT_EQ(framed.pixel(11, 30), Red);
+  EXPECT_EQ(framed.pixel(20, 19), White) << "no frame where the scans meet";
+  MetafileBytes clipped = MetafileBytes(painted).Record(0x012C, {2});
+  clipped.Rectangle(0, 0, 101, 101);
+  EXPECT_EQ(Count(Play(clipped), Red), 40 * 10 + 20 * 20);
+  clipped.Record(0x012C, {0}).Rectangle(0, 0, 101, 101);
+  EXPECT_EQ(Count(Play(clipped), Red), 100 * 100) << "number 0 is a pen: the clip is off";
 }
 
 TEST(Metafile, PassesOverUnknownRecords) {

@@ -62,7 +62,9 @@ bool PlayRegionRecord(DeviceContext& context, const MetafileRecord& record) {
       return true;
     case 0x012A: {  // InvertRegion
       constexpr int Invert = 6;
-      PaintRegion(context, record, {.Operation = Invert, .Colour = {}, .Pattern = {}});
+      Paint paint;
+      paint.Operation = Invert;
+      PaintRegion(context, record, paint);
       return true;
     }
     default:
