@@ -4,7 +4,7 @@
 Writes beside itself: europe.bmp and europe.wmf, the same picture twice, and the layouts that
 name them, europe.tml and europe-wmf.tml. The results are committed; run this only to change them.
 
-The outlines come from Natural Earth (naturalearthdata.com), which is in the public domain, in the
+The outlines come from Natural Earth, which is in the public domain, in the
 form that the npm package world-atlas ships. To fetch it, somewhere else, and draw the map anew:
 
     npm pack world-atlas@2.0.2 && tar xzf world-atlas-2.0.2.tgz

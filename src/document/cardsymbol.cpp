@@ -1,0 +1,39 @@
+#include "document/cardsymbol.h"
+
+#include <algorithm>
+#include <array>
+
+namespace terramark {
+
+namespace {
+
+constexpr std::array<CardSymbol, 3> CardSymbols{{
+    // code letter word
+    {'1', 'G', "GUN"},
+    {'2', 'H', "HORSE"},
+    {'3', 'S', "SOLDIER"},
+}};
+
+template <typename Key>
+const CardSymbol* FindSymbol(Key CardSymbol::*key, Key wanted) {
+  const auto* found = std::find_if(CardSymbols.begin(), CardSymbols.end(),
+                                   [&](const CardSymbol& symbol) { return symbol.*key == wanted; });
+  return found == CardSymbols.end() ? nullptr : found;
+}
+
+}  // namespace
+
+const CardSymbol* SymbolOfCode(std::string_view areaSymbol) {
+  return areaSymbol.empty() ? nullptr : FindSymbol(&CardSymbol::Code, areaSymbol[0]);
+}
+
+const CardSymbol* SymbolOfLetter(char letter) {
+  return FindSymbol(&CardSymbol::Letter, letter);
+}
+
+std::string SymbolLetter(std::string_view areaSymbol) {
+  const CardSymbol* symbol = SymbolOfCode(areaSymbol);
+  return symbol == nullptr ? std::string() : std::string(1, symbol->Letter);
+}
+
+}  // namespace terramark

@@ -1,0 +1,35 @@
+// Link strings: an Area's neighbours as text, two digits of count and two digits for each.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "document/tables.h"
+
+namespace terramark {
+
+/// The neighbours that a link string lists, read once: the count in front decides, never the
+/// length. A count or an entry outside 0 to 99 reads as 0, as does an entry behind the end.
+class Neighbours {
+ public:
+  explicit Neighbours(std::string_view links);
+
+  const std::int16_t* begin() const { return entries_.data(); }
+  const std::int16_t* end() const { return entries_.data() + count_; }
+  std::int16_t Count() const { return static_cast<std::int16_t>(count_); }
+  bool List(std::int16_t area) const;
+
+ private:
+  std::array<std::int16_t, TableSize> entries_;
+  std::size_t count_ = 0;
+};
+
+/// The number of neighbours that a link string declares, 0 to 99.
+std::int16_t LinkCount(std::string_view links);
+
+/// 1 when Area b stands in AreaLinks(a), else 0. a is 0 to 99.
+std::int16_t IsNeighbour(const Tables& tables, std::int16_t a, std::int16_t b);
+
+}  // namespace terramark

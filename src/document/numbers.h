@@ -1,0 +1,29 @@
+// Numbers as the document writes and reads them in texts.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace terramark {
+
+/// Decimal text with one leading blank when n is not negative: " 7", " 0", "-1".
+std::string NumberText(std::int32_t n);
+
+/// Decimal text without a blank: "7", "-1".
+std::string PlainNumber(std::int32_t n);
+
+/// The two-digit form of 0 to 99; of any other number the last two digits of its text.
+std::string TwoDigit(std::int16_t n);
+
+/// The number that a text begins with. Blanks are skipped, also between digits; an optional sign
+/// may lead; digits with at most one point follow; the first other character ends the number. A
+/// text without digits reads as 0.
+double ReadNumber(std::string_view text);
+
+/// Rounded to the nearest whole number, a tie to the even one; nothing when that does not fit 16
+/// bits.
+std::optional<std::int16_t> WholeNumber(double value);
+
+}  // namespace terramark

@@ -1,0 +1,63 @@
+// The tables of the map document: Areas and Regions by number, 1 to the count.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace terramark {
+
+/// Elements of every table, 0 to 99; two decimal digits name each of them.
+inline constexpr std::size_t TableSize = 100;
+/// The highest number that the tables hold.
+inline constexpr std::int16_t LastNumber = 99;
+/// The commands add no Area and no Region from this count on.
+inline constexpr std::int16_t CountLimit = 96;
+/// A colour component that was never set; shows as full intensity.
+inline constexpr std::int16_t UnsetComponent = 256;
+/// The name of element 0 and of whatever lost its name.
+inline constexpr char UnknownName[] = "*UNKNOWN*";
+
+/// A fixed table; numbers outside it must not reach it.
+template <typename T>
+class Table {
+ public:
+  T& operator()(std::int16_t number) { return elements_.at(static_cast<std::size_t>(number)); }
+  const T& operator()(std::int16_t number) const {
+    return elements_.at(static_cast<std::size_t>(number));
+  }
+
+ private:
+  std::array<T, TableSize> elements_{};
+};
+
+/// Red, green, blue, each 0 to 256.
+using Components = std::array<std::int16_t, 3>;
+
+struct Tables {
+  /// 0 to 96 by the commands, to 99 from a layout.
+  std::int16_t AreaCount = 0;
+  std::int16_t RegionCount = 0;
+
+  Table<std::string> AreaName;
+  /// Two digits of count, then two digits a neighbour, in the order in which they were linked.
+  Table<std::string> AreaLinks;
+  /// The card symbol's code is the first character; what follows has no meaning.
+  Table<std::string> AreaSymbol;
+  /// 0 for an Area in no Region.
+  Table<std::int16_t> AreaRegion;
+  /// The marker's corner that is the fill point: bit 1 the right edge, bit 2 the bottom edge.
+  Table<std::int16_t> AreaCorner;
+
+  Table<std::string> RegionName;
+  Table<std::int16_t> RegionArmies;
+  Table<Components> RegionRGB;
+
+  /// Player1, Player2, Player3, Neutral.
+  std::array<Components, 4> PlayerRGB{};
+  /// Path of the backdrop as the file dialog or the layout gave it; empty for none.
+  std::string PictureFile;
+};
+
+}  // namespace terramark

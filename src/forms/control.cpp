@@ -1,0 +1,57 @@
+#include "forms/control.h"
+
+#include "forms/form.h"
+
+namespace terramark::forms {
+
+Control::~Control() {
+  if (form_ != nullptr && form_ != this) form_->Remove(*this);
+}
+
+void Control::Drag(DragAction action) {
+  if (form_ == nullptr) return;
+  if (action == DragAction::Begin) {
+    form_->Pointer.BeginDrag(*this);
+  } else {
+    form_->Pointer.CancelDrag();
+  }
+}
+
+void Control::Move(float left, float top) {
+  Left = left;
+  Top = top;
+}
+
+void Control::ZOrder(StackEnd end) {
+  if (form_ != nullptr) form_->Restack(*this, end);
+}
+
+void Control::SetFocus() {
+  if (form_ != nullptr) form_->Focus(this);
+}
+
+void Control::PropertyChanged(PropertyId id) {
+  if (form_ != nullptr) form_->Tell(*this, id);
+}
+
+void Control::CopyCommon(const Control& from) {
+  Left = from.Left;
+  Top = from.Top;
+  Width = from.Width;
+  Height = from.Height;
+  Enabled = from.Enabled;
+  BackColor = from.BackColor;
+  ForeColor = from.ForeColor;
+  Tag = from.Tag;
+  ToolTipText = from.ToolTipText;
+  InnerScale = from.InnerScale;
+  MouseDown = from.MouseDown;
+  MouseMove = from.MouseMove;
+  MouseUp = from.MouseUp;
+  DragDrop = from.DragDrop;
+  KeyDown = from.KeyDown;
+  KeyUp = from.KeyUp;
+  KeyPress = from.KeyPress;
+}
+
+}  // namespace terramark::forms

@@ -1,0 +1,88 @@
+// What all controls share: place, colours, state, mouse events and the place in the stack.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "forms/color.h"
+#include "forms/events.h"
+#include "forms/property.h"
+
+namespace terramark::forms {
+
+class Form;
+
+enum class ControlKind { Form, Label, TextBox, CommandButton, PictureBox, Frame, VScrollBar };
+
+/// Unit of a container's inside, for the places of its children and for its own mouse events.
+enum class Scale { Twips, Pixels };
+
+enum class DragAction { End, Begin };
+enum class StackEnd { Front, Back };
+
+class Control : public PropertyOwner {
+ public:
+  explicit Control(ControlKind kind) : kind_(kind) {}
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control();
+
+  /// Place inside the container and size, in the container's scale.
+  Property<float> Left{*this, PropertyId::Left};
+  Property<float> Top{*this, PropertyId::Top};
+  Property<float> Width{*this, PropertyId::Width};
+  Property<float> Height{*this, PropertyId::Height};
+  Property<bool> Visible{*this, PropertyId::Visible, true};
+  Property<bool> Enabled{*this, PropertyId::Enabled, true};
+  Property<Color> BackColor{*this, PropertyId::BackColor, SysButtonFace};
+  Property<Color> ForeColor{*this, PropertyId::ForeColor, SysWindowText};
+  Property<std::string> Tag{*this, PropertyId::Tag};
+  std::string ToolTipText;
+  /// Unit inside this control, when it contains others.
+  Scale InnerScale = Scale::Twips;
+
+  Slot<MouseEvent> MouseDown;
+  Slot<MouseEvent> MouseMove;
+  Slot<MouseEvent> MouseUp;
+  Slot<DropEvent> DragDrop;
+  Slot<KeyEvent> KeyDown;
+  Slot<KeyEvent> KeyUp;
+  Slot<PlainEvent> KeyPress;
+
+  ControlKind Kind() const { return kind_; }
+  const std::string& Name() const { return name_; }
+  /// Number in the control array; 0 for a control that stands alone.
+  std::int16_t Index() const { return index_; }
+  /// The form it stands on; null until it is added to one.
+  Form* Owner() const { return form_; }
+  Control* Container() const { return container_; }
+  /// Contained controls from the back to the front.
+  const std::vector<Control*>& Children() const { return children_; }
+
+  /// Begins a drag of this control by the pointer that is down, or ends it with nothing moved.
+  void Drag(DragAction action);
+  void Move(float left, float top);
+  /// Puts the control at one end of its container's stack.
+  void ZOrder(StackEnd end);
+  /// Gives the control the keyboard.
+  void SetFocus();
+
+  void PropertyChanged(PropertyId id) override;
+
+ protected:
+  /// Takes over all that the template has but its index, visibility and place in the stack.
+  void CopyCommon(const Control& from);
+
+ private:
+  friend class Form;
+
+  const ControlKind kind_;
+  std::string name_;
+  std::int16_t index_ = 0;
+  Form* form_ = nullptr;
+  Control* container_ = nullptr;
+  std::vector<Control*> children_;
+};
+
+}  // namespace terramark::forms

@@ -1,0 +1,86 @@
+// The plain kinds of control: label, text box, command button, frame, vertical scroll bar.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "forms/control.h"
+
+namespace terramark::forms {
+
+enum class Alignment { Left, Centred };
+enum class Border { None, FixedSingle };
+
+class Label : public Control {
+ public:
+  Label() : Control(ControlKind::Label) {}
+
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
+  forms::Alignment Alignment = forms::Alignment::Left;
+  /// Width and Height follow the caption, by the font's own measure on the screen.
+  bool AutoSize = false;
+
+  void PropertyChanged(PropertyId id) override;
+  void CopyTemplate(const Label& from);
+
+ private:
+  void FitCaption();
+};
+
+class TextBox : public Control {
+ public:
+  TextBox() : Control(ControlKind::TextBox) {}
+
+  Property<std::string> Text{*this, PropertyId::Text};
+  /// Characters that typing may reach; 0 for no limit. Assignments are not held to it.
+  std::size_t MaxLength = 0;
+  bool MultiLine = false;
+  /// Raised by every real change of Text, typed or assigned, before the assignment returns.
+  Slot<PlainEvent> Change;
+
+  /// What the box holds after the user typed or pasted, held to MaxLength. A disabled box takes
+  /// nothing.
+  void Typed(const std::string& text);
+
+  void PropertyChanged(PropertyId id) override;
+  void CopyTemplate(const TextBox& from);
+};
+
+class CommandButton : public Control {
+ public:
+  CommandButton() : Control(ControlKind::CommandButton) {}
+
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Slot<PlainEvent> Click;
+
+  void CopyTemplate(const CommandButton& from);
+};
+
+class Frame : public Control {
+ public:
+  Frame() : Control(ControlKind::Frame) {}
+
+  Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+class VScrollBar : public Control {
+ public:
+  VScrollBar() : Control(ControlKind::VScrollBar) {}
+
+  int Min = 0;
+  int Max = 0;
+  /// Min at the top, Max at the bottom.
+  Property<int> Value{*this, PropertyId::Value, 0};
+  /// Raised by every real change of Value, by the user or assigned, before the assignment returns.
+  Slot<PlainEvent> Change;
+
+  /// What the user moved the thumb to, held to Min and Max. A bar that is disabled, or whose frame
+  /// is, takes nothing.
+  void Moved(int value);
+
+  void PropertyChanged(PropertyId id) override;
+  void CopyTemplate(const VScrollBar& from);
+};
+
+}  // namespace terramark::forms

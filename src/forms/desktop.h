@@ -1,0 +1,77 @@
+// The one interface of the editor to the world outside: boxes, file dialog, help, clock, random
+// numbers, screen, picture loading, ending. The window implements it; tests script it.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "forms/raster.h"
+
+namespace terramark::forms {
+
+class Form;
+
+enum class Buttons { Ok, YesNo };
+enum class Answer { Ok, Yes, No };
+
+/// Size of a text in pixels, in the labels' font.
+struct TextExtent {
+  int Width = 0;
+  int Height = 0;
+};
+
+struct DateTime {
+  int Year = 0;
+  int Month = 0;  // 1 to 12
+  int Day = 0;    // 1 to 31
+  int Hour = 0;   // 0 to 23
+  int Minute = 0;
+  int Second = 0;
+};
+
+/// The file dialog's properties: Filter is a pattern list such as "*.wmf;*.bmp"; FileName goes in
+/// and comes out, unchanged when the user cancels. FileNameFits is false when the chosen path has a
+/// character that the 8-bit text lacks; FileName then shows "?" in its place.
+struct CommonDialog {
+  std::string Filter;
+  std::string FileName;
+  bool FileNameFits = true;
+};
+
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// Shows a modal box. Closing it by other means than a button answers No, or Ok where that is the
+  /// only button.
+  virtual Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title) = 0;
+  /// Shows the dialog for opening a file, which also takes a name that does not exist yet.
+  virtual void ShowOpen(CommonDialog& dialog) = 0;
+  /// Shows a form and returns when it has been unloaded.
+  virtual void ShowModal(Form& form) = 0;
+  /// Opens the help viewer on a topic. Nothing comes back, not even a failure.
+  virtual void ShowHelp(const std::string& helpFile, std::int32_t topic) = 0;
+
+  virtual DateTime Now() = 0;
+  /// Seconds since midnight.
+  virtual float Timer() = 0;
+  virtual void Randomize(float seed) = 0;
+  /// The next random number: 0 <= r < 1.
+  virtual float Rnd() = 0;
+
+  virtual float TwipsPerPixelX() = 0;
+  virtual float TwipsPerPixelY() = 0;
+  virtual TextExtent MeasureText(const std::string& text) = 0;
+
+  /// Reads a bitmap at its own size, or a metafile drawn into width x height pixels. The empty path
+  /// gives the empty picture; null when the file is missing or cannot be decoded.
+  virtual Picture LoadPicture(const std::string& path, int width, int height) = 0;
+  /// The file system's name of a path held in 8-bit text.
+  virtual std::filesystem::path NativePath(const std::string& path) = 0;
+
+  /// Ends the process at once; nothing of the calling handler runs after it.
+  [[noreturn]] virtual void End(int status) = 0;
+};
+
+}  // namespace terramark::forms

@@ -1,0 +1,70 @@
+// The events of the forms layer and the slots that take them.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace terramark::forms {
+
+class Control;
+
+/// Buttons of a mouse event.
+inline constexpr std::int16_t LeftButton = 1;
+inline constexpr std::int16_t RightButton = 2;
+inline constexpr std::int16_t MiddleButton = 4;
+
+/// Bits of the key mask Shift.
+inline constexpr std::int16_t ShiftKey = 1;
+inline constexpr std::int16_t CtrlKey = 2;
+inline constexpr std::int16_t AltKey = 4;
+
+/// Key codes that the layer or a form looks at.
+inline constexpr std::int16_t KeyUpArrow = 38;
+inline constexpr std::int16_t KeyDownArrow = 40;
+
+/// X and Y are in the scale of the control that gets the event: pixels in a picture box, twips from
+/// the top left corner of any other control. Index is the element's number in its control array.
+struct MouseEvent {
+  std::int16_t Index = 0;
+  std::int16_t Button = 0;
+  std::int16_t Shift = 0;
+  float X = 0;
+  float Y = 0;
+};
+
+/// Source is the control that was dragged; X and Y as in MouseEvent, of the control dropped on.
+struct DropEvent {
+  std::int16_t Index = 0;
+  Control& Source;
+  float X = 0;
+  float Y = 0;
+};
+
+struct KeyEvent {
+  std::int16_t KeyCode = 0;
+  std::int16_t Shift = 0;
+};
+
+/// An event without arguments but the element's number: Click and Change.
+struct PlainEvent {
+  std::int16_t Index = 0;
+};
+
+/// An event slot; an empty one lets the event pass unheard.
+template <typename Event>
+class Slot {
+ public:
+  Slot& operator=(std::function<void(const Event&)> handler) {
+    handler_ = std::move(handler);
+    return *this;
+  }
+  void Raise(const Event& event) const {
+    if (handler_) handler_(event);
+  }
+  explicit operator bool() const { return static_cast<bool>(handler_); }
+
+ private:
+  std::function<void(const Event&)> handler_;
+};
+
+}  // namespace terramark::forms

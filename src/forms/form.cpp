@@ -1,0 +1,74 @@
+#include "forms/form.h"
+
+#include <algorithm>
+
+namespace terramark::forms {
+
+Form::Form(Desktop& host) : Control(ControlKind::Form), Host(host) {
+  form_ = this;
+}
+
+Form::~Form() {
+  // Controls are members of the derived form and gone by now, or outlive it without an owner.
+  for (Control* control : controls_) control->form_ = nullptr;
+}
+
+void Form::Add(Control& control, Control& container, const std::string& name, std::int16_t index) {
+  control.form_ = this;
+  control.container_ = &container;
+  control.name_ = name;
+  control.index_ = index;
+  container.children_.push_back(&control);
+  controls_.push_back(&control);
+  if (observer_ != nullptr) observer_->ControlAdded(control);
+}
+
+void Form::Remove(Control& control) {
+  if (observer_ != nullptr) observer_->ControlRemoved(control);
+  Pointer.Forget(control);
+  if (active_ == &control) active_ = nullptr;
+  if (control.container_ != nullptr) std::erase(control.container_->children_, &control);
+  for (Control* child : control.children_) child->container_ = nullptr;
+  std::erase(controls_, &control);
+}
+
+void Form::Restack(Control& control, StackEnd end) {
+  auto& stack = control.container_->children_;
+  const auto place = std::find(stack.begin(), stack.end(), &control);
+  if (end == StackEnd::Front) {
+    std::rotate(place, place + 1, stack.end());
+  } else {
+    std::rotate(stack.begin(), place, place + 1);
+  }
+  if (observer_ != nullptr) observer_->Restacked(control);
+}
+
+void Form::Focus(Control* control) {
+  if (active_ == control) return;
+  active_ = control;
+  if (control != nullptr && observer_ != nullptr) observer_->FocusMoved(*control);
+}
+
+void Form::Tell(Control& control, PropertyId id) {
+  if (observer_ != nullptr) observer_->PropertyChanged(control, id);
+}
+
+void Form::KeyPressed(const KeyEvent& key) {
+  if (KeyPreview) KeyDown.Raise(key);
+  if (active_ != nullptr) active_->KeyDown.Raise(key);
+}
+
+void Form::KeyReleased(const KeyEvent& key) {
+  if (KeyPreview) KeyUp.Raise(key);
+  if (active_ != nullptr) active_->KeyUp.Raise(key);
+}
+
+void Form::CharacterTyped() {
+  if (active_ != nullptr) active_->KeyPress.Raise({active_->Index()});
+}
+
+void Form::Unload() {
+  if (observer_ != nullptr) observer_->Unloaded();
+}
+
+}  // namespace terramark::forms

@@ -1,0 +1,81 @@
+// A form: the outermost container, with the keyboard, the pointer and the one observer that shows
+// it on a screen.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/desktop.h"
+#include "forms/pointer.h"
+
+namespace terramark::forms {
+
+/// Sees every change of a form and its controls; the window draws from it. All calls come on the
+/// one thread, before the assignment that caused them returns.
+class FormObserver {
+ public:
+  virtual void ControlAdded(Control& control) = 0;
+  /// The control is about to go; only its identity may be used.
+  virtual void ControlRemoved(Control& control) = 0;
+  virtual void PropertyChanged(Control& control, PropertyId id) = 0;
+  virtual void Restacked(Control& control) = 0;
+  virtual void FocusMoved(Control& control) = 0;
+  /// The control asks to be shown as it is now.
+  virtual void Refreshed(Control& control) = 0;
+  /// The dragged marker's outline moved, appeared or went.
+  virtual void DragMoved() = 0;
+  virtual void Unloaded() = 0;
+
+ protected:
+  ~FormObserver() = default;
+};
+
+class Form : public Control {
+ public:
+  explicit Form(Desktop& host);
+  ~Form() override;
+
+  Desktop& Host;
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  /// Key events reach the form's slots before the control that has the focus.
+  bool KeyPreview = false;
+  PointerRouter Pointer{*this};
+
+  /// Puts a control on the form inside a container, in front of what stands there already. The
+  /// order of adding is the tab order.
+  void Add(Control& control, Control& container, const std::string& name, std::int16_t index);
+  /// All controls in tab order.
+  const std::vector<Control*>& Controls() const { return controls_; }
+
+  void Focus(Control* control);
+  Control* ActiveControl() const { return active_; }
+
+  /// Keys as the keyboard gives them; an auto-repeat must not be fed as a release.
+  void KeyPressed(const KeyEvent& key);
+  void KeyReleased(const KeyEvent& key);
+  /// A pressed key that makes a character, before the text changes.
+  void CharacterTyped();
+
+  /// Takes a modal form off the screen; the ShowModal that shows it returns.
+  void Unload();
+
+  /// One observer or none.
+  void Observe(FormObserver* observer) { observer_ = observer; }
+
+ private:
+  friend class Control;
+  friend class PictureBox;
+  friend class PointerRouter;
+
+  void Remove(Control& control);
+  void Restack(Control& control, StackEnd end);
+  void Tell(Control& control, PropertyId id);
+
+  FormObserver* observer_ = nullptr;
+  std::vector<Control*> controls_;
+  Control* active_ = nullptr;
+};
+
+}  // namespace terramark::forms

@@ -1,0 +1,52 @@
+// A picture box: a container in pixels with a backdrop picture and a persistent image that is
+// painted on. A picture larger than the box is reached by scrolling.
+#pragma once
+
+#include "forms/control.h"
+#include "forms/raster.h"
+
+namespace terramark::forms {
+
+class PictureBox : public Control {
+ public:
+  /// Thickness of the scroll bars inside the box, in pixels.
+  static constexpr int ScrollBarExtent = 16;
+
+  PictureBox() : Control(ControlKind::PictureBox) { InnerScale = Scale::Pixels; }
+
+  /// Assigning replaces the persistent image, paint included. The empty picture empties the box.
+  Property<forms::Picture> Picture{*this, PropertyId::Picture};
+  /// Colour of the fill brush.
+  Color FillColor = 0x000000FF;
+  /// Pixels of the picture that have gone out at the left and at the top; use ScrollTo.
+  Property<int> ScrollLeft{*this, PropertyId::ScrollLeft, 0};
+  Property<int> ScrollTop{*this, PropertyId::ScrollTop, 0};
+
+  /// The persistent image: as large as the picture and never smaller than the box.
+  const Raster& Image() const { return image_; }
+
+  /// Inside of the box in whole pixels.
+  int BoxWidth() const;
+  int BoxHeight() const;
+  /// What the scroll bars leave of the box, in pixels.
+  int ViewWidth() const;
+  int ViewHeight() const;
+  bool ScrollsAcross() const;
+  bool ScrollsDown() const;
+  /// Scrolls as near to the place as the picture's edges allow.
+  void ScrollTo(int left, int top);
+
+  /// Paints FillColor on the persistent image from a point of it outward up to pixels of the border
+  /// colour. A point outside the image or on the border paints nothing. Refresh shows it.
+  void FillToBorder(int x, int y, Color border);
+  void Refresh();
+
+  void PropertyChanged(PropertyId id) override;
+
+ private:
+  void RebuildImage();
+
+  Raster image_;
+};
+
+}  // namespace terramark::forms

@@ -1,0 +1,67 @@
+// Routes the pointer over a form: which control a press, move or release reaches, who has it
+// captured, and what is dragged and dropped.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "forms/geometry.h"
+
+namespace terramark::forms {
+
+class CommandButton;
+class Control;
+class Form;
+class PictureBox;
+
+class PointerRouter {
+ public:
+  explicit PointerRouter(Form& form) : form_(form) {}
+
+  /// What the window feeds: the pointer in pixels of the form's inside, and the key mask.
+  /// The first button that goes down captures the pointer for the control under it until all are
+  /// up. A disabled control lets the pointer through to what lies under it.
+  void Press(int x, int y, std::int16_t button, std::int16_t shift);
+  void Move(int x, int y, std::int16_t shift);
+  void Release(int x, int y, std::int16_t button, std::int16_t shift);
+  /// The Space key on a button: a left press and release in its middle.
+  void PressKey(CommandButton& button, std::int16_t shift);
+
+  /// The control that a press at this place would reach; the form itself where there is none.
+  Control& Under(int x, int y) const;
+
+  /// From now on the release drops the control instead of reaching it as MouseUp. Without a button
+  /// down nothing begins.
+  void BeginDrag(Control& source);
+  /// Ends a drag; the source stays where it was and nothing is dropped.
+  void CancelDrag();
+  /// Once every 20 ms or so while a drag lasts: scrolls a picture box under the pointer when the
+  /// pointer is near the edge of what the box shows.
+  void ScrollByDrag();
+
+  /// The control in the air and where its top left corner is held, in its container's pixels.
+  struct Flight {
+    const Control& Source;
+    PixelPoint Corner;
+  };
+  std::optional<Flight> InFlight() const;
+
+  /// A control is about to go.
+  void Forget(const Control& control);
+
+ private:
+  void Drop();
+  void ReleaseOn(Control& target, std::int16_t button, std::int16_t shift);
+
+  Form& form_;
+  Control* captured_ = nullptr;
+  Control* dragged_ = nullptr;
+  /// Where in the dragged control the pointer took hold, in pixels.
+  PixelPoint hold_;
+  PixelPoint at_;
+  std::int16_t buttonsDown_ = 0;
+  std::int16_t lastButton_ = 0;
+  std::int16_t dragButton_ = 0;
+};
+
+}  // namespace terramark::forms

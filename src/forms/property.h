@@ -1,0 +1,62 @@
+// A property of a control: reads as its value and tells its owner when an assignment changes it.
+#pragma once
+
+#include <utility>
+
+namespace terramark::forms {
+
+enum class PropertyId {
+  Caption,
+  Text,
+  Value,
+  Picture,
+  Left,
+  Top,
+  Width,
+  Height,
+  ScrollLeft,
+  ScrollTop,
+  Visible,
+  Enabled,
+  BackColor,
+  ForeColor,
+  Tag,
+  BorderStyle,
+};
+
+/// Whoever holds properties; PropertyChanged runs before the assignment returns.
+class PropertyOwner {
+ public:
+  virtual void PropertyChanged(PropertyId id) = 0;
+
+ protected:
+  ~PropertyOwner() = default;
+};
+
+template <typename T>
+class Property {
+ public:
+  Property(PropertyOwner& owner, PropertyId id, T value = {})
+      : owner_(owner), id_(id), value_(std::move(value)) {}
+  Property(const Property&) = delete;
+  ~Property() = default;
+
+  /// An assignment of the value that stands already is no change and tells nobody.
+  Property& operator=(T value) {
+    if (value == value_) return *this;
+    value_ = std::move(value);
+    owner_.PropertyChanged(id_);
+    return *this;
+  }
+  Property& operator=(const Property& other) { return *this = T(other.value_); }
+
+  operator const T&() const { return value_; }
+  const T& Get() const { return value_; }
+
+ private:
+  PropertyOwner& owner_;
+  const PropertyId id_;
+  T value_;
+};
+
+}  // namespace terramark::forms

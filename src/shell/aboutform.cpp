@@ -1,0 +1,56 @@
+#include "shell/aboutform.h"
+
+#include <array>
+
+#include "shell/controltable.h"
+#include "shell/form1.h"
+#include "shell/icon.h"
+
+namespace terramark {
+
+namespace {
+
+constexpr char AboutSentence[] =
+    "Terramark 1, by the Terramark developers; reach us through the README. Good maps win!";
+
+// In tab order; places and sizes in twips.
+// clang-format off
+constexpr std::array<ControlRow<AboutForm>, 4> AboutControls{{
+    // control                    name         i  caption  inside  left  top   width  height
+    {The<&AboutForm::AboutOk>,    "AboutOk",   0, "OK",    Itself, 4530,  615,  510,  375},
+    {The<&AboutForm::Picture1>,   "Picture1",  0, "",      Itself, 4530,   45,  510,  480},
+    {The<&AboutForm::AboutText>,  "AboutText", 0, "",      Itself,    0,   30, 4440, 1050},
+    {The<&AboutForm::Label1>,     "Label1",    0, "",      Itself,   30, 1110, 5025,  315},
+}};
+// clang-format on
+
+}  // namespace
+
+AboutForm::AboutForm(forms::Desktop& host) : Form(host) {
+  Caption = "About Terramark";
+  BackColor = 0x00808080;
+  Move(2790, 2925);
+  Width = 5055;
+  Height = 1455;
+  BuildControls<AboutForm>(*this, AboutControls);
+  Picture1.BackColor = 0x00808080;
+  Picture1.Picture = ProgramIcon();
+  AboutText.MultiLine = true;
+  AboutText.BackColor = 0x00FFFF00;
+  AboutText.Text = AboutSentence;
+  Label1.BackColor = 0x000000FF;
+  Label1.ForeColor = 0x00FFFFFF;
+  Label1.Alignment = forms::Alignment::Centred;
+  AboutOk.Click = [this](const forms::PlainEvent&) { AboutOk_Click(*this); };
+}
+
+void DBPush1_MouseUp(Form1& form) {
+  AboutForm about(form.Host);
+  form.Host.ShowModal(about);
+}
+
+void AboutOk_Click(AboutForm& about) {
+  about.Unload();
+}
+
+}  // namespace terramark

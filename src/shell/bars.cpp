@@ -1,0 +1,24 @@
+#include "shell/bars.h"
+
+#include "shell/colours.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
+  form.Message.BackColor = colour;
+  form.Message.ForeColor = ClrBlack;
+  if (form.Message.BackColor == ClrRed) form.Message.ForeColor = ClrWhite;
+  form.Message.Caption = text;
+}
+
+void ShowHelpbar(Form1& form, const std::string& text) {
+  // Runs on every move of the mouse; the property tells nobody of a text that stands already.
+  form.Helpbar.Caption = text;
+}
+
+void ShowHelpTopic(Form1& form, std::int16_t topic) {
+  form.Host.ShowHelp(form.HelpFile, topic);
+}
+
+}  // namespace terramark

@@ -1,0 +1,17 @@
+#include "shell/carddraw.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "shell/form1.h"
+
+namespace terramark {
+
+char DrawCardSymbol(Form1& form) {
+  form.Host.Randomize(form.Host.Timer());
+  // 1 to 4, a tie going to the even number; a 4 counts as 3, hence the uneven odds.
+  const long drawn = std::lrint(form.Host.Rnd() * 3.0F + 1.0F);
+  return static_cast<char>('0' + std::min(drawn, 3L));
+}
+
+}  // namespace terramark

@@ -1,0 +1,19 @@
+// Files by the names that the user and the layouts give: asking for one, and whether it is there.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace terramark {
+
+struct Form1;
+
+/// Asks for a file with the dialog for opening one, also where a file is to be written. s gets the
+/// name as the dialog gave it, or the empty text when the user cancelled. A name that 8-bit text
+/// cannot hold is refused in red and comes back as the empty text too.
+void SelectAFile(Form1& form, const std::string& filt, std::string& s);
+
+/// 1 when the file can be opened for reading, else 0.
+std::int16_t FileExists(Form1& form, const std::string& path);
+
+}  // namespace terramark

@@ -1,0 +1,78 @@
+#include "shell/startup.h"
+
+#include <cmath>
+
+#include "document/numbers.h"
+#include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+namespace {
+
+constexpr char Banner[] = "Terramark 1 - Map Layout editor, by the Terramark developers";
+
+// The stored default of full intensity is 256, not 255.
+constexpr std::array<Components, 4> DefaultPlayerRGB{{
+    // red green blue
+    {0, 256, 0},      // Player1
+    {256, 0, 0},      // Player2
+    {256, 256, 0},    // Player3
+    {125, 125, 125},  // Neutral
+}};
+
+void UpdateCount(forms::Label& label, std::int16_t count) {
+  if (ReadNumber(label.Caption.Get()) != count) label.Caption = NumberText(count);
+}
+
+}  // namespace
+
+void Form_Load(Form1& form) {
+  form.KeyPreview = true;
+  form.AreaCount = 0;
+  form.RegionCount = 0;
+  form.MarkCount = 0;
+  form.HelpFile = "TMRK.HLP";
+  form.Move(0, 0);
+  form.RGBFrame.Enabled = false;
+  form.PlayerRGB = DefaultPlayerRGB;
+  for (std::int16_t i = 0; i < 4; ++i) {
+    form.PlColor(i).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(i)]);
+  }
+  form.PlColor(4).Enabled = false;
+
+  form.ArmyAt(0).Visible = false;
+  form.ArmyAt(0).Height = 16;
+  form.ArmyAt(0).Width = 32;
+  form.AreaName(0) = UnknownName;
+
+  form.Continent(0).Height = 16;
+  form.Continent(0).Visible = false;
+  form.Continent(0).ForeColor = ClrWhite;
+  form.Continent(0).Tag = NumberText(static_cast<std::int32_t>(form.Continent(0).ForeColor.Get()));
+  form.RegionName(0) = UnknownName;
+
+  form.TwipsX = WholeNumber(form.Host.TwipsPerPixelX()).value_or(1);
+  form.TwipsY = WholeNumber(form.Host.TwipsPerPixelY()).value_or(1);
+  ShowMessage(form, Banner, ClrGreen);
+  UpdateCounts(form);
+}
+
+void UpdateCounts(Form1& form) {
+  UpdateCount(form.Countx(0), form.AreaCount);
+  UpdateCount(form.Countx(1), form.RegionCount);
+}
+
+void Quit_Click(Form1& form) {
+  if (form.Host.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark") ==
+      forms::Answer::Yes) {
+    form.Host.End(0);
+  }
+}
+
+void Form_Unload(Form1& form) {
+  form.Host.End(0);
+}
+
+}  // namespace terramark

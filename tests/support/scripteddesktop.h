@@ -1,0 +1,95 @@
+// A desktop that answers from queues and records what it was asked.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/desktop.h"
+#include "forms/form.h"
+
+namespace terramark {
+
+/// Thrown where the process would end.
+struct Ended {
+  int Status;
+};
+
+inline forms::Picture BlankPicture(int width, int height, std::uint32_t pixel = 0xFFFFFFFF) {
+  auto raster = std::make_shared<forms::Raster>();
+  raster->Width = width;
+  raster->Height = height;
+  raster->Pixels.assign(raster->At(0, height), pixel);
+  return raster;
+}
+
+class ScriptedDesktop : public forms::Desktop {
+ public:
+  /// Next answers of Yes and No boxes; none left answers No.
+  std::deque<forms::Answer> Answers;
+  /// Next names chosen in the file dialog; none left cancels.
+  std::deque<std::string> FileNames;
+  bool FileNameFits = true;
+  /// Next random numbers; none left gives 0.
+  std::deque<float> Draws;
+  std::map<std::string, forms::Picture> Pictures;
+  /// Done to a modal form while it is up.
+  std::function<void(forms::Form&)> WhileModal;
+  forms::DateTime Clock{1999, 3, 14, 21, 5, 7};
+  float SecondsOfDay = 75907;
+  float Twips = 15;
+
+  /// Boxes as "title: text".
+  std::vector<std::string> Boxes;
+  std::vector<std::string> Filters;
+  std::vector<int> Topics;
+  std::vector<float> Seeds;
+  int PictureReads = 0;
+
+  forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
+                       const std::string& title) override {
+    Boxes.push_back(title + ": " + text);
+    return buttons == forms::Buttons::Ok ? forms::Answer::Ok : Next(Answers, forms::Answer::No);
+  }
+  void ShowOpen(forms::CommonDialog& dialog) override {
+    Filters.push_back(dialog.Filter);
+    dialog.FileName = Next(FileNames, dialog.FileName);
+    dialog.FileNameFits = FileNameFits;
+  }
+  void ShowModal(forms::Form& form) override {
+    if (WhileModal) WhileModal(form);
+  }
+  void ShowHelp(const std::string&, std::int32_t topic) override { Topics.push_back(topic); }
+  forms::DateTime Now() override { return Clock; }
+  float Timer() override { return SecondsOfDay; }
+  void Randomize(float seed) override { Seeds.push_back(seed); }
+  float Rnd() override { return Next(Draws, 0.0F); }
+  float TwipsPerPixelX() override { return Twips; }
+  float TwipsPerPixelY() override { return Twips; }
+  /// Every character 7 wide, every text 14 high.
+  forms::TextExtent MeasureText(const std::string& text) override {
+    return {7 * static_cast<int>(text.size()), 14};
+  }
+  forms::Picture LoadPicture(const std::string& path, int, int) override {
+    ++PictureReads;
+    if (path.empty()) return std::make_shared<forms::Raster>();
+    const auto found = Pictures.find(path);
+    return found == Pictures.end() ? nullptr : found->second;
+  }
+  std::filesystem::path NativePath(const std::string& path) override { return path; }
+  [[noreturn]] void End(int status) override { throw Ended{status}; }
+
+ private:
+  template <typename T>
+  static T Next(std::deque<T>& queue, T otherwise) {
+    if (queue.empty()) return otherwise;
+    T next = queue.front();
+    queue.pop_front();
+    return next;
+  }
+};
+
+}  // namespace terramark
