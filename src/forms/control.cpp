@@ -30,6 +30,10 @@ void Control::SetFocus() {
   if (form_ != nullptr) form_->Focus(this);
 }
 
+void Control::Refresh() {
+  if (form_ != nullptr && form_->observer_ != nullptr) form_->observer_->Refreshed(*this);
+}
+
 void Control::PropertyChanged(PropertyId id) {
   if (form_ != nullptr) form_->Tell(*this, id);
 }

@@ -67,6 +67,8 @@ class Control : public PropertyOwner {
   void ZOrder(StackEnd end);
   /// Gives the control the keyboard.
   void SetFocus();
+  /// Asks that the screen shows the control as it is now.
+  void Refresh();
 
   void PropertyChanged(PropertyId id) override;
 

@@ -66,7 +66,6 @@ class Form : public Control {
 
  private:
   friend class Control;
-  friend class PictureBox;
   friend class PointerRouter;
 
   void Remove(Control& control);

@@ -1,11 +1,17 @@
 #include "forms/geometry.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "forms/form.h"
 #include "forms/picturebox.h"
 
 namespace terramark::forms {
+
+namespace {
+/// No screen reaches so far; places from a file are held to it, so that sums of them stay small.
+constexpr float FarthestPixel = 1 << 24;
+}  // namespace
 
 PixelRect PixelBounds(const Control& control) {
   const Control* container = control.Container();
@@ -14,7 +20,7 @@ PixelRect PixelBounds(const Control& control) {
   const float unitX = pixels || form == nullptr ? 1.0F : form->Host.TwipsPerPixelX();
   const float unitY = pixels || form == nullptr ? 1.0F : form->Host.TwipsPerPixelY();
   const auto whole = [](float length, float unit) {
-    return static_cast<int>(std::lround(length / unit));
+    return static_cast<int>(std::lround(std::clamp(length / unit, -FarthestPixel, FarthestPixel)));
   };
   const bool outermost = container == nullptr;
   return {outermost ? 0 : whole(control.Left, unitX), outermost ? 0 : whole(control.Top, unitY),

@@ -52,10 +52,6 @@ void PictureBox::FillToBorder(int x, int y, Color border) {
   BorderFill(image_, x, y, FillColor, border);
 }
 
-void PictureBox::Refresh() {
-  if (Owner() != nullptr && Owner()->observer_ != nullptr) Owner()->observer_->Refreshed(*this);
-}
-
 void PictureBox::PropertyChanged(PropertyId id) {
   if (id == PropertyId::Picture || id == PropertyId::Width || id == PropertyId::Height) {
     RebuildImage();

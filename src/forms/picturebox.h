@@ -14,8 +14,9 @@ class PictureBox : public Control {
 
   PictureBox() : Control(ControlKind::PictureBox) { InnerScale = Scale::Pixels; }
 
-  /// Assigning replaces the persistent image, paint included. The empty picture empties the box.
-  Property<forms::Picture> Picture{*this, PropertyId::Picture};
+  /// Assigning replaces the persistent image, paint included, also by the picture that stands
+  /// already. The empty picture empties the box.
+  Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
   /// Pixels of the picture that have gone out at the left and at the top; use ScrollTo.
@@ -37,9 +38,9 @@ class PictureBox : public Control {
   void ScrollTo(int left, int top);
 
   /// Paints FillColor on the persistent image from a point of it outward up to pixels of the border
-  /// colour. A point outside the image or on the border paints nothing. Refresh shows it.
+  /// colour. A point outside the image or on the border paints nothing. Refresh shows
+  /// it.
   void FillToBorder(int x, int y, Color border);
-  void Refresh();
 
   void PropertyChanged(PropertyId id) override;
 

@@ -21,14 +21,18 @@ bool OnScrollBar(const Control& control, int x, int y) {
   return x >= box.ViewWidth() || y >= box.ViewHeight();
 }
 
-Control* TopmostIn(Control& container, int x, int y) {
+/// Whether a disabled control stops the pointer or lets it through.
+enum class Disabled { Stops, LetsThrough };
+
+Control* TopmostIn(Control& container, int x, int y, Disabled disabled) {
   const PixelPoint origin = InnerOrigin(container);
   for (Control* child : container.Children() | std::views::reverse) {
-    if (!child->Visible || !child->Enabled) continue;
+    if (!child->Visible) continue;
+    if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);
     if (!bounds.Contains(x - origin.X, y - origin.Y)) continue;
     if (OnScrollBar(*child, x - origin.X - bounds.Left, y - origin.Y - bounds.Top)) continue;
-    Control* deeper = TopmostIn(*child, x, y);
+    Control* deeper = TopmostIn(*child, x, y, disabled);
     return deeper != nullptr ? deeper : child;
   }
   return nullptr;
@@ -69,7 +73,12 @@ int StepNearEdge(int at, int extent) {
 }  // namespace
 
 Control& PointerRouter::Under(int x, int y) const {
-  Control* topmost = TopmostIn(form_, x, y);
+  Control* topmost = TopmostIn(form_, x, y, Disabled::LetsThrough);
+  return topmost != nullptr ? *topmost : form_;
+}
+
+Control& PointerRouter::Hovered(int x, int y) const {
+  Control* topmost = TopmostIn(form_, x, y, Disabled::Stops);
   return topmost != nullptr ? *topmost : form_;
 }
 
@@ -88,7 +97,7 @@ void PointerRouter::Move(int x, int y, std::int16_t shift) {
     if (form_.observer_ != nullptr) form_.observer_->DragMoved();
     return;
   }
-  Control& target = captured_ != nullptr ? *captured_ : Under(x, y);
+  Control& target = captured_ != nullptr ? *captured_ : Hovered(x, y);
   target.MouseMove.Raise(EventFor(target, at_, buttonsDown_, shift));
 }
 

@@ -29,6 +29,8 @@ class PointerRouter {
 
   /// The control that a press at this place would reach; the form itself where there is none.
   Control& Under(int x, int y) const;
+  /// The control that a move at this place describes, enabled or not.
+  Control& Hovered(int x, int y) const;
 
   /// From now on the release drops the control instead of reaching it as MouseUp. Without a button
   /// down nothing begins.

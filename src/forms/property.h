@@ -33,7 +33,10 @@ class PropertyOwner {
   ~PropertyOwner() = default;
 };
 
-template <typename T>
+/// Which assignments count as a change.
+enum class Tells { Changes, EveryAssignment };
+
+template <typename T, Tells When = Tells::Changes>
 class Property {
  public:
   Property(PropertyOwner& owner, PropertyId id, T value = {})
@@ -41,9 +44,9 @@ class Property {
   Property(const Property&) = delete;
   ~Property() = default;
 
-  /// An assignment of the value that stands already is no change and tells nobody.
+  /// An assignment of the value that stands already tells nobody, unless every assignment does.
   Property& operator=(T value) {
-    if (value == value_) return *this;
+    if (When == Tells::Changes && value == value_) return *this;
     value_ = std::move(value);
     owner_.PropertyChanged(id_);
     return *this;

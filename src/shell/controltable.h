@@ -59,9 +59,10 @@ void BuildControls(FormType& form, std::span<const ControlRow<FormType>> table) 
   for (const ControlRow<FormType>& row : table) {
     forms::Control& control = row.Of(form);
     forms::Control& container = row.Container(form);
+    // On the form first: only there does a size in twips mean pixels.
+    form.Add(control, container, row.Name, row.Index);
     SetCaption(control, row.Caption);
     PlaceControl(form, control, container, row.Left, row.Top, row.Width, row.Height);
-    form.Add(control, container, row.Name, row.Index);
   }
 }
 

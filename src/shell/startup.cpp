@@ -6,6 +6,7 @@
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/questions.h"
 
 namespace terramark {
 
@@ -65,10 +66,7 @@ void UpdateCounts(Form1& form) {
 }
 
 void Quit_Click(Form1& form) {
-  if (form.Host.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark") ==
-      forms::Answer::Yes) {
-    form.Host.End(0);
-  }
+  if (Confirmed(form, "Exit Terramark")) form.Host.End(0);
 }
 
 void Form_Unload(Form1& form) {

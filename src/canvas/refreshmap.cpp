@@ -1,0 +1,53 @@
+#include "canvas/refreshmap.h"
+
+#include <string>
+
+#include "shell/backdrop.h"
+#include "shell/bars.h"
+#include "shell/filenames.h"
+#include "shell/markers.h"
+#include "shell/startup.h"
+
+namespace terramark {
+
+bool RefreshMap(Form1& form) {
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt(i).Visible = false;
+  const forms::Picture picture = LoadPicture(form, form.PictureFile);
+  if (picture) form.Picture1.Picture = picture;
+  for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
+    forms::Label& marker = form.Continent(r);
+    marker.Visible = true;
+    marker.ForeColor = TagColour(marker);
+  }
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    forms::Label& marker = form.ArmyAt(i);
+    marker.BackColor = ClrBlack;
+    marker.ForeColor = TagColour(marker);
+    marker.Visible = true;
+  }
+  form.EditText.SetFocus();
+  ShowMessage(form, "", ClrGreen);
+  if (!picture) ShowPictureFault(form, form.PictureFile);
+  return picture != nullptr;
+}
+
+void RefMap_MouseUp(Form1& form) {
+  RefreshMap(form);
+}
+
+void LoadMap_MouseUp(Form1& form) {
+  std::string path;
+  SelectAFile(form, "*.wmf;*.bmp", path);
+  if (path.empty()) return;
+  const forms::Picture picture = LoadPicture(form, path);
+  if (!picture) {
+    ShowPictureFault(form, path);
+    return;
+  }
+  form.PictureFile = path;
+  form.Picture1.Picture = picture;
+  form.LoadMap.Caption = form.PictureFile;
+  UpdateCounts(form);
+}
+
+}  // namespace terramark

@@ -1,0 +1,21 @@
+// The backdrop: choosing its picture, and resetting the canvas to it.
+#pragma once
+
+namespace terramark {
+
+struct Form1;
+
+/// Reads the picture anew, which takes every flood with it, and makes the Area markers plain. The
+/// selection's numbers, the inspector and the colour panel stay. False when the picture cannot be
+/// read: the box keeps what it shows and a red text says so, which is for the caller to say again
+/// should it blank the bar afterwards.
+bool RefreshMap(Form1& form);
+
+/// The button "Refresh map".
+void RefMap_MouseUp(Form1& form);
+
+/// The button "Load A .WMF Picture". A picture that cannot be read changes nothing and is said in
+/// red.
+void LoadMap_MouseUp(Form1& form);
+
+}  // namespace terramark

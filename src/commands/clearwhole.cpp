@@ -1,0 +1,16 @@
+#include "commands/clearwhole.h"
+
+#include "shell/backdrop.h"
+#include "shell/clearmap.h"
+#include "shell/form1.h"
+#include "shell/questions.h"
+
+namespace terramark {
+
+void DelAll_MouseUp(Form1& form) {
+  if (!Confirmed(form, "Clear whole map?")) return;
+  ClearMap(form);
+  form.Picture1.Picture = LoadPicture(form, "");
+}
+
+}  // namespace terramark

@@ -1,0 +1,36 @@
+#include "commands/setregion.h"
+
+#include "commands/markedareas.h"
+#include "selection/selection.h"
+#include "shell/bars.h"
+#include "shell/markers.h"
+
+namespace terramark {
+
+void SetCont_MouseUp(Form1& form) {
+  const std::int16_t r = form.CurRegion;
+  forms::Label* region = RegionMarker(form, r);
+  if (region == nullptr) return;
+  PaintMarker(*region, ClrWhite);
+  form.RegionRGB(r).fill(UnsetComponent);
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    if (form.AreaRegion(i) != r || form.ArmyAt(i).BackColor == ClrGrey) continue;
+    PaintMarker(form.ArmyAt(i), ClrWhite);
+    form.AreaRegion(i) = 0;
+  }
+  const std::vector<std::int16_t> members = GreyAreas(form);
+  for (const std::int16_t i : members) {
+    form.AreaRegion(i) = r;
+    form.ArmyAt(i).ForeColor = TagColour(*region);
+    form.ArmyAt(i).Tag = region->Tag;
+  }
+  ShowMessage(form,
+              "Region " + form.RegionName(r) + " has" +
+                  NumberText(static_cast<std::int16_t>(members.size())) + " Areas = <" +
+                  NumberList(members) + ">",
+              ClrGreen);
+  std::int16_t count = 0;
+  HiliteRegionAreas(form, count);
+}
+
+}  // namespace terramark

@@ -1,0 +1,78 @@
+#include "commands/swapareas.h"
+
+#include <string>
+#include <utility>
+
+#include "document/corner.h"
+#include "shell/bars.h"
+#include "shell/markers.h"
+
+namespace terramark {
+
+namespace {
+
+/// Holds the place of one number while the other turns into it; no link string has such a pair.
+constexpr char PlaceHolder[] = "XX";
+
+/// Enters the Areas with either mark in MarkedAreas from 1 on; gives how many.
+int FindMarkedAreas(Form1& form) {
+  form.MarkedAreas(1) = 0;
+  form.MarkedAreas(2) = 0;
+  std::int16_t found = 0;
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    if (form.ArmyAt(i).BackColor != ClrBlack) form.MarkedAreas(++found) = i;
+  }
+  return found;
+}
+
+/// Overwrites in every link string the first pair that equals from.
+void ReplacePair(Form1& form, const std::string& from, const std::string& to) {
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    std::string& links = form.AreaLinks(i);
+    for (std::size_t at = 2; at + 2 <= links.size(); at += 2) {
+      if (links.compare(at, 2, from) != 0) continue;
+      links.replace(at, 2, to);
+      break;
+    }
+  }
+}
+
+void SwapPlaces(forms::Label& first, forms::Label& second) {
+  const float left = first.Left;
+  const float top = first.Top;
+  first.Move(second.Left, second.Top);
+  second.Move(left, top);
+}
+
+/// Shows an Area by its new Region and corner.
+void Repaint(Form1& form, std::int16_t area) {
+  forms::Label& marker = form.ArmyAt(area);
+  marker.ForeColor = form.Continent(form.AreaRegion(area)).ForeColor;
+  marker.Tag = PlainNumber(static_cast<std::int32_t>(marker.ForeColor.Get()));
+  marker.BackColor = ClrBlack;
+  marker.Caption = MarkerCaption(area, form.AreaCorner(area));
+  marker.Refresh();
+}
+
+}  // namespace
+
+void SwapTer_MouseUp(Form1& form) {
+  if (form.MarkCount != 2 || FindMarkedAreas(form) < 2) {
+    ShowMessage(form, "mark two Areas", ClrRed);
+    return;
+  }
+  const std::int16_t a = form.MarkedAreas(1);
+  const std::int16_t b = form.MarkedAreas(2);
+  ReplacePair(form, TwoDigit(a), PlaceHolder);
+  ReplacePair(form, TwoDigit(b), TwoDigit(a));
+  ReplacePair(form, PlaceHolder, TwoDigit(b));
+  std::swap(form.AreaLinks(a), form.AreaLinks(b));
+  SwapPlaces(form.ArmyAt(a), form.ArmyAt(b));
+  std::swap(form.AreaCorner(a), form.AreaCorner(b));
+  std::swap(form.AreaRegion(a), form.AreaRegion(b));
+  Repaint(form, a);
+  Repaint(form, b);
+  ShowMessage(form, NumberText(a) + " and " + NumberText(b) + " swapped", ClrGreen);
+}
+
+}  // namespace terramark

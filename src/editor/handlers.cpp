@@ -1,0 +1,64 @@
+#include "editor/handlers.h"
+
+#include "canvas/colourpanel.h"
+#include "canvas/markers.h"
+#include "editor/backdroppress.h"
+#include "editor/hover.h"
+#include "editor/presses.h"
+#include "selection/arrowkeys.h"
+#include "selection/inspector.h"
+#include "shell/form1.h"
+#include "shell/startup.h"
+
+namespace terramark {
+
+namespace {
+
+void JoinInspector(Form1& form) {
+  form.EditText.Change = [&form](const auto&) { EditText_Change(form); };
+  form.Symb.Change = [&form](const auto&) { Symb_Change(form); };
+  form.Armypc.Change = [&form](const auto&) { Armypc_Change(form); };
+  form.Armypc.KeyDown = [&form](const auto&) { Armypc_KeyDown(form); };
+  form.Armypc.KeyPress = [&form](const auto&) { Armypc_KeyPress(form); };
+}
+
+/// On the templates; the markers loaded from them take the slots over.
+void JoinMarkers(Form1& form) {
+  forms::Label& area = form.ArmyAt(0);
+  area.MouseDown = [&form](const auto& event) { ArmyAt_MouseDown(form, event); };
+  area.MouseUp = [&form](const auto& event) { ArmyAt_MouseUp(form, event); };
+  area.DragDrop = [&form](const auto& event) { ArmyAt_DragDrop(form, event); };
+  forms::Label& region = form.Continent(0);
+  region.MouseDown = [&form](const auto& event) { Continent_MouseDown(form, event); };
+  region.MouseUp = [&form](const auto& event) { Continent_MouseUp(form, event); };
+  region.DragDrop = [&form](const auto& event) { Continent_DragDrop(form, event); };
+}
+
+void JoinBackdrop(Form1& form) {
+  form.Picture1.MouseUp = [&form](const auto& event) { Picture1_MouseUp(form, event); };
+  form.Picture1.DragDrop = [&form](const auto& event) { Picture1_DragDrop(form, event); };
+}
+
+void JoinColourPanel(Form1& form) {
+  for (std::int16_t i = 0; i < 5; ++i) {
+    form.PlColor(i).Click = [&form](const auto& event) { PlColor_Click(form, event); };
+  }
+  for (std::int16_t i = 0; i < 3; ++i) {
+    form.ColBar(i).Change = [&form](const auto&) { ColBar_Change(form); };
+  }
+}
+
+}  // namespace
+
+void JoinHandlers(Form1& form) {
+  JoinPresses(form);
+  JoinHover(form);
+  JoinInspector(form);
+  JoinMarkers(form);
+  JoinBackdrop(form);
+  JoinColourPanel(form);
+  form.KeyUp = [&form](const auto& event) { Form_KeyUp(form, event); };
+  form.Quit.Click = [&form](const auto&) { Quit_Click(form); };
+}
+
+}  // namespace terramark

@@ -1,0 +1,44 @@
+// The text of a Map Layout as it is written, line by line.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "document/tables.h"
+
+namespace terramark {
+
+/// A 32-bit float in its shortest decimal form, with at most 7 significant digits, a zero before
+/// the point below 1 and no exponent. Minus zero is 0.
+std::string FloatText(float value);
+
+class LayoutText {
+ public:
+  /// A line of text with nothing added.
+  void Raw(std::string_view text) {
+    text_ += text;
+    text_ += "\r\n";
+  }
+
+  /// A line of fields, each by its type: a whole number, a float, a text in quotes, three whole
+  /// numbers.
+  template <typename First, typename... Rest>
+  void Fields(const First& first, const Rest&... rest) {
+    Put(first);
+    ((text_ += ',', Put(rest)), ...);
+    text_ += "\r\n";
+  }
+
+  const std::string& Text() const { return text_; }
+
+ private:
+  void Put(std::int16_t number);
+  void Put(float number);
+  void Put(std::string_view text);
+  void Put(const Components& numbers);
+
+  std::string text_;
+};
+
+}  // namespace terramark

@@ -1,0 +1,11 @@
+// The command Load a Map Layout.
+#pragma once
+
+namespace terramark {
+
+struct Form1;
+
+/// The button "Load a Map Layout". A file that cannot be opened changes nothing and is said in red.
+void LoadMpa_MouseUp(Form1& form);
+
+}  // namespace terramark

@@ -1,0 +1,13 @@
+// The command Save a Map Layout.
+#pragma once
+
+namespace terramark {
+
+struct Form1;
+
+/// The button "Save a Map Layout". A map that breaks a rule is not saved, and neither is asked for
+/// a name. A file that cannot be written is said in red and leaves the document, the names and any
+/// old file as they were.
+void SaveCFG_MouseUp(Form1& form);
+
+}  // namespace terramark

@@ -1,0 +1,11 @@
+#include "shell/questions.h"
+
+#include "shell/form1.h"
+
+namespace terramark {
+
+bool Confirmed(Form1& form, const std::string& question) {
+  return form.Host.MsgBox(question, forms::Buttons::YesNo, "Terramark") == forms::Answer::Yes;
+}
+
+}  // namespace terramark

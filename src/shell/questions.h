@@ -1,0 +1,13 @@
+// Questions before something that cannot be undone.
+#pragma once
+
+#include <string>
+
+namespace terramark {
+
+struct Form1;
+
+/// Asks in a box with Yes and No. Only Yes goes on; closing the box any other way is a No.
+bool Confirmed(Form1& form, const std::string& question);
+
+}  // namespace terramark

@@ -1,0 +1,46 @@
+#include "validation/cvalid.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
+#include "validation/validatemap.h"
+
+namespace terramark {
+
+namespace {
+
+/// Nearest pixel, a tie to the even one; what no picture reaches stays out of reach.
+int PixelAt(float place) {
+  constexpr float OutOfReach = 1 << 24;
+  return static_cast<int>(std::lrint(std::clamp(place, -OutOfReach, OutOfReach)));
+}
+
+void FloodFrom(Form1& form, std::int16_t area) {
+  const forms::Label& marker = form.ArmyAt(area);
+  const std::int16_t corner = form.AreaCorner(area);
+  const bool right = corner == 1 || corner == 3;
+  const bool bottom = corner == 2 || corner == 3;
+  const float x = marker.Left + (right ? marker.Width : 0.0F);
+  const float y = marker.Top + (bottom ? marker.Height : 0.0F);
+  form.Picture1.FillColor = ClrRed;
+  form.Picture1.FillToBorder(PixelAt(x), PixelAt(y), ClrBlack);
+}
+
+}  // namespace
+
+void Cvalid_MouseUp(Form1& form) {
+  std::int16_t status = 0;
+  std::string message;
+  ValidateMap(form, status, message);
+  if (status != 0) {
+    ShowMessage(form, message, ClrRed);
+    return;
+  }
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) FloodFrom(form, i);
+  form.Picture1.Refresh();
+}
+
+}  // namespace terramark

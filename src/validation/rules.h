@@ -1,0 +1,21 @@
+// The rules that a map must meet before it may be saved.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "document/tables.h"
+
+namespace terramark {
+
+/// The outcome of the rules: Status 0 with the text for a good map, else the number and the text of
+/// the first fault.
+struct Verdict {
+  std::int16_t Status = 0;
+  std::string Message;
+};
+
+/// Tests the document rule by rule, in a fixed order, up to the first fault.
+Verdict JudgeMap(const Tables& tables);
+
+}  // namespace terramark

@@ -1,0 +1,171 @@
+#include "support/editortest.h"
+
+namespace terramark {
+namespace {
+
+class AddTest : public EditorTest {};
+
+TEST_F(AddTest, ANewAreaStandsOnTheOneBeforeItWithItsDefaults) {
+  Screen.Draws = {0.5F};
+  Click(Form.AddTer, 0, forms::RightButton);
+  EXPECT_EQ(Form.ArmyAt(1).Left, 6);
+  EXPECT_EQ(Form.ArmyAt(1).Top, 60);
+  EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), "+1");
+  EXPECT_TRUE(Form.ArmyAt(1).Visible);
+  EXPECT_EQ(Form.ArmyAt(1).Tag.Get(), " 16777215");
+  EXPECT_EQ(Form.AreaName(1), "Area 1");
+  EXPECT_EQ(Form.AreaLinks(1), "  ");
+  EXPECT_EQ(Form.AreaSymbol(1), "2");
+  EXPECT_EQ(Form.AreaCorner(1), 2);
+  EXPECT_EQ(Form.Countx(0).Caption.Get(), " 1");
+  EXPECT_EQ(Screen.Seeds, std::vector<float>{75907});
+  Drag(Form.ArmyAt(1), 100, 50);
+  Click(Form.ArmyAt(1));
+  Click(Form.AddTer);
+  EXPECT_EQ(Form.ArmyAt(2).Left, 106);
+  EXPECT_EQ(Form.CurArea, 1) << "adding leaves the selection";
+  Click(Form.AddTer, forms::CtrlKey);
+  EXPECT_EQ(Form.ArmyAt(3).Top, 17 / 2 * 15) << "with Ctrl at the event's own place";
+}
+
+TEST_F(AddTest, CardSymbolsComeWithTheirUnevenOdds) {
+  const struct {
+    float Draw;
+    const char* Symbol;
+  } cases[] = {{0, "1"}, {0.166F, "1"}, {0.167F, "2"}, {0.5F, "2"}, {0.501F, "3"}, {0.999F, "3"}};
+  std::int16_t i = 0;
+  for (const auto& c : cases) {
+    Screen.Draws = {c.Draw};
+    Click(Form.AddTer);
+    EXPECT_EQ(Form.AreaSymbol(++i), c.Symbol) << c.Draw;
+  }
+}
+
+TEST_F(AddTest, ANewRegionBecomesCurrent) {
+  Click(Form.AddTer);
+  Click(Form.ArmyAt(1));
+  Click(Form.AddCont);
+  EXPECT_EQ(Form.CurRegion, 1);
+  EXPECT_EQ(Form.CurArea, 0);
+  EXPECT_EQ(Form.Continent(1).Left, 48);
+  EXPECT_EQ(Form.Continent(1).Top, 163);
+  EXPECT_EQ(Form.Continent(1).Width, 8 * 7 + 2) << "as wide as its name";
+  EXPECT_EQ(Message(), "Region Region 1, Areas = 0, armies = 5");
+  EXPECT_EQ(Form.RegionRGB(1), (Components{256, 256, 256}));
+}
+
+TEST_F(AddTest, BothStopAtTheLimitAndAfterALayoutAboveIt) {
+  for (const std::int16_t from : {std::int16_t{96}, std::int16_t{98}}) {
+    for (std::int16_t i = Form.AreaCount; i < from; ++i) Form.ArmyAt.Load(++Form.AreaCount);
+    for (std::int16_t r = Form.RegionCount; r < from; ++r) Form.Continent.Load(++Form.RegionCount);
+    Click(Form.AddTer);
+    Click(Form.AddCont);
+    ClickMap(300, 200, forms::CtrlKey);
+    EXPECT_EQ(Form.AreaCount, from);
+    EXPECT_EQ(Form.RegionCount, from);
+  }
+}
+
+class DeleteTest : public EditorTest {
+ protected:
+  void DeleteWithYes() {
+    Screen.Answers.push_back(forms::Answer::Yes);
+    Click(Form.DelControl);
+  }
+};
+
+TEST_F(DeleteTest, OnlyTheLastAreaGoesAndOnlyWithoutLinks) {
+  MakeChain();
+  Click(Form.DelControl);
+  EXPECT_EQ(Message(), "Select a Area/Region to delete");
+  Click(Form.ArmyAt(3));
+  Click(Form.DelControl);
+  EXPECT_EQ(Message(), "Can only delete the last Area - Area 6");
+  Click(Form.ArmyAt(6));
+  Click(Form.DelControl);
+  EXPECT_EQ(Message(), "Must clear all links before deleting a Area");
+  EXPECT_EQ(Look(5), ClrBlack) << "the refusal flips the neighbours' marks";
+  EXPECT_EQ(Form.MarkCount, 1);
+  EXPECT_TRUE(Screen.Boxes.empty());
+  Click(Form.ArmyAt(6));
+  Click(Form.ClearLink);
+  Click(Form.ArmyAt(6));
+  Click(Form.DelControl);
+  EXPECT_EQ(Form.AreaCount, 6) << "answered No";
+  DeleteWithYes();
+  EXPECT_EQ(Screen.Boxes.back(), "Terramark: delete Area# 6");
+  EXPECT_EQ(Message(), "Area 6 deleted");
+  EXPECT_EQ(Form.ArmyAt.Find(6), nullptr);
+  EXPECT_EQ(Form.Countx(0).Caption.Get(), " 5");
+  EXPECT_EQ(Form.CurArea, 6);
+  Click(Form.DelControl);
+  EXPECT_EQ(Message(), "Can only delete the last Area - Area 5");
+}
+
+TEST_F(DeleteTest, AnAreaStillListedSomewhereStays) {
+  MakeChain();
+  // Seen neither by its marks: it has lost the look of the current one,
+  Click(Form.ArmyAt(6));
+  ShiftClick(Form.ArmyAt(6));
+  DeleteWithYes();
+  EXPECT_EQ(Message(), "Must clear all links before deleting a Area");
+  // nor in its own list: only Area 5 lists it.
+  Form.AreaLinks(6) = " ";
+  Click(Form.ArmyAt(6));
+  DeleteWithYes();
+  EXPECT_EQ(Message(), "Must clear all links before deleting a Area");
+  EXPECT_EQ(Form.AreaCount, 6);
+  EXPECT_TRUE(Screen.Boxes.empty());
+}
+
+TEST_F(DeleteTest, TheRegionsAboveCloseTheGap) {
+  MakeMap(4, 4);
+  SetRegion(3, {1, 2});
+  SetRegion(4, {3});
+  Click(Form.Continent(3));
+  DeleteWithYes();
+  EXPECT_EQ(Message(), "Must clear all links before deleting a Region");
+  Type(Form.EditText, "East");
+  Type(Form.Armypc, "8");
+  Click(Form.PlColor(4));
+  Form.ColBar(0).Moved(50);
+  Screen.Answers.clear();
+  Click(Form.Continent(2));
+  DeleteWithYes();
+  EXPECT_EQ(Screen.Boxes.back(), "Terramark: delete Region# 2");
+  EXPECT_EQ(Message(), "Region 2 deleted");
+  EXPECT_EQ(Form.RegionCount, 3);
+  EXPECT_EQ(Form.Continent.Find(4), nullptr);
+  EXPECT_EQ(Form.RegionName(2), "East");
+  EXPECT_EQ(Form.Continent(2).Caption.Get(), "East");
+  EXPECT_EQ(Form.Continent(2).Top, 40);
+  EXPECT_EQ(Form.Continent(2).BackColor, ClrWhite) << "the look stays with the number";
+  EXPECT_EQ(Form.RegionArmies(2), 8);
+  EXPECT_EQ(Form.RegionRGB(2), (Components{50, 256, 256}));
+  EXPECT_EQ(Form.AreaRegion(1), 2);
+  EXPECT_EQ(Form.AreaRegion(3), 3);
+  EXPECT_EQ(Form.CurRegion, 4);
+  DeleteWithYes();
+  EXPECT_EQ(Screen.Boxes.back(), "Terramark: delete Region# 4");
+  EXPECT_EQ(Form.RegionCount, 3) << "pressed again it asks and does nothing";
+}
+
+TEST_F(DeleteTest, ClearWholeMapAsksAndKeepsTheFileNames) {
+  Click(Form.DelAll);
+  EXPECT_EQ(Screen.Boxes.size(), 1U) << "also on an empty map";
+  MakeChain();
+  Click(Form.ArmyAt(2));
+  Screen.Answers.push_back(forms::Answer::Yes);
+  Click(Form.DelAll);
+  EXPECT_EQ(Form.AreaCount + Form.MarkCount, 0);
+  EXPECT_EQ(Form.CurArea, 2);
+  EXPECT_EQ(Form.PictureFile, "map.bmp");
+  EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 0);
+  Click(Form.Cvalid);
+  EXPECT_EQ(Message(), "Number of Areas must be more than 1") << "the picture is still named";
+  Click(Form.RefMap);
+  EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
+}
+
+}  // namespace
+}  // namespace terramark

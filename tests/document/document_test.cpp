@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "document/cardsymbol.h"
+#include "document/corner.h"
+#include "document/links.h"
+#include "document/numbers.h"
+
+namespace terramark {
+namespace {
+
+TEST(Numbers, AreReadAsFarAsTheyGo) {
+  const struct {
+    const char* Text;
+    double Value;
+  } cases[] = {
+      {"7x", 7},      {"x7", 0},       {"", 0},         {"  ", 0},
+      {".5", 0.5},    {"1.5.5", 1.5},  {"-5", -5},      {"+3", 3},
+      {"- 1 2", -12}, {" 1 0 0", 100}, {"1e5", 1},      {"--5", 0},
+      {"5-", 5},      {"-", 0},        {"-.25", -0.25}, {"16777215", 16777215},
+      {"+-5", 0},
+  };
+  for (const auto& c : cases) EXPECT_EQ(ReadNumber(c.Text), c.Value) << '"' << c.Text << '"';
+  EXPECT_EQ(ReadNumber(std::string(400, '9')) > 1e300, true);
+}
+
+TEST(Numbers, AreWrittenInTheirForms) {
+  EXPECT_EQ(NumberText(7) + NumberText(0) + NumberText(-1), " 7 0-1");
+  EXPECT_EQ(TwoDigit(0) + TwoDigit(9) + TwoDigit(10) + TwoDigit(99) + TwoDigit(100), "0009109900");
+  EXPECT_EQ(WholeNumber(2.5), 2);
+  EXPECT_EQ(WholeNumber(3.5), 4);
+  EXPECT_EQ(WholeNumber(-32768.4), -32768);
+  EXPECT_EQ(WholeNumber(32767.5), std::nullopt);
+  EXPECT_EQ(WholeNumber(1e300), std::nullopt);
+}
+
+TEST(Links, AreReadByTheirCountAndAtTheirPlaces) {
+  const struct {
+    const char* Links;
+    std::vector<std::int16_t> Areas;
+  } cases[] = {
+      {"", {}},
+      {" ", {}},
+      {"  ", {}},
+      {"00", {}},
+      {"0012", {}},
+      {"020512", {5, 12}},
+      {"01 7xx", {7}},
+      {"020305ZZ99", {3, 5}},
+      {"0307", {7, 0, 0}},
+      {"-1", {}},
+      {"02-105", {0, 5}},
+      {"017", {7}},
+  };
+  for (const auto& c : cases) {
+    const Neighbours read(c.Links);
+    EXPECT_EQ(std::vector<std::int16_t>(read.begin(), read.end()), c.Areas) << c.Links;
+  }
+  Tables tables;
+  tables.AreaLinks(4) = "020512";
+  EXPECT_EQ(IsNeighbour(tables, 4, 12), 1);
+  EXPECT_EQ(IsNeighbour(tables, 4, 51), 0) << "pairs are no substrings";
+}
+
+TEST(Markers, ShowTheirCornerAndTurnClockwise) {
+  EXPECT_EQ(MarkerCaption(12, 0), "^12");
+  EXPECT_EQ(MarkerCaption(12, 1), " 12^");
+  EXPECT_EQ(MarkerCaption(12, 2), "+12");
+  EXPECT_EQ(MarkerCaption(7, 3), " 7+");
+  EXPECT_EQ(MarkerCaption(7, 4), " 7");
+  std::vector<std::int16_t> walk{2};
+  for (int i = 0; i < 4; ++i) walk.push_back(NextCorner(walk.back()));
+  EXPECT_EQ(walk, (std::vector<std::int16_t>{2, 0, 1, 3, 2}));
+  EXPECT_EQ(NextCorner(17), 3);
+}
+
+TEST(CardSymbols, GoByTheFirstCharacter) {
+  EXPECT_STREQ(SymbolOfCode("2junk")->Word, "HORSE");
+  EXPECT_EQ(SymbolOfCode("9"), nullptr);
+  EXPECT_EQ(SymbolLetter("3") + SymbolLetter("9") + SymbolLetter(""), "S");
+  EXPECT_EQ(SymbolOfLetter('g'), nullptr);
+}
+
+}  // namespace
+}  // namespace terramark

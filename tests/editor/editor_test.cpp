@@ -1,0 +1,187 @@
+#include <random>
+
+#include "document/links.h"
+#include "selection/selection.h"
+#include "support/editortest.h"
+
+namespace terramark {
+namespace {
+
+class EditorTablesTest : public EditorTest {};
+
+TEST_F(EditorTablesTest, ShiftOpensTheTopicOfAControlAndRunsNoCommand) {
+  MakeMap(2, 1);
+  const std::pair<const forms::Control*, int> topics[] = {
+      {&Form.Cvalid, 7},      {&Form.RefMap, 8},      {&Form.AddTer, 9},   {&Form.DelControl, 9},
+      {&Form.ClearLink, 10},  {&Form.MakeNeibor, 10}, {&Form.AddCont, 11}, {&Form.SetCont, 11},
+      {&Form.Symb, 12},       {&Form.SwapTer, 13},    {&Form.LoadMap, 15}, {&Form.LoadMpa, 15},
+      {&Form.SaveCFG, 15},    {&Form.DelAll, 15},     {&Form.Text1, 15},   {&Form.Armypc, 16},
+      {&Form.PlColor(0), 14}, {&Form.TMHelp, 2}};
+  std::vector<int> expected;
+  Form.Symb.Enabled = true;
+  const std::string message = Message();
+  for (const auto& [control, topic] : topics) {
+    ShiftClick(*control);
+    expected.push_back(topic);
+  }
+  EXPECT_EQ(Screen.Topics, expected);
+  EXPECT_EQ(Message(), message);
+  EXPECT_EQ(Form.AreaCount, 2);
+  EXPECT_TRUE(Screen.Boxes.empty());
+  EXPECT_TRUE(Form.RGBFrame.Enabled) << "a colour button opens help and is pressed as well";
+  Click(Form.TMHelp);
+  Click(Form.AddTer, forms::ShiftKey | forms::CtrlKey);
+  EXPECT_EQ(Form.AreaCount, 3) << "only Shift alone is help";
+  ShiftClick(Form.EditText);
+  ShiftClick(Form.Quit);
+  expected.push_back(2);
+  EXPECT_EQ(Screen.Topics, expected);
+}
+
+TEST_F(EditorTablesTest, FramesOpenHelpWhereNoControlCoversThem) {
+  const forms::PixelPoint colours = forms::InnerOrigin(Form.Frame3D1);
+  Press({colours.X + 2, colours.Y + 2}, forms::ShiftKey);
+  Release({colours.X + 2, colours.Y + 2}, forms::ShiftKey);
+  const forms::PixelPoint rgb = forms::InnerOrigin(Form.RGBFrame);
+  Press({rgb.X + 2, rgb.Y + 2}, forms::ShiftKey);
+  Release({rgb.X + 2, rgb.Y + 2}, forms::ShiftKey);
+  EXPECT_EQ(Screen.Topics, std::vector<int>{14}) << "the disabled one lets the press through";
+}
+
+TEST_F(EditorTablesTest, TheHelpBarDescribesMarkersAndGoesBlankElsewhere) {
+  MakeMap(7, 1);
+  SetRegion(1, {2});
+  Hover(Form.ArmyAt(7));
+  EXPECT_EQ(Form.Helpbar.Caption.Get(), " 7: Area 7 in Region *UNKNOWN*");
+  Hover(Form.Frame1);
+  Hover(Form.Countx(0));
+  Hover(Form.Label1(5));
+  Hover(Form.ColBar(0));
+  EXPECT_EQ(Form.Helpbar.Caption.Get(), " 7: Area 7 in Region *UNKNOWN*");
+  for (const forms::Control* control :
+       {static_cast<forms::Control*>(&Form.Message), static_cast<forms::Control*>(&Form.SetCont),
+        static_cast<forms::Control*>(&Form.PlColor(0)), static_cast<forms::Control*>(&Form.Symb),
+        static_cast<forms::Control*>(&Form.Helpbar),
+        static_cast<forms::Control*>(&Form.Picture1)}) {
+    Hover(Form.Continent(1));
+    EXPECT_EQ(Form.Helpbar.Caption.Get(), " 1:  Region 1");
+    Hover(*control);
+    EXPECT_EQ(Form.Helpbar.Caption.Get(), "") << control->Name();
+  }
+}
+
+class GesturesTest : public EditorTest {
+ protected:
+  int Pick(int count) {
+    return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, count)));
+  }
+
+  const forms::Control& AnyMarker() {
+    const bool area = Pick(3) > 0;
+    const auto number =
+        static_cast<std::int16_t>(1 + Pick(area ? Form.AreaCount : Form.RegionCount));
+    const forms::Control* marker = area ? Form.ArmyAt.Find(number) : Form.Continent.Find(number);
+    return marker != nullptr ? *marker : Form.Picture1;
+  }
+
+  void AnyGesture() {
+    const int keys[] = {0, 0, 0, forms::ShiftKey, forms::ShiftKey, forms::CtrlKey, 3};
+    const int shift = keys[Pick(7)];
+    const int button = 1 << Pick(3);
+    const forms::CommandButton* commands[] = {
+        &Form.AddTer,  &Form.AddTer,    &Form.AddCont,    &Form.MakeNeibor, &Form.MakeNeibor,
+        &Form.SetCont, &Form.ClearLink, &Form.DelControl, &Form.SwapTer,    &Form.RefMap,
+        &Form.Cvalid,  &Form.TMHelp,    &Form.DBPush1,    &Form.Quit,       &Form.PlColor(Pick5())};
+    forms::TextBox* boxes[] = {&Form.EditText, &Form.Symb, &Form.Armypc, &Form.Text1};
+    const char* texts[] = {"", "G", "x", "0", "-3", "99", "Name, \"of\" it", ".5"};
+    switch (Pick(12)) {
+      case 0:
+        ClickMap(Pick(546), Pick(308), shift);
+        break;
+      case 1:
+        Drag(AnyMarker(), Pick(600) - 300, Pick(400) - 200, shift, button);
+        break;
+      case 2:
+        Key(Pick(2) == 0 ? forms::KeyUpArrow : forms::KeyDownArrow);
+        break;
+      case 3:
+        Type(*boxes[Pick(4)], texts[Pick(8)]);
+        break;
+      case 4:
+        Form.ColBar(static_cast<std::int16_t>(Pick(3))).Moved(Pick(300));
+        break;
+      case 5:
+      case 6:
+      case 7:
+        Click(*commands[Pick(15)], Pick(3) == 0 ? shift : 0, button);
+        break;
+      default:
+        Click(AnyMarker(), shift, button);
+    }
+    // The map is emptied now and then, but seldom enough to grow.
+    if (Pick(1500) == 0) Click(Form.DelAll);
+  }
+
+  std::int16_t Pick5() { return static_cast<std::int16_t>(Pick(5)); }
+
+  void ExpectInvariants() {
+    for (std::int16_t i = 0; i <= LastNumber; ++i) {
+      ASSERT_EQ(Form.ArmyAt.Find(i) != nullptr, i <= Form.AreaCount) << i;
+      ASSERT_EQ(Form.Continent.Find(i) != nullptr, i <= Form.RegionCount) << i;
+    }
+    ASSERT_FALSE(Form.ArmyAt(0).Visible);
+    ASSERT_FALSE(Form.Continent(0).Visible);
+    for (std::int16_t i = 1; i <= Form.AreaCount; ++i) {
+      ASSERT_GE(Form.AreaRegion(i), 0);
+      ASSERT_LE(Form.AreaRegion(i), Form.RegionCount);
+      const std::string& links = Form.AreaLinks(i);
+      const std::int16_t count = LinkCount(links);
+      if (count > 0) {
+        ASSERT_EQ(links.size(), 2U + 2U * static_cast<unsigned>(count)) << links;
+      }
+      ASSERT_EQ(links.find('X'), std::string::npos);
+    }
+    for (std::int16_t r = 1; r <= Form.RegionCount; ++r) {
+      ASSERT_EQ(Form.Continent(r).Caption.Get(), Form.RegionName(r));
+    }
+    ASSERT_TRUE(Form.CurArea == 0 || Form.CurRegion == 0);
+  }
+
+ private:
+  std::mt19937 random_{20261124};
+};
+
+TEST_F(GesturesTest, NoOrderOfGesturesBreaksTheDocument) {
+  Screen.Pictures["map.bmp"] = BlankPicture(600, 320);
+  Screen.FileNames = {"map.bmp"};
+  Click(Form.LoadMap);
+  int yes = 0;
+  std::int16_t most = 0;
+  for (int start : {0, 3, 40, 96, 99}) {
+    while (Form.AreaCount < start) {
+      Form.ArmyAt.Load(++Form.AreaCount);
+      Form.AreaLinks(Form.AreaCount) = " ";
+      Form.ArmyAt(Form.AreaCount).Tag = "0";
+      Form.ArmyAt(Form.AreaCount).BackColor = ClrBlack;
+      Form.ArmyAt(Form.AreaCount)
+          .Move(static_cast<float>(Pick(546)), static_cast<float>(Pick(308)));
+      Form.ArmyAt(Form.AreaCount).Visible = true;
+    }
+    for (int i = 0; i < 2000; ++i) {
+      // Yes to every question but the one that ends the process.
+      Screen.Answers.clear();
+      Screen.Answers.push_back(++yes % 2 == 0 ? forms::Answer::Yes : forms::Answer::No);
+      try {
+        AnyGesture();
+      } catch (const Ended&) {
+      }
+      ExpectInvariants();
+      if (HasFatalFailure()) FAIL() << "after gesture " << i << " from " << start;
+      most = std::max(most, Form.AreaCount);
+    }
+  }
+  EXPECT_EQ(most, 99);
+}
+
+}  // namespace
+}  // namespace terramark

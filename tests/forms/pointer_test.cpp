@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/picturebox.h"
+#include "support/scripteddesktop.h"
+
+namespace terramark::forms {
+namespace {
+
+/// A picture box of 200 x 100 pixels at 10, 10 with two markers of 20 x 10 at 30, 20 and 40, 25,
+/// and a button of 50 x 20 at 300, 10.
+class PointerTest : public testing::Test {
+ protected:
+  PointerTest() {
+    Put(Box, Window, 150, 150, 3000, 1500);
+    Put(Under, Box, 30, 20, 20, 10);
+    Put(Over, Box, 40, 25, 20, 10);
+    Put(Button, Window, 4500, 150, 750, 300);
+    Box.Picture = BlankPicture(200, 100);
+    for (Label* label : {&Under, &Over}) {
+      label->MouseDown = [this, label](const MouseEvent& event) {
+        if (event.Shift == 0) label->Drag(DragAction::Begin);
+      };
+      label->MouseUp = [this](const MouseEvent&) { Log += "up "; };
+      label->DragDrop = [this, label](const DropEvent& event) {
+        Log += &event.Source == label ? "self " : "other ";
+      };
+    }
+    Box.DragDrop = [this](const DropEvent& event) {
+      Log += "box " + std::to_string(static_cast<int>(event.X)) + " " +
+             std::to_string(static_cast<int>(event.Y));
+    };
+    Box.MouseUp = [this](const MouseEvent&) { Log += "backdrop "; };
+    Button.MouseUp = [this](const MouseEvent& event) {
+      Log += "button" + std::to_string(event.Button) + std::to_string(event.Shift) + " ";
+    };
+    Button.Click = [this](const PlainEvent&) { Log += "click "; };
+  }
+
+  void Put(Control& control, Control& container, float left, float top, float width, float height) {
+    control.Move(left, top);
+    control.Width = width;
+    control.Height = height;
+    Window.Add(control, container, "", 0);
+  }
+  void Stroke(int x0, int y0, int x1, int y1, std::int16_t button = LeftButton,
+              std::int16_t shift = 0) {
+    Window.Pointer.Press(x0, y0, button, shift);
+    Window.Pointer.Move(x1, y1, shift);
+    Window.Pointer.Release(x1, y1, button, shift);
+  }
+
+  ScriptedDesktop Screen;
+  Form Window{Screen};
+  PictureBox Box;
+  Label Under;
+  Label Over;
+  CommandButton Button;
+  std::string Log;
+};
+
+TEST_F(PointerTest, TheFrontmostVisibleControlIsReached) {
+  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Over);
+  Under.ZOrder(StackEnd::Front);
+  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Under);
+  Under.Visible = false;
+  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Over);
+  EXPECT_EQ(&Window.Pointer.Under(209, 109), &Box);
+  EXPECT_EQ(&Window.Pointer.Under(210, 110), &Window);
+}
+
+TEST_F(PointerTest, ADisabledControlLetsThePressThrough) {
+  Over.Enabled = false;
+  EXPECT_EQ(&Window.Pointer.Under(62, 42), &Box);
+  Box.Enabled = false;
+  Stroke(62, 42, 62, 42);
+  EXPECT_EQ(Log, "");
+}
+
+TEST_F(PointerTest, DropsGoToWhatLiesUnderThePointer) {
+  Stroke(45, 32, 46, 33);    // inside itself
+  Stroke(45, 32, 65, 42);    // on the other marker
+  Stroke(45, 32, 110, 100);  // on the backdrop, in its own pixels
+  Stroke(45, 32, 500, 500);  // on the form
+  Stroke(45, 32, -50, -50);  // outside
+  EXPECT_EQ(Log, "self other box 100 90");
+}
+
+TEST_F(PointerTest, ACancelledDragDropsNothingAndItsReleaseReachesNobody) {
+  Window.Pointer.Press(45, 32, LeftButton, 0);
+  Window.Pointer.Move(100, 90, 0);
+  ASSERT_TRUE(Window.Pointer.InFlight());
+  EXPECT_EQ(Window.Pointer.InFlight()->Corner.X, 85);
+  Window.Pointer.CancelDrag();
+  Window.Pointer.Release(100, 90, LeftButton, 0);
+  EXPECT_EQ(Log, "");
+  Stroke(100, 90, 100, 90);
+  EXPECT_EQ(Log, "backdrop ") << "the next press is a press again";
+}
+
+TEST_F(PointerTest, ThePressKeepsThePointerUntilTheRelease) {
+  Stroke(45, 32, 400, 400, LeftButton, ShiftKey);
+  EXPECT_EQ(Log, "up ");
+}
+
+TEST_F(PointerTest, AButtonActsOnTheReleaseOfAnyButtonInsideIt) {
+  Stroke(310, 15, 320, 20, RightButton, CtrlKey);
+  EXPECT_EQ(Log, "button22 ");
+  Stroke(310, 15, 310, 200);  // a change of mind
+  EXPECT_EQ(Log, "button22 ");
+  Stroke(310, 15, 320, 20);
+  EXPECT_EQ(Log, "button22 button10 click ");
+  Window.Pointer.PressKey(Button, ShiftKey);
+  EXPECT_EQ(Log, "button22 button10 click button11 click ");
+  Button.Enabled = false;
+  Window.Pointer.PressKey(Button, 0);
+  Stroke(310, 15, 320, 20);
+  EXPECT_EQ(Log, "button22 button10 click button11 click ");
+}
+
+TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
+  {
+    Label passing;
+    Put(passing, Box, 100, 50, 20, 10);
+    passing.MouseDown = [&](const MouseEvent&) { passing.Drag(DragAction::Begin); };
+    Window.Pointer.Press(115, 65, LeftButton, 0);
+  }
+  EXPECT_FALSE(Window.Pointer.InFlight());
+  Window.Pointer.Release(115, 65, LeftButton, 0);
+  EXPECT_EQ(Log, "");
+}
+
+TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
+  Box.Picture = BlankPicture(500, 90);
+  EXPECT_EQ(Box.ViewHeight(), 84) << "the bar across takes room";
+  EXPECT_TRUE(Box.ScrollsDown());
+  Box.ScrollTo(1000, -5);
+  EXPECT_EQ(Box.ScrollLeft.Get(), 500 - 184);
+  EXPECT_EQ(Box.ScrollTop.Get(), 0);
+  Box.ScrollTo(30, 0);
+  Stroke(15, 32, 110, 80);  // the marker at 30, 20 now stands at the left edge
+  EXPECT_EQ(Log, "box 130 70");
+  EXPECT_EQ(&Window.Pointer.Under(100, 100), &Window) << "a scroll bar is no backdrop";
+  Window.Pointer.Press(15, 32, LeftButton, 0);
+  Window.Pointer.Move(190, 50, 0);
+  Window.Pointer.ScrollByDrag();
+  EXPECT_GT(Box.ScrollLeft.Get(), 30);
+  Window.Pointer.CancelDrag();
+  Box.Picture = BlankPicture(10, 10);
+  EXPECT_EQ(Box.ScrollLeft.Get(), 0);
+  EXPECT_EQ(Box.Image().Width, 200) << "never smaller than the box";
+}
+
+}  // namespace
+}  // namespace terramark::forms

@@ -1,0 +1,212 @@
+#include "selection/selection.h"
+
+#include "support/editortest.h"
+
+namespace terramark {
+namespace {
+
+class SelectionTest : public EditorTest {
+ protected:
+  SelectionTest() { MakeChain(); }
+};
+
+TEST_F(SelectionTest, AClickMakesAnAreaCurrentAndMarksItsNeighbours) {
+  Form.AreaSymbol(3) = "2";
+  Click(Form.ArmyAt(3));
+  EXPECT_EQ(Form.CurArea, 3);
+  EXPECT_EQ(Form.MarkCount, 3);
+  EXPECT_EQ(Look(3), ClrWhite);
+  EXPECT_EQ(Form.ArmyAt(3).ForeColor, ClrBlack);
+  EXPECT_EQ(Look(2), ClrGrey);
+  EXPECT_EQ(Look(4), ClrGrey);
+  EXPECT_EQ(Look(5), ClrBlack);
+  EXPECT_EQ(Message(), "Area Area 3, Region = Region 1, neighbours = 2, card symbol = HORSE");
+  EXPECT_EQ(Form.EditText.Text.Get(), "Area 3");
+  EXPECT_EQ(Form.EditText.ForeColor, ClrWhite);
+  EXPECT_EQ(Form.Symb.Text.Get(), "H");
+  EXPECT_TRUE(Form.Symb.Enabled);
+  EXPECT_FALSE(Form.Armypc.Enabled);
+  EXPECT_EQ(Form.ActiveControl(), &Form.EditText);
+}
+
+TEST_F(SelectionTest, AnAreaWithoutSymbolRegionOrLinksSaysSo) {
+  ClickMap(400, 200, forms::CtrlKey);
+  for (const char* symbol : {"9", " ", ""}) {
+    Form.AreaSymbol(7) = symbol;
+    Click(Form.ArmyAt(7));
+    EXPECT_EQ(Message(), "Area Area 7, Region = *UNKNOWN*, neighbours = 0, card symbol = ");
+    EXPECT_EQ(Form.Symb.Text.Get(), "");
+  }
+  EXPECT_EQ(Form.MarkCount, 1);
+}
+
+TEST_F(SelectionTest, AClickMakesARegionCurrentAndMarksItsAreas) {
+  Form.Continent(2).Tag = "255";
+  Form.RegionArmies(2) = 12;
+  Click(Form.Continent(2));
+  EXPECT_EQ(Form.CurRegion, 2);
+  EXPECT_EQ(Form.MarkCount, 1) << "the marks on its Areas are not counted";
+  EXPECT_EQ(Form.Continent(2).BackColor, ClrWhite);
+  EXPECT_EQ(Look(3), ClrBlack);
+  EXPECT_EQ(Look(4), ClrGrey);
+  EXPECT_EQ(Message(), "Region Region 2, Areas = 3, armies = 12");
+  EXPECT_EQ(Form.EditText.ForeColor, 255U);
+  EXPECT_EQ(Form.PlColor(4).BackColor, 255U);
+  EXPECT_TRUE(Form.PlColor(4).Enabled);
+  EXPECT_FALSE(Form.Symb.Enabled);
+  EXPECT_TRUE(Form.Armypc.Enabled);
+}
+
+TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
+  ShiftClick(Form.ArmyAt(1));
+  ShiftClick(Form.ArmyAt(2));
+  EXPECT_EQ(Form.MarkCount, 2) << "nothing need be current";
+  ShiftClick(Form.ArmyAt(1));
+  EXPECT_EQ(Form.MarkCount, 1);
+  EXPECT_EQ(Look(1), ClrBlack);
+  Click(Form.Continent(1));
+  ShiftClick(Form.ArmyAt(1));
+  ShiftClick(Form.ArmyAt(2));
+  EXPECT_EQ(Form.MarkCount, -1) << "and may fall below 0";
+  EXPECT_EQ(Form.CurRegion, 1);
+}
+
+TEST_F(SelectionTest, AMarkComesOffToTheSavedColour) {
+  Form.ArmyAt(1).Tag = " 8421631";
+  ShiftClick(Form.ArmyAt(1));
+  EXPECT_EQ(Form.ArmyAt(1).ForeColor, ClrWhite);
+  ClickMap(5, 300);
+  EXPECT_EQ(Form.ArmyAt(1).ForeColor, 8421631U);
+}
+
+TEST_F(SelectionTest, AShiftClickTakesTheColourTargetAway) {
+  Click(Form.PlColor(1));
+  ASSERT_TRUE(Form.RGBFrame.Enabled);
+  ShiftClick(Form.ArmyAt(1));
+  EXPECT_FALSE(Form.RGBFrame.Enabled);
+  EXPECT_EQ(Form.RGBFrame.Tag.Get(), "-1");
+}
+
+TEST_F(SelectionTest, ANeighbourWithoutMarkerIsCountedAndNotMarked) {
+  Form.AreaLinks(1) = "03000299";
+  Click(Form.ArmyAt(1));
+  EXPECT_NE(Message().find("neighbours = 3,"), std::string::npos);
+  EXPECT_EQ(Form.MarkCount, 2);
+  EXPECT_EQ(Form.ArmyAt(0).BackColor, ClrBlack) << "the template is never marked";
+}
+
+TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
+  Click(Form.ArmyAt(6));
+  Key(forms::KeyUpArrow);
+  EXPECT_EQ(Form.CurArea, 1);
+  Key(forms::KeyDownArrow);
+  EXPECT_EQ(Form.CurArea, 6);
+  Click(Form.Continent(1));
+  Key(forms::KeyDownArrow);
+  EXPECT_EQ(Form.CurRegion, 2);
+  Key(37);
+  EXPECT_EQ(Form.CurRegion, 2);
+}
+
+TEST_F(SelectionTest, ArrowKeysNeedAMarkAndAMarker) {
+  ClickMap(300, 200, forms::CtrlKey);
+  Click(Form.ArmyAt(7));
+  ShiftClick(Form.ArmyAt(7));
+  Key(forms::KeyUpArrow);
+  EXPECT_EQ(Form.CurArea, 7) << "the only mark is gone";
+  EXPECT_EQ(Look(1), ClrBlack);
+  Click(Form.ArmyAt(7));
+  Screen.Answers.push_back(forms::Answer::Yes);
+  Click(Form.DelControl);
+  Key(forms::KeyUpArrow);
+  EXPECT_EQ(Form.CurArea, 7) << "its marker is gone";
+}
+
+class InspectorTest : public SelectionTest {};
+
+TEST_F(InspectorTest, NamesGoStraightIntoTheDocument) {
+  Form.AreaSymbol(2) = "3";
+  Click(Form.ArmyAt(2));
+  Type(Form.EditText, "Lake, North");
+  EXPECT_EQ(Form.AreaName(2), "Lake, North");
+  EXPECT_EQ(Message(), " 2: Lake, North (S) in Region Region 1");
+  Type(Form.EditText, "");
+  EXPECT_EQ(Form.AreaName(2), "*UNKNOWN*");
+  EXPECT_EQ(Form.EditText.Text.Get(), "");
+  Click(Form.Continent(1));
+  Type(Form.EditText, "seventeen letters");
+  EXPECT_EQ(Form.RegionName(1), "seventeen letter");
+  EXPECT_EQ(Form.Continent(1).Caption.Get(), "seventeen letter");
+  EXPECT_EQ(Form.AreaName(2), "*UNKNOWN*") << "filling the box for the Region is no edit";
+  ClickMap(5, 300);
+  Type(Form.EditText, "nobody");
+  EXPECT_EQ(Form.RegionName(1), "seventeen letter");
+}
+
+TEST_F(InspectorTest, CardSymbolsAreTypedByTheirLetters) {
+  const struct {
+    const char* Typed;
+    const char* Symbol;
+  } cases[] = {{"g", "1"}, {"H", "2"}, {"s", "3"}, {"x", "9"}, {"Q", "9"}, {"2", "9"}};
+  Click(Form.ArmyAt(1));
+  for (const auto& c : cases) {
+    Type(Form.Symb, "");
+    Type(Form.Symb, c.Typed);
+    EXPECT_EQ(Form.AreaSymbol(1), c.Symbol) << c.Typed;
+    EXPECT_EQ(Form.Symb.Text.Get(), c.Typed);
+  }
+  EXPECT_EQ(Message(), "Area Card Symbol for Area Area 1 set to X");
+  Form.AreaSymbol(1) = "1rest";
+  Type(Form.Symb, "h");
+  EXPECT_EQ(Form.AreaSymbol(1), "2rest");
+}
+
+TEST_F(InspectorTest, ArmiesOutsideTheirRangeGiveWayToTheLastText) {
+  const struct {
+    const char* Typed;
+    const char* Shown;
+    int Armies;
+  } cases[] = {{"7", "7", 7},   {"7x", "7x", 7},  {"99", "99", 99}, {"0", "99", 99}, {"", "99", 99},
+               {"x", "99", 99}, {"-5", "99", 99}, {".9", "9", 9},   {".5", "5", 5}};
+  Click(Form.Continent(1));
+  for (const auto& c : cases) {
+    Form.KeyPressed({65, 0});
+    Form.Focus(&Form.Armypc);
+    Form.CharacterTyped();
+    Form.Armypc.Typed(c.Typed);
+    if (std::string(c.Typed) == ".9") {
+      EXPECT_EQ(Form.RegionArmies(1), 1) << "a fraction is rounded";
+      Form.Armypc.Typed("9");
+    } else if (std::string(c.Typed) == ".5") {
+      EXPECT_EQ(Form.RegionArmies(1), 0) << "a tie goes to the even number";
+      Form.Armypc.Typed("5");
+    }
+    EXPECT_EQ(Form.Armypc.Text.Get(), c.Shown) << c.Typed;
+    EXPECT_EQ(Form.RegionArmies(1), c.Armies) << c.Typed;
+  }
+}
+
+TEST_F(InspectorTest, TheLastArmiesStayOnShowWithoutARegionAndWriteNothing) {
+  Click(Form.Continent(2));
+  Type(Form.Armypc, "42");
+  Click(Form.ArmyAt(1));
+  EXPECT_EQ(Form.Armypc.Text.Get(), "4") << "what stood before the last key";
+  EXPECT_EQ(Form.RegionArmies(2), 42);
+  EXPECT_EQ(Form.RegionArmies(1), 5);
+}
+
+TEST_F(InspectorTest, EditsOfSomethingGoneDoNothing) {
+  Click(Form.AddCont);
+  Screen.Answers.push_back(forms::Answer::Yes);
+  Click(Form.DelControl);
+  ASSERT_EQ(Form.CurRegion, 3);
+  const std::string message = Message();
+  Type(Form.EditText, "ghost");
+  Type(Form.Armypc, "9");
+  EXPECT_EQ(Form.RegionName(3), "Region 3");
+  EXPECT_EQ(Form.RegionArmies(3), 5);
+  EXPECT_EQ(Message(), message);
+}
+
+}  // namespace
+}  // namespace terramark

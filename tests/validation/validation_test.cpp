@@ -1,0 +1,165 @@
+#include <functional>
+
+#include "support/editortest.h"
+#include "validation/rules.h"
+
+namespace terramark {
+namespace {
+
+/// Six Areas in a chain, three in each of two Regions.
+Tables GoodMap() {
+  Tables t;
+  t.AreaCount = 6;
+  t.RegionCount = 2;
+  t.PictureFile = "map.bmp";
+  const char* links[] = {"0102", "020103", "020204", "020305", "020406", "0105"};
+  for (std::int16_t i = 0; i <= 6; ++i) t.AreaName(i) = "A" + std::to_string(i);
+  for (std::int16_t i = 1; i <= 6; ++i) {
+    t.AreaLinks(i) = links[i - 1];
+    t.AreaRegion(i) = i <= 3 ? 1 : 2;
+  }
+  t.RegionName(1) = "North";
+  t.RegionName(2) = "South";
+  return t;
+}
+
+struct RuleCase {
+  int Status;
+  const char* Message;
+  std::function<void(Tables&)> Spoil;
+};
+
+// Each map has the fault of its row and, where it can, that of the row below, which must wait.
+const RuleCase RuleCases[] = {
+    {0, "This map has no errors", [](Tables&) {}},
+    {0, "This map has no errors", [](Tables& t) { t.AreaLinks(1) = "020102"; }},
+    {15, "No Map file (.WMF/.BMP)", [](Tables& t) { t = Tables(); }},
+    {1, "Number of Areas must be more than 1",
+     [](Tables& t) {
+       t.AreaCount = 1;
+       t.RegionCount = 1;
+     }},
+    {2, "Number of Regions must be more than 1",
+     [](Tables& t) {
+       t.AreaCount = 4;
+       t.RegionCount = 1;
+     }},
+    {10, "Number of Areas must be divisible by 2 and 3",
+     [](Tables& t) {
+       t.AreaCount = 8;
+       t.AreaRegion(2) = 0;
+     }},
+    {11, "Area# 5 : A5 has no Region",
+     [](Tables& t) {
+       t.AreaRegion(5) = 0;
+       t.AreaLinks(1) = " ";
+     }},
+    {3, "Area# 2 : A2 has no neighbour",
+     [](Tables& t) {
+       t.AreaLinks(2) = "  ";
+       t.AreaLinks(3) = "";
+       t.AreaRegion(6) = 1;
+       t.AreaRegion(5) = 1;
+     }},
+    {3, "Area# 3 : A3 has no neighbour", [](Tables& t) { t.AreaLinks(3) = ""; }},
+    {4, "Region# 2 : South has <2 Areas",
+     [](Tables& t) {
+       t.AreaRegion(4) = 1;
+       t.AreaRegion(5) = 1;
+     }},
+    {5, "Region# 1 : North is not linked to another Region",
+     [](Tables& t) {
+       t.AreaLinks(3) = "0102";
+       t.AreaLinks(4) = "0105";
+       t.AreaLinks(5) = "020406";
+     }},
+    {5, "Region# 2 : South is not linked to another Region",
+     [](Tables& t) { t.AreaLinks(4) = "0105"; }},
+    {6, "None of the Areas in Region# 2 : South are linked",
+     [](Tables& t) {
+       for (std::int16_t i = 4; i <= 6; ++i) t.AreaLinks(i) = "0103";
+     }},
+    {7, "Area# 3(A3) is not in the neighbour list of Area# 4 (A4)",
+     [](Tables& t) {
+       t.AreaLinks(4) = "020506";
+       t.AreaLinks(6) = "020402";
+     }},
+    {7, "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)",
+     [](Tables& t) { t.AreaLinks(2) = "03010300"; }},
+    {7, "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)",
+     [](Tables& t) { t.AreaLinks(2) = "030103-7"; }},
+    {12, "Area# 2(A2) Please respecify its Neighbours",
+     [](Tables& t) {
+       t.AreaLinks(2) = "03010300";
+       t.AreaLinks(0) = "0102";
+       t.AreaName(1) = "";
+     }},
+    {8, "Area# 4 has no name",
+     [](Tables& t) {
+       t.AreaName(4) = "";
+       t.RegionName(1) = "";
+     }},
+    {9, "Region# 2 has no name", [](Tables& t) { t.RegionName(2) = ""; }},
+};
+
+TEST(Rules, StopAtTheFirstFaultInTheirOrder) {
+  for (const RuleCase& c : RuleCases) {
+    Tables tables = GoodMap();
+    c.Spoil(tables);
+    const Verdict verdict = JudgeMap(tables);
+    EXPECT_EQ(verdict.Message, c.Message);
+    EXPECT_EQ(verdict.Status, c.Status) << c.Message;
+  }
+}
+
+class ValidateMapTest : public EditorTest {
+ protected:
+  std::uint32_t Pixel(int x, int y) const {
+    return Form.Picture1.Image().Pixels[Form.Picture1.Image().At(x, y)];
+  }
+};
+
+constexpr std::uint32_t Red = 0xFF800000;
+constexpr std::uint32_t White = 0xFFFFFFFF;
+
+TEST_F(ValidateMapTest, AFaultIsShownInRedAndPaintsNothing) {
+  MakeMap(6, 2);
+  Click(Form.Cvalid);
+  EXPECT_EQ(Message(), "No Map file (.WMF/.BMP)");
+  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Pixel(300, 200), White);
+}
+
+TEST_F(ValidateMapTest, AGoodMapIsFloodedFromEachFillPointUpToTheBlack) {
+  MakeChain();
+  // A wall down the middle; only Area 6 stands to its right.
+  auto picture = std::make_shared<forms::Raster>(*BlankPicture(546, 308));
+  for (int y = 0; y < 308; ++y) picture->Pixels[picture->At(440, y)] = 0xFF000000;
+  Screen.Pictures["map.bmp"] = picture;
+  Click(Form.RefMap);
+  Form.ArmyAt(6).Move(450, 100);
+  Click(Form.Cvalid);
+  EXPECT_EQ(Message(), "This map has no errors");
+  EXPECT_EQ(Pixel(3, 3), Red);
+  EXPECT_EQ(Pixel(500, 200), Red);
+  EXPECT_EQ(Pixel(440, 100), 0xFF000000);
+  Click(Form.RefMap);
+  EXPECT_EQ(Pixel(3, 3), White) << "a refresh takes the paint away";
+  // Each corner in turn carries the fill point over the wall.
+  const struct {
+    float Left;
+    int Corner;
+  } corners[] = {{441, 0}, {409, 1}, {441, 2}, {409, 3}};
+  for (std::int16_t i = 1; i <= 6; ++i) Form.ArmyAt(i).Move(-100, 0);
+  for (const auto& c : corners) {
+    Form.ArmyAt(1).Move(c.Left, 100);
+    Form.AreaCorner(1) = static_cast<std::int16_t>(c.Corner);
+    Click(Form.RefMap);
+    Click(Form.Cvalid);
+    EXPECT_EQ(Pixel(500, 200), Red) << c.Corner;
+    EXPECT_EQ(Pixel(3, 3), White) << c.Corner;
+  }
+}
+
+}  // namespace
+}  // namespace terramark
