@@ -17,21 +17,17 @@ void ShowCleared(Form1& form, const std::string& name) {
   ShowMessage(form, "all links to " + name + " removed", ClrGreen);
 }
 
-/// Entry k, from 0, as the string spells it.
-std::string Pair(const std::string& links, int k) {
-  const auto at = static_cast<std::size_t>(2 + 2 * k);
-  return at < links.size() ? links.substr(at, 2) : std::string();
-}
-
 /// A link string without its entries for an Area; unchanged when no pair spells that Area.
 std::string WithoutEntry(const std::string& links, std::int16_t area) {
   const Neighbours entries(links);
   std::string kept;
   bool found = false;
-  for (int k = 0; k < entries.Count(); ++k) {
-    const std::string pair = Pair(links, k);
+  std::size_t at = 2;
+  for (const std::int16_t entry : entries) {
+    const std::string pair = at < links.size() ? links.substr(at, 2) : std::string();
     if (pair == TwoDigit(area)) found = true;
-    if (entries.begin()[k] != area) kept += pair;
+    if (entry != area) kept += pair;
+    at += 2;
   }
   if (!found) return links;
   if (entries.Count() == 1) return "  ";

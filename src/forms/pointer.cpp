@@ -1,7 +1,5 @@
 #include "forms/pointer.h"
 
-#include <ranges>
-
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/picturebox.h"
@@ -26,7 +24,9 @@ enum class Disabled { Stops, LetsThrough };
 
 Control* TopmostIn(Control& container, int x, int y, Disabled disabled) {
   const PixelPoint origin = InnerOrigin(container);
-  for (Control* child : container.Children() | std::views::reverse) {
+  const auto& stack = container.Children();
+  for (auto place = stack.rbegin(); place != stack.rend(); ++place) {
+    Control* child = *place;
     if (!child->Visible) continue;
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);

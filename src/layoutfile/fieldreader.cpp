@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <optional>
 
 #include "document/numbers.h"
 
@@ -15,14 +14,12 @@ bool EndsLine(char c) {
   return c == '\r' || c == '\n';
 }
 
-/// The number when the text is nothing but digits, as nearly all are; nothing otherwise, and for
-/// one of many digits.
-std::optional<int> PlainDigits(std::string_view text) {
-  int value = 0;
+/// The number when the text is nothing but digits and fits the type, as nearly all are.
+template <typename Number>
+bool ReadDigits(std::string_view text, Number& number) {
   const char* end = text.data() + text.size();
-  const auto read = std::from_chars(text.data(), end, value);
-  if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
-  return value;
+  const auto read = std::from_chars(text.data(), end, number);
+  return read.ec == std::errc() && read.ptr == end;
 }
 
 }  // namespace
@@ -47,18 +44,17 @@ bool FieldReader::Field(std::string_view& text) {
 bool FieldReader::Field(std::int16_t& number) {
   std::string_view text;
   if (!Number(text)) return false;
-  const std::optional<int> digits = PlainDigits(text);
-  const auto whole = WholeNumber(digits ? *digits : ReadNumber(text));
-  if (!whole) return false;
-  number = *whole;
-  return true;
+  if (ReadDigits(text, number)) return true;
+  const auto whole = WholeNumber(ReadNumber(text));
+  if (whole) number = *whole;
+  return whole.has_value();
 }
 
 bool FieldReader::Field(float& number) {
   std::string_view text;
   if (!Number(text)) return false;
-  const std::optional<int> digits = PlainDigits(text);
-  const double value = digits ? *digits : ReadNumber(text);
+  std::int32_t digits = 0;
+  const double value = ReadDigits(text, digits) ? digits : ReadNumber(text);
   if (std::abs(value) > std::numeric_limits<float>::max()) return false;
   number = static_cast<float>(value);
   return true;

@@ -1,6 +1,7 @@
 // The text of a Map Layout as it is written, line by line.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -15,6 +16,8 @@ std::string FloatText(float value);
 
 class LayoutText {
  public:
+  LayoutText() { text_.reserve(UsualBytes); }
+
   /// A line of text with nothing added.
   void Raw(std::string_view text) {
     text_ += text;
@@ -33,6 +36,9 @@ class LayoutText {
   const std::string& Text() const { return text_; }
 
  private:
+  /// Room for the largest map, so that the text seldom moves as it grows.
+  static constexpr std::size_t UsualBytes = 16384;
+
   void Put(std::int16_t number);
   void Put(float number);
   void Put(std::string_view text);

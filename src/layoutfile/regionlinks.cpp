@@ -2,13 +2,14 @@
 
 #include "document/links.h"
 #include "document/numbers.h"
+#include "layoutfile/twodigits.h"
 
 namespace terramark {
 
 std::string BridgeText(const Tables& tables, std::int16_t area) {
   std::string gathered;
   for (const std::int16_t nb : Neighbours(tables.AreaLinks(area))) {
-    if (tables.AreaRegion(nb) != tables.AreaRegion(area)) gathered += TwoDigit(nb);
+    if (tables.AreaRegion(nb) != tables.AreaRegion(area)) AppendTwoDigits(gathered, nb);
   }
   if (gathered.empty()) return gathered;
   return TwoDigit(static_cast<std::int16_t>(gathered.size() / 2)) + gathered;
@@ -21,7 +22,10 @@ std::string BreakText(const Tables& tables, std::int16_t region) {
     if (tables.AreaRegion(i) != region) continue;
     for (const std::int16_t nb : Neighbours(tables.AreaLinks(i))) {
       if (tables.AreaRegion(nb) == region) continue;
-      pairs += "," + TwoDigit(nb) + "," + TwoDigit(i);
+      pairs += ',';
+      AppendTwoDigits(pairs, nb);
+      pairs += ',';
+      AppendTwoDigits(pairs, i);
       ++n;
     }
   }

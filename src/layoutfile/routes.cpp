@@ -1,58 +1,66 @@
 #include "layoutfile/routes.h"
 
 #include "document/links.h"
-#include "document/numbers.h"
+#include "layoutfile/twodigits.h"
 
 namespace terramark {
 
-namespace {
-
-/// Characters of a route for each of its Areas: two digits and a comma.
-constexpr std::size_t EntryLength = 3;
-
-void Append(std::string& route, std::int16_t area) {
-  route += static_cast<char>('0' + area / 10);
-  route += static_cast<char>('0' + area % 10);
-  route += ',';
+void Route::Append(std::int16_t area) {
+  areas_[static_cast<std::size_t>(length_)] = static_cast<std::uint8_t>(area);
+  ++length_;
+  Bar(area);
 }
 
-bool Holds(std::string_view route, std::int16_t area) {
-  for (std::size_t at = 0; at + 1 < route.size(); at += EntryLength) {
-    if ((route[at] - '0') * 10 + (route[at + 1] - '0') == area) return true;
+RouteFinder::RouteFinder(const Tables& tables) {
+  entries_.reserve(4 * TableSize);
+  for (std::int16_t i = 0; i <= LastNumber; ++i) {
+    for (const std::int16_t nb : Neighbours(tables.AreaLinks(i))) {
+      if (tables.AreaRegion(nb) == tables.AreaRegion(i))
+        entries_.push_back(static_cast<std::uint8_t>(nb));
+    }
+    starts_[static_cast<std::size_t>(i) + 1] = entries_.size();
   }
-  return false;
 }
 
-std::string WalkFrom(const Tables& tables, std::int16_t first, std::int16_t a) {
-  std::string route;
+std::string RouteFinder::BlitzRoute(std::int16_t a) const {
+  Route best;
+  for (const std::uint8_t nb : NeighboursInRegion(a)) {
+    const Route route = WalkFrom(nb, a);
+    if (route.Length() > best.Length()) best = route;
+  }
+  if (best.Length() == 0) return " ";
+  std::string text;
+  text.reserve(3 * TableSize);
+  AppendTwoDigits(text, best.Length());
+  for (const std::uint8_t area : best.Areas()) {
+    text += ',';
+    AppendTwoDigits(text, area);
+  }
+  return text;
+}
+
+Route RouteFinder::WalkFrom(std::int16_t first, std::int16_t a) const {
+  Route route;
+  route.Bar(a);
   for (std::int16_t cur = first;;) {
-    Append(route, cur);
-    cur = NextRouteStep(tables, route, a, cur, tables.AreaRegion(a));
+    route.Append(cur);
+    cur = NextRouteStep(route, cur);
     if (cur == 0) return route;
   }
 }
 
-}  // namespace
-
-std::string BlitzRoute(const Tables& tables, std::int16_t a) {
-  std::string best;
-  for (const std::int16_t nb : Neighbours(tables.AreaLinks(a))) {
-    if (tables.AreaRegion(nb) != tables.AreaRegion(a)) continue;
-    std::string route = WalkFrom(tables, nb, a);
-    if (route.size() > best.size()) best = std::move(route);
-  }
-  if (best.empty()) return " ";
-  best.pop_back();
-  return TwoDigit(static_cast<std::int16_t>(best.size() / EntryLength + 1)) + "," + best;
-}
-
-std::int16_t NextRouteStep(const Tables& tables, std::string_view route, std::int16_t a,
-                           std::int16_t cur, std::int16_t region) {
-  for (const std::int16_t nb : Neighbours(tables.AreaLinks(cur))) {
-    if (nb == a) continue;
-    if (tables.AreaRegion(nb) == region && !Holds(route, nb)) return nb;
+/// The first neighbour in link order that the walk may come to; 0 when it ends. It never leaves
+/// the Region, so the neighbours inside it are all that count.
+std::int16_t RouteFinder::NextRouteStep(const Route& route, std::int16_t cur) const {
+  for (const std::uint8_t nb : NeighboursInRegion(cur)) {
+    if (!route.Bars(nb)) return nb;
   }
   return 0;
+}
+
+std::span<const std::uint8_t> RouteFinder::NeighboursInRegion(std::int16_t area) const {
+  const auto place = static_cast<std::size_t>(area);
+  return std::span(entries_).subspan(starts_[place], starts_[place + 1] - starts_[place]);
 }
 
 }  // namespace terramark

@@ -1,23 +1,53 @@
 // The walks that a layout carries for the game: for every Area one through its own Region.
 #pragma once
 
+#include <array>
+#include <bitset>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "document/tables.h"
 
 namespace terramark {
 
-/// The route text of an Area, 1 to 99: the two-digit number of Areas on the longest of the walks
-/// that begin at its neighbours, and these Areas, with commas between; one blank for no route. Of
-/// walks of equal length the one through the earlier neighbour in link order stands.
-std::string BlitzRoute(const Tables& tables, std::int16_t a);
+/// A walk: its Areas in order, and which numbers it may not come to again.
+class Route {
+ public:
+  void Append(std::int16_t area);
+  void Bar(std::int16_t area) { barred_.set(static_cast<std::size_t>(area)); }
+  bool Bars(std::int16_t area) const { return barred_.test(static_cast<std::size_t>(area)); }
+  std::int16_t Length() const { return length_; }
+  std::span<const std::uint8_t> Areas() const {
+    return {areas_.data(), static_cast<std::size_t>(length_)};
+  }
 
-/// The Area to walk to from cur: the first neighbour in link order that lies in the Region, is not
-/// a, where the walk started, and is not on the route; 0 when the walk ends. The route is two
-/// digits and a comma for each of its Areas.
-std::int16_t NextRouteStep(const Tables& tables, std::string_view route, std::int16_t a,
-                           std::int16_t cur, std::int16_t region);
+ private:
+  std::array<std::uint8_t, TableSize> areas_;
+  std::bitset<TableSize> barred_;
+  std::int16_t length_ = 0;
+};
+
+/// Finds the routes of a map as it is now; its links are read once, for all of its Areas.
+class RouteFinder {
+ public:
+  explicit RouteFinder(const Tables& tables);
+
+  /// The route text of an Area, 1 to 99: the two-digit number of Areas on the longest of the walks
+  /// that begin at its neighbours, and these Areas, with commas between; one blank for no route. Of
+  /// walks of equal length the one through the earlier neighbour in link order stands.
+  std::string BlitzRoute(std::int16_t a) const;
+
+ private:
+  Route WalkFrom(std::int16_t first, std::int16_t a) const;
+  std::int16_t NextRouteStep(const Route& route, std::int16_t cur) const;
+  std::span<const std::uint8_t> NeighboursInRegion(std::int16_t area) const;
+
+  // Of Area i the entries from place starts_[i] to starts_[i + 1], in link order.
+  std::vector<std::uint8_t> entries_;
+  std::array<std::size_t, TableSize + 1> starts_{};
+};
 
 }  // namespace terramark

@@ -23,13 +23,7 @@ void ShowWriteFault(Form1& form, const std::string& name) {
 }  // namespace
 
 void SaveCFG_MouseUp(Form1& form) {
-  std::int16_t status = 0;
-  std::string message;
-  ValidateMap(form, status, message);
-  if (status != 0) {
-    ShowMessage(form, message, ClrRed);
-    return;
-  }
+  if (!MapIsValid(form)) return;
   std::string name;
   SelectAFile(form, "*.tml", name);
   if (name.empty()) return;

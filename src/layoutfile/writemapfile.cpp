@@ -80,7 +80,8 @@ bool WriteBridges(Form1& form, LayoutText& file) {
 
 void WriteRoutes(const Tables& tables, LayoutText& file) {
   file.Raw("BLITZ");
-  for (std::int16_t i = 1; i <= tables.AreaCount; ++i) file.Fields(i, BlitzRoute(tables, i));
+  const RouteFinder routes(tables);
+  for (std::int16_t i = 1; i <= tables.AreaCount; ++i) file.Fields(i, routes.BlitzRoute(i));
   file.Raw("BREAKS");
   for (std::int16_t r = 1; r <= tables.RegionCount; ++r) {
     const std::string breaks = BreakText(tables, r);

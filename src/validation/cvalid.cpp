@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
 #include "validation/validatemap.h"
@@ -32,13 +31,7 @@ void FloodFrom(Form1& form, std::int16_t area) {
 }  // namespace
 
 void Cvalid_MouseUp(Form1& form) {
-  std::int16_t status = 0;
-  std::string message;
-  ValidateMap(form, status, message);
-  if (status != 0) {
-    ShowMessage(form, message, ClrRed);
-    return;
-  }
+  if (!MapIsValid(form)) return;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) FloodFrom(form, i);
   form.Picture1.Refresh();
 }

@@ -14,4 +14,12 @@ void ValidateMap(Form1& form, std::int16_t& status, std::string& message) {
   if (status == 0) ShowMessage(form, message, ClrGreen);
 }
 
+bool MapIsValid(Form1& form) {
+  std::int16_t status = 0;
+  std::string message;
+  ValidateMap(form, status, message);
+  if (status != 0) ShowMessage(form, message, ClrRed);
+  return status == 0;
+}
+
 }  // namespace terramark

@@ -12,4 +12,7 @@ struct Form1;
 /// text are left to the caller to show.
 void ValidateMap(Form1& form, std::int16_t& status, std::string& message);
 
+/// Validates and shows a fault in red. False for a map with a fault: the command ends there.
+bool MapIsValid(Form1& form);
+
 }  // namespace terramark

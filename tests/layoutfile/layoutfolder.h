@@ -1,4 +1,4 @@
-// An editor whose files lie in a folder of the test's own, and the map of six Areas in a chain.
+// An editor whose files lie in a folder of the test's own, with the map of six Areas in a chain.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,11 +6,9 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <set>
+#include <map>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "layoutfile/loadlayout.h"
 #include "layoutfile/savelayout.h"
@@ -20,54 +18,11 @@
 
 namespace terramark {
 
-inline const std::vector<std::string> TinyMap{
-    "Tiny map",
-    "03-14-1999 21:05:07",
-    "2,6",
-    "C:\\MAPS\\TINY.BMP",
-    "0,256,0,256,0,0,256,256,0,125,125,125",
-    "1,3,255,0,0,\"North\",3",
-    "1,\"G\",\"Ash\",\"0102\",2",
-    "2,\"H\",\"Birch\",\"020103\",0",
-    "3,\"S\",\"Cedar\",\"020204\",3",
-    "2,3,0,0,255,\"South\",2",
-    "4,\"G\",\"Dale\",\"020305\",2",
-    "5,\"H\",\"Elm\",\"020406\",1",
-    "6,\"S\",\"Fir\",\"0105\",2",
-    "BRIDGES BETWEEN REGIONS",
-    "3,\"0104\"",
-    "4,\"0103\"",
-    "0,\"  \"",
-    "BLITZ",
-    "1,\"02,02,03\"",
-    "2,\"01,01\"",
-    "3,\"02,02,01\"",
-    "4,\"02,05,06\"",
-    "5,\"01,04\"",
-    "6,\"02,05,04\"",
-    "BREAKS",
-    "1,\"01,04,03\"",
-    "2,\"01,03,04\"",
-    "X,Y Coordinates for Areas",
-    "15,15",
-    "0,6,60",
-    "1,40,30",
-    "2,120,30",
-    "3,200,30",
-    "4,280,90",
-    "5,360,150",
-    "6,440,210",
-    "X,Y Coordinates for Regions",
-    "1,60,10",
-    "2,300,40",
-    "END OF MAP DEFINITION",
-};
-
-/// The first so many lines as a file holds them.
-inline std::string FileOf(const std::vector<std::string>& lines, std::size_t count = 1000) {
-  std::string bytes;
-  for (std::size_t k = 0; k < std::min(count, lines.size()); ++k) bytes += lines[k] + "\r\n";
-  return bytes;
+inline std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return bytes.str();
 }
 
 class LayoutFolder : public testing::Test, public ScriptedDesktop {
@@ -75,8 +30,8 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
   LayoutFolder() {
     std::string pattern = (std::filesystem::temp_directory_path() / "layoutXXXXXX").string();
     Folder = mkdtemp(pattern.data());
-    AddPicture(TinyMap[3]);
-    Form_Load(form);
+    AddPicture(TinyPicture);
+    Form_Load(Form);
   }
   ~LayoutFolder() override { std::filesystem::remove_all(Folder); }
 
@@ -85,36 +40,39 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
   void Put(const std::string& name, const std::string& bytes) {
     std::ofstream(Folder / name, std::ios::binary) << bytes;
   }
-  std::string Get(const std::string& name) {
-    std::ifstream file(Folder / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  std::set<std::string> Names() {
-    std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder)) {
-      names.insert(entry.path().filename());
-    }
-    return names;
-  }
   void AddPicture(const std::string& name) {
     Put(name, "a picture");
     Pictures[name] = BlankPicture(4, 3);
   }
+  /// So many lines of the chain's file, some of them, counted from 1, with another text.
+  std::string TinyWith(const std::map<int, std::string>& changes, int count = 40) {
+    std::istringstream lines(Tiny);
+    std::string bytes;
+    std::string line;
+    for (int n = 1; n <= count && std::getline(lines, line); ++n) {
+      bytes += (changes.contains(n) ? changes.at(n) + "\r" : line) + "\n";
+    }
+    return bytes;
+  }
   void Load(const std::string& name) {
     FileNames = {name};
-    LoadMpa_MouseUp(form);
+    LoadMpa_MouseUp(Form);
   }
   void LoadBytes(const std::string& bytes) {
     Put("map.tml", bytes);
     Load("map.tml");
   }
-  void Save(const std::string& name) {
+  /// What the file of that name holds after a save.
+  std::string Saved(const std::string& name) {
     FileNames = {name};
-    SaveCFG_MouseUp(form);
+    SaveCFG_MouseUp(Form);
+    return BytesOf(Folder / name);
   }
 
+  const std::string Tiny = BytesOf(SAMPLES "/../tests/layoutfile/tiny.tml");
+  const std::string TinyPicture = "C:\\MAPS\\TINY.BMP";
   std::filesystem::path Folder;
-  Form1 form{*this};
+  Form1 Form{*this};
 };
 
 }  // namespace terramark

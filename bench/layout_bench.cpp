@@ -1,0 +1,207 @@
+// What a Map Layout of 96 Areas costs to read, write, route and judge. The column "copies" gives
+// each cost as a multiple of copying the file's text line by line with std::getline and a stream.
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "document/numbers.h"
+#include "layoutfile/readmapfile.h"
+#include "layoutfile/routes.h"
+#include "layoutfile/writemapfile.h"
+#include "shell/clearmap.h"
+#include "shell/form1.h"
+#include "shell/startup.h"
+#include "support/scripteddesktop.h"
+#include "validation/rules.h"
+
+namespace terramark {
+namespace {
+
+constexpr int Columns = 12;
+constexpr int Rows = 8;
+
+class BenchDesktop : public ScriptedDesktop {
+ public:
+  forms::Picture LoadPicture(const std::string&, int, int) override { return picture_; }
+  std::filesystem::path NativePath(const std::string&) override { return "/dev/null"; }
+
+ private:
+  const forms::Picture picture_ = BlankPicture(4, 3);
+};
+
+/// The neighbours to all sides and along one diagonal, six inside the map, as on a real one.
+std::string GridLinks(int column, int row) {
+  constexpr int Steps[6][2]{{0, -1}, {1, -1}, {1, 0}, {0, 1}, {-1, 1}, {-1, 0}};
+  std::string pairs;
+  for (const auto& step : Steps) {
+    const int x = column + step[0];
+    const int y = row + step[1];
+    if (x < 0 || y < 0 || x >= Columns || y >= Rows) continue;
+    pairs += TwoDigit(static_cast<std::int16_t>(y * Columns + x + 1));
+  }
+  return TwoDigit(static_cast<std::int16_t>(pairs.size() / 2)) + pairs;
+}
+
+/// 96 Areas on a grid, in 8 Regions of 12 that are three wide and four high.
+void MakeMap(Form1& form) {
+  ClearMap(form);
+  form.PictureFile = "C:\\MAPS\\GRID.BMP";
+  form.AreaCount = Columns * Rows;
+  form.RegionCount = 8;
+  for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
+    form.Continent.Load(r);
+    form.RegionName(r) = "Region" + NumberText(r);
+    form.RegionRGB(r) = {200, 120, static_cast<std::int16_t>(20 * r)};
+    form.Continent(r).Move(40.0F * r, 12);
+  }
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    const int column = (i - 1) % Columns;
+    const int row = (i - 1) / Columns;
+    form.ArmyAt.Load(i);
+    form.ArmyAt(i).Move(40.0F * static_cast<float>(column), 30.5F * static_cast<float>(row));
+    form.AreaName(i) = "Territory" + NumberText(i);
+    form.AreaLinks(i) = GridLinks(column, row);
+    form.AreaSymbol(i) = "1";
+    form.AreaRegion(i) = static_cast<std::int16_t>(column / 3 + row / 4 * 4 + 1);
+    form.AreaCorner(i) = 2;
+  }
+}
+
+struct Bench {
+  Bench() {
+    Form_Load(Form);
+    MakeMap(Form);
+    LayoutText file;
+    if (JudgeMap(Form).Status != 0 || !WriteMapFile(Form, file)) std::abort();
+    Text = file.Text();
+  }
+
+  BenchDesktop Desktop;
+  Form1 Form{Desktop};
+  std::string Text;
+};
+
+Bench& TheBench() {
+  static Bench bench;
+  return bench;
+}
+
+void CopyLines(benchmark::State& state) {
+  const std::string& text = TheBench().Text;
+  for (auto _ : state) {
+    std::istringstream in(text);
+    std::ostringstream out;
+    for (std::string line; std::getline(in, line);) out << line << '\n';
+    benchmark::DoNotOptimize(out.view().data());
+  }
+}
+
+/// All fields of the file, each read as what it is, and none kept.
+bool ReadAllFields(std::string_view text) {
+  FieldReader file(text);
+  std::string_view line;
+  std::string_view letter;
+  std::string_view name;
+  std::string_view links;
+  std::int16_t number = 0;
+  std::int16_t areas = 0;
+  std::int16_t regions = 0;
+  std::int16_t count = 0;
+  float x = 0;
+  float y = 0;
+  Components rgb{};
+  bool read =
+      file.Line(line) && file.Line(line) && file.Fields(regions, areas, line, rgb, rgb, rgb, rgb);
+  for (int r = 0; r < regions && read; ++r) {
+    read = file.Fields(number, count, rgb, name, number);
+    while (count-- > 0) read = read && file.Fields(number, letter, name, links, number);
+  }
+  read = read && file.Line(line);
+  while (read && file.Fields(number, links) && number != 0) continue;
+  read = read && file.Line(line);
+  for (int i = 0; i < areas; ++i) read = read && file.Fields(number, links);
+  read = read && file.Line(line);
+  for (int r = 0; r < regions; ++r) read = read && file.Fields(number, links);
+  read = read && file.Line(line) && file.Fields(x, y);
+  for (int i = 0; i <= areas; ++i) read = read && file.Fields(number, x, y);
+  read = read && file.Line(line);
+  for (int r = 0; r < regions; ++r) read = read && file.Fields(number, x, y);
+  return read && file.Line(line);
+}
+
+void ReadFields(benchmark::State& state) {
+  const std::string& text = TheBench().Text;
+  for (auto _ : state) {
+    if (!ReadAllFields(text)) std::abort();
+  }
+}
+
+void ReadIntoWindow(benchmark::State& state) {
+  Bench& bench = TheBench();
+  for (auto _ : state) {
+    ClearMap(bench.Form);
+    FieldReader file(bench.Text);
+    ReadMapFile(bench.Form, file);
+  }
+}
+
+void WriteLayout(benchmark::State& state) {
+  Bench& bench = TheBench();
+  for (auto _ : state) {
+    LayoutText file;
+    WriteMapFile(bench.Form, file);
+    benchmark::DoNotOptimize(file.Text().data());
+  }
+}
+
+void AllBlitzRoutes(benchmark::State& state) {
+  const Tables& map = TheBench().Form;
+  for (auto _ : state) {
+    const RouteFinder routes(map);
+    for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
+      benchmark::DoNotOptimize(routes.BlitzRoute(i));
+    }
+  }
+}
+
+void JudgeGoodMap(benchmark::State& state) {
+  const Tables& map = TheBench().Form;
+  for (auto _ : state) benchmark::DoNotOptimize(JudgeMap(map));
+}
+
+BENCHMARK(CopyLines);
+BENCHMARK(ReadFields);
+BENCHMARK(ReadIntoWindow);
+BENCHMARK(WriteLayout);
+BENCHMARK(AllBlitzRoutes);
+BENCHMARK(JudgeGoodMap);
+
+/// Puts beside each time how many copies of the text it would have made; the copy runs first.
+class CopiesReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    std::vector<Run> reported = runs;
+    for (Run& run : reported) {
+      if (copy_ == 0) copy_ = run.GetAdjustedCPUTime();
+      run.counters["copies"] = run.GetAdjustedCPUTime() / copy_;
+    }
+    ConsoleReporter::ReportRuns(reported);
+  }
+
+ private:
+  double copy_ = 0;
+};
+
+}  // namespace
+}  // namespace terramark
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  terramark::CopiesReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  return 0;
+}

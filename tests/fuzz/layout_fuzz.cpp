@@ -1,0 +1,111 @@
+// Feeds arbitrary bytes to the reader of Map Layouts: whatever they hold, the document keeps its
+// bounds, and a map that passes the rules can be written and read again.
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "document/links.h"
+#include "layoutfile/readmapfile.h"
+#include "layoutfile/writemapfile.h"
+#include "shell/clearmap.h"
+#include "shell/form1.h"
+#include "shell/startup.h"
+#include "support/scripteddesktop.h"
+#include "validation/rules.h"
+
+namespace terramark {
+namespace {
+
+/// Every picture is there.
+class FuzzDesktop : public ScriptedDesktop {
+ public:
+  forms::Picture LoadPicture(const std::string&, int, int) override { return picture_; }
+  std::filesystem::path NativePath(const std::string&) override { return "/dev/null"; }
+
+ private:
+  const forms::Picture picture_ = BlankPicture(4, 3);
+};
+
+void Check(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "broken: %s\n", what);
+  std::abort();
+}
+
+/// False when the file failed and the process would have ended.
+bool Read(Form1& form, std::string_view bytes) {
+  ClearMap(form);
+  FieldReader file(bytes);
+  try {
+    ReadMapFile(form, file);
+    return true;
+  } catch (const Ended&) {
+    return false;
+  }
+}
+
+std::string Write(Form1& form) {
+  LayoutText file;
+  WriteMapFile(form, file);
+  return file.Text();
+}
+
+void CheckMarkers(forms::ControlArray<forms::Label>& markers, std::int16_t count) {
+  Check(count >= 0 && count <= LastNumber, "a count within the tables");
+  for (std::int16_t i = 0; i <= LastNumber; ++i) {
+    const forms::Label* marker = markers.Find(i);
+    Check((marker != nullptr) == (i <= count), "a marker for every number, and no other");
+    Check(marker == nullptr || (std::isfinite(marker->Left) && std::isfinite(marker->Top)),
+          "a marker in a place");
+  }
+}
+
+/// Whether the text comes back whole where the file has it in quotes.
+bool Quotable(const std::string& text) {
+  return text.find('"') == std::string::npos;
+}
+
+bool ComesBack(const Tables& map) {
+  bool whole = map.PictureFile.find_first_of(",\"\r\n") == std::string::npos &&
+               !map.PictureFile.empty() && map.PictureFile[0] != ' ';
+  for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
+    whole = whole && Quotable(map.AreaName(i)) && Quotable(map.AreaLinks(i)) &&
+            Neighbours(map.AreaLinks(i)).Count() != 0;
+  }
+  for (std::int16_t r = 1; r <= map.RegionCount; ++r) whole = whole && Quotable(map.RegionName(r));
+  return whole && JudgeMap(map).Status == 0;
+}
+
+void TryOne(Form1& form, std::string_view bytes) {
+  const bool read = Read(form, bytes);
+  CheckMarkers(form.ArmyAt, form.AreaCount);
+  CheckMarkers(form.Continent, form.RegionCount);
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    Check(form.AreaRegion(i) >= 0 && form.AreaRegion(i) <= form.RegionCount, "a Region in use");
+  }
+  if (!read) return;
+  const std::string first = Write(form);
+  if (!ComesBack(form)) return;
+  Check(Read(form, first), "a good map that can be read again");
+  // The first writing may have rounded a place; from there on nothing may change.
+  const std::string second = Write(form);
+  Check(Read(form, second) && Write(form) == second, "a map that stays as it is");
+}
+
+}  // namespace
+}  // namespace terramark
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static terramark::FuzzDesktop desktop;
+  static terramark::Form1 form(desktop);
+  static const bool loaded = (terramark::Form_Load(form), true);
+  static_cast<void>(loaded);
+  terramark::TryOne(form, {reinterpret_cast<const char*>(data), size});
+  desktop.Boxes.clear();
+  desktop.Seeds.clear();
+  return 0;
+}

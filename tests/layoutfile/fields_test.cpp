@@ -1,0 +1,79 @@
+#include "layoutfile/fieldreader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "layoutfile/layouttext.h"
+
+namespace terramark {
+namespace {
+
+/// All fields of a type, each followed by a bar.
+template <typename Field>
+std::string AllFields(const std::string& bytes) {
+  FieldReader file(bytes);
+  std::string all;
+  for (Field field{}; file.Fields(field);) {
+    if constexpr (std::is_same_v<Field, std::string_view>) {
+      all += std::string(field) + "|";
+    } else {
+      all += std::to_string(field) + "|";
+    }
+  }
+  return all;
+}
+
+using Text = std::string_view;
+
+TEST(FieldReader, TextsEndWhereTheirFormSays) {
+  EXPECT_EQ(AllFields<Text>("  a b  ,c\r\n"), "a b  |c|");  // trailing blanks are the text's own
+  EXPECT_EQ(AllFields<Text>("\"Lake, North\",x\"y"), "Lake, North|x\"y|");
+  EXPECT_EQ(AllFields<Text>("\"two\r\nlines\",x"), "two\r\nlines|x|");
+  EXPECT_EQ(AllFields<Text>("\"say \"hi\" now\",x"), "say |x|");  // the rest is lost
+  EXPECT_EQ(AllFields<Text>("a\rb\nc\r\n,\n,"), "a|b|c||||");     // any of the three ends a line
+}
+
+TEST(FieldReader, NumbersRoundAndStopAtTheFirstOddCharacter) {
+  EXPECT_EQ(AllFields<std::int16_t>("7 , 8  \r\n9 1\r2"), "7|8|9|1|2|");
+  EXPECT_EQ(AllFields<std::int16_t>("2.5,3.5,-0.5,+4"), "2|4|0|4|");
+  EXPECT_EQ(AllFields<std::int16_t>("1e3,7x,x7,,-,\"12\"junk,3"), "1|7|0|0|0|12|3|");
+  EXPECT_EQ(AllFields<std::int16_t>("32767.4,-32768,32767.5,1"), "32767|-32768|");
+  EXPECT_EQ(AllFields<float>("-.5,70000.25," + std::string(40, '9')), "-0.500000|70000.250000|");
+  for (const char* bytes : {"", "   ", "32768", "-32769", "99999999999", "\"7"}) {
+    EXPECT_EQ(AllFields<std::int16_t>(bytes), "") << bytes;
+  }
+}
+
+TEST(FieldReader, ALineAfterTheLastFieldOfALineIsTheNextOne) {
+  FieldReader file("1 \r\nHEAD, \"x\" \r\n\r\n");
+  std::int16_t number = 0;
+  std::string_view head;
+  std::string_view empty;
+  EXPECT_TRUE(file.Fields(number) && file.Line(head) && file.Line(empty));
+  EXPECT_EQ(head, "HEAD, \"x\" ");
+  EXPECT_EQ(empty, "");
+  EXPECT_FALSE(file.Line(empty));
+}
+
+TEST(LayoutText, FloatsAreShortWithoutExponentAndWithinSevenDigits) {
+  const struct {
+    float Value;
+    const char* Text;
+  } cases[]{{15, "15"},
+            {-0.0F, "0"},
+            {-12.5F, "-12.5"},
+            {0.5F, "0.5"},
+            {-0.0625F, "-0.0625"},
+            {100.3F, "100.3"},
+            {1e-7F, "0.0000001"},
+            {1 / 3.0F, "0.3333333"},
+            {16777218, "16777220"},
+            {3e9F, "3000000000"},
+            {160 / 3.0F, "53.33333"},
+            {1.5e12F, "1500000000000"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(FloatText(value), text);
+}
+
+}  // namespace
+}  // namespace terramark
