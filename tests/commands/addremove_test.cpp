@@ -12,9 +12,7 @@ TEST_F(AddTest, ANewAreaStandsOnTheOneBeforeItWithItsDefaults) {
   EXPECT_EQ(Form.ArmyAt(1).Top, 60);
   EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), "+1");
   EXPECT_TRUE(Form.ArmyAt(1).Visible);
-  EXPECT_EQ(Form.ArmyAt(1).Tag.Get(), " 16777215");
-  EXPECT_EQ(Form.AreaName(1), "Area 1");
-  EXPECT_EQ(Form.AreaLinks(1), "  ");
+  EXPECT_EQ(Form.AreaName(1) + Form.AreaLinks(1), "Area 1  ");
   EXPECT_EQ(Form.AreaSymbol(1), "2");
   EXPECT_EQ(Form.AreaCorner(1), 2);
   EXPECT_EQ(Form.Countx(0).Caption.Get(), " 1");

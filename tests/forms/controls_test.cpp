@@ -8,21 +8,6 @@
 namespace terramark::forms {
 namespace {
 
-/// Counts what a window would draw.
-struct Watcher : FormObserver {
-  int Changes = 0;
-  int Added = 0;
-  int Removed = 0;
-  void ControlAdded(Control&) override { ++Added; }
-  void ControlRemoved(Control&) override { ++Removed; }
-  void PropertyChanged(Control&, PropertyId) override { ++Changes; }
-  void Restacked(Control&) override {}
-  void FocusMoved(Control&) override {}
-  void Refreshed(Control&) override {}
-  void DragMoved() override {}
-  void Unloaded() override {}
-};
-
 class ControlsTest : public testing::Test {
  protected:
   ControlsTest() {

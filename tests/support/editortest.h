@@ -112,6 +112,12 @@ class EditorTest : public testing::Test {
     ClickMap(5, 300);
   }
 
+  /// The link strings of the first so many Areas, with bars between them.
+  std::string Links(std::int16_t areas) const {
+    std::string all = Form.AreaLinks(1);
+    for (std::int16_t i = 2; i <= areas; ++i) all += "|" + Form.AreaLinks(i);
+    return all;
+  }
   std::string Message() const { return Form.Message.Caption; }
   forms::Color MessageColour() const { return Form.Message.BackColor; }
   forms::Color Look(std::int16_t area) const { return Form.ArmyAt(area).BackColor; }

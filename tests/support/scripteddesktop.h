@@ -26,6 +26,23 @@ inline forms::Picture BlankPicture(int width, int height, std::uint32_t pixel = 
   return raster;
 }
 
+/// Watches a form and keeps what most tests ask of a window.
+struct Watcher : forms::FormObserver {
+  int Changes = 0;
+  int Added = 0;
+  int Removed = 0;
+  bool WasUnloaded = false;
+
+  void ControlAdded(forms::Control&) override { ++Added; }
+  void ControlRemoved(forms::Control&) override { ++Removed; }
+  void PropertyChanged(forms::Control&, forms::PropertyId) override { ++Changes; }
+  void Restacked(forms::Control&) override {}
+  void FocusMoved(forms::Control&) override {}
+  void Refreshed(forms::Control&) override {}
+  void DragMoved() override {}
+  void Unloaded() override { WasUnloaded = true; }
+};
+
 class ScriptedDesktop : public forms::Desktop {
  public:
   /// Next answers of Yes and No boxes; none left answers No.

@@ -29,78 +29,38 @@ struct RuleCase {
   std::function<void(Tables&)> Spoil;
 };
 
-// Each map has the fault of its row and, where it can, that of the row below, which must wait.
+/// Sets some of the link strings, or of the Regions, of a map.
+void Links(Tables& t, std::initializer_list<std::pair<std::int16_t, const char*>> links) {
+  for (const auto& [i, text] : links) t.AreaLinks(i) = text;
+}
+void Regions(Tables& t, std::initializer_list<std::int16_t> areas, std::int16_t region) {
+  for (const std::int16_t i : areas) t.AreaRegion(i) = region;
+}
+
+// Where it can be, a map has the fault of a later rule as well, which must wait.
+// clang-format off
 const RuleCase RuleCases[] = {
-    {0, "This map has no errors", [](Tables&) {}},
-    {0, "This map has no errors", [](Tables& t) { t.AreaLinks(1) = "020102"; }},
+    {0,  "This map has no errors", [](Tables&) {}},
+    {0,  "This map has no errors", [](Tables& t) { Links(t, {{1, "020102"}}); }},
     {15, "No Map file (.WMF/.BMP)", [](Tables& t) { t = Tables(); }},
-    {1, "Number of Areas must be more than 1",
-     [](Tables& t) {
-       t.AreaCount = 1;
-       t.RegionCount = 1;
-     }},
-    {2, "Number of Regions must be more than 1",
-     [](Tables& t) {
-       t.AreaCount = 4;
-       t.RegionCount = 1;
-     }},
-    {10, "Number of Areas must be divisible by 2 and 3",
-     [](Tables& t) {
-       t.AreaCount = 8;
-       t.AreaRegion(2) = 0;
-     }},
-    {11, "Area# 5 : A5 has no Region",
-     [](Tables& t) {
-       t.AreaRegion(5) = 0;
-       t.AreaLinks(1) = " ";
-     }},
-    {3, "Area# 2 : A2 has no neighbour",
-     [](Tables& t) {
-       t.AreaLinks(2) = "  ";
-       t.AreaLinks(3) = "";
-       t.AreaRegion(6) = 1;
-       t.AreaRegion(5) = 1;
-     }},
-    {3, "Area# 3 : A3 has no neighbour", [](Tables& t) { t.AreaLinks(3) = ""; }},
-    {4, "Region# 2 : South has <2 Areas",
-     [](Tables& t) {
-       t.AreaRegion(4) = 1;
-       t.AreaRegion(5) = 1;
-     }},
-    {5, "Region# 1 : North is not linked to another Region",
-     [](Tables& t) {
-       t.AreaLinks(3) = "0102";
-       t.AreaLinks(4) = "0105";
-       t.AreaLinks(5) = "020406";
-     }},
-    {5, "Region# 2 : South is not linked to another Region",
-     [](Tables& t) { t.AreaLinks(4) = "0105"; }},
-    {6, "None of the Areas in Region# 2 : South are linked",
-     [](Tables& t) {
-       for (std::int16_t i = 4; i <= 6; ++i) t.AreaLinks(i) = "0103";
-     }},
-    {7, "Area# 3(A3) is not in the neighbour list of Area# 4 (A4)",
-     [](Tables& t) {
-       t.AreaLinks(4) = "020506";
-       t.AreaLinks(6) = "020402";
-     }},
-    {7, "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)",
-     [](Tables& t) { t.AreaLinks(2) = "03010300"; }},
-    {7, "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)",
-     [](Tables& t) { t.AreaLinks(2) = "030103-7"; }},
-    {12, "Area# 2(A2) Please respecify its Neighbours",
-     [](Tables& t) {
-       t.AreaLinks(2) = "03010300";
-       t.AreaLinks(0) = "0102";
-       t.AreaName(1) = "";
-     }},
-    {8, "Area# 4 has no name",
-     [](Tables& t) {
-       t.AreaName(4) = "";
-       t.RegionName(1) = "";
-     }},
-    {9, "Region# 2 has no name", [](Tables& t) { t.RegionName(2) = ""; }},
+    {1,  "Number of Areas must be more than 1", [](Tables& t) { t.AreaCount = t.RegionCount = 1; }},
+    {2,  "Number of Regions must be more than 1", [](Tables& t) { t.AreaCount = 4; t.RegionCount = 1; }},
+    {10, "Number of Areas must be divisible by 2 and 3", [](Tables& t) { t.AreaCount = 8; Regions(t, {2}, 0); }},
+    {11, "Area# 5 : A5 has no Region", [](Tables& t) { Regions(t, {5}, 0); Links(t, {{1, " "}}); }},
+    {3,  "Area# 2 : A2 has no neighbour", [](Tables& t) { Links(t, {{2, "  "}, {3, ""}}); Regions(t, {5, 6}, 1); }},
+    {3,  "Area# 3 : A3 has no neighbour", [](Tables& t) { Links(t, {{3, ""}}); }},
+    {4,  "Region# 2 : South has <2 Areas", [](Tables& t) { Regions(t, {4, 5}, 1); Links(t, {{3, "0102"}}); }},
+    {5,  "Region# 1 : North is not linked to another Region", [](Tables& t) { Links(t, {{3, "0102"}, {4, "0105"}}); }},
+    {5,  "Region# 2 : South is not linked to another Region", [](Tables& t) { Links(t, {{4, "0105"}}); }},
+    {6,  "None of the Areas in Region# 2 : South are linked", [](Tables& t) { Links(t, {{4, "0103"}, {5, "0103"}, {6, "0103"}}); }},
+    {7,  "Area# 3(A3) is not in the neighbour list of Area# 4 (A4)", [](Tables& t) { Links(t, {{4, "020506"}, {6, "020402"}}); }},
+    {7,  "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)", [](Tables& t) { Links(t, {{2, "03010300"}}); }},
+    {7,  "Area# 2(A2) is not in the neighbour list of Area# 0 (A0)", [](Tables& t) { Links(t, {{2, "030103-7"}}); }},
+    {12, "Area# 2(A2) Please respecify its Neighbours", [](Tables& t) { Links(t, {{2, "03010300"}, {0, "0102"}}); t.AreaName(1) = ""; }},
+    {8,  "Area# 4 has no name", [](Tables& t) { t.AreaName(4) = t.RegionName(1) = ""; }},
+    {9,  "Region# 2 has no name", [](Tables& t) { t.RegionName(2) = ""; }},
 };
+// clang-format on
 
 TEST(Rules, StopAtTheFirstFaultInTheirOrder) {
   for (const RuleCase& c : RuleCases) {
