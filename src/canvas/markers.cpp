@@ -23,8 +23,11 @@ void Grab(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
 }
 
 void TurnCorner(Form1& form, std::int16_t area) {
-  form.AreaCorner(area) = NextCorner(form.AreaCorner(area));
-  form.ArmyAt(area).Caption = MarkerCaption(area, form.AreaCorner(area));
+  const std::int16_t old = form.AreaCorner(area);
+  form.AreaCorner(area) = NextCorner(old);
+  // A code that names no corner shows none until the next turn.
+  const bool known = old >= 0 && old <= 3;
+  form.ArmyAt(area).Caption = MarkerCaption(area, known ? form.AreaCorner(area) : old);
 }
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.

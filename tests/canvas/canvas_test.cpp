@@ -17,8 +17,8 @@ TEST_F(MarkerTest, ADragLandsTheGrabbedPointUnderThePointer) {
   const std::string message = Message();
   Drag(Form.ArmyAt(3), 150, 100);
   ExpectPlace(Form.ArmyAt(3), 250, 124);
-  Drag(Form.ArmyAt(3), -1, 2);
-  ExpectPlace(Form.ArmyAt(3), 249, 126);
+  Drag(Form.ArmyAt(3), -1, 0);
+  ExpectPlace(Form.ArmyAt(3), 249, 124);
   Drag(Form.Continent(2), -200, 60, 0, forms::RightButton);
   ExpectPlace(Form.Continent(2), 280, 82);
   EXPECT_EQ(Form.CurArea, 1) << "moving selects nothing";
@@ -45,6 +45,7 @@ TEST_F(MarkerTest, ADropOnAnotherMarkerOrControlMovesNothing) {
     Press(from);
     Release(Middle(*target));
     ExpectPlace(Form.ArmyAt(1), left, top);
+    ExpectPlace(Form.Continent(1), 300, 200);
   }
   EXPECT_EQ(Form.CurArea, 0);
 }
@@ -53,6 +54,8 @@ TEST_F(MarkerTest, PressesGoByButtonAndKeys) {
   Click(Form.ArmyAt(2), forms::CtrlKey);
   EXPECT_EQ(Form.CurArea, 2) << "Ctrl drags and selects like a plain press";
   EXPECT_EQ(Form.AreaCount, 6);
+  Click(Form.ArmyAt(3), forms::ShiftKey | forms::CtrlKey);
+  EXPECT_EQ(Form.CurArea, 3) << "only Shift alone marks";
   Press(Middle(Form.ArmyAt(4)), forms::ShiftKey);
   Release(Middle(Form.ArmyAt(4)), 0);
   EXPECT_EQ(Form.CurArea, 4) << "Shift let go before the release";
@@ -73,7 +76,9 @@ TEST_F(MarkerTest, TheRightButtonTurnsTheCornerAndDoesNothingElse) {
   EXPECT_EQ(Form.CurArea, 0);
   Form.AreaCorner(1) = -7;
   Click(Form.ArmyAt(1), 0, forms::RightButton);
-  EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), " 1+");
+  EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), " 1");
+  Click(Form.ArmyAt(1), 0, forms::RightButton);
+  EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), "+1") << "a code that names no corner went on from 3";
 }
 
 class BackdropTest : public EditorTest {};
@@ -90,6 +95,7 @@ TEST_F(BackdropTest, ACtrlPressAddsAnAreaWhoseFillPointIsThePointPressed) {
 TEST_F(BackdropTest, APlainPressRefreshesAndClearsTheSelection) {
   MakeChain();
   Click(Form.Continent(1));
+  Form.Text1.SetFocus();
   const int reads = Screen.PictureReads;
   ClickMap(5, 300);
   EXPECT_EQ(Screen.PictureReads, reads + 1);
@@ -107,34 +113,40 @@ TEST_F(BackdropTest, RefreshKeepsTheNumbersAndARegionsBackground) {
   Click(Form.RefMap);
   EXPECT_EQ(Form.CurRegion, 1);
   EXPECT_EQ(Form.MarkCount, 2);
-  EXPECT_EQ(Form.Continent(1).BackColor, ClrWhite);
-  EXPECT_EQ(Form.Continent(1).ForeColor, ClrWhite) << "its own colour again";
-  EXPECT_EQ(Look(1), ClrBlack);
+  EXPECT_EQ(Region(1), "Region 1 5 armies 256,256,256 Region 1 at 480,4 ffffff on white");
+  EXPECT_EQ(Area(1), "Area 1 [0102] 1 R1 +1 at 10,24 ffffff plain");
   EXPECT_EQ(Look(6), ClrBlack);
   EXPECT_TRUE(Form.Continent(2).Visible);
+  EXPECT_EQ(Message(), "");
 }
 
 TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
   Click(Form.LoadMap);
   EXPECT_EQ(Form.PictureFile, "") << "cancelled";
+  EXPECT_EQ(Screen.Filters, std::vector<std::string>{"*.wmf;*.bmp"});
   MakeChain();
   Screen.FileNames.push_back("text.wmf");
   Click(Form.LoadMap);
-  EXPECT_EQ(Message(), "Cannot read picture text.wmf");
+  EXPECT_EQ(Message(), "red: Cannot read picture text.wmf");
   EXPECT_EQ(Form.PictureFile, "map.bmp");
   EXPECT_EQ(Form.LoadMap.Caption.Get(), "map.bmp");
   Screen.Pictures.clear();
   Click(Form.ArmyAt(1));
   ClickMap(5, 300);
-  EXPECT_EQ(Message(), "Cannot read picture map.bmp") << "outlives the blanking of the bar";
-  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Message(), "red: Cannot read picture map.bmp") << "outlives the blanking of the bar";
   EXPECT_EQ(Form.CurArea, 0);
-  EXPECT_NE(Form.Picture1.Picture.Get(), nullptr);
+  EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
+  Click(Form.RefMap);
+  EXPECT_EQ(Message(), "red: Cannot read picture map.bmp");
 }
 
 class ColourPanelTest : public EditorTest {
  protected:
   ColourPanelTest() { MakeChain(); }
+  void DeleteCurrent() {
+    Screen.Answers.push_back(forms::Answer::Yes);
+    Click(Form.DelControl);
+  }
   void Slide(int red, int green, int blue) {
     Form.ColBar(0).Moved(red);
     Form.ColBar(1).Moved(green);
@@ -161,6 +173,7 @@ TEST_F(ColourPanelTest, ARowTakesTheBarsUnclampedAndShowsThemClamped) {
     EXPECT_EQ(Form.PlayerRGB[static_cast<std::size_t>(row)], (Components{256, 255, 16}));
     EXPECT_EQ(Form.PlColor(row).BackColor, 0x0010FFFFU);
   }
+  EXPECT_EQ(Form.PlayerRGB[0], (Components{256, 255, 16})) << "loading the bars wrote nothing";
   EXPECT_EQ(Form.Continent(1).ForeColor, ClrWhite);
 }
 
@@ -170,11 +183,11 @@ TEST_F(ColourPanelTest, ARegionsColourReachesItsAreasAndOutlivesTheMarks) {
   Slide(10, 20, 30);
   EXPECT_EQ(Form.RegionRGB(1), (Components{10, 20, 30}));
   EXPECT_EQ(Form.Continent(1).Tag.Get(), "1971210");
+  EXPECT_EQ(Area(2), "Area 2 [020103] 1 R1 +2 at 55,24 1e140a on grey");
   EXPECT_EQ(Form.PlColor(4).BackColor, 0x001E140AU);
   EXPECT_EQ(Form.EditText.ForeColor, 0x001E140AU);
-  EXPECT_EQ(Look(2), ClrGrey);
   ClickMap(5, 300);
-  EXPECT_EQ(Form.ArmyAt(2).ForeColor, 0x001E140AU);
+  EXPECT_EQ(Area(2), "Area 2 [020103] 1 R1 +2 at 55,24 1e140a plain");
   EXPECT_EQ(Form.ArmyAt(4).ForeColor, ClrWhite);
   EXPECT_FALSE(Form.RGBFrame.Enabled);
 }
@@ -187,12 +200,15 @@ TEST_F(ColourPanelTest, ARegionWithoutAreasLeavesTheNameAsItWas) {
   EXPECT_EQ(Form.Continent(3).ForeColor, 0x001E140AU);
   EXPECT_EQ(Form.EditText.ForeColor, before);
   // Deleted, it takes no more colours, and neither does the one that gets its number.
-  Screen.Answers.push_back(forms::Answer::Yes);
-  Click(Form.DelControl);
+  DeleteCurrent();
   Slide(99, 99, 99);
   EXPECT_EQ(Form.RegionRGB(3), (Components{10, 20, 30}));
+  Form.AreaRegion(2) = Form.AreaRegion(3) = Form.AreaRegion(1) = 2;
+  Click(Form.Continent(1));
   Click(Form.PlColor(4));
-  EXPECT_EQ(Form.RGBFrame.Tag.Get(), "R3");
+  DeleteCurrent();
+  Slide(99, 99, 99);
+  EXPECT_EQ(Form.RegionRGB(1), (Components{256, 256, 256}));
 }
 
 }  // namespace

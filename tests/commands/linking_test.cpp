@@ -27,7 +27,6 @@ TEST_F(SetNeighboursTest, TheMarkedAreasBecomeTheListAndTheFarSideOnlyGrows) {
   Mark({9, 5, 2});
   Click(Form.MakeNeibor);
   EXPECT_EQ(Message(), " 3 neighbours set for Area 7 = <02,05,09>");
-  EXPECT_EQ(MessageColour(), ClrGreen);
   EXPECT_EQ(Form.MarkCount, 4);
   EXPECT_EQ(Links(9), "  |0107|  |  |020907|  |03020509|  |0107");
   Mark({5});
@@ -41,9 +40,19 @@ TEST_F(SetNeighboursTest, WithoutMarkedAreasNothingChanges) {
   Click(Form.ArmyAt(2));
   Click(Form.RefMap);
   Click(Form.MakeNeibor);
-  EXPECT_EQ(Message(), "mark the neighbours first");
-  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Message(), "red: mark the neighbours first");
   EXPECT_EQ(Form.AreaLinks(2), "020103");
+}
+
+TEST_F(SetNeighboursTest, NothingIsLinkedToAnAreaThatHasGone) {
+  MakeMap(4, 0);
+  Click(Form.ArmyAt(4));
+  Screen.Answers.push_back(forms::Answer::Yes);
+  Click(Form.DelControl);
+  Mark({1, 2});
+  Click(Form.MakeNeibor);
+  EXPECT_EQ(Message(), "red: mark the neighbours first");
+  EXPECT_EQ(Links(3), "  |  |  ");
 }
 
 TEST_F(SetNeighboursTest, WithNothingCurrentTheListGoesToSlotNought) {
@@ -66,16 +75,15 @@ TEST_F(SetRegionTest, MembershipFollowsTheMarksAndTheColourStartsAgain) {
   Mark({1, 5});
   Click(Form.SetCont);
   EXPECT_EQ(Message(), "Region Region 1 has 3 Areas = <02,03,05>");
-  EXPECT_EQ(Form.AreaRegion(1), 0);
-  EXPECT_EQ(Look(1), ClrBlack);
-  EXPECT_EQ(Form.AreaRegion(5), 1);
-  EXPECT_EQ(Look(5), ClrGrey);
-  EXPECT_EQ(Form.RegionRGB(1), (Components{256, 256, 256}));
-  EXPECT_EQ(Form.Continent(1).BackColor, ClrBlack) << "plain, though still current";
-  EXPECT_EQ(Form.CurRegion, 1);
+  EXPECT_EQ(Region(1), "Region 1 5 armies 256,256,256 Region 1 at 480,4 ffffff plain");
+  EXPECT_EQ(Form.PlColor(4).BackColor, 0x00FFFF63U) << "the panel is left alone";
+  EXPECT_EQ(Area(1), "Area 1 [0102] 1 R0 +1 at 10,24 ffffff plain");
+  EXPECT_EQ(Area(2), "Area 2 [020103] 1 R1 +2 at 55,24 ffffff marked");
+  EXPECT_EQ(Area(5), "Area 5 [020406] 1 R1 +5 at 190,24 ffffff marked");
   Mark({2, 3, 5});
   Click(Form.SetCont);
   EXPECT_EQ(Message(), "Region Region 1 has 0 Areas = <>");
+  EXPECT_EQ(Area(5), "Area 5 [020406] 1 R0 +5 at 190,24 ffffff plain");
   Click(Form.ArmyAt(4));
   const std::string message = Message();
   Click(Form.SetCont);
@@ -92,24 +100,18 @@ TEST_F(ClearLinksTest, AnAreaLeavesEveryListAndItsRegion) {
   Click(Form.ArmyAt(5));
   Click(Form.ClearLink);
   EXPECT_EQ(Links(6), "  |03123423|0109|020301| |  ");
-  EXPECT_EQ(Form.AreaRegion(5), 0);
-  EXPECT_EQ(Form.ArmyAt(5).ForeColor, ClrWhite);
-  EXPECT_EQ(Form.ArmyAt(5).Tag.Get(), " 16777215");
+  EXPECT_EQ(Area(5), "Area 5 [ ] 1 R0 +5 at 190,24 ffffff plain");
   EXPECT_EQ(Message(), "all links to Area 5 removed");
   EXPECT_EQ(Form.CurArea + Form.MarkCount, 0);
 }
 
 TEST_F(ClearLinksTest, DigitsAcrossTwoPairsAreNoMatch) {
-  MakeMap(25, 0);
-  Form.AreaLinks(1) = "03122304";
-  Form.AreaLinks(2) = "03123423";
+  MakeMap(23, 0);
+  SetLinks({"03122304", "03123423", "021234"});
   Form.AreaLinks(23) = "0102";
-  Form.AreaLinks(9) = "021234";
   Click(Form.ArmyAt(23));
   Click(Form.ClearLink);
-  EXPECT_EQ(Form.AreaLinks(1), "021204");
-  EXPECT_EQ(Form.AreaLinks(2), "021234");
-  EXPECT_EQ(Form.AreaLinks(9), "021234");
+  EXPECT_EQ(Links(3), "021204|021234|021234");
 }
 
 TEST_F(ClearLinksTest, ARegionLosesItsAreasNameAndColourButNoLinks) {
@@ -117,24 +119,22 @@ TEST_F(ClearLinksTest, ARegionLosesItsAreasNameAndColourButNoLinks) {
   Click(Form.Continent(2));
   Type(Form.EditText, "South");
   Type(Form.Armypc, "9");
+  Click(Form.PlColor(4));
+  Form.ColBar(0).Moved(99);
   Click(Form.ClearLink);
   EXPECT_EQ(Message(), "all links to Region 2 removed");
-  EXPECT_EQ(Form.RegionName(2), "Region 2");
-  EXPECT_EQ(Form.RegionArmies(2), 9);
-  EXPECT_EQ(Form.RegionCount, 2);
-  EXPECT_EQ(Form.AreaRegion(4), 0);
-  EXPECT_EQ(Form.AreaLinks(4), "020305");
-  EXPECT_EQ(Form.Continent(2).BackColor, ClrBlack);
+  EXPECT_EQ(Region(2), "Region 2 9 armies 256,256,256 Region 2 at 480,22 ffffff plain");
+  EXPECT_EQ(Area(4), "Area 4 [020305] 1 R0 +4 at 145,24 ffffff plain");
+  EXPECT_EQ(Form.CurRegion + Form.MarkCount, 0);
 }
 
 TEST_F(ClearLinksTest, NeedsAMarkAndSomethingToClear) {
   MakeMap(2, 1);
   Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "Select a Area/Region to clear");
-  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Message(), "red: Select a Area/Region to clear");
   Mark({1});
   Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "Select a Area/Region to clear") << "marked, but nothing current";
+  EXPECT_EQ(Message(), "red: Select a Area/Region to clear") << "marked, but nothing current";
   Click(Form.Continent(1));
   Click(Form.ClearLink);
   EXPECT_EQ(Message(), "Nothing to clear");
@@ -149,32 +149,24 @@ TEST_F(ClearLinksTest, NeedsAMarkAndSomethingToClear) {
 class SwapTest : public LinkingTest {};
 
 TEST_F(SwapTest, TwoAreasChangePlacesAndEveryLinkStillJoinsTheSamePlaces) {
-  MakeMap(21, 2);
-  SetLinks({"020203", "03010304", "020102", "0102"});
-  Form.AreaLinks(20) = "03212001";
+  MakeMap(12, 2);
+  SetLinks({"020203", "03010304", "020102", "0102", "04122104010"});
   SetRegion(1, {1, 2});
-  SetRegion(2, {4});
-  Form.Continent(2).ForeColor = 255;
-  Form.Continent(2).Tag = "255";
-  Form.AreaCorner(4) = 1;
+  SetRegion(2, {12});
+  Click(Form.PlColor(4));
+  Form.ColBar(0).Moved(0);
+  Form.AreaCorner(12) = 1;
   ClickMap(5, 300);
-  Mark({4, 1});
-  const float left = Form.ArmyAt(4).Left;
+  Mark({12, 1});
   Click(Form.SwapTer);
-  EXPECT_EQ(Message(), " 1 and  4 swapped");
-  EXPECT_EQ(Links(4), "0102|03040301|020402|020203");
-  EXPECT_EQ(Form.AreaLinks(20), "03212004");
-  EXPECT_EQ(Form.AreaRegion(1), 2);
-  EXPECT_EQ(Form.AreaRegion(4), 1);
-  EXPECT_EQ(Form.ArmyAt(1).Left, left);
-  EXPECT_EQ(Form.ArmyAt(1).ForeColor, 255U);
-  EXPECT_EQ(Form.ArmyAt(1).Tag.Get(), "255");
-  EXPECT_EQ(Form.ArmyAt(1).Caption.Get(), " 1^");
-  EXPECT_EQ(Form.ArmyAt(4).Caption.Get(), "+4");
-  EXPECT_EQ(Form.AreaName(1), "Area 1");
+  EXPECT_EQ(Message(), " 1 and  12 swapped");
+  EXPECT_EQ(Links(5), "  |03120304|021202|0102|04012104120") << "the digits that meet are no pair";
+  EXPECT_EQ(Area(1), "Area 1 [  ] 1 R2  1^ at 55,50 ffff00 plain");
+  EXPECT_EQ(Area(12), "Area 12 [020203] 1 R1 +12 at 10,24 ffffff plain");
+  EXPECT_EQ(Form.ArmyAt(1).Tag.Get(), "16776960");
   EXPECT_EQ(Form.MarkCount, 2);
   Click(Form.SwapTer);
-  EXPECT_EQ(Message(), "mark two Areas") << "the marks are gone";
+  EXPECT_EQ(Message(), "red: mark two Areas") << "the marks are gone";
 }
 
 TEST_F(SwapTest, NeighboursSwapAndTheCurrentLookCounts) {
@@ -187,15 +179,18 @@ TEST_F(SwapTest, NeighboursSwapAndTheCurrentLookCounts) {
   ClickMap(5, 300);
   Mark({1, 2, 3});
   Click(Form.SwapTer);
-  EXPECT_EQ(Message(), "mark two Areas");
+  EXPECT_EQ(Message(), "red: mark two Areas");
 }
 
-TEST_F(SwapTest, PairsAreComparedWhole) {
-  MakeMap(21, 0);
-  Form.AreaLinks(3) = "03212012";
-  Mark({12, 13});
+TEST_F(SwapTest, OfMoreMarksTheTwoLowestNumbersAreThePair) {
+  MakeMap(5, 1);
+  SetRegion(1, {5});
+  Form.AreaRegion(4) = 1;
+  Click(Form.Continent(1));
+  Mark({3});
   Click(Form.SwapTer);
-  EXPECT_EQ(Form.AreaLinks(3), "03212013");
+  EXPECT_EQ(Message(), " 3 and  4 swapped");
+  EXPECT_EQ(Look(5), ClrGrey);
 }
 
 }  // namespace

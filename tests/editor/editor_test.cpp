@@ -156,7 +156,6 @@ TEST_F(GesturesTest, NoOrderOfGesturesBreaksTheDocument) {
   Screen.FileNames = {"map.bmp"};
   Click(Form.LoadMap);
   int yes = 0;
-  std::int16_t most = 0;
   for (int start : {0, 3, 40, 96, 99}) {
     while (Form.AreaCount < start) {
       Form.ArmyAt.Load(++Form.AreaCount);
@@ -177,10 +176,8 @@ TEST_F(GesturesTest, NoOrderOfGesturesBreaksTheDocument) {
       }
       ExpectInvariants();
       if (HasFatalFailure()) FAIL() << "after gesture " << i << " from " << start;
-      most = std::max(most, Form.AreaCount);
     }
   }
-  EXPECT_EQ(most, 99);
 }
 
 }  // namespace

@@ -98,6 +98,19 @@ TEST_F(PointerTest, ACancelledDragDropsNothingAndItsReleaseReachesNobody) {
   EXPECT_EQ(Log, "backdrop ") << "the next press is a press again";
 }
 
+TEST_F(PointerTest, OtherButtonsLeaveThePressThatHoldsThePointer) {
+  Window.Pointer.Press(45, 32, LeftButton, 0);
+  Window.Pointer.Press(305, 15, RightButton, ShiftKey);
+  Window.Pointer.Release(305, 15, RightButton, ShiftKey);
+  EXPECT_TRUE(Window.Pointer.InFlight());
+  Window.Pointer.Release(46, 33, LeftButton, 0);
+  EXPECT_EQ(Log, "self ");
+  Under.Drag(DragAction::Begin);
+  EXPECT_FALSE(Window.Pointer.InFlight()) << "no button is down";
+  Stroke(45, 32, 400, 400, LeftButton, ShiftKey);
+  EXPECT_EQ(Log, "self up ") << "the release reaches what was pressed";
+}
+
 TEST_F(PointerTest, AButtonActsOnTheReleaseOfAnyButtonInsideIt) {
   Stroke(310, 15, 320, 20, RightButton, CtrlKey);
   EXPECT_EQ(Log, "button22 ");
@@ -118,6 +131,9 @@ TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
     Label passing;
     Put(passing, Box, 100, 50, 20, 10);
     passing.MouseDown = [&](const MouseEvent&) { passing.Drag(DragAction::Begin); };
+    Window.Pointer.Press(115, 65, LeftButton, 0);
+    Window.Pointer.Release(115, 65, LeftButton, 0);
+    passing.MouseDown = nullptr;
     Window.Pointer.Press(115, 65, LeftButton, 0);
   }
   EXPECT_FALSE(Window.Pointer.InFlight());
@@ -140,6 +156,13 @@ TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
   Window.Pointer.Move(190, 50, 0);
   Window.Pointer.ScrollByDrag();
   EXPECT_GT(Box.ScrollLeft.Get(), 30);
+  Window.Pointer.Move(15, 90, 0);
+  for (int i = 0; i < 9; ++i) Window.Pointer.ScrollByDrag();
+  EXPECT_EQ(Box.ScrollLeft.Get(), 0);
+  EXPECT_EQ(Box.ScrollTop.Get(), 16);
+  Window.Pointer.Move(250, 50, 0);
+  Window.Pointer.ScrollByDrag();
+  EXPECT_EQ(Box.ScrollLeft.Get(), 0) << "outside the box nothing scrolls";
   Window.Pointer.CancelDrag();
   Box.Picture = BlankPicture(10, 10);
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);

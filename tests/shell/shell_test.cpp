@@ -80,8 +80,7 @@ TEST_F(ShellTest, AFileNameIsTakenUnchangedOrNotAtAll) {
   Screen.FileNameFits = false;
   SelectAFile(Form, "*.tml", name);
   EXPECT_EQ(name, "");
-  EXPECT_EQ(Message(), "Cannot use this file name in a Map Layout: caf?.tml");
-  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Message(), "red: Cannot use this file name in a Map Layout: caf?.tml");
   EXPECT_EQ(FileExists(Form, SAMPLES), 0) << "a folder is no file";
   EXPECT_EQ(FileExists(Form, SAMPLES "/europe.bmp"), 1);
 }

@@ -3,12 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
 #include <string>
 
 #include "editor/handlers.h"
 #include "forms/geometry.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/markers.h"
 #include "shell/startup.h"
 #include "support/scripteddesktop.h"
 
@@ -118,8 +121,37 @@ class EditorTest : public testing::Test {
     for (std::int16_t i = 2; i <= areas; ++i) all += "|" + Form.AreaLinks(i);
     return all;
   }
-  std::string Message() const { return Form.Message.Caption; }
-  forms::Color MessageColour() const { return Form.Message.BackColor; }
+  /// All there is of an Area: "Area 3 [020204] 2 R1 +3 at 100,24 ffffff plain".
+  std::string Area(std::int16_t i) const {
+    return Form.AreaName(i) + " [" + Form.AreaLinks(i) + "] " + Form.AreaSymbol(i) + " R" +
+           std::to_string(Form.AreaRegion(i)) + " " + Marker(Form.ArmyAt(i));
+  }
+  /// All there is of a Region: "West 5 armies 10,20,256 West at 480,4 ff140a plain".
+  std::string Region(std::int16_t r) const {
+    const Components& rgb = Form.RegionRGB(r);
+    return Form.RegionName(r) + " " + std::to_string(Form.RegionArmies(r)) + " armies " +
+           std::to_string(rgb[0]) + "," + std::to_string(rgb[1]) + "," + std::to_string(rgb[2]) +
+           " " + Marker(Form.Continent(r));
+  }
+  /// Caption, place, own colour as 0xBBGGRR and look. The colours of a look go together, but for a
+  /// marker that keeps a look's background under its own colour: "own on white".
+  static std::string Marker(const forms::Label& marker) {
+    const forms::Color own = TagColour(marker);
+    const forms::Color fore = marker.ForeColor;
+    std::string look = marker.BackColor == ClrBlack   ? fore == own ? "plain" : "wrong"
+                       : marker.BackColor == ClrWhite ? fore == ClrBlack ? "current" : "on white"
+                       : fore == ClrWhite             ? "marked"
+                                                      : "on grey";
+    std::array<char, 32> colour;
+    std::snprintf(colour.data(), colour.size(), " %06x ", own);
+    return marker.Caption.Get() + " at " + std::to_string(static_cast<int>(marker.Left)) + "," +
+           std::to_string(static_cast<int>(marker.Top)) + colour.data() + look +
+           (marker.Visible ? "" : " hidden");
+  }
+  /// The message bar, with "red: " before a fault.
+  std::string Message() const {
+    return (Form.Message.BackColor == ClrRed ? "red: " : "") + Form.Message.Caption.Get();
+  }
   forms::Color Look(std::int16_t area) const { return Form.ArmyAt(area).BackColor; }
 };
 

@@ -85,8 +85,7 @@ constexpr std::uint32_t White = 0xFFFFFFFF;
 TEST_F(ValidateMapTest, AFaultIsShownInRedAndPaintsNothing) {
   MakeMap(6, 2);
   Click(Form.Cvalid);
-  EXPECT_EQ(Message(), "No Map file (.WMF/.BMP)");
-  EXPECT_EQ(MessageColour(), ClrRed);
+  EXPECT_EQ(Message(), "red: No Map file (.WMF/.BMP)");
   EXPECT_EQ(Pixel(300, 200), White);
 }
 

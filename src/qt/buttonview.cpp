@@ -1,0 +1,56 @@
+#include "qt/buttonview.h"
+
+#include <qdrawutil.h>
+
+#include <QGuiApplication>
+#include <QPainter>
+
+#include "forms/form.h"
+#include "qt/cp1252.h"
+#include "qt/keyfeed.h"
+#include "qt/look.h"
+
+namespace terramark::qt {
+
+namespace {
+
+constexpr int EdgeWidth = 2;
+constexpr int DarkFace = 75;  // of 255, by the eye's weights
+
+}  // namespace
+
+ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
+    : QPushButton(&container), ControlView(button, *this), button_(button) {
+  setFocusPolicy(Qt::StrongFocus);
+  ShowOwn(forms::PropertyId::Caption);
+  connect(this, &QPushButton::clicked, this, [this] {
+    button_.Owner()->Pointer.PressKey(button_, KeyMask(QGuiApplication::keyboardModifiers()));
+  });
+}
+
+void ButtonView::ShowOwn(forms::PropertyId id) {
+  if (id == forms::PropertyId::Caption) {
+    // A single "&" would make a shortcut.
+    setText(FromCp1252(button_.Caption).replace('&', "&&"));
+  }
+  update();
+}
+
+void ButtonView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor colour = ScreenColour(button_.BackColor);
+  const QBrush face(colour);
+  qDrawWinButton(&painter, rect(), palette(), isDown(), &face);
+  QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
+  if (isDown()) inside.translate(1, 1);
+  QColor ink = palette().color(QPalette::ButtonText);
+  if (isEnabled() && qGray(colour.rgb()) < DarkFace) ink = Qt::white;
+  painter.setPen(ink);
+  // Of a file's path both ends are worth seeing.
+  DrawCaption(painter, inside, FromCp1252(button_.Caption), Qt::ElideMiddle);
+  if (!hasFocus()) return;
+  painter.setPen(QPen(ink, 1, Qt::DotLine));
+  painter.drawRect(inside.adjusted(1, 0, -2, -1));
+}
+
+}  // namespace terramark::qt

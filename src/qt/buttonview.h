@@ -1,0 +1,24 @@
+// A command button: a raised face in its BackColor. The mouse reaches it through the pointer router
+// only; Space, and Enter in a dialog, do what a left press and release in its middle do.
+#pragma once
+
+#include <QPushButton>
+
+#include "forms/controls.h"
+#include "qt/controlview.h"
+
+namespace terramark::qt {
+
+class ButtonView : public QPushButton, public ControlView {
+ public:
+  ButtonView(forms::CommandButton& button, QWidget& container);
+
+ protected:
+  void ShowOwn(forms::PropertyId id) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::CommandButton& button_;
+};
+
+}  // namespace terramark::qt

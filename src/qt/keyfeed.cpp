@@ -1,0 +1,125 @@
+#include "qt/keyfeed.h"
+
+#include <QPushButton>
+#include <algorithm>
+#include <array>
+
+namespace terramark::qt {
+
+namespace {
+
+/// How long a release waits for the press that would make it an auto-repeat. The platform gives
+/// both the same time, but marks them as a repeat only when it has read both by then.
+constexpr int PatienceMilliseconds = 20;
+
+struct KeyRow {
+  int Key;
+  std::int16_t Code;
+};
+
+// clang-format off
+constexpr std::array<KeyRow, 19> KeyCodes{{
+    // key               code
+    {Qt::Key_Backspace,  8},
+    {Qt::Key_Tab,        9},
+    {Qt::Key_Return,    13},
+    {Qt::Key_Enter,     13},
+    {Qt::Key_Shift,     16},
+    {Qt::Key_Control,   17},
+    {Qt::Key_Alt,       18},
+    {Qt::Key_Escape,    27},
+    {Qt::Key_Space,     32},
+    {Qt::Key_PageUp,    33},
+    {Qt::Key_PageDown,  34},
+    {Qt::Key_End,       35},
+    {Qt::Key_Home,      36},
+    {Qt::Key_Left,      37},
+    {Qt::Key_Up,        forms::KeyUpArrow},
+    {Qt::Key_Right,     39},
+    {Qt::Key_Down,      forms::KeyDownArrow},
+    {Qt::Key_Insert,    45},
+    {Qt::Key_Delete,    46},
+}};
+// clang-format on
+
+/// Letters and digits have the codes of their capitals; 0 for a key without a code.
+std::int16_t CodeOf(int key) {
+  if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z)) {
+    return static_cast<std::int16_t>(key);
+  }
+  const auto* const row = std::find_if(KeyCodes.begin(), KeyCodes.end(),
+                                       [key](const KeyRow& entry) { return entry.Key == key; });
+  return row == KeyCodes.end() ? std::int16_t{0} : row->Code;
+}
+
+bool IsArrow(int key) {
+  return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+forms::KeyEvent EventOf(const QKeyEvent& key) {
+  return {CodeOf(key.key()), KeyMask(key.modifiers())};
+}
+
+}  // namespace
+
+std::int16_t KeyMask(Qt::KeyboardModifiers modifiers) {
+  const int mask = (modifiers.testFlag(Qt::ShiftModifier) ? forms::ShiftKey : 0) |
+                   (modifiers.testFlag(Qt::ControlModifier) ? forms::CtrlKey : 0) |
+                   (modifiers.testFlag(Qt::AltModifier) ? forms::AltKey : 0);
+  return static_cast<std::int16_t>(mask);
+}
+
+KeyFeed::KeyFeed(forms::Form& form) : form_(form) {
+  patience_.setSingleShot(true);
+  patience_.setInterval(PatienceMilliseconds);
+  connect(&patience_, &QTimer::timeout, this, &KeyFeed::TellRelease);
+}
+
+void KeyFeed::Watch(QWidget& widget, forms::Control& control) {
+  controls_[&widget] = &control;
+  widget.installEventFilter(this);
+}
+
+bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      form_.Focus(controls_.at(watched));
+      return false;
+    case QEvent::KeyPress:
+      return Pressed(*watched, *static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      Released(*static_cast<QKeyEvent*>(event));
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool KeyFeed::Pressed(QObject& watched, const QKeyEvent& key) {
+  if (key.key() == Qt::Key_Escape && form_.Pointer.InFlight()) {
+    form_.Pointer.CancelDrag();
+    return true;
+  }
+  if (waiting_ && waiting_->Key == key.key() && waiting_->Time == key.timestamp()) waiting_.reset();
+  TellRelease();
+  form_.KeyPressed(EventOf(key));
+  if (!key.text().isEmpty()) form_.CharacterTyped();
+  // On a button Qt would go to its neighbour; the arrows belong to the form.
+  return IsArrow(key.key()) && qobject_cast<QPushButton*>(&watched) != nullptr;
+}
+
+void KeyFeed::Released(const QKeyEvent& key) {
+  if (key.isAutoRepeat()) return;
+  TellRelease();
+  waiting_ = Release{key.key(), key.timestamp(), EventOf(key)};
+  patience_.start();
+}
+
+void KeyFeed::TellRelease() {
+  if (!waiting_) return;
+  const forms::KeyEvent event = waiting_->Event;
+  waiting_.reset();
+  form_.KeyReleased(event);
+}
+
+}  // namespace terramark::qt

@@ -1,0 +1,50 @@
+#include "qt/labelview.h"
+
+#include <QPainter>
+
+#include "qt/cp1252.h"
+#include "qt/look.h"
+
+namespace terramark::qt {
+
+namespace {
+constexpr int DarkLightness = 64;  // of 255
+}
+
+void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) {
+  painter.fillRect(area, ScreenColour(label.BackColor));
+  QRect inside = area;
+  if (label.BorderStyle == forms::Border::FixedSingle) {
+    // On a black label a black border would not show.
+    const bool dark = ScreenColour(label.BackColor).lightness() < DarkLightness;
+    painter.setPen(dark ? Qt::gray : Qt::black);
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    inside.adjust(1, 1, -1, -1);
+  }
+  painter.setPen(ScreenColour(label.ForeColor));
+  const QString caption = FromCp1252(label.Caption);
+  if (label.Alignment == forms::Alignment::Centred) {
+    DrawCaption(painter, inside, caption, Qt::ElideRight);
+  } else {
+    painter.drawText(inside, Qt::AlignVCenter | Qt::TextSingleLine, caption);
+  }
+}
+
+LabelView::LabelView(forms::Label& label, QWidget& container)
+    : QLabel(&container), ControlView(label, *this), label_(label) {
+  setTextFormat(Qt::PlainText);
+  ShowOwn(forms::PropertyId::Caption);
+}
+
+void LabelView::ShowOwn(forms::PropertyId id) {
+  // Only assistive tools read the text from here.
+  if (id == forms::PropertyId::Caption) setText(FromCp1252(label_.Caption));
+  update();
+}
+
+void LabelView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  DrawLabel(painter, rect(), label_);
+}
+
+}  // namespace terramark::qt
