@@ -1,5 +1,7 @@
 #include "forms/borderfill.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -11,7 +13,10 @@ std::uint32_t PixelOf(Color color) {
   return 0xFF000000U | (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
 }
 
-/// A row run whose pixels are all painted; its neighbours above and below are still to be seen.
+/// What a painted pixel holds until the fill is over. The brush may have the border's colour or
+/// stand in the picture already; this stands in no picture.
+constexpr std::uint32_t Painted = 0;
+
 struct Run {
   int Left;
   int Right;
@@ -20,29 +25,23 @@ struct Run {
 
 class Filler {
  public:
-  Filler(Raster& raster, Color brush, Color border)
-      : raster_(raster),
-        brush_(PixelOf(brush)),
-        border_(PixelOf(border)),
-        painted_(raster.Pixels.size(), false) {}
+  Filler(Raster& raster, Color border) : raster_(raster), border_(PixelOf(border)) {}
 
-  void From(int x, int y) {
+  void From(int x, int y, Color brush) {
     if (x < 0 || y < 0 || x >= raster_.Width || y >= raster_.Height || !Open(x, y)) return;
     Paint(x, y);
-    while (!pending_.empty()) {
-      const Run run = pending_.back();
-      pending_.pop_back();
+    for (std::size_t next = 0; next < runs_.size(); ++next) {
+      const Run run = runs_[next];
       Spread(run, run.Y - 1);
       Spread(run, run.Y + 1);
     }
+    for (const Run& run : runs_) SetPixels(run, PixelOf(brush));
   }
 
  private:
-  // The brush may have the border's colour or stand in the picture already, so what has been
-  // painted is remembered apart from the pixels.
   bool Open(int x, int y) const {
-    const std::size_t place = raster_.At(x, y);
-    return !painted_[place] && (raster_.Pixels[place] | 0xFF000000U) != border_;
+    const std::uint32_t pixel = raster_.Pixels[raster_.At(x, y)];
+    return pixel != Painted && pixel != border_;
   }
 
   /// Paints the whole run round an open pixel; gives its right end.
@@ -51,12 +50,14 @@ class Filler {
     while (left > 0 && Open(left - 1, y)) --left;
     int right = x;
     while (right + 1 < raster_.Width && Open(right + 1, y)) ++right;
-    for (int i = left; i <= right; ++i) {
-      raster_.Pixels[raster_.At(i, y)] = brush_;
-      painted_[raster_.At(i, y)] = true;
-    }
-    pending_.push_back({left, right, y});
+    runs_.push_back({left, right, y});
+    SetPixels(runs_.back(), Painted);
     return right;
+  }
+
+  void SetPixels(const Run& run, std::uint32_t pixel) {
+    const auto row = raster_.Pixels.begin() + static_cast<std::ptrdiff_t>(raster_.At(0, run.Y));
+    std::fill(row + run.Left, row + run.Right + 1, pixel);
   }
 
   void Spread(const Run& run, int y) {
@@ -67,16 +68,15 @@ class Filler {
   }
 
   Raster& raster_;
-  const std::uint32_t brush_;
   const std::uint32_t border_;
-  std::vector<bool> painted_;
-  std::vector<Run> pending_;
+  /// Painted so far, in that order; the neighbours of the later ones are still to be seen.
+  std::vector<Run> runs_;
 };
 
 }  // namespace
 
 void BorderFill(Raster& raster, int seedX, int seedY, Color brush, Color border) {
-  Filler(raster, brush, border).From(seedX, seedY);
+  Filler(raster, border).From(seedX, seedY, brush);
 }
 
 }  // namespace terramark::forms

@@ -42,9 +42,10 @@ class ControlArray {
     if (element) return;
     T& pattern = (*this)(0);
     element = std::make_unique<T>();
-    element->CopyTemplate(pattern);
     element->Visible = false;
+    // On the form first: a caption is measured there.
     pattern.Owner()->Add(*element, *pattern.Container(), pattern.Name(), index);
+    element->CopyTemplate(pattern);
   }
 
   /// Destroys an element; one that does not exist is passed over.

@@ -27,34 +27,34 @@ void Label::CopyTemplate(const Label& from) {
   CopyCommon(from);
   BorderStyle = from.BorderStyle;
   Alignment = from.Alignment;
-  Caption = from.Caption;
   AutoSize = from.AutoSize;
+  Caption = from.Caption;
 }
 
 void TextBox::Typed(const std::string& text) {
   if (!Enabled) return;
-  // A text that an assignment made longer than the limit may be shortened bit by bit.
-  const std::size_t limit = MaxLength == 0 ? text.size() : std::max(MaxLength, Text.Get().size());
-  Text = text.substr(0, limit);
+  if (MaxLength == 0 || text.size() <= MaxLength) {
+    Text = text;
+    return;
+  }
+  // What stood there keeps its place, also when an assignment made it longer than the limit; what
+  // came in between is cut to the room there is.
+  const std::string& old = Text;
+  const std::size_t shorter = std::min(old.size(), text.size());
+  std::size_t head = 0;
+  while (head < shorter && old[head] == text[head]) ++head;
+  std::size_t tail = 0;
+  while (tail < shorter - head && old[old.size() - 1 - tail] == text[text.size() - 1 - tail]) {
+    ++tail;
+  }
+  const std::size_t room = MaxLength - std::min(MaxLength, head + tail);
+  const std::string insert = text.substr(head, text.size() - head - tail).substr(0, room);
+  Text = text.substr(0, head) + insert + text.substr(text.size() - tail);
 }
 
 void TextBox::PropertyChanged(PropertyId id) {
   Control::PropertyChanged(id);
   if (id == PropertyId::Text) Change.Raise({Index()});
-}
-
-void TextBox::CopyTemplate(const TextBox& from) {
-  CopyCommon(from);
-  MaxLength = from.MaxLength;
-  MultiLine = from.MultiLine;
-  Text = from.Text;
-  Change = from.Change;
-}
-
-void CommandButton::CopyTemplate(const CommandButton& from) {
-  CopyCommon(from);
-  Caption = from.Caption;
-  Click = from.Click;
 }
 
 void VScrollBar::Moved(int value) {
@@ -65,14 +65,6 @@ void VScrollBar::Moved(int value) {
 void VScrollBar::PropertyChanged(PropertyId id) {
   Control::PropertyChanged(id);
   if (id == PropertyId::Value) Change.Raise({Index()});
-}
-
-void VScrollBar::CopyTemplate(const VScrollBar& from) {
-  CopyCommon(from);
-  Min = from.Min;
-  Max = from.Max;
-  Value = from.Value;
-  Change = from.Change;
 }
 
 }  // namespace terramark::forms

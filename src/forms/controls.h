@@ -22,6 +22,7 @@ class Label : public Control {
   bool AutoSize = false;
 
   void PropertyChanged(PropertyId id) override;
+  /// Takes over what element 0 of a control array has.
   void CopyTemplate(const Label& from);
 
  private:
@@ -44,7 +45,6 @@ class TextBox : public Control {
   void Typed(const std::string& text);
 
   void PropertyChanged(PropertyId id) override;
-  void CopyTemplate(const TextBox& from);
 };
 
 class CommandButton : public Control {
@@ -53,8 +53,6 @@ class CommandButton : public Control {
 
   Property<std::string> Caption{*this, PropertyId::Caption};
   Slot<PlainEvent> Click;
-
-  void CopyTemplate(const CommandButton& from);
 };
 
 class Frame : public Control {
@@ -80,7 +78,6 @@ class VScrollBar : public Control {
   void Moved(int value);
 
   void PropertyChanged(PropertyId id) override;
-  void CopyTemplate(const VScrollBar& from);
 };
 
 }  // namespace terramark::forms

@@ -11,7 +11,7 @@ namespace terramark {
 namespace {
 
 constexpr char AboutSentence[] =
-    "Terramark 1, by the Terramark developers; reach us through the README. Good maps win!";
+    "Terramark 1 by the Terramark developers, see README: good maps win games";
 
 // In tab order; places and sizes in twips.
 // clang-format off

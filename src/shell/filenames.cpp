@@ -26,8 +26,8 @@ void SelectAFile(Form1& form, const std::string& filt, std::string& s) {
 std::int16_t FileExists(Form1& form, const std::string& path) {
   const std::filesystem::path native = form.Host.NativePath(path);
   std::error_code ignored;
-  // A folder opens like a file here but holds nothing to read.
-  if (std::filesystem::is_directory(native, ignored)) return 0;
+  // A folder opens like a file here but holds nothing to read, and a pipe may never open.
+  if (!std::filesystem::is_regular_file(native, ignored)) return 0;
   return std::ifstream(native).is_open() ? 1 : 0;
 }
 

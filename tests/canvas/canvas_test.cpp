@@ -38,10 +38,9 @@ TEST_F(MarkerTest, ADropOnAnotherMarkerOrControlMovesNothing) {
   const float top = Form.ArmyAt(1).Top;
   Form.Continent(1).Move(300, 200);
   const forms::PixelPoint from = Middle(Form.ArmyAt(1));
-  for (const forms::Control* target :
-       {static_cast<forms::Control*>(&Form.ArmyAt(2)),
-        static_cast<forms::Control*>(&Form.Continent(1)),
-        static_cast<forms::Control*>(&Form.SetCont), static_cast<forms::Control*>(&Form.Frame1)}) {
+  const forms::Control* targets[] = {&Form.ArmyAt(2), &Form.Continent(1), &Form.SetCont,
+                                     &Form.Frame1};
+  for (const forms::Control* target : targets) {
     Press(from);
     Release(Middle(*target));
     ExpectPlace(Form.ArmyAt(1), left, top);

@@ -144,6 +144,10 @@ TEST_F(ClearLinksTest, NeedsAMarkAndSomethingToClear) {
   Click(Form.ClearLink);
   EXPECT_EQ(Message(), "Nothing to clear");
   EXPECT_EQ(Form.AreaRegion(2), 1) << "without neighbours it keeps its Region";
+  Link(1, 2);
+  ShiftClick(Form.ArmyAt(1));
+  Click(Form.ClearLink);
+  EXPECT_EQ(Message(), "Nothing to clear") << "the current look is gone";
 }
 
 class SwapTest : public LinkingTest {};

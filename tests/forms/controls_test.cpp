@@ -46,9 +46,13 @@ TEST_F(ControlsTest, LimitsHoldTheUserAndNotTheProgram) {
   Box.Text = "a longer name";
   Box.Typed("a longer nam");
   EXPECT_EQ(Box.Text.Get(), "a longer nam") << "a long text may be shortened bit by bit";
+  Box.Typed("pasted over all of it");
+  EXPECT_EQ(Box.Text.Get(), "past");
+  Box.Typed("paXst");
+  EXPECT_EQ(Box.Text.Get(), "past") << "and what stands there keeps its place";
   Box.Enabled = false;
   Box.Typed("x");
-  EXPECT_EQ(Box.Text.Get(), "a longer nam");
+  EXPECT_EQ(Box.Text.Get(), "past");
   Bar.Max = 256;
   Bar.Moved(300);
   EXPECT_EQ(Bar.Value.Get(), 256);

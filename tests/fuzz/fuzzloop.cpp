@@ -48,30 +48,18 @@ class Mutator {
         "\"", ",", "\r\n", "\n", " ", "-1", "99", "100", "32768", ".5", "0000", "\xFF\x7F"};
     const std::size_t at = Below(bytes.size() + 1);
     const std::size_t length = Below(std::min<std::size_t>(bytes.size() - at, 64) + 1);
+    const std::string& other = AnySeed();
+    // clang-format off
     switch (Below(7)) {
-      case 0:
-        if (at < bytes.size()) bytes[at] = static_cast<char>(bytes[at] ^ (1 << Below(8)));
-        break;
-      case 1:
-        if (at < bytes.size()) bytes[at] = static_cast<char>(Below(256));
-        break;
-      case 2:
-        bytes.erase(at, length);
-        break;
-      case 3:
-        bytes.insert(Below(bytes.size() + 1), bytes.substr(at, length));
-        break;
-      case 4:
-        bytes.replace(at, std::min<std::size_t>(length, 2), Pieces.at(Below(Pieces.size())));
-        break;
-      case 5: {
-        const std::string& other = AnySeed();
-        bytes.replace(at, length, other, std::min(at, other.size()), length);
-        break;
-      }
-      default:
-        if (Below(8) == 0) bytes.resize(at);
+      case 0: if (at < bytes.size()) bytes[at] = static_cast<char>(bytes[at] ^ (1 << Below(8))); break;
+      case 1: if (at < bytes.size()) bytes[at] = static_cast<char>(Below(256)); break;
+      case 2: bytes.erase(at, length); break;
+      case 3: bytes.insert(Below(bytes.size() + 1), bytes.substr(at, length)); break;
+      case 4: bytes.replace(at, std::min<std::size_t>(length, 2), Pieces.at(Below(Pieces.size()))); break;
+      case 5: bytes.replace(at, length, other, std::min(at, other.size()), length); break;
+      default: if (Below(8) == 0) bytes.resize(at);
     }
+    // clang-format on
   }
 
   const std::string& AnySeed() { return seeds_[Below(seeds_.size())]; }

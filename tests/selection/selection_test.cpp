@@ -1,4 +1,3 @@
-#include "selection/selection.h"
 
 #include "support/editortest.h"
 
@@ -13,63 +12,51 @@ class SelectionTest : public EditorTest {
 TEST_F(SelectionTest, AClickMakesAnAreaCurrentAndMarksItsNeighbours) {
   Form.AreaSymbol(3) = "2";
   Click(Form.ArmyAt(3));
-  EXPECT_EQ(Form.CurArea, 3);
-  EXPECT_EQ(Form.MarkCount, 3);
-  EXPECT_EQ(Look(3), ClrWhite);
-  EXPECT_EQ(Look(2), ClrGrey);
-  EXPECT_EQ(Look(5), ClrBlack);
+  EXPECT_EQ(Selected(), "A3 R0 3 .o*o.. ..");
+  EXPECT_EQ(Inspector(), "Area 3/H/-");
   EXPECT_EQ(Message(), "Area Area 3, Region = Region 1, neighbours = 2, card symbol = HORSE");
-  EXPECT_EQ(Form.EditText.Text.Get(), "Area 3");
   EXPECT_EQ(Form.EditText.ForeColor, ClrWhite);
-  EXPECT_EQ(Form.Symb.Text.Get(), "H");
-  EXPECT_TRUE(Form.Symb.Enabled && !Form.Armypc.Enabled);
   EXPECT_EQ(Form.ActiveControl(), &Form.EditText);
-}
-
-TEST_F(SelectionTest, AnAreaWithoutSymbolRegionOrLinksSaysSo) {
   ClickMap(400, 200, forms::CtrlKey);
   for (const char* symbol : {"9", " ", ""}) {
     Form.AreaSymbol(7) = symbol;
     Click(Form.ArmyAt(7));
     EXPECT_EQ(Message(), "Area Area 7, Region = *UNKNOWN*, neighbours = 0, card symbol = ");
-    EXPECT_EQ(Form.Symb.Text.Get(), "");
+    EXPECT_EQ(Inspector(), "Area 7//-");
   }
-  EXPECT_EQ(Form.MarkCount, 1);
+  EXPECT_EQ(Selected(), "A7 R0 1 ......* ..");
 }
 
 TEST_F(SelectionTest, AClickMakesARegionCurrentAndMarksItsAreas) {
   Form.Continent(2).Tag = "255";
   Form.RegionArmies(2) = 12;
   Click(Form.Continent(2));
-  EXPECT_EQ(Form.CurRegion, 2);
-  EXPECT_EQ(Form.MarkCount, 1) << "the marks on its Areas are not counted";
-  EXPECT_EQ(Form.Continent(2).BackColor, ClrWhite);
-  EXPECT_EQ(Look(4), ClrGrey);
+  EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*") << "the marks on its Areas are not counted";
+  EXPECT_EQ(Inspector(), "Region 2/-/12");
   EXPECT_EQ(Message(), "Region Region 2, Areas = 3, armies = 12");
   EXPECT_EQ(Form.EditText.ForeColor, 255U);
   EXPECT_EQ(Form.PlColor(4).BackColor, 255U);
-  EXPECT_TRUE(Form.PlColor(4).Enabled && Form.Armypc.Enabled && !Form.Symb.Enabled);
+  EXPECT_TRUE(Form.PlColor(4).Enabled);
 }
 
 TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
+  Form.ArmyAt(1).Tag = " 8421631";
   ShiftClick(Form.ArmyAt(1));
   ShiftClick(Form.ArmyAt(2));
-  EXPECT_EQ(Form.MarkCount, 2) << "nothing need be current";
-  ShiftClick(Form.ArmyAt(1));
-  EXPECT_EQ(Form.MarkCount, 1);
-  EXPECT_EQ(Look(1), ClrBlack);
+  EXPECT_EQ(Selected(), "A0 R0 2 oo.... ..") << "nothing need be current";
+  EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff marked");
+  Press(Middle(Form.ArmyAt(1)), forms::ShiftKey);
+  Release(Middle(Form.ArmyAt(1)), forms::ShiftKey | forms::CtrlKey);
+  EXPECT_EQ(Selected(), "A0 R0 1 .o.... ..");
+  EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff plain");
   Click(Form.Continent(1));
   ShiftClick(Form.ArmyAt(1));
   ShiftClick(Form.ArmyAt(2));
-  EXPECT_EQ(Form.MarkCount, -1) << "and may fall below 0";
-  EXPECT_EQ(Form.CurRegion, 1);
-}
-
-TEST_F(SelectionTest, AShiftClickTakesTheColourTargetAway) {
+  EXPECT_EQ(Selected(), "A0 R1 -1 ..o... *.") << "the count may fall below 0";
   Click(Form.PlColor(1));
   ASSERT_TRUE(Form.RGBFrame.Enabled);
   ShiftClick(Form.ArmyAt(1));
-  EXPECT_FALSE(Form.RGBFrame.Enabled);
+  EXPECT_FALSE(Form.RGBFrame.Enabled) << "a flipped mark takes the colour target away";
   EXPECT_EQ(Form.RGBFrame.Tag.Get(), "-1");
 }
 
@@ -77,19 +64,19 @@ TEST_F(SelectionTest, ANeighbourWithoutMarkerIsCountedAndNotMarked) {
   Form.AreaLinks(1) = "03000299";
   Click(Form.ArmyAt(1));
   EXPECT_NE(Message().find("neighbours = 3,"), std::string::npos);
-  EXPECT_EQ(Form.MarkCount, 2);
+  EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
   EXPECT_EQ(Form.ArmyAt(0).BackColor, ClrBlack) << "the template is never marked";
 }
 
 TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
   Click(Form.ArmyAt(6));
   Key(forms::KeyUpArrow);
-  EXPECT_EQ(Form.CurArea, 1);
+  EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
   Key(forms::KeyDownArrow);
   EXPECT_EQ(Form.CurArea, 6);
   Click(Form.Continent(1));
   Key(forms::KeyDownArrow);
-  EXPECT_EQ(Form.CurRegion, 2);
+  EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*");
   Key(37);
   EXPECT_EQ(Form.CurRegion, 2);
 }
@@ -99,13 +86,12 @@ TEST_F(SelectionTest, ArrowKeysNeedAMarkAndAMarker) {
   Click(Form.ArmyAt(7));
   ShiftClick(Form.ArmyAt(7));
   Key(forms::KeyUpArrow);
-  EXPECT_EQ(Form.CurArea, 7) << "the only mark is gone";
-  EXPECT_EQ(Look(1), ClrBlack);
+  EXPECT_EQ(Selected(), "A7 R0 0 ....... ..") << "the only mark is gone";
   Click(Form.ArmyAt(7));
   Screen.Answers.push_back(forms::Answer::Yes);
   Click(Form.DelControl);
   Key(forms::KeyUpArrow);
-  EXPECT_EQ(Form.CurArea, 7) << "its marker is gone";
+  EXPECT_EQ(Selected(), "A7 R0 1 ...... ..") << "its marker is gone";
 }
 
 class InspectorTest : public SelectionTest {};
@@ -171,6 +157,13 @@ TEST_F(InspectorTest, TheLastArmiesStayOnShowWithoutARegionAndWriteNothing) {
   EXPECT_EQ(Form.Armypc.Text.Get(), "4") << "what stood before the last key";
   EXPECT_EQ(Form.RegionArmies(2), 42);
   EXPECT_EQ(Form.RegionArmies(1), 5);
+  Form.KeyPressed({46, 0});
+  Form.Armypc.Enabled = true;
+  Form.Armypc.Typed("");
+  EXPECT_EQ(Form.Armypc.Text.Get(), "4") << "a key without a character counts too";
+  Form.RegionArmies(1) = 0;
+  Click(Form.Continent(1));
+  EXPECT_EQ(Form.RegionArmies(1), 4) << "no armies from a layout give way as well";
 }
 
 TEST_F(InspectorTest, EditsOfSomethingGoneDoNothing) {

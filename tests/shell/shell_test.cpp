@@ -21,13 +21,25 @@ TEST_F(ShellTest, ComesUpWithTheDefaultsOfTheEditor) {
   EXPECT_EQ(Form.RegionName(0), "*UNKNOWN*");
   EXPECT_EQ(Form.Countx(0).Caption.Get(), "") << "an empty label already reads as 0";
   EXPECT_EQ(Form.Helpbar.Caption.Get(), "Label2");
+  EXPECT_EQ(Form.Message.ForeColor, ClrBlack);
+  ShowMessage(Form, "fault", ClrRed);
+  EXPECT_EQ(Form.Message.ForeColor, ClrWhite);
+  ShowMessage(Form, "result", ClrGreen);
+  EXPECT_EQ(Form.Message.ForeColor, ClrBlack);
+  Screen.Twips = 12.4F;
+  Form_Load(Form);
+  EXPECT_EQ(Form.TwipsY, 12) << "the screen's own, in whole numbers";
 }
 
 TEST_F(ShellTest, ClearMapEmptiesTheDocumentAndNothingElse) {
   MakeChain();
   Form.Text1.Text = "header";
   Click(Form.Continent(2));
+  Click(Form.PlColor(1));
   ClearMap(Form);
+  EXPECT_EQ(Message(), "");
+  EXPECT_FALSE(Form.RGBFrame.Enabled);
+  EXPECT_EQ(Form.AreaSymbol(1) + Form.RegionName(1), "*UNKNOWN*");
   EXPECT_EQ(Form.AreaCount + Form.RegionCount + Form.MarkCount, 0);
   EXPECT_EQ(Form.ArmyAt.Find(1), nullptr);
   EXPECT_EQ(Form.Continent.Find(1), nullptr);

@@ -121,6 +121,26 @@ class EditorTest : public testing::Test {
     for (std::int16_t i = 2; i <= areas; ++i) all += "|" + Form.AreaLinks(i);
     return all;
   }
+  /// What is selected: "A3 R0 3 .o*o.. ..", the current numbers, the count of marks, and a look for
+  /// each Area and each Region: "." plain, "*" current, "o" marked.
+  std::string Selected() const {
+    std::string all = "A" + std::to_string(Form.CurArea) + " R" + std::to_string(Form.CurRegion) +
+                      " " + std::to_string(Form.MarkCount) + " ";
+    const auto look = [&](const forms::Label& marker) {
+      all += marker.BackColor == ClrBlack ? '.' : marker.BackColor == ClrWhite ? '*' : 'o';
+    };
+    for (std::int16_t i = 1; i <= Form.AreaCount; ++i) look(Form.ArmyAt(i));
+    all += ' ';
+    for (std::int16_t r = 1; r <= Form.RegionCount; ++r) look(Form.Continent(r));
+    return all;
+  }
+  /// The inspector: "North/-/12", name, card symbol and armies, a "-" for an empty disabled box.
+  std::string Inspector() const {
+    const auto box = [](const forms::TextBox& of) {
+      return of.Text.Get().empty() && !of.Enabled ? std::string("-") : of.Text.Get();
+    };
+    return box(Form.EditText) + "/" + box(Form.Symb) + "/" + box(Form.Armypc);
+  }
   /// All there is of an Area: "Area 3 [020204] 2 R1 +3 at 100,24 ffffff plain".
   std::string Area(std::int16_t i) const {
     return Form.AreaName(i) + " [" + Form.AreaLinks(i) + "] " + Form.AreaSymbol(i) + " R" +

@@ -49,7 +49,8 @@ const RuleCase RuleCases[] = {
     {11, "Area# 5 : A5 has no Region", [](Tables& t) { Regions(t, {5}, 0); Links(t, {{1, " "}}); }},
     {3,  "Area# 2 : A2 has no neighbour", [](Tables& t) { Links(t, {{2, "  "}, {3, ""}}); Regions(t, {5, 6}, 1); }},
     {3,  "Area# 3 : A3 has no neighbour", [](Tables& t) { Links(t, {{3, ""}}); }},
-    {4,  "Region# 2 : South has <2 Areas", [](Tables& t) { Regions(t, {4, 5}, 1); Links(t, {{3, "0102"}}); }},
+    {4,  "Region# 2 : South has <2 Areas", [](Tables& t) { Regions(t, {4, 5}, 1); Links(t, {{5, "0104"}}); }},
+    {5,  "Region# 1 : North is not linked to another Region", [](Tables& t) { Links(t, {{1, "00"}, {2, "00"}, {3, "00"}}); }},
     {5,  "Region# 1 : North is not linked to another Region", [](Tables& t) { Links(t, {{3, "0102"}, {4, "0105"}}); }},
     {5,  "Region# 2 : South is not linked to another Region", [](Tables& t) { Links(t, {{4, "0105"}}); }},
     {6,  "None of the Areas in Region# 2 : South are linked", [](Tables& t) { Links(t, {{4, "0103"}, {5, "0103"}, {6, "0103"}}); }},
@@ -110,6 +111,11 @@ TEST_F(ValidateMapTest, AGoodMapIsFloodedFromEachFillPointUpToTheBlack) {
     int Corner;
   } corners[] = {{441, 0}, {409, 1}, {441, 2}, {409, 3}};
   for (std::int16_t i = 1; i <= 6; ++i) Form.ArmyAt(i).Move(-100, 0);
+  Form.ArmyAt(1).Move(408.4F, 100);
+  Form.AreaCorner(1) = 7;
+  Click(Form.RefMap);
+  Click(Form.Cvalid);
+  EXPECT_EQ(Pixel(3, 3), Red) << "a code that names no corner adds neither side";
   for (const auto& c : corners) {
     Form.ArmyAt(1).Move(c.Left, 100);
     Form.AreaCorner(1) = static_cast<std::int16_t>(c.Corner);
