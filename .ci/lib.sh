@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # What ./run and ./test share: packages and building. Sourced from the top folder.
 
 tool=$(basename "$0")
@@ -42,7 +43,7 @@ build() {
   local folder=build/$1
   # A folder that another tree or an older preset left behind is configured anew.
   if ! [ "$folder/build.ninja" -nt CMakePresets.json ] ||
-    ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$folder/CMakeCache.txt"; then
+    ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$folder/CMakeCache.txt"; then
     cmake --fresh --preset "$1" || say_and_stop "cannot configure $folder, see above"
   fi
   cmake --build "$folder" ${2:+--target "$2"} || say_and_stop "cannot build $folder, see above"

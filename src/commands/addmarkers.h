@@ -8,7 +8,8 @@ namespace terramark {
 struct Form1;
 
 /// The button "Add Area", and a press on the backdrop with Ctrl: the next number, its marker and
-/// its defaults. With Shift 2 the marker stands at X, Y as they come, else on the marker before it.
+/// its defaults. With Ctrl alone the marker stands at X, Y, taken as pixels of the picture as they
+/// come, else on the marker before it.
 /// Adds nothing from 96 Areas on.
 void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event);
 

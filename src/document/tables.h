@@ -32,7 +32,7 @@ class Table {
   std::array<T, TableSize> elements_{};
 };
 
-/// Red, green, blue, each 0 to 256.
+/// Red, green, blue, each 0 to 256; a layout can bring others.
 using Components = std::array<std::int16_t, 3>;
 
 struct Tables {
@@ -47,7 +47,8 @@ struct Tables {
   Table<std::string> AreaSymbol;
   /// 0 for an Area in no Region.
   Table<std::int16_t> AreaRegion;
-  /// The marker's corner that is the fill point: bit 1 the right edge, bit 2 the bottom edge.
+  /// The marker's corner that is the fill point, 0 to 3: 1 for the right edge plus 2 for the bottom
+  /// edge. Other codes from a layout name no corner.
   Table<std::int16_t> AreaCorner;
 
   Table<std::string> RegionName;

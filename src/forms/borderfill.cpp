@@ -9,10 +9,6 @@ namespace terramark::forms {
 
 namespace {
 
-std::uint32_t PixelOf(Color color) {
-  return 0xFF000000U | (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
-}
-
 /// What a painted pixel holds until the fill is over. The brush may have the border's colour or
 /// stand in the picture already; this stands in no picture.
 constexpr std::uint32_t Painted = 0;
@@ -30,8 +26,9 @@ class Filler {
   void From(int x, int y, Color brush) {
     if (x < 0 || y < 0 || x >= raster_.Width || y >= raster_.Height || !Open(x, y)) return;
     Paint(x, y);
-    for (std::size_t next = 0; next < runs_.size(); ++next) {
-      const Run run = runs_[next];
+    // The list grows while it is walked.
+    for (std::size_t next = 0; next < runs_.size();) {
+      const Run run = runs_[next++];
       Spread(run, run.Y - 1);
       Spread(run, run.Y + 1);
     }

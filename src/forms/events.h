@@ -61,7 +61,6 @@ class Slot {
   void Raise(const Event& event) const {
     if (handler_) handler_(event);
   }
-  explicit operator bool() const { return static_cast<bool>(handler_); }
 
  private:
   std::function<void(const Event&)> handler_;

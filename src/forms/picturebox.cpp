@@ -10,10 +10,6 @@
 
 namespace terramark::forms {
 
-namespace {
-constexpr std::uint32_t WhitePixel = 0xFFFFFFFF;
-}
-
 int PictureBox::BoxWidth() const {
   return PixelBounds(*this).Width;
 }
@@ -69,7 +65,7 @@ void PictureBox::RebuildImage() {
     image_.Pixels = picture.Pixels;
     return;
   }
-  image_.Pixels.assign(image_.At(0, image_.Height), WhitePixel);
+  image_.Pixels.assign(image_.At(0, image_.Height), PixelOf(BackColor));
   for (int y = 0; y < picture.Height; ++y) {
     const auto row = picture.Pixels.begin() + static_cast<std::ptrdiff_t>(picture.At(0, y));
     std::copy(row, row + picture.Width,

@@ -25,8 +25,8 @@ enum class Disabled { Stops, LetsThrough };
 Control* TopmostIn(Control& container, int x, int y, Disabled disabled) {
   const PixelPoint origin = InnerOrigin(container);
   const auto& stack = container.Children();
-  for (auto place = stack.rbegin(); place != stack.rend(); ++place) {
-    Control* child = *place;
+  for (std::size_t left = stack.size(); left > 0; --left) {
+    Control* child = stack[left - 1];
     if (!child->Visible) continue;
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);

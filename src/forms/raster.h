@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include "forms/color.h"
+
 namespace terramark::forms {
 
 /// Rows from top to bottom, without padding; a pixel is 0xFFRRGGBB. Width and Height are pixels and
@@ -20,6 +22,12 @@ struct Raster {
            static_cast<std::size_t>(x);
   }
 };
+
+/// The pixel of a colour value; a colour of the theme that a picture cannot know is white.
+inline std::uint32_t PixelOf(Color color) {
+  if ((color & 0x80000000U) != 0) return 0xFFFFFFFF;
+  return 0xFF000000U | (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
+}
 
 /// A loaded picture, shared and never written to; null stands for a picture that cannot be read.
 using Picture = std::shared_ptr<const Raster>;

@@ -86,6 +86,8 @@ SafeFile::~SafeFile() {
 
 bool SafeFile::Open() {
   std::error_code fault;
+  // Links that lead to one another name no file.
+  if (fs::is_symlink(target_, fault)) return false;
   const fs::file_status status = fs::status(target_, fault);
   targetExists_ = fs::exists(status);
   if (targetExists_ && !(fs::is_regular_file(status) && MayWrite(target_))) {

@@ -23,7 +23,8 @@ class SafeFile {
   /// temporary file.
   bool Open();
 
-  /// Makes the text the target's content, once, after Open; false leaves the target as it was.
+  /// Makes the text the target's content, once, after Open; false leaves the target as it was, but
+  /// for a disk that fails in the middle of writing in place.
   bool Replace(std::string_view text);
 
  private:

@@ -9,7 +9,8 @@ namespace terramark::qt {
 
 void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
   dialog.FileName = ToCp1252(path);
-  dialog.FileNameFits = FitsCp1252(path);
+  // A line end in a name would end the line of the layout that holds it.
+  dialog.FileNameFits = FitsCp1252(path) && !path.contains('\n') && !path.contains('\r');
 }
 
 void ShowFileDialog(forms::CommonDialog& dialog, QWidget* parent) {

@@ -61,6 +61,7 @@ QPoint PointerFeed::In(const QMouseEvent& event) const {
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
+  if (CodeOf(event.button()) == 0) return;
   ReleaseLost(event);
   const QPoint at = In(event);
   if (down_ == Qt::NoButton && widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
@@ -77,6 +78,7 @@ void PointerFeed::Move(const QMouseEvent& event) {
 }
 
 void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  if (CodeOf(button) == 0) return;
   down_.setFlag(button, false);
   if (held_) held_->setDown(false);
   if (down_ == Qt::NoButton) held_.clear();

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int SideMargin = 2;
 
-/// The text that came in by an edit and stands between the given ends of the old text.
+/// What came in by an edit, as the box may hold it.
 QString CleanedInsert(QString insert) {
   insert.replace("\r\n", " ");
   for (QChar& character : insert) {

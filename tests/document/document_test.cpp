@@ -2,8 +2,6 @@
 
 #include <vector>
 
-#include "document/cardsymbol.h"
-#include "document/corner.h"
 #include "document/links.h"
 #include "document/numbers.h"
 
@@ -62,25 +60,6 @@ TEST(Links, AreReadByTheirCountAndAtTheirPlaces) {
   tables.AreaLinks(4) = "020512";
   EXPECT_EQ(IsNeighbour(tables, 4, 12), 1);
   EXPECT_EQ(IsNeighbour(tables, 4, 51), 0) << "pairs are no substrings";
-}
-
-TEST(Markers, ShowTheirCornerAndTurnClockwise) {
-  EXPECT_EQ(MarkerCaption(12, 0), "^12");
-  EXPECT_EQ(MarkerCaption(12, 1), " 12^");
-  EXPECT_EQ(MarkerCaption(12, 2), "+12");
-  EXPECT_EQ(MarkerCaption(7, 3), " 7+");
-  EXPECT_EQ(MarkerCaption(7, 4), " 7");
-  std::vector<std::int16_t> walk{2};
-  for (int i = 0; i < 4; ++i) walk.push_back(NextCorner(walk.back()));
-  EXPECT_EQ(walk, (std::vector<std::int16_t>{2, 0, 1, 3, 2}));
-  EXPECT_EQ(NextCorner(17), 3);
-}
-
-TEST(CardSymbols, GoByTheFirstCharacter) {
-  EXPECT_STREQ(SymbolOfCode("2junk")->Word, "HORSE");
-  EXPECT_EQ(SymbolOfCode("9"), nullptr);
-  EXPECT_EQ(SymbolLetter("3") + SymbolLetter("9") + SymbolLetter(""), "S");
-  EXPECT_EQ(SymbolOfLetter('g'), nullptr);
 }
 
 }  // namespace

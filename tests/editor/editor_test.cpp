@@ -31,6 +31,8 @@ TEST_F(EditorTablesTest, ShiftOpensTheTopicOfAControlAndRunsNoCommand) {
   EXPECT_EQ(Form.AreaCount, 2);
   EXPECT_TRUE(Screen.Boxes.empty());
   EXPECT_TRUE(Form.RGBFrame.Enabled) << "a colour button opens help and is pressed as well";
+  ShiftClick(Form.DBPush1);
+  EXPECT_EQ(Screen.ModalForms, 1) << "the about box opens with Shift too";
   Click(Form.TMHelp);
   Click(Form.AddTer, forms::ShiftKey | forms::CtrlKey);
   EXPECT_EQ(Form.AreaCount, 3) << "only Shift alone is help";

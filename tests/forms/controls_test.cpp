@@ -82,25 +82,5 @@ TEST_F(ControlsTest, AnElementIsAnInvisibleCopyOfTheTemplate) {
   EXPECT_EQ(Window.Controls().size(), 3U);
 }
 
-TEST_F(ControlsTest, AutoSizeFollowsTheCaptionInTheContainersUnit) {
-  Labels(0).AutoSize = true;
-  Labels(0).BorderStyle = Border::FixedSingle;
-  Labels(0).Caption = "four";
-  EXPECT_EQ(Labels(0).Width, (4 * 7 + 2) * 15.0F);
-  EXPECT_EQ(Labels(0).Height, 16 * 15.0F);
-}
-
-TEST_F(ControlsTest, TheFormSeesKeysBeforeTheFocusedControl) {
-  std::string order;
-  Window.KeyUp = [&](const KeyEvent&) { order += "form "; };
-  Box.KeyUp = [&](const KeyEvent&) { order += "box "; };
-  Box.SetFocus();
-  Window.KeyReleased({KeyUpArrow, 0});
-  EXPECT_EQ(order, "box ");
-  Window.KeyPreview = true;
-  Window.KeyReleased({KeyUpArrow, 0});
-  EXPECT_EQ(order, "box form box ");
-}
-
 }  // namespace
 }  // namespace terramark::forms

@@ -60,15 +60,6 @@ class PointerTest : public testing::Test {
   std::string Log;
 };
 
-TEST_F(PointerTest, TheFrontmostVisibleControlIsReached) {
-  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Over);
-  Under.ZOrder(StackEnd::Front);
-  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Under);
-  Under.Visible = false;
-  EXPECT_EQ(&Window.Pointer.Under(52, 37), &Over);
-  EXPECT_EQ(&Window.Pointer.Under(210, 110), &Window);
-}
-
 TEST_F(PointerTest, ADisabledControlLetsThePressThrough) {
   Over.Enabled = false;
   EXPECT_EQ(&Window.Pointer.Under(62, 42), &Box);

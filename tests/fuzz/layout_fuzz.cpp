@@ -20,16 +20,6 @@
 namespace terramark {
 namespace {
 
-/// Every picture is there.
-class FuzzDesktop : public ScriptedDesktop {
- public:
-  forms::Picture LoadPicture(const std::string&, int, int) override { return picture_; }
-  std::filesystem::path NativePath(const std::string&) override { return "/dev/null"; }
-
- private:
-  const forms::Picture picture_ = BlankPicture(4, 3);
-};
-
 void Check(bool holds, const char* what) {
   if (holds) return;
   std::fprintf(stderr, "broken: %s\n", what);
@@ -80,7 +70,7 @@ bool ComesBack(const Tables& map) {
   return whole && JudgeMap(map).Status == 0;
 }
 
-void TryOne(Form1& form, std::string_view bytes) {
+void TryOne(Form1& form, const ScriptedDesktop& desktop, std::string_view bytes) {
   const bool read = Read(form, bytes);
   CheckMarkers(form.ArmyAt, form.AreaCount);
   CheckMarkers(form.Continent, form.RegionCount);
@@ -88,6 +78,7 @@ void TryOne(Form1& form, std::string_view bytes) {
     Check(form.AreaRegion(i) >= 0 && form.AreaRegion(i) <= form.RegionCount, "a Region in use");
   }
   if (!read) return;
+  Check(desktop.Boxes.empty(), "a picture that is there");
   const std::string first = Write(form);
   if (!ComesBack(form)) return;
   Check(Read(form, first), "a good map that can be read again");
@@ -100,11 +91,11 @@ void TryOne(Form1& form, std::string_view bytes) {
 }  // namespace terramark
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static terramark::FuzzDesktop desktop;
+  static terramark::StockedDesktop desktop;
   static terramark::Form1 form(desktop);
   static const bool loaded = (terramark::Form_Load(form), true);
   static_cast<void>(loaded);
-  terramark::TryOne(form, {reinterpret_cast<const char*>(data), size});
+  terramark::TryOne(form, desktop, {reinterpret_cast<const char*>(data), size});
   desktop.Boxes.clear();
   desktop.Seeds.clear();
   return 0;

@@ -33,7 +33,10 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
     AddPicture(TinyPicture);
     Form_Load(Form);
   }
-  ~LayoutFolder() override { std::filesystem::remove_all(Folder); }
+  ~LayoutFolder() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(Folder, ignored);
+  }
 
   std::filesystem::path NativePath(const std::string& path) override { return Folder / path; }
 

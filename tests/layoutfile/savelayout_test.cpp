@@ -79,6 +79,8 @@ TEST_F(SaveLayout, WhatCannotBeWrittenLeavesAllAsItWas) {
   fs::create_directory(Folder / "folder");
   fs::create_symlink("ring", Folder / "ring");
   const auto files = Files();
+  EXPECT_FALSE(Replace("ring", "text"));
+  EXPECT_TRUE(fs::is_symlink(Folder / "ring"));
   LimitFiles(100);
   for (const std::string name : {"folder", "nowhere/new.tml", "ring", "new.tml", "map.tml"}) {
     EXPECT_EQ(Saved(name), name == "map.tml" ? Tiny : "");
@@ -124,6 +126,7 @@ TEST_F(SaveLayout, AClosedFolderIsWrittenInPlaceAndAClosedFileNotAtAll) {
     LimitFiles(RLIM_INFINITY);
   }
   EXPECT_EQ(BytesOf(Folder / "open.tml"), "new");
+  chmod(Folder.c_str(), 0777);
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "shell/aboutform.h"
 #include "shell/bars.h"
 #include "shell/clearmap.h"
 #include "shell/filenames.h"
@@ -62,23 +61,6 @@ TEST_F(ShellTest, ExitAsksAndClosingDoesNot) {
   EXPECT_THROW(Click(Form.Quit), Ended);
   EXPECT_THROW(Form_Unload(Form), Ended);
   EXPECT_EQ(Screen.Boxes.size(), 2U);
-}
-
-TEST_F(ShellTest, TheAboutBoxOpensAlsoWithShiftAndClosesByItsButton) {
-  int shown = 0;
-  Watcher seen;
-  Screen.WhileModal = [&](forms::Form& about) {
-    ++shown;
-    about.Observe(&seen);
-    const forms::PixelPoint ok = Middle(static_cast<AboutForm&>(about).AboutOk);
-    about.Pointer.Press(ok.X, ok.Y, forms::LeftButton, 0);
-    about.Pointer.Release(ok.X, ok.Y, forms::LeftButton, 0);
-  };
-  Click(Form.DBPush1);
-  ShiftClick(Form.DBPush1);
-  EXPECT_EQ(shown, 2);
-  EXPECT_TRUE(seen.WasUnloaded);
-  EXPECT_TRUE(Screen.Topics.empty());
 }
 
 TEST_F(ShellTest, AFileNameIsTakenUnchangedOrNotAtAll) {

@@ -31,7 +31,6 @@ struct Watcher : forms::FormObserver {
   int Changes = 0;
   int Added = 0;
   int Removed = 0;
-  bool WasUnloaded = false;
 
   void ControlAdded(forms::Control&) override { ++Added; }
   void ControlRemoved(forms::Control&) override { ++Removed; }
@@ -40,7 +39,7 @@ struct Watcher : forms::FormObserver {
   void FocusMoved(forms::Control&) override {}
   void Refreshed(forms::Control&) override {}
   void DragMoved() override {}
-  void Unloaded() override { WasUnloaded = true; }
+  void Unloaded() override {}
 };
 
 class ScriptedDesktop : public forms::Desktop {
@@ -53,8 +52,7 @@ class ScriptedDesktop : public forms::Desktop {
   /// Next random numbers; none left gives 0.
   std::deque<float> Draws;
   std::map<std::string, forms::Picture> Pictures;
-  /// Done to a modal form while it is up.
-  std::function<void(forms::Form&)> WhileModal;
+  int ModalForms = 0;
   forms::DateTime Clock{1999, 3, 14, 21, 5, 7};
   float SecondsOfDay = 75907;
   float Twips = 15;
@@ -76,9 +74,7 @@ class ScriptedDesktop : public forms::Desktop {
     dialog.FileName = Next(FileNames, dialog.FileName);
     dialog.FileNameFits = FileNameFits;
   }
-  void ShowModal(forms::Form& form) override {
-    if (WhileModal) WhileModal(form);
-  }
+  void ShowModal(forms::Form&) override { ++ModalForms; }
   void ShowHelp(const std::string&, std::int32_t topic) override { Topics.push_back(topic); }
   forms::DateTime Now() override { return Clock; }
   float Timer() override { return SecondsOfDay; }
@@ -107,6 +103,16 @@ class ScriptedDesktop : public forms::Desktop {
     queue.pop_front();
     return next;
   }
+};
+
+/// Every picture is there, and so is every file.
+class StockedDesktop : public ScriptedDesktop {
+ public:
+  forms::Picture LoadPicture(const std::string&, int, int) override { return picture_; }
+  std::filesystem::path NativePath(const std::string&) override { return "/proc/self/exe"; }
+
+ private:
+  const forms::Picture picture_ = BlankPicture(4, 3);
 };
 
 }  // namespace terramark

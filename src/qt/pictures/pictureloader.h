@@ -10,7 +10,7 @@
 namespace terramark::qt {
 
 /// Larger files are not read.
-constexpr qint64 MaxPictureFileBytes = 64 * 1024 * 1024;
+constexpr qint64 MaxPictureFileBytes = qint64{64} * 1024 * 1024;
 /// The box is cut down to this, in pixels each way.
 constexpr int MaxPictureBoxSide = 4096;
 

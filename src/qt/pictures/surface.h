@@ -40,7 +40,6 @@ class Surface {
 
   /// Takes `work` from what is left. False when it is used up: draw nothing more.
   bool Spend(std::int64_t work);
-  bool Exhausted() const { return workLeft_ <= 0; }
 
   /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
   /// do: it lies outside, the work is used up, or only the bounds were wanted.
