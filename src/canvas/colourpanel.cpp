@@ -2,18 +2,12 @@
 
 #include <algorithm>
 
+#include "shell/colourtarget.h"
 #include "shell/markers.h"
 
 namespace terramark {
 
 namespace {
-
-/// The button of the current Region; those before it are the rows of PlayerRGB.
-constexpr std::int16_t RegionButton = 4;
-
-// The target as RGBFrame.Tag holds it: "-1" for none, "0" to "3" for a row, "R" and a number for a
-// Region.
-constexpr char RegionTarget = 'R';
 
 /// A component that a file brought from outside the range stands at the nearer end of its bar.
 void LoadBars(Form1& form, const Components& rgb) {
@@ -64,7 +58,7 @@ void ColBar_Change(Form1& form) {
   const Components rgb = BarValues(form);
   form.SliderColour = ColourOf(rgb);
   const std::string& target = form.RGBFrame.Tag;
-  if (target.empty() || target == "-1") return;
+  if (target.empty() || target == NoColourTarget) return;
   if (target[0] == RegionTarget) {
     ColourRegion(form, WholeNumber(ReadNumber(target.substr(1))).value_or(0), rgb);
     return;

@@ -6,7 +6,6 @@
 #include "shell/bars.h"
 #include "shell/filenames.h"
 #include "shell/markers.h"
-#include "shell/startup.h"
 
 namespace terramark {
 

@@ -13,8 +13,6 @@ namespace {
 /// user pressed.
 constexpr std::int16_t NewCorner = 2;
 
-constexpr std::int16_t NewArmies = 5;
-
 void Show(forms::Label& marker) {
   marker.ZOrder(forms::StackEnd::Front);
   marker.Visible = true;

@@ -7,7 +7,6 @@
 #include "shell/bars.h"
 #include "shell/markers.h"
 #include "shell/questions.h"
-#include "shell/startup.h"
 
 namespace terramark {
 

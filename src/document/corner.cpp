@@ -6,10 +6,9 @@ namespace terramark {
 
 std::string MarkerCaption(std::int16_t area, std::int16_t corner) {
   std::string caption = NumberText(area);
-  if (corner < 0 || corner > 3) return caption;
-  const bool right = (corner & 1) != 0;
-  const char mark = (corner & 2) != 0 ? '+' : '^';
-  if (right) {
+  if (!IsCorner(corner)) return caption;
+  const char mark = AtBottom(corner) ? '+' : '^';
+  if (AtRight(corner)) {
     caption += mark;
   } else {
     caption[0] = mark;

@@ -17,6 +17,12 @@ std::string PlainNumber(std::int32_t n);
 /// The two-digit form of 0 to 99; of any other number the last two digits of its text.
 std::string TwoDigit(std::int16_t n);
 
+/// Appends the two-digit form of 0 to 99; where they come by the hundred.
+inline void AppendTwoDigits(std::string& text, std::int16_t n) {
+  text += static_cast<char>('0' + n / 10);
+  text += static_cast<char>('0' + n % 10);
+}
+
 /// The number that a text begins with. Blanks are skipped, also between digits; an optional sign
 /// may lead; digits with at most one point follow; the first other character ends the number. A
 /// text without digits reads as 0.

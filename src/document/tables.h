@@ -16,6 +16,8 @@ inline constexpr std::int16_t LastNumber = 99;
 inline constexpr std::int16_t CountLimit = 96;
 /// A colour component that was never set; shows as full intensity.
 inline constexpr std::int16_t UnsetComponent = 256;
+/// Armies of a new Region.
+inline constexpr std::int16_t NewArmies = 5;
 /// The name of element 0 and of whatever lost its name.
 inline constexpr char UnknownName[] = "*UNKNOWN*";
 

@@ -1,7 +1,7 @@
 #include "editor/handlers.h"
 
 #include "canvas/colourpanel.h"
-#include "canvas/markers.h"
+#include "canvas/markermouse.h"
 #include "editor/backdroppress.h"
 #include "editor/hover.h"
 #include "editor/presses.h"

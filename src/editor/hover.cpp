@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "canvas/markers.h"
+#include "canvas/markermouse.h"
 #include "shell/bars.h"
 #include "shell/controltable.h"
 #include "shell/form1.h"

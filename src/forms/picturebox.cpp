@@ -1,7 +1,6 @@
 #include "forms/picturebox.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 
 #include "forms/borderfill.h"

@@ -6,11 +6,11 @@
 #include "document/cardsymbol.h"
 #include "document/corner.h"
 #include "shell/backdrop.h"
+#include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
 #include "shell/markers.h"
-#include "shell/startup.h"
 
 namespace terramark {
 

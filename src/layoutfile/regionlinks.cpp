@@ -2,7 +2,6 @@
 
 #include "document/links.h"
 #include "document/numbers.h"
-#include "layoutfile/twodigits.h"
 
 namespace terramark {
 

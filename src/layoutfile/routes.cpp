@@ -1,7 +1,7 @@
 #include "layoutfile/routes.h"
 
 #include "document/links.h"
-#include "layoutfile/twodigits.h"
+#include "document/numbers.h"
 
 namespace terramark {
 

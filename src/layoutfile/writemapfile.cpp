@@ -82,6 +82,9 @@ void WriteRoutes(const Tables& tables, LayoutText& file) {
   file.Raw("BLITZ");
   const RouteFinder routes(tables);
   for (std::int16_t i = 1; i <= tables.AreaCount; ++i) file.Fields(i, routes.BlitzRoute(i));
+}
+
+void WriteBreaks(const Tables& tables, LayoutText& file) {
   file.Raw("BREAKS");
   for (std::int16_t r = 1; r <= tables.RegionCount; ++r) {
     const std::string breaks = BreakText(tables, r);
@@ -110,6 +113,7 @@ bool WriteMapFile(Form1& form, LayoutText& file) {
   WriteRegionGroups(form, file);
   if (!WriteBridges(form, file)) return false;
   WriteRoutes(form, file);
+  WriteBreaks(form, file);
   WritePositions(form, file);
   return true;
 }

@@ -46,7 +46,7 @@ void FormView::ControlAdded(forms::Control& control) {
   const bool inForm = &container == &form_;
   // The tab order may name a control before the frame around it.
   if (!inForm) ControlAdded(container);
-  if (OnCanvas(control)) return PropertyChanged(control, forms::PropertyId::Visible);
+  if (OnCanvas(control)) return ShowOnCanvas(control);
   views_.push_back(MakeView(control, inForm ? *this : ViewOf(container)->Widget()));
   Attend(*views_.back());
 }
@@ -125,15 +125,16 @@ void FormView::ControlRemoved(forms::Control& control) {
 
 void FormView::PropertyChanged(forms::Control& control, forms::PropertyId id) {
   if (&control == &form_) return FormChanged(id);
-  if (OnCanvas(control)) {
-    auto* canvas = static_cast<CanvasView*>(ViewOf(*control.Container()));
-    return canvas->LabelChanged(control);
-  }
+  if (OnCanvas(control)) return ShowOnCanvas(control);
   if (ControlView* view = ViewOf(control)) view->Changed(id);
 }
 
+void FormView::ShowOnCanvas(const forms::Control& label) {
+  static_cast<CanvasView*>(ViewOf(*label.Container()))->LabelChanged(label);
+}
+
 void FormView::Restacked(forms::Control& control) {
-  if (OnCanvas(control)) return PropertyChanged(control, forms::PropertyId::Visible);
+  if (OnCanvas(control)) return ShowOnCanvas(control);
   for (const forms::Control* inOrder : control.Container()->Children()) {
     if (QWidget* widget = WidgetOf(*inOrder)) widget->raise();
   }
@@ -144,7 +145,7 @@ void FormView::FocusMoved(forms::Control& control) {
 }
 
 void FormView::Refreshed(forms::Control& control) {
-  if (OnCanvas(control)) return PropertyChanged(control, forms::PropertyId::Visible);
+  if (OnCanvas(control)) return ShowOnCanvas(control);
   if (QWidget* widget = WidgetOf(control)) widget->update();
 }
 

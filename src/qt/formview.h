@@ -46,6 +46,7 @@ class FormView : public QWidget, private forms::FormObserver {
   void Unloaded() override;
 
   void FormChanged(forms::PropertyId id);
+  void ShowOnCanvas(const forms::Control& label);
   ControlView* ViewOf(const forms::Control& control) const;
   void Attend(ControlView& view);
   void LayTabOrder();

@@ -9,7 +9,6 @@
 #include <bit>
 #include <cstdio>
 #include <cstdlib>
-#include <iostream>
 
 #include "qt/cp1252.h"
 #include "qt/filedialog.h"
@@ -112,7 +111,6 @@ std::filesystem::path QtDesktop::NativePath(const std::string& path) {
 }
 
 void QtDesktop::End(int status) {
-  std::cout.flush();
   std::fflush(nullptr);
   std::_Exit(status);
 }

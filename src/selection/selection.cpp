@@ -5,6 +5,7 @@
 #include "document/numbers.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
+#include "shell/colourtarget.h"
 #include "shell/form1.h"
 #include "shell/markers.h"
 
@@ -37,7 +38,7 @@ void FlipMark(Form1& form, forms::Label& marker) {
   }
   if (form.RGBFrame.Enabled) {
     form.RGBFrame.Enabled = false;
-    form.RGBFrame.Tag = "-1";
+    form.RGBFrame.Tag = NoColourTarget;
   }
 }
 
@@ -89,8 +90,8 @@ void ClearSelection(Form1& form) {
   form.CurArea = 0;
   form.CurRegion = 0;
   form.RGBFrame.Enabled = false;
-  form.PlColor(4).Enabled = false;
-  form.RGBFrame.Tag = "-1";
+  form.PlColor(RegionButton).Enabled = false;
+  form.RGBFrame.Tag = NoColourTarget;
   ShowMessage(form, "", ClrGreen);
   form.EditText.Text = "";
   form.Symb.Text = "";
@@ -125,8 +126,8 @@ void SelectRegion(Form1& form, std::int16_t region) {
               "Region " + form.RegionName(region) + ", Areas =" + NumberText(count) +
                   ", armies = " + form.Armypc.Text.Get(),
               ClrGreen);
-  form.PlColor(4).Enabled = true;
-  form.PlColor(4).BackColor = TagColour(*marker);
+  form.PlColor(RegionButton).Enabled = true;
+  form.PlColor(RegionButton).BackColor = TagColour(*marker);
 }
 
 void HiliteRegionAreas(Form1& form, std::int16_t& count) {

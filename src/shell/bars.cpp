@@ -1,9 +1,18 @@
 #include "shell/bars.h"
 
+#include "document/numbers.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
 
 namespace terramark {
+
+namespace {
+
+void UpdateCount(forms::Label& label, std::int16_t count) {
+  if (ReadNumber(label.Caption.Get()) != count) label.Caption = NumberText(count);
+}
+
+}  // namespace
 
 void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.BackColor = colour;
@@ -15,6 +24,11 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
 void ShowHelpbar(Form1& form, const std::string& text) {
   // Runs on every move of the mouse; the property tells nobody of a text that stands already.
   form.Helpbar.Caption = text;
+}
+
+void UpdateCounts(Form1& form) {
+  UpdateCount(form.Countx(0), form.AreaCount);
+  UpdateCount(form.Countx(1), form.RegionCount);
 }
 
 void ShowHelpTopic(Form1& form, std::int16_t topic) {

@@ -1,4 +1,4 @@
-// The two bars and the help viewer: what the editor says to the user.
+// The two bars, the counts and the help viewer: what the editor says to the user.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +16,10 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour);
 
 /// Describes in the help bar what lies under the pointer.
 void ShowHelpbar(Form1& form, const std::string& text);
+
+/// Brings the Countx labels into line with AreaCount and RegionCount. A label that reads as its
+/// count already is left alone, so an empty one stays empty at 0.
+void UpdateCounts(Form1& form);
 
 /// Opens the help viewer on a topic of the help file. A missing viewer or topic is not reported.
 void ShowHelpTopic(Form1& form, std::int16_t topic);

@@ -4,7 +4,6 @@
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
-#include "shell/startup.h"
 
 namespace terramark {
 
@@ -13,7 +12,7 @@ void ClearMap(Form1& form) {
     form.AreaLinks(i) = " ";
     form.RegionName(i) = UnknownName;
     form.AreaName(i) = UnknownName;
-    form.RegionArmies(i) = 5;
+    form.RegionArmies(i) = NewArmies;
     form.AreaSymbol(i).clear();
     form.AreaRegion(i) = 0;
   }

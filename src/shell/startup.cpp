@@ -1,10 +1,11 @@
 #include "shell/startup.h"
 
-#include <cmath>
+#include <array>
 
 #include "document/numbers.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
+#include "shell/colourtarget.h"
 #include "shell/form1.h"
 #include "shell/questions.h"
 
@@ -23,10 +24,6 @@ constexpr std::array<Components, 4> DefaultPlayerRGB{{
     {125, 125, 125},  // Neutral
 }};
 
-void UpdateCount(forms::Label& label, std::int16_t count) {
-  if (ReadNumber(label.Caption.Get()) != count) label.Caption = NumberText(count);
-}
-
 }  // namespace
 
 void Form_Load(Form1& form) {
@@ -38,10 +35,10 @@ void Form_Load(Form1& form) {
   form.Move(0, 0);
   form.RGBFrame.Enabled = false;
   form.PlayerRGB = DefaultPlayerRGB;
-  for (std::int16_t i = 0; i < 4; ++i) {
+  for (std::int16_t i = 0; i < RegionButton; ++i) {
     form.PlColor(i).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(i)]);
   }
-  form.PlColor(4).Enabled = false;
+  form.PlColor(RegionButton).Enabled = false;
 
   form.ArmyAt(0).Visible = false;
   form.ArmyAt(0).Height = 16;
@@ -58,11 +55,6 @@ void Form_Load(Form1& form) {
   form.TwipsY = WholeNumber(form.Host.TwipsPerPixelY()).value_or(1);
   ShowMessage(form, Banner, ClrGreen);
   UpdateCounts(form);
-}
-
-void UpdateCounts(Form1& form) {
-  UpdateCount(form.Countx(0), form.AreaCount);
-  UpdateCount(form.Countx(1), form.RegionCount);
 }
 
 void Quit_Click(Form1& form) {

@@ -1,4 +1,4 @@
-// The life of the editor: start-up, the count labels, the ways out.
+// The life of the editor: start-up and the ways out.
 #pragma once
 
 namespace terramark {
@@ -7,10 +7,6 @@ struct Form1;
 
 /// Brings the editor up; once, before the window is first shown.
 void Form_Load(Form1& form);
-
-/// Brings the Countx labels into line with AreaCount and RegionCount. A label that reads as its
-/// count already is left alone, so an empty one stays empty at 0.
-void UpdateCounts(Form1& form);
 
 /// Asks, and on Yes ends the process. Unsaved changes are neither detected nor mentioned.
 void Quit_Click(Form1& form);

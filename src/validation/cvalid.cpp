@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "document/corner.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
 #include "validation/validatemap.h"
@@ -20,10 +21,8 @@ int PixelAt(float place) {
 void FloodFrom(Form1& form, std::int16_t area) {
   const forms::Label& marker = form.ArmyAt(area);
   const std::int16_t corner = form.AreaCorner(area);
-  const bool right = corner == 1 || corner == 3;
-  const bool bottom = corner == 2 || corner == 3;
-  const float x = marker.Left + (right ? marker.Width : 0.0F);
-  const float y = marker.Top + (bottom ? marker.Height : 0.0F);
+  const float x = marker.Left + (AtRight(corner) ? marker.Width : 0.0F);
+  const float y = marker.Top + (AtBottom(corner) ? marker.Height : 0.0F);
   form.Picture1.FillColor = ClrRed;
   form.Picture1.FillToBorder(PixelAt(x), PixelAt(y), ClrBlack);
 }

@@ -1,4 +1,4 @@
-#include "canvas/markers.h"
+#include "canvas/markermouse.h"
 
 #include "document/corner.h"
 #include "selection/selection.h"
@@ -26,8 +26,7 @@ void TurnCorner(Form1& form, std::int16_t area) {
   const std::int16_t old = form.AreaCorner(area);
   form.AreaCorner(area) = NextCorner(old);
   // A code that names no corner shows none until the next turn.
-  const bool known = old >= 0 && old <= 3;
-  form.ArmyAt(area).Caption = MarkerCaption(area, known ? form.AreaCorner(area) : old);
+  form.ArmyAt(area).Caption = MarkerCaption(area, IsCorner(old) ? form.AreaCorner(area) : old);
 }
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.
