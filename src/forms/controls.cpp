@@ -31,25 +31,20 @@ void Label::CopyTemplate(const Label& from) {
   Caption = from.Caption;
 }
 
-void TextBox::Typed(const std::string& text) {
+void TextBox::Edited(std::size_t at, std::size_t cut, std::string_view insert) {
   if (!Enabled) return;
-  if (MaxLength == 0 || text.size() <= MaxLength) {
-    Text = text;
-    return;
+  std::string text = Text;
+  if (MaxLength != 0) {
+    // An assignment may have made the text longer than the limit; then there is no room at all.
+    const std::size_t kept = text.size() - cut;
+    insert = insert.substr(0, MaxLength - std::min(MaxLength, kept));
   }
-  // What stood there keeps its place, also when an assignment made it longer than the limit; what
-  // came in between is cut to the room there is.
-  const std::string& old = Text;
-  const std::size_t shorter = std::min(old.size(), text.size());
-  std::size_t head = 0;
-  while (head < shorter && old[head] == text[head]) ++head;
-  std::size_t tail = 0;
-  while (tail < shorter - head && old[old.size() - 1 - tail] == text[text.size() - 1 - tail]) {
-    ++tail;
-  }
-  const std::size_t room = MaxLength - std::min(MaxLength, head + tail);
-  const std::string insert = text.substr(head, text.size() - head - tail).substr(0, room);
-  Text = text.substr(0, head) + insert + text.substr(text.size() - tail);
+  Text = text.replace(at, cut, insert);
+}
+
+void TextBox::SelectAll() {
+  // The mark is the screen's own; that it is wanted is all there is to tell.
+  Control::PropertyChanged(PropertyId::Selection);
 }
 
 void TextBox::PropertyChanged(PropertyId id) {

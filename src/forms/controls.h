@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 
@@ -40,9 +41,13 @@ class TextBox : public Control {
   /// Raised by every real change of Text, typed or assigned, before the assignment returns.
   Slot<PlainEvent> Change;
 
-  /// What the box holds after the user typed or pasted, held to MaxLength. A disabled box takes
-  /// nothing.
-  void Typed(const std::string& text);
+  /// An edit by the user: so many characters cut from a place on, counted from 0, and what came in
+  /// there instead. What came in is held to the room that MaxLength leaves; what stands beside it
+  /// is never pushed out. A disabled box takes nothing. The place and the cut must lie in the text.
+  void Edited(std::size_t at, std::size_t cut, std::string_view insert);
+
+  /// Marks the whole text on the screen, so that what is typed next replaces it.
+  void SelectAll();
 
   void PropertyChanged(PropertyId id) override;
 };

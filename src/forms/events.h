@@ -62,6 +62,8 @@ class Slot {
   void Raise(const Event& event) const {
     if (handler_) handler_(event);
   }
+  /// Whether somebody listens.
+  explicit operator bool() const { return static_cast<bool>(handler_); }
 
  private:
   std::function<void(const Event&)> handler_;

@@ -4,6 +4,17 @@
 
 namespace terramark::forms {
 
+namespace {
+
+bool TakesKeys(const Control& control) {
+  for (const Control* at = &control; at != nullptr; at = at->Container()) {
+    if (!at->Enabled || !at->Visible) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 Form::Form(Desktop& host) : Control(ControlKind::Form), Host(host) {
   form_ = this;
 }
@@ -44,12 +55,15 @@ void Form::Restack(Control& control, StackEnd end) {
 }
 
 void Form::Focus(Control* control) {
-  if (active_ == control) return;
+  if (active_ == control || (control != nullptr && !TakesKeys(*control))) return;
   active_ = control;
-  if (control != nullptr && observer_ != nullptr) observer_->FocusMoved(*control);
+  if (observer_ != nullptr) observer_->FocusMoved(control != nullptr ? *control : *this);
 }
 
 void Form::Tell(Control& control, PropertyId id) {
+  // First the keyboard, so that the screen has no need to find another place for it.
+  const bool mayLoseKeys = id == PropertyId::Enabled || id == PropertyId::Visible;
+  if (mayLoseKeys && active_ != nullptr && !TakesKeys(*active_)) Focus(nullptr);
   if (observer_ != nullptr) observer_->PropertyChanged(control, id);
 }
 

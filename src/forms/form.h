@@ -21,6 +21,7 @@ class FormObserver {
   virtual void ControlRemoved(Control& control) = 0;
   virtual void PropertyChanged(Control& control, PropertyId id) = 0;
   virtual void Restacked(Control& control) = 0;
+  /// The keyboard went to a control, or to the form itself when no control has it.
   virtual void FocusMoved(Control& control) = 0;
   /// The control asks to be shown as it is now.
   virtual void Refreshed(Control& control) = 0;
@@ -49,7 +50,11 @@ class Form : public Control {
   /// All controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }
 
+  /// Gives the keyboard to a control, or with null to none. One that is disabled or invisible, or
+  /// stands in something that is, does not take it.
   void Focus(Control* control);
+  /// The control that has the keyboard; null when none has, as when the one that had it was
+  /// disabled or hidden.
   Control* ActiveControl() const { return active_; }
 
   /// Keys as the keyboard gives them; an auto-repeat must not be fed as a release.

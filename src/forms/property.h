@@ -8,6 +8,7 @@ namespace terramark::forms {
 enum class PropertyId {
   Caption,
   Text,
+  Selection,
   Value,
   Picture,
   Left,

@@ -3,6 +3,7 @@
 #include <qdrawutil.h>
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "forms/form.h"
@@ -17,12 +18,17 @@ namespace {
 constexpr int EdgeWidth = 2;
 constexpr int DarkFace = 75;  // of 255, by the eye's weights
 
+bool Pushes(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Space || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
 }  // namespace
 
 ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
     : QPushButton(&container), ControlView(button, *this), button_(button) {
   setFocusPolicy(Qt::StrongFocus);
   ShowOwn(forms::PropertyId::Caption);
+  // By a dialog whose Enter key found nobody else, or by an assistive tool.
   connect(this, &QPushButton::clicked, this, [this] {
     button_.Owner()->Pointer.PressKey(button_, KeyMask(QGuiApplication::keyboardModifiers()));
   });
@@ -34,6 +40,22 @@ void ButtonView::ShowOwn(forms::PropertyId id) {
     setText(FromCp1252(button_.Caption).replace('&', "&&"));
   }
   update();
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event) {
+  if (!Pushes(*event)) {
+    // A change of mind. The arrows, which would go to a neighbour here, belong to the form.
+    if (event->key() == Qt::Key_Escape) setDown(false);
+    return event->ignore();
+  }
+  if (!event->isAutoRepeat()) setDown(true);
+}
+
+void ButtonView::keyReleaseEvent(QKeyEvent* event) {
+  if (!Pushes(*event)) return event->ignore();
+  if (event->isAutoRepeat() || !isDown()) return;
+  setDown(false);
+  button_.Owner()->Pointer.PressKey(button_, KeyMask(event->modifiers()));
 }
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {

@@ -1,5 +1,5 @@
 // A command button: a raised face in its BackColor. The mouse reaches it through the pointer router
-// only; Space, and Enter in a dialog, do what a left press and release in its middle do.
+// only; Space and Enter do, at their release, what a left press and release in its middle do.
 #pragma once
 
 #include <QPushButton>
@@ -15,6 +15,8 @@ class ButtonView : public QPushButton, public ControlView {
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -26,6 +26,8 @@ FormView::FormView(forms::Form& form, QWidget* parent)
     : QWidget(parent), form_(form), pointer_(form, *this), keys_(form) {
   setObjectName("inside");
   pointer_.Watch(*this, false);
+  keys_.Watch(*this, nullptr);
+  if (parent != nullptr) keys_.Watch(*parent, nullptr);
   FormChanged(forms::PropertyId::BackColor);
   for (forms::Control* control : form.Controls()) ControlAdded(*control);
   LayTabOrder();
@@ -57,7 +59,7 @@ void FormView::Attend(ControlView& view) {
   pointer_.Watch(widget, view.OwnMouse());
   for (QWidget* part : widget.findChildren<QWidget*>()) pointer_.Watch(*part, true);
   // Others get only the keys that those in them have left.
-  if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, view.Shown());
+  if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, &view.Shown());
 }
 
 void FormView::LayTabOrder() {
@@ -141,6 +143,7 @@ void FormView::Restacked(forms::Control& control) {
 }
 
 void FormView::FocusMoved(forms::Control& control) {
+  if (&control == &form_) return setFocus();
   if (QWidget* widget = WidgetOf(control)) widget->setFocus();
 }
 

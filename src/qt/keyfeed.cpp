@@ -1,16 +1,11 @@
 #include "qt/keyfeed.h"
 
-#include <QPushButton>
 #include <algorithm>
 #include <array>
 
 namespace terramark::qt {
 
 namespace {
-
-/// How long a release waits for the press that would make it an auto-repeat. The platform gives
-/// both the same time, but marks them as a repeat only when it has read both by then.
-constexpr int PatienceMilliseconds = 20;
 
 struct KeyRow {
   int Key;
@@ -52,12 +47,16 @@ std::int16_t CodeOf(int key) {
   return row == KeyCodes.end() ? std::int16_t{0} : row->Code;
 }
 
-bool IsArrow(int key) {
-  return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
-}
-
 forms::KeyEvent EventOf(const QKeyEvent& key) {
   return {CodeOf(key.key()), KeyMask(key.modifiers())};
+}
+
+/// Whether a key comes to the widget as the one that has the focus, or as the window when none has
+/// it; and not from a widget in it that left the key.
+bool GoesFirstTo(const QObject& watched) {
+  const auto& widget = static_cast<const QWidget&>(watched);
+  const QWidget* window = widget.window();
+  return &widget == (window->focusWidget() != nullptr ? window->focusWidget() : window);
 }
 
 }  // namespace
@@ -69,14 +68,8 @@ std::int16_t KeyMask(Qt::KeyboardModifiers modifiers) {
   return static_cast<std::int16_t>(mask);
 }
 
-KeyFeed::KeyFeed(forms::Form& form) : form_(form) {
-  patience_.setSingleShot(true);
-  patience_.setInterval(PatienceMilliseconds);
-  connect(&patience_, &QTimer::timeout, this, &KeyFeed::TellRelease);
-}
-
-void KeyFeed::Watch(QWidget& widget, forms::Control& control) {
-  controls_[&widget] = &control;
+void KeyFeed::Watch(QWidget& widget, forms::Control* control) {
+  controls_[&widget] = control;
   widget.installEventFilter(this);
 }
 
@@ -86,40 +79,27 @@ bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
       form_.Focus(controls_.at(watched));
       return false;
     case QEvent::KeyPress:
-      return Pressed(*watched, *static_cast<QKeyEvent*>(event));
+      return GoesFirstTo(*watched) && Pressed(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
-      Released(*static_cast<QKeyEvent*>(event));
+      if (GoesFirstTo(*watched)) Released(*static_cast<QKeyEvent*>(event));
       return false;
     default:
       return false;
   }
 }
 
-bool KeyFeed::Pressed(QObject& watched, const QKeyEvent& key) {
+bool KeyFeed::Pressed(const QKeyEvent& key) {
   if (key.key() == Qt::Key_Escape && form_.Pointer.InFlight()) {
     form_.Pointer.CancelDrag();
     return true;
   }
-  if (waiting_ && waiting_->Key == key.key() && waiting_->Time == key.timestamp()) waiting_.reset();
-  TellRelease();
   form_.KeyPressed(EventOf(key));
   if (!key.text().isEmpty()) form_.CharacterTyped();
-  // On a button Qt would go to its neighbour; the arrows belong to the form.
-  return IsArrow(key.key()) && qobject_cast<QPushButton*>(&watched) != nullptr;
+  return false;
 }
 
 void KeyFeed::Released(const QKeyEvent& key) {
-  if (key.isAutoRepeat()) return;
-  TellRelease();
-  waiting_ = Release{key.key(), key.timestamp(), EventOf(key)};
-  patience_.start();
-}
-
-void KeyFeed::TellRelease() {
-  if (!waiting_) return;
-  const forms::KeyEvent event = waiting_->Event;
-  waiting_.reset();
-  form_.KeyReleased(event);
+  if (!key.isAutoRepeat()) form_.KeyReleased(EventOf(key));
 }
 
 }  // namespace terramark::qt

@@ -3,9 +3,8 @@
 
 #include <QKeyEvent>
 #include <QObject>
-#include <QTimer>
+#include <QWidget>
 #include <cstdint>
-#include <optional>
 #include <unordered_map>
 
 #include "forms/form.h"
@@ -17,29 +16,20 @@ std::int16_t KeyMask(Qt::KeyboardModifiers modifiers);
 
 class KeyFeed : public QObject {
  public:
-  explicit KeyFeed(forms::Form& form);
+  explicit KeyFeed(forms::Form& form) : form_(form) {}
 
-  /// The widget takes the focus for the control.
-  void Watch(QWidget& widget, forms::Control& control);
+  /// The widget takes the focus for the control, or with null for the form itself. The form hears
+  /// the keys of the widget that has the focus before that widget does.
+  void Watch(QWidget& widget, forms::Control* control);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool Pressed(QObject& watched, const QKeyEvent& key);
+  bool Pressed(const QKeyEvent& key);
   void Released(const QKeyEvent& key);
-  void TellRelease();
-
-  /// A release that may yet turn out to be half of an auto-repeat.
-  struct Release {
-    int Key;
-    std::uint64_t Time;  // milliseconds
-    forms::KeyEvent Event;
-  };
 
   forms::Form& form_;
-  std::optional<Release> waiting_;
-  QTimer patience_;
   std::unordered_map<const QObject*, forms::Control*> controls_;
 };
 

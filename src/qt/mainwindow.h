@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 #include "qt/formview.h"
+#include "qt/keyrepeats.h"
 #include "shell/form1.h"
 
 namespace terramark::qt {
@@ -20,6 +21,7 @@ class MainWindow : public QMainWindow {
 
  private:
   Form1& form_;
+  KeyRepeats repeats_;
   FormView inside_;
 };
 

@@ -1,5 +1,8 @@
 #include "qt/pointerfeed.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
 #include "qt/keyfeed.h"
 
 namespace terramark::qt {
@@ -8,6 +11,8 @@ namespace {
 
 constexpr Qt::MouseButton Buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 constexpr char OwnMouse[] = "ownMouse";
+/// A place where no control stands.
+constexpr QPoint Nowhere(-10000, -10000);
 
 /// 0 for a button that the forms layer does not know.
 std::int16_t CodeOf(Qt::MouseButton button) {
@@ -35,16 +40,19 @@ void PointerFeed::Watch(QWidget& widget, bool ownMouse) {
 
 bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
   auto& widget = *static_cast<QWidget*>(watched);
+  bool forHelp = asksHelp_;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       Press(widget, *static_cast<QMouseEvent*>(event));
+      forHelp = asksHelp_;
       break;
     case QEvent::MouseMove:
       Move(*static_cast<QMouseEvent*>(event));
       break;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
+      forHelp = forHelp || (heard_ && KeyMask(mouse.modifiers()) == forms::ShiftKey);
       Release(In(mouse), mouse.button(), mouse.modifiers());
       break;
     }
@@ -53,7 +61,7 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
     default:
       return false;
   }
-  return !(widget.isEnabled() && widget.property(OwnMouse).toBool());
+  return forHelp || !(widget.isEnabled() && widget.property(OwnMouse).toBool());
 }
 
 QPoint PointerFeed::In(const QMouseEvent& event) const {
@@ -64,7 +72,11 @@ void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (CodeOf(event.button()) == 0) return;
   ReleaseLost(event);
   const QPoint at = In(event);
-  if (down_ == Qt::NoButton && widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
+  if (down_ == Qt::NoButton) {
+    if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
+    heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
+    asksHelp_ = heard_ && KeyMask(event.modifiers()) == forms::ShiftKey;
+  }
   down_ |= event.button();
   if (held_) held_->setDown(true);
   form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));
@@ -81,8 +93,21 @@ void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifie
   if (CodeOf(button) == 0) return;
   down_.setFlag(button, false);
   if (held_) held_->setDown(false);
-  if (down_ == Qt::NoButton) held_.clear();
+  if (down_ == Qt::NoButton) {
+    held_.clear();
+    asksHelp_ = false;
+  }
+  if (form_.Pointer.InFlight() && !Shows(at)) at = Nowhere;
   form_.Pointer.Release(at.x(), at.y(), CodeOf(button), KeyMask(keys));
+}
+
+/// Whether the window shows a place of the form: it has not been made too small for it, and no
+/// other window lies over it. X11 alone tells of other programs' windows, by naming none of ours.
+bool PointerFeed::Shows(QPoint at) const {
+  if (!inside_.rect().contains(at)) return false;
+  const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
+  if (over == nullptr) return QGuiApplication::platformName() != "xcb";
+  return over == inside_.window()->windowHandle();
 }
 
 /// A menu or a box that came up while a button was down has swallowed its release.

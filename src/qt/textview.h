@@ -20,20 +20,22 @@ class TextView : public QLineEdit, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// A part of the text, counted in characters; of no length where the caret stands.
+  struct Part {
+    qsizetype Begin = 0;
+    qsizetype End = 0;
+  };
+
   void Edited(const QString& edited);
+  Part Marked() const;
+  QString Showable() const;
   void ShowText();
-  void HoldLength();
   void ShowColours();
 
   forms::TextBox& box_;
-  /// Where the caret stood before the edit that is going on.
-  int caret_ = 0;
+  /// What the edit that comes next would replace.
+  Part marked_;
   bool editing_ = false;
 };
-
-/// What an edit from one text to another leaves in a box: the characters that came in are composed,
-/// a line break or tab among them becomes a blank, and one that code page 1252 lacks becomes "?".
-/// All other characters stay as they are.
-QString CleanedEdit(const QString& before, const QString& edited);
 
 }  // namespace terramark::qt

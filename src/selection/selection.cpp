@@ -74,6 +74,7 @@ void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
                   ", card symbol = " + (symbol != nullptr ? symbol->Word : ""),
               ClrGreen);
   form.EditText.SetFocus();
+  form.EditText.SelectAll();
 }
 
 }  // namespace

@@ -40,19 +40,26 @@ TEST_F(ControlsTest, OnlyARealChangeIsToldAndItsEventRunsInsideTheAssignment) {
 }
 
 TEST_F(ControlsTest, LimitsHoldTheUserAndNotTheProgram) {
+  const struct {
+    std::size_t At;
+    std::size_t Cut;
+    const char* Insert;
+    const char* Text;
+  } edits[] = {{12, 1, "", "a longer nam"},  // a long text may be shortened bit by bit
+               {2, 3, "xyz", "a ger nam"},   // and takes nothing while it is too long
+               {0, 9, "a and b", "a an"},    // what comes for all of it is cut to the room,
+               {1, 2, "bcdef", "abcn"},      // as is what comes for a part,
+               {1, 0, "x", "abcn"},          // and what stands there is not pushed out
+               {4, 0, "x", "abcn"}};
   Box.MaxLength = 4;
-  Box.Typed("abcdef");
-  EXPECT_EQ(Box.Text.Get(), "abcd");
   Box.Text = "a longer name";
-  Box.Typed("a longer nam");
-  EXPECT_EQ(Box.Text.Get(), "a longer nam") << "a long text may be shortened bit by bit";
-  Box.Typed("pasted over all of it");
-  EXPECT_EQ(Box.Text.Get(), "past");
-  Box.Typed("paXst");
-  EXPECT_EQ(Box.Text.Get(), "past") << "and what stands there keeps its place";
+  for (const auto& edit : edits) {
+    Box.Edited(edit.At, edit.Cut, edit.Insert);
+    EXPECT_EQ(Box.Text.Get(), edit.Text);
+  }
   Box.Enabled = false;
-  Box.Typed("x");
-  EXPECT_EQ(Box.Text.Get(), "past");
+  Box.Edited(0, 4, "x");
+  EXPECT_EQ(Box.Text.Get(), "abcn");
   Bar.Max = 256;
   Bar.Moved(300);
   EXPECT_EQ(Bar.Value.Get(), 256);
@@ -80,6 +87,24 @@ TEST_F(ControlsTest, AnElementIsAnInvisibleCopyOfTheTemplate) {
   EXPECT_EQ(Seen.Added, 1);
   EXPECT_EQ(Seen.Removed, 1);
   EXPECT_EQ(Window.Controls().size(), 3U);
+}
+
+TEST_F(ControlsTest, TheKeyboardLeavesWhatCanNotHaveIt) {
+  std::string heard;
+  Window.KeyPreview = true;
+  Window.KeyUp = [&](const KeyEvent&) { heard += "form "; };
+  Box.KeyUp = [&](const KeyEvent&) { heard += "box "; };
+  for (Property<bool>* state : {&Box.Enabled, &Box.Visible, &Window.Enabled}) {
+    Window.Focus(&Box);
+    EXPECT_EQ(Window.ActiveControl(), &Box);
+    Window.KeyReleased({});
+    *state = false;
+    Window.Focus(&Box);
+    EXPECT_EQ(Window.ActiveControl(), nullptr);
+    Window.KeyReleased({});
+    *state = true;
+  }
+  EXPECT_EQ(heard, "form box form form box form form box form ");
 }
 
 }  // namespace

@@ -91,6 +91,25 @@ TEST(WindowCanvas, AMarkerFollowsThePointerOutOfTheBoxAndBack) {
   EXPECT_EQ(window.Drops, std::vector<QPoint>{QPoint(25, 30)});
 }
 
+TEST(WindowCanvas, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
+  MarkerWindow window;
+  const auto drop = [&](QPoint at) {
+    window.Press(Canvas + QPoint(105, 55));
+    window.Move(Canvas + at);
+    window.Release(Canvas + at);
+    return window.Drops.size();
+  };
+  QWidget over;
+  over.setAttribute(Qt::WA_ShowWithoutActivating);
+  over.setGeometry(QRect(window.Window.mapToGlobal(Canvas + QPoint(300, 100)), QSize(80, 80)));
+  over.show();
+  EXPECT_EQ(drop({340, 140}), 0U) << "another window lies there";
+  over.hide();
+  window.Window.resize(320, 400);
+  EXPECT_EQ(drop({340, 140}), 0U) << "outside the window";
+  EXPECT_EQ(drop({300, 140}), 1U);
+}
+
 TEST(WindowCanvas, EscapeAndALostFocusEndADragWithNothingMoved) {
   for (const bool escape : {true, false}) {
     MarkerWindow window;

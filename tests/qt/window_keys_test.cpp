@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <string>
 
 #include "document/numbers.h"
@@ -29,7 +31,7 @@ TEST(WindowKeys, TabWalksInTheOrderOfTheTable) {
   EXPECT_EQ(window.Form.ActiveControl(), &window.Form.Quit);
 }
 
-TEST(WindowKeys, TheFormHearsArrowsBeforeTheControlAndNoRepeats) {
+TEST(WindowKeys, TheFormHearsKeysBeforeTheControlAndWhenNoneHasThem) {
   TestWindow window;
   Form1& form = window.Form;
   std::string heard;
@@ -38,32 +40,116 @@ TEST(WindowKeys, TheFormHearsArrowsBeforeTheControlAndNoRepeats) {
   for (const char* name : {"EditText", "ColBar(0)", "AddTer"}) {
     auto& widget = *window.Window.findChild<QWidget*>(name);
     widget.setFocus();
-    // A repeat comes marked as one, or else only both halves at the same time tell.
-    for (const bool marked : {true, false}) {
-      for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-        QKeyEvent half(type, Qt::Key_Up, Qt::NoModifier, {}, marked);
-        half.setTimestamp(5000);
-        QCoreApplication::sendEvent(&widget, &half);
-      }
-    }
     window.Key(Qt::Key_Up);
     window.Key(Qt::Key_Down);
-    QTest::qWait(50);
     EXPECT_EQ(QApplication::focusWidget(), &widget);
   }
   EXPECT_EQ(heard, "38 box 40 box 38 40 38 40 ");
+  heard.clear();
+  for (forms::Control* control :
+       {static_cast<forms::Control*>(&form.Symb), static_cast<forms::Control*>(&form.ColBar(1)),
+        static_cast<forms::Control*>(&form.PlColor(4))}) {
+    control->SetFocus();
+    forms::Control& frame = control == &form.ColBar(1) ? form.RGBFrame : *control;
+    frame.Enabled = false;
+    EXPECT_EQ(form.ActiveControl(), nullptr) << control->Name();
+    window.Key(Qt::Key_Up);
+    frame.Enabled = true;
+  }
+  EXPECT_EQ(heard, "38 38 38 ");
+  window.Window.setFocus();
+  window.Key(Qt::Key_Tab);
+  EXPECT_EQ(form.ActiveControl(), &form.Text1) << "where Tab begins";
 }
 
-TEST(WindowKeys, TypingIsHeldToTheLimitWhereTheCaretStands) {
+enum class Repeats { Marked, Unmarked, Late };
+
+TEST(WindowKeys, AHeldKeyActsOnceAndABoxThatItFindsOpenKnowsNothingOfIt) {
+  for (const Repeats repeats : {Repeats::Marked, Repeats::Unmarked, Repeats::Late}) {
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up}) {
+      TestWindow window;
+      QDialog box(&window.Window);
+      QPushButton answer("Yes", &box);
+      int acts = 0;
+      int answers = 0;
+      const auto act = [&](const auto&) { ++acts; };
+      window.Form.KeyUp = [&](const forms::KeyEvent& event) { acts += event.KeyCode == 38; };
+      window.Form.AddTer.Click = act;
+      QObject::connect(&answer, &QPushButton::clicked, [&answers] { ++answers; });
+      window.Form.AddTer.SetFocus();
+      const auto hold = [&](QWidget& in) {
+        const bool marked = repeats == Repeats::Marked;
+        for (int i = 0; i < 3; ++i) {
+          window.Half(in, {QEvent::KeyRelease, key, {}, " ", marked});
+          if (repeats == Repeats::Late) TestWindow::Settle();
+          window.Half(in, {QEvent::KeyPress, key, {}, " ", marked}, 0);
+        }
+      };
+      window.Half(window.Window, {QEvent::KeyPress, key, {}, " "});
+      hold(window.Window);
+      box.show();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+      answer.setFocus();
+      hold(box);
+      window.Half(box, {QEvent::KeyRelease, key, {}, " "});
+      EXPECT_EQ(answers, 0);
+      window.Half(box, {QEvent::KeyPress, key, {}, " "});
+      window.Half(box, {QEvent::KeyRelease, key, {}, " "});
+      TestWindow::Settle();
+      EXPECT_EQ(answers, key == Qt::Key_Up ? 0 : 1);
+      box.close();
+      hold(window.Window);
+      window.Half(window.Window, {QEvent::KeyRelease, key, {}, " "});
+      TestWindow::Settle();
+      // Held on until the box came, a key has done something only where its release was told early.
+      EXPECT_EQ(acts, repeats == Repeats::Late ? 1 : 0);
+      window.Form.AddTer.SetFocus();
+      window.Half(window.Window, {QEvent::KeyPress, key, {}, " "});
+      hold(window.Window);
+      window.Half(window.Window, {QEvent::KeyRelease, key, {}, " "});
+      TestWindow::Settle();
+      EXPECT_EQ(acts, repeats == Repeats::Late ? 2 : 1);
+    }
+  }
+}
+
+TEST(WindowKeys, AReleaseIsToldBeforeWhatComesAfterIt) {
+  TestWindow window;
+  std::string order;
+  window.Form.KeyUp = [&](const forms::KeyEvent& key) {
+    order += std::to_string(key.KeyCode) + " ";
+  };
+  window.Form.AddTer.MouseUp = [&](const forms::MouseEvent&) { order += "press "; };
+  window.Stroke(Qt::Key_A, {}, 'a');
+  EXPECT_EQ(order, "") << "it may be half of a repeat";
+  window.Click(window.Form.AddTer);
+  window.Stroke(Qt::Key_B, {}, 'b');
+  window.Stroke(Qt::Key_C, {}, 'c');
+  EXPECT_EQ(order, "65 press 66 ");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return order == "65 press 66 67 "; })) << "time passed";
+}
+
+TEST(WindowKeys, AnEditIsHeldToTheLimitWhereItWasMade) {
   TestWindow window;
   forms::TextBox& box = window.Form.EditText;
   auto& line = window.Of<QLineEdit>(box);
+  const auto paste = [&](const char* text) {
+    QGuiApplication::clipboard()->setText(text);
+    window.Key(Qt::Key_V, Qt::ControlModifier);
+    return box.Text.Get();
+  };
   box.SetFocus();
   window.Type("0123456789abcdefXY");
   EXPECT_EQ(box.Text.Get(), "0123456789abcdef");
   line.setCursorPosition(3);
   window.Type("Z");
   EXPECT_EQ(box.Text.Get(), "0123456789abcdef") << "the end was pushed out";
+  EXPECT_EQ(line.cursorPosition(), 3);
+  line.setSelection(4, 2);
+  EXPECT_EQ(paste("xyz"), "0123xy6789abcdef");
+  EXPECT_EQ(line.cursorPosition(), 6);
+  window.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.Text.Get(), line.text().toStdString());
 
   box.Text = "a text of more than sixteen";
   EXPECT_EQ(line.text(), "a text of more than sixteen");
@@ -71,9 +157,21 @@ TEST(WindowKeys, TypingIsHeldToTheLimitWhereTheCaretStands) {
   window.Key(Qt::Key_Backspace);
   window.Type("nX");
   EXPECT_EQ(box.Text.Get(), "a text of more than sixtee") << "it may only become shorter";
+  box.Text = "Twentyfour letters and no";
+  box.SelectAll();
+  EXPECT_EQ(paste("Seventeen letters"), "Seventeen letter");
+  box.SelectAll();
+  window.Type("New");
+  EXPECT_EQ(box.Text.Get(), "New");
 
-  window.Form.Text1.Text = std::string(40000, 'x');
-  EXPECT_EQ(window.Of<QLineEdit>(window.Form.Text1).text().size(), 40000);
+  // Of a text that is long beyond reason the beginning is shown, and the rest is kept.
+  window.Form.Text1.Text = std::string(65536, 'x') + "the end";
+  EXPECT_EQ(window.Of<QLineEdit>(window.Form.Text1).text().size(), 65536);
+  window.Form.Text1.SetFocus();
+  window.Key(Qt::Key_Home);
+  window.Key(Qt::Key_Delete);
+  EXPECT_EQ(window.Of<QLineEdit>(window.Form.Text1).text().right(2), "xt");
+  EXPECT_EQ(window.Form.Text1.Text.Get().substr(65533), "xxthe end");
 }
 
 TEST(WindowKeys, ARefusedEditShowsAtOnceWithTheCaretWhereItWas) {
@@ -148,14 +246,23 @@ TEST(WindowKeys, TheMouseSelectsTextAndIsHeardByTheForm) {
   window.Move({200, 10});
   window.Release({200, 10}, Qt::LeftButton, Qt::ShiftModifier);
   EXPECT_EQ(line.selectedText(), "some words");
+  // With the Shift key a press asks for help and for nothing else.
+  for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+    window.Press({3, 10}, button, Qt::ShiftModifier);
+    window.Move({100, 10});
+    window.Release({100, 10}, button, Qt::ShiftModifier);
+    EXPECT_EQ(line.selectedText(), "some words");
+  }
+  EXPECT_EQ(heard, "11 11 41 21 ");
+  heard.clear();
 
   // The menu takes the release; the next press must not still belong to the box.
   window.Press({20, 10}, Qt::RightButton);
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  EXPECT_EQ(heard, "11 20 ");
+  EXPECT_EQ(heard, "20 ");
   QApplication::activePopupWidget()->close();
   window.Release({20, 10}, Qt::RightButton);
-  EXPECT_EQ(heard, "11 20 ");
+  EXPECT_EQ(heard, "20 ");
 }
 
 }  // namespace

@@ -89,7 +89,7 @@ TEST(Window, FollowsTheForm) {
   EXPECT_EQ(window.Of(form.Frame1).x(), 1);
 }
 
-TEST(Window, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpace) {
+TEST(Window, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpaceAndEnter) {
   TestWindow window;
   forms::CommandButton& button = window.Form.AddTer;
   const auto& face = window.Of<QPushButton>(button);
@@ -111,7 +111,7 @@ TEST(Window, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpace) {
   button.SetFocus();
   window.Key(Qt::Key_Space);
   window.Key(Qt::Key_Down);
-  window.Key(Qt::Key_Space, Qt::ShiftModifier);
+  window.Key(Qt::Key_Return, Qt::ShiftModifier);
   EXPECT_EQ(events, "10 click 21 46 10 click 11 click ");
 }
 

@@ -46,10 +46,31 @@ struct TestWindow {
     Press(Centre(control), button, keys);
     Release(Centre(control), button, keys);
   }
-  void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {
-    QTest::keyClick(Window.windowHandle(), key, keys);
+  /// Half a stroke as the platform gives it to a window, so many milliseconds after the last.
+  void Half(QWidget& to, QKeyEvent event, int wait = 40) {
+    event.setTimestamp(Now += static_cast<std::uint64_t>(wait));
+    QCoreApplication::sendEvent(to.windowHandle(), &event);
   }
-  void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+  void Stroke(int key, Qt::KeyboardModifiers keys, char text) {
+    const QString made = text != 0 ? QString(QLatin1Char(text)) : QString();
+    Half(Window, QKeyEvent(QEvent::KeyPress, key, keys, made));
+    Half(Window, QKeyEvent(QEvent::KeyRelease, key, keys, made));
+  }
+  /// Something happens, so that the last release can be no half of a repeat any more.
+  static void Settle() {
+    QObject nobody;
+    QEvent after(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&nobody, &after);
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {
+    Stroke(key, keys, QTest::keyToAscii(key));
+    Settle();
+  }
+  void Type(const char* text) {
+    for (; *text != 0; ++text) Stroke(QTest::asciiToKey(*text), {}, *text);
+    Settle();
+  }
+  std::uint64_t Now = 1000;
 
   QColor PixelOn(const forms::Control& control, QPoint at) {
     return Of(control).grab().toImage().pixelColor(at);

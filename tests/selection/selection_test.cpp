@@ -144,7 +144,7 @@ TEST_F(InspectorTest, ArmiesOutsideTheirRangeGiveWayToTheLastText) {
   Form.Focus(&Form.Armypc);
   for (const auto& c : cases) {
     Form.CharacterTyped();
-    Form.Armypc.Typed(c.Typed);
+    Replace(Form.Armypc, c.Typed);
     EXPECT_EQ(Form.Armypc.Text.Get(), c.Shown) << c.Typed;
     EXPECT_EQ(Form.RegionArmies(1), c.Armies) << c.Typed;
   }
@@ -159,7 +159,7 @@ TEST_F(InspectorTest, TheLastArmiesStayOnShowWithoutARegionAndWriteNothing) {
   EXPECT_EQ(Form.RegionArmies(1), 5);
   Form.KeyPressed({46, 0});
   Form.Armypc.Enabled = true;
-  Form.Armypc.Typed("");
+  Replace(Form.Armypc, "");
   EXPECT_EQ(Form.Armypc.Text.Get(), "4") << "a key without a character counts too";
   Form.RegionArmies(1) = 0;
   Click(Form.Continent(1));

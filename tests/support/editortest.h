@@ -69,13 +69,16 @@ class EditorTest : public testing::Test {
     Form.KeyPressed({code, 0});
     Form.KeyReleased({code, 0});
   }
+  static void Replace(forms::TextBox& box, const std::string& text) {
+    box.Edited(0, box.Text.Get().size(), text);
+  }
   /// Replaces a box's text key by key, as if all of it had been selected.
   void Type(forms::TextBox& box, const std::string& text) {
     Form.Focus(&box);
     for (std::size_t length = text.empty() ? 0 : 1; length <= text.size(); ++length) {
       Form.KeyPressed({65, 0});
       Form.CharacterTyped();
-      box.Typed(text.substr(0, length));
+      Replace(box, text.substr(0, length));
       Form.KeyReleased({65, 0});
     }
   }
