@@ -1,5 +1,7 @@
 // Starts the editor. There is no command line: what stands on it is passed over.
 #include <QApplication>
+#include <cstdio>
+#include <cstdlib>
 
 #include "editor/handlers.h"
 #include "qt/look.h"
@@ -7,9 +9,40 @@
 #include "qt/qtdesktop.h"
 #include "shell/startup.h"
 
+namespace {
+
+/// Hears the messages while the display is joined. Those about joining count only if it fails, and
+/// a display that does not answer takes one line instead of all of them and an abort.
+void HearJoining(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  static QStringList held;
+  const QString line = qFormatLogMessage(type, context, text);
+  if (type == QtFatalMsg) {
+    QStringList displays{qEnvironmentVariable("WAYLAND_DISPLAY"), qEnvironmentVariable("DISPLAY")};
+    displays.removeAll({});
+    if (held.filter("display").isEmpty()) {
+      held += line;
+    } else if (displays.isEmpty()) {
+      held = QStringList{"terramark: there is no display"};
+    } else {
+      held = QStringList{"terramark: the display " + displays.join(" or ") + " does not answer"};
+    }
+    std::fprintf(stderr, "%s\n", qUtf8Printable(held.join('\n')));
+    std::_Exit(EXIT_FAILURE);
+  }
+  if (QString(context.category).startsWith("qt.qpa.") || text.contains("wl_display")) {
+    held += line;
+  } else {
+    std::fprintf(stderr, "%s\n", qUtf8Printable(line));
+  }
+}
+
+}  // namespace
+
 int main(int /*argc*/, char** argv) {
   int argumentCount = 1;
+  qInstallMessageHandler(HearJoining);
   QApplication application(argumentCount, argv);
+  qInstallMessageHandler(nullptr);
   terramark::qt::SetUpLook(application);
 
   terramark::qt::QtDesktop desktop;
