@@ -7,7 +7,6 @@
 #include <QPainter>
 
 #include "forms/form.h"
-#include "qt/cp1252.h"
 #include "qt/keyfeed.h"
 #include "qt/look.h"
 
@@ -37,7 +36,7 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
 void ButtonView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption) {
     // A single "&" would make a shortcut.
-    setText(FromCp1252(button_.Caption).replace('&', "&&"));
+    setText(ShownText(button_.Caption, Qt::ElideMiddle).replace('&', "&&"));
   }
   update();
 }
@@ -69,7 +68,7 @@ void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   if (isEnabled() && qGray(colour.rgb()) < DarkFace) ink = Qt::white;
   painter.setPen(ink);
   // Of a file's path both ends are worth seeing.
-  DrawCaption(painter, inside, FromCp1252(button_.Caption), Qt::ElideMiddle);
+  DrawCaption(painter, inside, ShownText(button_.Caption, Qt::ElideMiddle), Qt::ElideMiddle);
   if (!hasFocus()) return;
   painter.setPen(QPen(ink, 1, Qt::DotLine));
   painter.drawRect(inside.adjusted(1, 0, -2, -1));

@@ -9,6 +9,7 @@ namespace terramark::qt {
 namespace {
 
 constexpr char32_t FirstOfOwn = 0x80;
+constexpr qsizetype PieceLength = 200;
 
 // Bytes 0x80 to 0x9F; all others stand for the character of the same number.
 // clang-format off
@@ -32,6 +33,13 @@ char ByteOf(char32_t character) {
   return static_cast<char>(FirstOfOwn + static_cast<char32_t>(own - OwnCharacters.begin()));
 }
 
+/// Whether a character may be one with what stands before it: marks, halves of a character, and the
+/// vowels and finals of Korean syllables.
+bool MayCompose(QChar character) {
+  return character.isMark() || character.isSurrogate() ||
+         (character >= QChar(0x1161) && character <= QChar(0x11C2));
+}
+
 }  // namespace
 
 QString FromCp1252(const std::string& text) {
@@ -48,6 +56,19 @@ std::string ToCp1252(const QString& text) {
   std::string bytes;
   for (const char32_t character : text.toUcs4()) bytes += ByteOf(character);
   return bytes;
+}
+
+QString ComposedForm(const QString& text) {
+  // Composing moves all that follows for each mark it takes in, so it gets pieces. A piece that
+  // finds no end, since all are marks, is cut where it is.
+  QString composed;
+  for (qsizetype from = 0, end = 0; from < text.size(); from = end) {
+    const qsizetype last = std::min(from + 2 * PieceLength, text.size());
+    end = std::min(from + PieceLength, last);
+    while (end < last && MayCompose(text[end])) ++end;
+    composed += text.sliced(from, end - from).normalized(QString::NormalizationForm_C);
+  }
+  return composed;
 }
 
 bool FitsCp1252(const QString& text) {

@@ -14,6 +14,9 @@ QString FromCp1252(const std::string& text);
 /// A character that the code page lacks becomes one "?".
 std::string ToCp1252(const QString& text);
 
+/// The text with letters and their marks composed where they can be; linear in its length.
+QString ComposedForm(const QString& text);
+
 /// Whether the text comes back from 8-bit text as it went in.
 bool FitsCp1252(const QString& text);
 

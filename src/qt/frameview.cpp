@@ -4,7 +4,6 @@
 
 #include <QPainter>
 
-#include "qt/cp1252.h"
 #include "qt/look.h"
 
 namespace terramark::qt {
@@ -20,7 +19,7 @@ FrameView::FrameView(forms::Frame& frame, QWidget& container)
 }
 
 void FrameView::ShowOwn(forms::PropertyId id) {
-  if (id == forms::PropertyId::Caption) setTitle(FromCp1252(frame_.Caption).replace('&', "&&"));
+  if (id == forms::PropertyId::Caption) setTitle(ShownText(frame_.Caption).replace('&', "&&"));
   update();
 }
 
@@ -30,7 +29,7 @@ void FrameView::paintEvent(QPaintEvent* /*event*/) {
   const QFontMetrics metrics = painter.fontMetrics();
   painter.fillRect(rect(), face);
   qDrawShadeRect(&painter, rect().adjusted(0, metrics.height() / 2, 0, 0), palette(), true);
-  const QString caption = FromCp1252(frame_.Caption);
+  const QString caption = ShownText(frame_.Caption);
   if (caption.isEmpty()) return;
   const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;
   const QRect place(CaptionLeft, 0, qMin(width, this->width() - 2 * CaptionLeft), metrics.height());

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 
-#include "qt/cp1252.h"
 #include "qt/look.h"
 
 namespace terramark::qt {
@@ -22,7 +21,7 @@ void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) 
     inside.adjust(1, 1, -1, -1);
   }
   painter.setPen(ScreenColour(label.ForeColor));
-  const QString caption = FromCp1252(label.Caption);
+  const QString caption = ShownText(label.Caption);
   if (label.Alignment == forms::Alignment::Centred) {
     DrawCaption(painter, inside, caption, Qt::ElideRight);
   } else {
@@ -38,7 +37,7 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 
 void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
-  if (id == forms::PropertyId::Caption) setText(FromCp1252(label_.Caption));
+  if (id == forms::PropertyId::Caption) setText(ShownText(label_.Caption));
   update();
 }
 

@@ -45,7 +45,7 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
   QMessageBox box(window_);
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(FromCp1252(title));
-  box.setText(FromCp1252(text));
+  box.setText(WrappableText(text));
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
@@ -97,7 +97,7 @@ float QtDesktop::TwipsPerPixelY() {
 
 forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
   const QFontMetrics metrics(ControlFont(*this));
-  return {metrics.horizontalAdvance(FromCp1252(text)), metrics.height()};
+  return {metrics.horizontalAdvance(ShownText(text)), metrics.height()};
 }
 
 forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {

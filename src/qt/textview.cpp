@@ -25,7 +25,7 @@ std::string Cleaned(QString insert) {
   for (QChar& character : insert) {
     if (character < ' ') character = ' ';
   }
-  return ToCp1252(insert.normalized(QString::NormalizationForm_C));
+  return ToCp1252(ComposedForm(insert));
 }
 
 /// An edit, from a place of the text on.
