@@ -106,8 +106,8 @@ QFont ControlFont(forms::Desktop& host) {
 QString ShownText(const std::string& text, Qt::TextElideMode cutAt) {
   if (text.size() <= ShownMost) return FromCp1252(text);
   const std::size_t tail = cutAt == Qt::ElideMiddle ? ShownMost / 2 : 0;
-  return FromCp1252(text.substr(0, ShownMost - 1 - tail)) + QChar(0x2026) +
-         FromCp1252(text.substr(text.size() - tail));
+  return FromCp1252(text.substr(0, ShownMost - 1 - tail) + '\x85' +
+                    text.substr(text.size() - tail));
 }
 
 QString WrappableText(const std::string& text) {
