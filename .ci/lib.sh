@@ -16,7 +16,7 @@ say_and_stop() {
 need_packages() {
   local installed missing=() admin=() package
   if ! { command -v dpkg-query && command -v apt-get; } >/dev/null; then
-    echo "$tool: no Debian system, so nobody checks that it has what stands for: $*" >&2
+    echo "$tool: this is no Debian system, so what stands for these packages is not checked: $*" >&2
     return 0
   fi
   installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
