@@ -18,6 +18,11 @@ std::uint32_t CodeOf(const QKeyEvent& key) {
   return place != 0 ? place : Named | static_cast<std::uint32_t>(key.key());
 }
 
+/// Keys that boxes and dialogs obey at each press, a repeat or not.
+bool Commands(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
+}
+
 /// Whatever must find a release told that came before it.
 bool ComesAfterRelease(QEvent::Type type) {
   switch (type) {
@@ -71,7 +76,7 @@ bool KeyRepeats::Pressed(QWindow& window, QKeyEvent& event) {
     key = {&window, true};
     return false;
   }
-  if (key.Window != &window) return true;
+  if (key.Window != &window || Commands(event)) return true;
   if (event.isAutoRepeat()) return false;
   QKeyEvent marked(QEvent::KeyPress, event.key(), event.modifiers(), event.nativeScanCode(),
                    event.nativeVirtualKey(), event.nativeModifiers(), event.text(), true);

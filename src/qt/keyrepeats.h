@@ -16,6 +16,7 @@ namespace terramark::qt {
 /// it has read both; on a busy machine it leaves many unmarked. Here they get their mark before a
 /// window sees them, so that each press has one release. The repeats and the release of a key reach
 /// only the window in which it went down: a box that comes up under a held key knows nothing of it.
+/// Enter and Escape do not repeat at all.
 class KeyRepeats : public QObject {
  public:
   /// Watches the application as long as this lives.
