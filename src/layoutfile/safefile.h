@@ -2,40 +2,68 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
+
+#include "layoutfile/filecalls.h"
+#include "layoutfile/permissions.h"
 
 namespace terramark {
 
-/// The new text goes into a temporary file beside the target and takes the target's name when all
-/// of it has reached the disk; what a link names is replaced, not the link. An old file keeps its
-/// permissions, and one that may not be written is not replaced. Where the folder takes no new
-/// file, or does not let it take the name, the old file is written in place, once room for the new
-/// text is certain.
+/// The new text goes into a temporary file in the target's folder and takes the target's name when
+/// all of it has reached the disk; what a link names is replaced, not the link. The new file gets
+/// the old one's owner, group and permissions as far as they can be set, and nobody gains a right.
+/// An old file that may not be written is not replaced. Only where the folder refuses a new file
+/// or its name is the old one written in place; its bytes are put back when that fails.
+///
+/// Hard links: a replaced file is a new one, and other names of the old file keep the old text;
+/// written in place, all of them show the new.
+///
+/// A kill leaves the old text or the new one, but in place perhaps a mix. The temporary file has no
+/// name until it is whole, and only for a moment one of its own. A kill in that moment, or at any
+/// time on a file system that cannot do without names, leaves a hidden ".terramark-..." beside the
+/// target, which nothing reads and which may be deleted.
 class SafeFile {
  public:
-  explicit SafeFile(const std::filesystem::path& target);
+  explicit SafeFile(std::filesystem::path target);
   SafeFile(const SafeFile&) = delete;
   SafeFile& operator=(const SafeFile&) = delete;
-  /// Takes the temporary file away when it has not become the target.
+  /// Takes the temporary file away, unless it is the target now or is kept.
   ~SafeFile();
 
   /// Whether the target can be written as far as can be told beforehand. Touches nothing but the
   /// temporary file.
   bool Open();
 
-  /// Makes the text the target's content, once, after Open; false leaves the target as it was, but
-  /// for a disk that fails in the middle of writing in place.
+  /// Makes the text the target's content, once, after Open. False leaves the target as it was, but
+  /// for a disk that fails in the middle of writing in place and fails again for the old text.
   bool Replace(std::string_view text);
 
+  /// The file beside the target that holds the text when the target was damaged; else empty.
+  const std::filesystem::path& Kept() const { return kept_; }
+
  private:
-  bool OpenTemporary();
-  bool CompleteTemporary(std::string_view text);
-  bool WriteInPlace(std::string_view text);
+  bool FindTarget();
+  bool Complete(std::string_view text);
+
+  // These give 0 or an errno.
+  int OpenUnnamed();
+  int OpenNamed();
+  int OpenTemporary(const std::filesystem::path& path, int flags);
+  int TakeTarget(std::string_view text);
+  int LinkTo(const std::filesystem::path& name) const;
+  template <typename Make>
+  int MakeTemporary(Make make);
+
+  std::filesystem::path Folder() const;
 
   std::filesystem::path target_;
-  std::filesystem::path temporary_;
-  int file_ = -1;  // the temporary file while it is open
-  bool targetExists_ = false;
+  std::optional<Permissions> old_;   // of the target, when there is one
+  Descriptor file_;                  // the temporary file while it is open
+  std::filesystem::path temporary_;  // its name, once it has one
+  std::filesystem::path kept_;
+  int refusal_ = 0;  // why the folder takes no temporary file
 };
 
 }  // namespace terramark

@@ -16,8 +16,13 @@ namespace terramark {
 
 namespace {
 
-void ShowWriteFault(Form1& form, const std::string& name) {
-  ShowMessage(form, "Cannot write Map Layout File " + name, ClrRed);
+void ShowWriteFault(Form1& form, const std::string& name, const SafeFile& file) {
+  std::string message = "Cannot write Map Layout File " + name;
+  // The name alone: it is plain in any encoding, which the folder's need not be.
+  if (!file.Kept().empty()) {
+    message += "; the map is kept beside it in " + file.Kept().filename().string();
+  }
+  ShowMessage(form, message, ClrRed);
 }
 
 }  // namespace
@@ -31,7 +36,7 @@ void SaveCFG_MouseUp(Form1& form) {
   const bool pictureRead = RefreshMap(form);
   SafeFile file(form.Host.NativePath(name));
   if (!file.Open()) {
-    ShowWriteFault(form, name);
+    ShowWriteFault(form, name, file);
     return;
   }
   const std::string header = form.Text1.Text;
@@ -42,7 +47,7 @@ void SaveCFG_MouseUp(Form1& form) {
   // A text that was stopped in mid-file takes its place like any other.
   if (!file.Replace(text.Text())) {
     form.Text1.Text = header;
-    ShowWriteFault(form, name);
+    ShowWriteFault(form, name, file);
     return;
   }
   form.LayoutFile = name;

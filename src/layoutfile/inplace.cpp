@@ -1,0 +1,76 @@
+#include "layoutfile/inplace.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <string>
+
+#include "layoutfile/filecalls.h"
+
+namespace terramark {
+
+namespace {
+
+constexpr off_t MostKept = off_t{64} << 20;
+
+bool ReadAll(int file, std::string& bytes) {
+  struct stat status {};
+  if (Uninterrupted([&] { return ::fstat(file, &status); }) != 0) return false;
+  if (!S_ISREG(status.st_mode) || status.st_size > MostKept) return false;
+  bytes.resize(static_cast<std::size_t>(status.st_size));
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const ssize_t got = Uninterrupted([&] {
+      return ::pread(file, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
+    });
+    if (got <= 0) return false;
+    done += static_cast<std::size_t>(got);
+  }
+  return true;
+}
+
+bool Truncate(int file, std::size_t size) {
+  return Uninterrupted([&] { return ::ftruncate(file, static_cast<off_t>(size)); }) == 0;
+}
+
+/// A full disk shows here, before a byte of the old text is gone. The size stays, and where room
+/// cannot be asked for, the writing finds out.
+bool MakeRoom(int file, std::size_t size) {
+  if (size == 0) return true;
+  const auto length = static_cast<off_t>(size);
+  if (Uninterrupted([&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, length); }) == 0) {
+    return true;
+  }
+  return errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL;
+}
+
+bool PutBack(int file, std::string_view old, std::size_t overwritten, bool cut) {
+  const std::size_t put = WriteAll(file, old);
+  const bool sized = Truncate(file, old.size()) || overwritten <= old.size();
+  // A bad spot that stopped the new text stops the old one too, but has it still.
+  const std::size_t lost = cut ? old.size() : std::min(overwritten, old.size());
+  return put >= lost && sized && Flush(file);
+}
+
+}  // namespace
+
+InPlace WriteInPlace(const std::filesystem::path& path, std::string_view text) {
+  const Descriptor file(
+      Uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC); }));
+  std::string old;
+  if (!file.IsOpen() || !ReadAll(file.Number(), old)) return InPlace::Kept;
+
+  if (!MakeRoom(file.Number(), text.size())) {
+    // Gives back what room there was.
+    Truncate(file.Number(), old.size());
+    return InPlace::Kept;
+  }
+  const std::size_t written = WriteAll(file.Number(), text);
+  const bool cut = written == text.size() && Truncate(file.Number(), text.size());
+  if (cut && Flush(file.Number())) return InPlace::Written;
+  return PutBack(file.Number(), old, written, cut) ? InPlace::Kept : InPlace::Damaged;
+}
+
+}  // namespace terramark

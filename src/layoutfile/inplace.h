@@ -1,0 +1,19 @@
+// Writes over a file that cannot be replaced, and puts its old bytes back when that fails.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace terramark {
+
+enum class InPlace {
+  Written,  // the text is the file's content
+  Kept,     // the file is as it was
+  Damaged,  // neither: the old bytes could not be put back
+};
+
+/// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or is far larger
+/// than any layout, is not written. A process that is killed in the middle leaves a mix.
+InPlace WriteInPlace(const std::filesystem::path& path, std::string_view text);
+
+}  // namespace terramark

@@ -1,0 +1,229 @@
+// Makes each call of a save fail, and kills the process around each. The linker sends the calls
+// here.
+#include "layoutfile/safefile.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <set>
+
+#include "layoutfile/layoutfolder.h"
+
+namespace {
+
+enum Blow { Nothing = 0, KillBefore = -1, KillAfter = -2, AllFail = -3 };
+
+struct Strike {
+  int At = -1;                          // the call that is struck, counted from 0
+  int Error = 0;                        // what it fails with, or a Blow
+  std::map<std::string, int> Always{};  // these fail each time, and are not counted
+  int Count = 0;
+  std::string Hit{};   // the call that was struck
+  bool Named = false;  // the text had its name by then
+};
+
+Strike* Armed = nullptr;
+
+template <typename Real>
+auto Call(const std::string& name, Real real) -> decltype(real()) {
+  if (!Armed) return real();
+  int error = Armed->Always.contains(name) ? Armed->Always[name] : 0;
+  const int n = error == 0 ? Armed->Count++ : -2;
+  if (n == Armed->At) Armed->Hit = name;
+  if (n == Armed->At && Armed->Error == KillBefore) kill(getpid(), SIGKILL);
+  if (n == Armed->At && Armed->Error > 0) error = Armed->Error;
+  if (n >= Armed->At && Armed->Error == AllFail) error = EIO;
+  errno = error;
+  if (error != 0) return -1;
+  const auto result = real();
+  if (n == Armed->At && Armed->Error == KillAfter) kill(getpid(), SIGKILL);
+  return result;
+}
+
+}  // namespace
+
+// None takes more than five words, and those go on in the registers that they came in.
+#define WRAP(result, name, called, real)                         \
+  result __real_##name(long, long, long, long, long);            \
+  result __wrap_##name(long a, long b, long c, long d, long e) { \
+    return Call(called, [&] { return real; });                   \
+  }
+#define PLAIN(result, name) WRAP(result, name, #name, __real_##name(a, b, c, d, e))
+
+extern "C" {
+PLAIN(int, lstat)
+PLAIN(ssize_t, readlink)
+PLAIN(int, faccessat)
+PLAIN(ssize_t, getxattr)
+PLAIN(int, fstat)
+PLAIN(int, fchown)
+PLAIN(int, fsetxattr)
+PLAIN(int, fremovexattr)
+PLAIN(int, fchmod)
+PLAIN(ssize_t, pread)
+PLAIN(int, fallocate)
+PLAIN(int, ftruncate)
+PLAIN(int, linkat)
+PLAIN(int, rename)
+PLAIN(int, unlink)
+WRAP(ssize_t, pwrite, d == 0 ? "pwrite" : "pwrite on",
+     __real_pwrite(a, b, Armed ? std::min(c, 500L) : c, d, e))
+// A killed process needs no flush, and many of them take their time.
+int __wrap_fsync(int) {
+  return Call("fsync", [] { return 0; });
+}
+int __real_close(int file);
+int __wrap_close(int file) {
+  const int closed = __real_close(file);  // also when it fails
+  return Call("close", [&] { return closed; });
+}
+int __real_open(const char* path, int flags, mode_t mode);
+int __wrap_open(const char* path, int flags, mode_t mode) {
+  const char* name = flags & O_CREAT ? "create" : flags & __O_TMPFILE ? "unnamed" : "open";
+  // The folder is opened for a flush once the text has its name.
+  if (Armed && Armed->Hit.empty() && (flags & ~O_CLOEXEC) == O_DIRECTORY) Armed->Named = true;
+  return Call(name, [&] { return __real_open(path, flags, mode); });
+}
+}
+
+namespace terramark {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::set<int> Refusals{EACCES, EPERM, EROFS, EBUSY};
+const std::set<int> Inabilities{EACCES, EPERM, ENOTSUP};
+constexpr const char* ListName = "system.posix_acl_access";
+// The owner, one user and others' group: rw-, r--, ---, with the mask r-- and --- for the rest.
+constexpr char List[] =
+    "\2\0\0\0\1\0\6\0\xff\xff\xff\xff\2\0\4\0\x57\4\0\0\4\0\0\0\xff\xff\xff\xff"
+    "\x10\0\4\0\xff\xff\xff\xff\x20\0\0\0\xff\xff\xff\xff";
+
+struct Scene {
+  const char* Name;
+  bool Old;
+  std::map<std::string, int> Always;
+};
+
+std::string RightsOf(const fs::path& path) {
+  struct stat status {};
+  EXPECT_EQ(stat(path.c_str(), &status), 0);
+  char list[100]{};
+  getxattr(path.c_str(), ListName, list, sizeof list);
+  return std::to_string(status.st_mode) + " " + std::to_string(status.st_uid) + " " +
+         std::to_string(status.st_gid) + std::string(list, sizeof list);
+}
+
+class Saving : public LayoutFolder, public testing::WithParamInterface<Scene> {
+ public:
+  void Prepare(Strike strike) {
+    for (const auto& file : fs::directory_iterator(Folder)) fs::remove_all(file);
+    Struck = std::move(strike);
+    Kept.clear();
+    if (!HasOld) return;
+    Put("map", Old);
+    [[maybe_unused]] const int asRoot = chown(Map.c_str(), 1234, 2345);
+    EXPECT_EQ(chmod(Map.c_str(), 0640), 0);
+    setxattr(Map.c_str(), ListName, List, sizeof List - 1, 0);
+    Rights = RightsOf(Map);
+  }
+  bool Save(const std::string& text) {
+    Armed = &Struck;
+    bool said = false;
+    {
+      SafeFile file(Map);
+      said = file.Open() && file.Replace(text);
+      Kept = file.Kept();
+    }
+    Armed = nullptr;
+    return said;
+  }
+  /// Whether a save is to succeed all the same.
+  bool Bearable() {
+    const std::string& hit = Struck.Hit;
+    const int error = Struck.Error;
+    if (error == EINTR || Struck.Named || hit == "close" || hit == "unlink") return true;
+    if (hit == "getxattr" || hit == "fallocate") return error == ENOTSUP;
+    if (hit == "unnamed" || hit == "linkat") return Refusals.contains(error) || error == ENOTSUP;
+    if (hit == "create" || hit == "rename") return HasOld && Refusals.contains(error);
+    const bool rights = hit == "fchown" || hit == "fchmod" || hit.ends_with("xattr");
+    return hit.empty() || (rights && Inabilities.contains(error));
+  }
+
+  const std::string Old = std::string(1200, 'o');
+  const fs::path Map = Folder / "map";
+  bool HasOld = true;
+  Strike Struck;
+  std::string Rights;
+  fs::path Kept;
+};
+
+TEST_P(Saving, LosesNothingWhateverFails) {
+  const auto& [name, hasOld, always] = GetParam();
+  HasOld = hasOld;
+  const std::string before = HasOld ? Old : "";
+  const bool closed = always.contains("create");
+  const std::set<int> blows{EIO,   ENOSPC,  EDQUOT, EMFILE,     EACCES,    EPERM,  EROFS,
+                            EBUSY, ENOTSUP, EINTR,  KillBefore, KillAfter, AllFail};
+  for (const std::string& text : {std::string(700, 's'), std::string(1800, 'l')}) {
+    for (const int blow : blows) {
+      bool over = false;
+      for (int n = 0; !over; ++n) {
+        Prepare({.At = n, .Error = blow, .Always = always});
+        SCOPED_TRACE(std::to_string(n) + (blow > 0 ? strerror(blow) : std::to_string(blow)));
+        bool said = false;
+        if (blow == KillBefore || blow == KillAfter) {
+          const pid_t child = fork();
+          if (child == 0) _exit(Save(text) ? 0 : 1);
+          int status = 0;
+          ASSERT_EQ(waitpid(child, &status, 0), child);
+          over = WIFEXITED(status);
+          ASSERT_TRUE(!over || WEXITSTATUS(status) == 0);
+          said = BytesOf(Map) == text;
+        } else {
+          said = Save(text);
+          over = Struck.Hit.empty();
+          EXPECT_TRUE(blow < 0 || said == Bearable()) << Struck.Hit;
+        }
+        int litter = 0;
+        bool whole = BytesOf(Map) == (said ? text : before);
+        for (const fs::path& file : fs::directory_iterator(Folder)) {
+          // No file gives a right that the old one did not, at no moment.
+          EXPECT_TRUE(!HasOld || Struck.Hit == "getxattr" || RightsOf(file) == Rights ||
+                      (fs::status(file).permissions() & fs::perms(0077)) == fs::perms::none);
+          if (file == Map) continue;
+          ++litter;
+          EXPECT_TRUE(file.filename().string().starts_with(".terramark-"));
+          EXPECT_TRUE(!always.empty() || BytesOf(file) == text);
+          if (blow < 0 && BytesOf(file) == text && (blow != AllFail || Kept == file)) whole = true;
+        }
+        EXPECT_LE(litter, blow < 0 || Struck.Hit == "unlink");
+        EXPECT_TRUE(whole || (closed && blow < 0)) << Struck.Hit;
+        EXPECT_EQ(fs::exists(Map), said || HasOld);
+        const bool allRights = !always.contains("fchmod") && !Inabilities.contains(blow);
+        EXPECT_TRUE(!HasOld || (said && !allRights) || RightsOf(Map) == Rights) << Struck.Hit;
+        ASSERT_FALSE(HasFailure());
+      }
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SafeFile, Saving,
+    testing::Values(Scene{"Old", true, {}}, Scene{"New", false, {}},
+                    Scene{"OldByName", true, {{"unnamed", EOPNOTSUPP}}},
+                    Scene{"NewByName", false, {{"unnamed", EISDIR}}},
+                    Scene{"OldWithoutProc", true, {{"linkat", ENOENT}}},
+                    Scene{"NewWithoutProc", false, {{"linkat", ENOENT}}},
+                    Scene{"RightsFixed", true, {{"fchown", EPERM}, {"fchmod", ENOTSUP}}},
+                    Scene{"FolderClosed", true, {{"unnamed", EACCES}, {"create", EACCES}}},
+                    Scene{"NameRefused", true, {{"rename", EBUSY}}}),
+    [](const auto& info) { return info.param.Name; });
+
+}  // namespace
+}  // namespace terramark
