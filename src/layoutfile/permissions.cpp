@@ -24,7 +24,7 @@ int SetList(int file, const std::string& list) {
     return Uninterrupted(set) == 0 ? 0 : errno;
   }
   if (Uninterrupted([&] { return ::fremovexattr(file, AccessList); }) == 0) return 0;
-  return errno == ENODATA || errno == ENOTSUP || errno == ENOSYS ? 0 : errno;
+  return errno == ENODATA ? 0 : errno;
 }
 
 }  // namespace
@@ -37,8 +37,10 @@ bool Permissions::Read(const std::filesystem::path& path, const struct stat& sta
   list_.resize(MostBytes);
   const ssize_t size = Uninterrupted(
       [&] { return ::getxattr(path.c_str(), AccessList, list_.data(), list_.size()); });
+  const int error = size >= 0 ? 0 : errno;
   list_.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
-  return size >= 0 || errno == ENODATA || errno == ENOTSUP || errno == ENOSYS;
+  listsKnown_ = error == 0 || error == ENODATA;
+  return listsKnown_ || error == ENOTSUP || error == ENOSYS;
 }
 
 mode_t Permissions::ModeFor(bool sameOwner, bool sameGroup) const {
@@ -69,8 +71,10 @@ bool Permissions::GiveTo(int file) const {
   const bool sameOwner = now.st_uid == owner_;
   const bool sameGroup = now.st_gid == group_;
   // With another list than the old one the mode that is safe for all has to do.
-  const int error = SetList(file, sameOwner && sameGroup ? list_ : std::string());
-  if (error != 0) return CannotBeSet(error);
+  if (listsKnown_) {
+    const int error = SetList(file, sameOwner && sameGroup ? list_ : std::string());
+    if (error != 0) return CannotBeSet(error);
+  }
   const mode_t mode = ModeFor(sameOwner, sameGroup);
   return Uninterrupted([&] { return ::fchmod(file, mode); }) == 0 || CannotBeSet(errno);
 }

@@ -28,7 +28,8 @@ class Permissions {
   uid_t owner_ = 0;
   gid_t group_ = 0;
   mode_t mode_ = 0;
-  std::string list_;  // as the system stores it; empty when the mode says all
+  bool listsKnown_ = false;  // whether the file system has access lists
+  std::string list_;         // as the system stores it; empty when the mode says all
 };
 
 }  // namespace terramark
