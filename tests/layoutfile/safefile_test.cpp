@@ -13,6 +13,7 @@
 #include <set>
 
 #include "layoutfile/layoutfolder.h"
+#include "shell/colours.h"
 
 namespace {
 
@@ -56,25 +57,16 @@ auto Call(const std::string& name, Real real) -> decltype(real()) {
 #define PLAIN(result, name) WRAP(result, name, #name, __real_##name(a, b, c, d, e))
 
 extern "C" {
-PLAIN(int, lstat)
-PLAIN(ssize_t, readlink)
-PLAIN(int, faccessat)
-PLAIN(ssize_t, getxattr)
-PLAIN(int, fstat)
-PLAIN(int, fchown)
-PLAIN(int, fsetxattr)
-PLAIN(int, fremovexattr)
-PLAIN(int, fchmod)
-PLAIN(ssize_t, pread)
-PLAIN(int, fallocate)
-PLAIN(int, ftruncate)
-PLAIN(int, linkat)
-PLAIN(int, rename)
-PLAIN(int, unlink)
+// clang-format off
+PLAIN(int, lstat) PLAIN(ssize_t, readlink) PLAIN(int, faccessat) PLAIN(ssize_t, getxattr)
+PLAIN(int, fstat) PLAIN(int, fchown) PLAIN(int, fsetxattr) PLAIN(int, fremovexattr)
+PLAIN(int, fchmod) PLAIN(ssize_t, pread) PLAIN(int, fallocate) PLAIN(int, ftruncate)
+PLAIN(int, linkat) PLAIN(int, rename) PLAIN(int, unlink)
 WRAP(ssize_t, pwrite, d == 0 ? "pwrite" : "pwrite on",
      __real_pwrite(a, b, Armed ? std::min(c, 500L) : c, d, e))
-// A killed process needs no flush, and many of them take their time.
-int __wrap_fsync(int) {
+    // clang-format on
+    // A killed process needs no flush, and many of them take their time.
+    int __wrap_fsync(int) {
   return Call("fsync", [] { return 0; });
 }
 int __real_close(int file);
@@ -243,48 +235,54 @@ TEST_F(Saving, ABadSpotLosesNothingInPlace) {
   }
 }
 
-TEST_F(Saving, FollowsLinksButNoRing) {
+TEST_F(Saving, FollowsLinksToFilesOnly) {
   fs::create_directories(Folder / "inner/deep");
   Put("inner/real", "old");
   fs::permissions(Folder / "inner/real", fs::perms(0604));
   const std::map<std::string, std::string> links{{"inner/first", "deep/link"},
                                                  {"inner/deep/link", Folder / "inner/deep/last"},
                                                  {"inner/deep/last", "../real"},
-                                                 {"inner/dangling", "deep/fresh"},
+                                                 {"inner/new", "deep/fresh"},
                                                  {"ping", "pong"},
-                                                 {"pong", "ping"}};
+                                                 {"pong", "ping"},
+                                                 {"device", "/dev/null"},
+                                                 {"folder", "inner"},
+                                                 {"lost", "nowhere/map"}};
   for (const auto& [link, to] : links) fs::create_symlink(to, Folder / link);
-  for (const std::string name : {"inner/first", "inner/dangling", "ping"}) {
-    SafeFile file(Folder / name);
-    EXPECT_EQ(file.Open() && file.Replace("new"), name != "ping");
+  for (const auto& [link, to] : links) {
+    SafeFile file(Folder / link);
+    EXPECT_EQ(file.Open() && file.Replace("new"), link.starts_with("inner")) << link;
+    EXPECT_EQ(fs::read_symlink(Folder / link), to);
   }
   EXPECT_EQ(BytesOf(Folder / "inner/real"), "new");
   EXPECT_EQ(fs::status(Folder / "inner/real").permissions(), fs::perms(0604));
   EXPECT_EQ(BytesOf(Folder / "inner/deep/fresh"), "new");
-  for (const auto& [link, to] : links) EXPECT_EQ(fs::read_symlink(Folder / link), to);
 }
 
 TEST_F(Saving, SaysWhereTheMapIsKeptOnlyWhenTheFileIsDamaged) {
-  const std::string fault = "Cannot write Map Layout File map.tml";
+  const std::string fault = "Cannot write Map Layout File old.tml";
   std::string message;
   for (int n = 0; message.find(';') == std::string::npos; ++n) {
     Prepare({.At = n, .Error = AllFail, .Always = {{"rename", EBUSY}}});
     AddPicture(TinyPicture);
+    Put("old.tml", "old text");
     LoadBytes(Tiny);
     Form.Text1.Text = "";
     Armed = &Struck;
-    FileNames = {"map.tml"};
+    FileNames = {"old.tml"};
     SaveCFG_MouseUp(Form);
     Armed = nullptr;
     ASSERT_FALSE(Struck.Hit.empty());
     message = Form.Message.Caption;
     EXPECT_EQ(message.substr(0, message.find(';')), fault);
+    EXPECT_EQ(Form.Message.BackColor, ClrRed);
     EXPECT_EQ(Form.Text1.Text.Get(), "");
+    EXPECT_EQ(Form.LayoutFile + Form.LoadMpa.Caption.Get(), "map.tmlmap.tml");
   }
   const std::string where = "; the map is kept beside it in ";
   ASSERT_TRUE(message.starts_with(fault + where));
-  EXPECT_EQ(BytesOf(Folder / message.substr((fault + where).size())),
-            TinyWith({{1, "MAP Layout File"}}));
+  const std::string kept = Folder.string() + "/" + message.substr((fault + where).size());
+  EXPECT_EQ(BytesOf(kept), TinyWith({{1, "MAP Layout File"}}));
 }
 
 }  // namespace

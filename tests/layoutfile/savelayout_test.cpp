@@ -47,18 +47,5 @@ TEST_F(SaveLayout, ALostPictureIsSaidUnlessTheWritingStops) {
   ExpectRed("Area Fir has no neighbours");
 }
 
-TEST_F(SaveLayout, WhatCannotBeWrittenLeavesAllAsItWas) {
-  Form.Text1.Text = "";
-  std::filesystem::create_directory(Folder / "folder");
-  std::filesystem::create_symlink("/dev/null", Folder / "device");
-  for (const std::string name : {"folder", "nowhere/new.tml", "device"}) {
-    EXPECT_EQ(Saved(name), "");
-    ExpectRed("Cannot write Map Layout File " + name);
-    EXPECT_EQ(Form.Text1.Text.Get(), "");
-    EXPECT_EQ(Form.LayoutFile, "map.tml");
-    EXPECT_EQ(Form.LoadMpa.Caption.Get(), "map.tml");
-  }
-}
-
 }  // namespace
 }  // namespace terramark
