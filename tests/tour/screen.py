@@ -9,20 +9,19 @@ import struct
 import subprocess
 import time
 import zlib
+from collections import namedtuple
 
 LIMIT = 30  # seconds that a step may take; a slow machine under sanitizers needs a few
 PAUSE = 0.02
+WIDTH, HEIGHT = 1280, 1024
 
 
 class Failure(Exception):
     """What was waited for did not come."""
 
 
-class Rect:
-    """Left, top, width and height in pixels."""
-
-    def __init__(self, left, top, width, height):
-        self.left, self.top, self.width, self.height = left, top, width, height
+class Rect(namedtuple("Rect", "left top width height")):
+    """In pixels."""
 
     def moved(self, x, y):
         return Rect(self.left + x, self.top + y, self.width, self.height)
@@ -36,53 +35,47 @@ class Rect:
 
 
 class Screen:
-    WIDTH, HEIGHT = 1280, 1024
-
     def __init__(self, folder):
         """Starts it; what its programs write goes into the folder."""
         self.folder = folder
         self.log = open(os.path.join(folder, "programs.log"), "w+b")
         self.started = []
+        # Nothing that a person set up for their own desktop reaches what runs here.
+        self.environment = {key: value for key, value in os.environ.items()
+                            if not key.startswith(("XDG_", "QT_", "WAYLAND_"))}
+        self.environment.update(HOME=folder, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=folder,
+                                QT_QPA_PLATFORM="xcb")
         ready, told = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(told), "-screen", "0",
-                     f"{self.WIDTH}x{self.HEIGHT}x24", "-dpi", "96", "-nolisten", "tcp", "-noreset",
-                     "-fbdir", folder], pass_fds=[told])
+        self.start(["Xvfb", "-displayfd", str(told), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
+                    "-dpi", "96", "-nolisten", "tcp", "-noreset", "-fbdir", folder],
+                   pass_fds=[told])
         os.close(told)
         with os.fdopen(ready) as number:
             display = number.readline().strip()
         if not display:
             raise Failure("Xvfb does not start")
-        # Nothing that a person set up for their own desktop reaches what runs here.
-        self.environment = {key: value for key, value in os.environ.items()
-                            if not key.startswith(("XDG_", "QT_", "WAYLAND_"))}
-        self.environment.update(DISPLAY=":" + display, HOME=folder, LC_ALL="C.UTF-8",
-                                XDG_RUNTIME_DIR=folder, QT_QPA_PLATFORM="xcb")
-        self._map_picture(os.path.join(folder, "Xvfb_screen0"))
+        self.environment["DISPLAY"] = ":" + display
         # It loses windows that come up while it starts, so it has to say when it is through.
         managed = os.path.join(folder, "managed")
-        self._start(["openbox", "--sm-disable", "--startup", f"touch '{managed}'"],
-                    env=self.environment)
+        self.start(["openbox", "--sm-disable", "--startup", f"touch '{managed}'"])
         self.wait("the window manager", lambda: os.path.exists(managed))
+        with open(os.path.join(folder, "Xvfb_screen0"), "rb") as file:
+            self.picture = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
+        # The header of a window dump: 25 numbers, the first of them its length, then the colours.
+        header = struct.unpack(">25I", self.picture[:100])
+        self.stride = header[12]
+        self.start_of_pixels = header[0] + 12 * header[19]
 
-    def _start(self, command, **options):
-        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self.log,
-                                   stderr=self.log, **options)
-        self.started.append(process)
-        return process
-
-    def start(self, program, folder):
-        """Runs a program on the screen, with the folder as its current one."""
-        return self._start([program], cwd=folder, env=self.environment)
-
-    @property
-    def everything(self):
-        return Rect(0, 0, self.WIDTH, self.HEIGHT)
+    def start(self, command, **options):
+        """Runs a program on the screen."""
+        self.started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self.log,
+                                             stderr=self.log, env=self.environment, **options))
+        return self.started[-1]
 
     def close(self):
         for process in reversed(self.started):
-            if process.poll() is None:
-                process.terminate()
-                process.wait(LIMIT)
+            process.terminate()
+            process.wait(LIMIT)
 
     def said(self):
         """What the programs wrote: the log of a run that failed."""
@@ -90,27 +83,15 @@ class Screen:
         return self.log.read().decode(errors="replace")
 
     def wait(self, what, seen):
-        """Looks again and again until seen() is true, and gives what it gave."""
+        """Looks again and again until seen() is true."""
         end = time.monotonic() + LIMIT
-        while True:
-            result = seen()
-            if result:
-                return result
+        while not seen():
             if time.monotonic() > end:
                 raise Failure(f"waited {LIMIT} s in vain: {what}")
             for process in self.started:
                 if process.poll() is not None:
                     raise Failure(f"{process.args[0]} ended ({process.returncode}) before: {what}")
             time.sleep(PAUSE)
-
-    def wait_end(self, process):
-        """Waits for a program to end by itself and gives its exit status."""
-        self.started.remove(process)
-        try:
-            return process.wait(LIMIT)
-        except subprocess.TimeoutExpired:
-            self.started.append(process)
-            raise Failure(f"{process.args[0]} does not end") from None
 
     # The mouse, the keyboard and the windows.
 
@@ -122,37 +103,23 @@ class Screen:
             raise Failure(f"xdotool {' '.join(map(str, words))}: {done.stderr.strip()}")
         return done.stdout.strip()
 
-    def window(self, title):
-        """The number of the visible window of that title, or nothing."""
-        return self.tool("search", "--onlyvisible", "--name", f"^{title}$", check=False)
-
     def windows(self, program):
         """The numbers of all visible windows of a program, its menus and lists among them."""
         return self.tool("search", "--onlyvisible", "--classname", f"^{program}$",
                          check=False).split()
 
-    def active(self):
-        """The title of the window that has the keyboard."""
-        return self.tool("getactivewindow", "getwindowname", check=False)
-
     def wait_active(self, title):
-        self.wait(f"the keyboard in the window {title!r}", lambda: self.active() == title)
+        """Until a window of that title has the keyboard."""
+        self.wait(f"the keyboard in the window {title!r}",
+                  lambda: self.tool("getactivewindow", "getwindowname", check=False) == title)
 
-    def corner(self, window):
-        """Where the inside of a window begins."""
-        words = self.tool("mousemove", "--window", window, 0, 0, "getmouselocation").split()
+    def corner(self):
+        """Where the inside of the window begins that has the keyboard."""
+        words = self.tool("getactivewindow", "mousemove", "--window", "%1", 0, 0,
+                          "getmouselocation").split()
         return tuple(int(word.split(":")[1]) for word in words[:2])
 
     # The picture.
-
-    def _map_picture(self, path):
-        self.wait("the picture of the screen", lambda: os.path.exists(path) and os.path.getsize(path))
-        with open(path, "rb") as file:
-            self.picture = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
-        # The header of a window dump: 25 numbers, the first of them its length, then the colours.
-        header = struct.unpack(">25I", self.picture[:100])
-        self.stride = header[12]
-        self.start_of_pixels = header[0] + 12 * header[19]
 
     def _row(self, rect, y):
         start = self.start_of_pixels + (rect.top + y) * self.stride + 4 * rect.left
@@ -165,13 +132,9 @@ class Screen:
     def count(self, rect, colour):
         """How many pixels of a part have exactly the colour, 0xRRGGBB."""
         pixels = memoryview(self.look(rect)).cast("I")
-        return sum(1 for pixel in pixels if pixel & 0xFFFFFF == colour)
+        return sum(pixel & 0xFFFFFF == colour for pixel in pixels)
 
-    def colour(self, x, y):
-        pixel = self.look(Rect(x, y, 1, 1))
-        return pixel[2] << 16 | pixel[1] << 8 | pixel[0]
-
-    def save(self, path, rect):
+    def save(self, path, rect=Rect(0, 0, WIDTH, HEIGHT)):
         """Writes a part of the screen as a PNG file."""
         rows = bytearray()
         for y in range(rect.height):
@@ -182,7 +145,6 @@ class Screen:
         head = struct.pack(">IIBBBBB", rect.width, rect.height, 8, 2, 0, 0, 0)
         with open(path, "wb") as file:
             file.write(b"\x89PNG\r\n\x1a\n")
-            for kind, data in ((b"IHDR", head), (b"IDAT", zlib.compress(bytes(rows))),
-                               (b"IEND", b"")):
-                file.write(struct.pack(">I", len(data)) + kind + data)
-                file.write(struct.pack(">I", zlib.crc32(kind + data)))
+            for chunk in b"IHDR" + head, b"IDAT" + zlib.compress(bytes(rows)), b"IEND":
+                file.write(struct.pack(">I", len(chunk) - 4) + chunk)
+                file.write(struct.pack(">I", zlib.crc32(chunk)))
