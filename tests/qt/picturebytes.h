@@ -8,14 +8,16 @@
 
 namespace terramark::qt {
 
-inline void PutWord(QByteArray& bytes, int value) {
-  bytes.append(static_cast<char>(value & 0xFF));
-  bytes.append(static_cast<char>(value >> 8 & 0xFF));
+inline QByteArray Words(std::initializer_list<int> values) {
+  QByteArray bytes;
+  for (const int value : values) {
+    bytes.append(static_cast<char>(value & 0xFF)).append(static_cast<char>(value >> 8 & 0xFF));
+  }
+  return bytes;
 }
 
-inline void PutLong(QByteArray& bytes, std::uint32_t value) {
-  PutWord(bytes, static_cast<int>(value & 0xFFFF));
-  PutWord(bytes, static_cast<int>(value >> 16));
+inline QByteArray Long(qint64 value) {
+  return Words({static_cast<int>(value & 0xFFFF), static_cast<int>(value >> 16 & 0xFFFF)});
 }
 
 /// The bitmap header of 40 bytes, the colours and the rows, as blit records carry them.
@@ -28,27 +30,16 @@ struct DibBytes {
   QByteArray Rows;
 
   QByteArray Packed() const {
-    QByteArray bytes;
-    PutLong(bytes, 40);
-    PutLong(bytes, static_cast<std::uint32_t>(Width));
-    PutLong(bytes, static_cast<std::uint32_t>(Height));
-    PutWord(bytes, 1);
-    PutWord(bytes, Bits);
-    PutLong(bytes, Compression);
-    for (int i = 0; i < 3; ++i) PutLong(bytes, 0);
-    PutLong(bytes, static_cast<std::uint32_t>(Colours.size()));
-    PutLong(bytes, 0);
-    for (const std::uint32_t colour : Colours) PutLong(bytes, colour);
+    QByteArray bytes = Long(40) + Long(Width) + Long(Height) + Words({1, Bits}) +
+                       Long(Compression) + QByteArray(12, 0) + Long(std::ssize(Colours)) + Long(0);
+    for (const std::uint32_t colour : Colours) bytes += Long(colour);
     return bytes + Rows;
   }
 
   QByteArray File() const {
-    QByteArray bytes("BM");
     const QByteArray packed = Packed();
-    PutLong(bytes, static_cast<std::uint32_t>(packed.size() + 14));
-    PutLong(bytes, 0);
-    PutLong(bytes, static_cast<std::uint32_t>(packed.size() - Rows.size() + 14));
-    return bytes + packed;
+    return "BM" + Long(packed.size() + 14) + Long(0) + Long(packed.size() - Rows.size() + 14) +
+           packed;
   }
 };
 
@@ -57,14 +48,9 @@ class MetafileBytes {
  public:
   MetafileBytes& Record(int function, std::initializer_list<int> words,
                         const QByteArray& tail = {}) {
-    QByteArray body;
-    for (const int word : words) PutWord(body, word);
-    body += tail;
+    QByteArray body = Words(words) + tail;
     if (body.size() % 2 != 0) body.append('\0');
-    PutLong(records_, static_cast<std::uint32_t>(3 + body.size() / 2));
-    PutWord(records_, function);
-    records_ += body;
-    return *this;
+    return Raw(Long(3 + body.size() / 2) + Words({function}) + body);
   }
   /// Bytes as they are, for records that lie.
   MetafileBytes& Raw(const QByteArray& bytes) {
@@ -72,45 +58,32 @@ class MetafileBytes {
     return *this;
   }
 
-  MetafileBytes& Window(int width, int height) {
-    return Record(0x020B, {0, 0}).Record(0x020C, {height, width});
-  }
   /// Creates and selects; the objects' numbers count up from 0.
-  MetafileBytes& Pen(int style, int width, std::uint32_t colour) {
-    Record(0x02FA,
-           {style, width, 0, static_cast<int>(colour & 0xFFFF), static_cast<int>(colour >> 16)});
-    return Record(0x012D, {objects_++});
+  MetafileBytes& Object(int function, std::initializer_list<int> words,
+                        const QByteArray& tail = {}) {
+    return Record(function, words, tail).Record(0x012D, {objects_++});
   }
-  MetafileBytes& Brush(int style, std::uint32_t colour, int hatch = 0) {
-    Record(0x02FC,
-           {style, static_cast<int>(colour & 0xFFFF), static_cast<int>(colour >> 16), hatch});
-    return Record(0x012D, {objects_++});
+  MetafileBytes& Pen(int style, int width, int colour) {
+    return Object(0x02FA, {style, width, 0, colour & 0xFFFF, colour >> 16});
+  }
+  MetafileBytes& Brush(int style, int colour, int hatch = 0) {
+    return Object(0x02FC, {style, colour & 0xFFFF, colour >> 16, hatch});
   }
   MetafileBytes& Rectangle(int left, int top, int right, int bottom) {
     return Record(0x041B, {bottom, right, top, left});
   }
+  MetafileBytes& Whole() { return Rectangle(0, 0, 101, 101); }
   MetafileBytes& Line(int x0, int y0, int x1, int y1) {
     return Record(0x0214, {y0, x0}).Record(0x0213, {y1, x1});
   }
 
   QByteArray Plain() const {
-    QByteArray bytes;
-    for (const int word : {1, 9, 0x300}) PutWord(bytes, word);
-    PutLong(bytes, static_cast<std::uint32_t>(9 + records_.size() / 2));
-    PutWord(bytes, objects_);
-    PutLong(bytes, 0);
-    PutWord(bytes, 0);
-    bytes += records_;
-    PutLong(bytes, 3);
-    PutWord(bytes, 0);
-    return bytes;
+    return Words({1, 9, 0x300}) + Long(9 + records_.size() / 2) + Words({objects_, 0, 0, 0}) +
+           records_ + Words({3, 0, 0});
   }
 
   QByteArray Placeable(int left, int top, int right, int bottom) const {
-    QByteArray bytes;
-    PutLong(bytes, 0x9AC6CDD7);
-    for (const int word : {0, left, top, right, bottom, 1440, 0, 0, 0}) PutWord(bytes, word);
-    return bytes + Plain();
+    return Long(0x9AC6CDD7) + Words({0, left, top, right, bottom, 1440, 0, 0, 0}) + Plain();
   }
 
  private:

@@ -55,59 +55,52 @@ TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
   }
 }
 
+// Grey all over.
+const DibBytes Sound{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
+
 TEST(PictureLoader, RefusesBitmapsThatLie) {
-  DibBytes sound{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
-  ASSERT_FALSE(LoadPictureBytes(sound.File(), Box).isNull());
-  const auto refused = [](DibBytes dib) { return LoadPictureBytes(dib.File(), Box).isNull(); };
-  for (const QSize size :
-       {QSize(0, 4), QSize(-4, 4), QSize(4, 0), QSize(30000, 30000), QSize(16384, 16384),
-        QSize(4, INT_MIN), QSize(INT_MAX, INT_MAX), QSize(4, 400)}) {
-    DibBytes dib = sound;
-    dib.Width = size.width();
-    dib.Height = size.height();
-    EXPECT_TRUE(refused(dib)) << size.width() << " x " << size.height();
+  const int sizes[][2]{
+      {0, 4},  {-4, 4}, {4, 0}, {30000, 30000}, {16384, 16384}, {4, INT_MIN}, {INT_MAX, INT_MAX},
+      {4, 400}};
+  for (const auto& [width, height] : sizes) {
+    const DibBytes dib{width, height, 24, 0, {}, Sound.Rows};
+    EXPECT_TRUE(LoadPictureBytes(dib.File(), Box).isNull()) << width << " x " << height;
   }
-  DibBytes oddBits = sound;
-  oddBits.Bits = 7;
-  EXPECT_TRUE(refused(oddBits));
-  DibBytes runs = sound;
-  runs.Compression = 1;
-  EXPECT_TRUE(refused(runs)) << "run lengths need 8 bits";
-  EXPECT_TRUE(LoadPictureBytes(sound.File().first(30), Box).isNull()) << "half a header";
-  QByteArray farBits = sound.File();
+  QByteArray farBits = Sound.File();
   farBits[12] = '\x7F';
-  EXPECT_TRUE(LoadPictureBytes(farBits, Box).isNull()) << "rows past the end of the file";
+  const std::pair<const char*, QByteArray> lies[]{
+      {"odd bits", DibBytes{4, 4, 7, 0, {}, Sound.Rows}.File()},
+      {"run lengths need 8 bits", DibBytes{4, 4, 24, 1, {}, Sound.Rows}.File()},
+      {"half a header", Sound.File().first(30)},
+      {"rows past the end of the file", farBits}};
+  for (const auto& [what, bytes] : lies) {
+    EXPECT_TRUE(LoadPictureBytes(bytes, Box).isNull()) << what;
+  }
 }
 
 TEST(PictureLoader, ReadsWhatIsLeftOfACutBitmap) {
-  const DibBytes dib{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
-  const QImage image = LoadPictureBytes(dib.File().chopped(15), Box);
+  const QImage image = LoadPictureBytes(Sound.File().chopped(15), Box);
   ASSERT_EQ(image.size(), QSize(4, 4));
   EXPECT_EQ(image.pixel(0, 3), 0xFF404040);
 }
 
 TEST(PictureLoader, TellsTheKindByContentAndNotByName) {
   const QTemporaryDir folder;
-  const auto write = [&](const char* name, const QByteArray& bytes) {
+  const auto sizeOf = [&](const char* name, const QByteArray& bytes) {
     QFile file(folder.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
-    return folder.filePath(name);
+    file.close();
+    return LoadPictureFile(file.fileName(), Box).size();
   };
-  const DibBytes dib{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
-  EXPECT_EQ(LoadPictureFile(write("map.wmf", dib.File()), Box).size(), QSize(4, 4));
-  const QByteArray metafile = MetafileBytes().Window(9, 9).Placeable(0, 0, 9, 9);
-  EXPECT_EQ(LoadPictureFile(write("map.bmp", metafile), Box).size(), Box);
-  EXPECT_TRUE(LoadPictureFile(write("text.wmf", "Some text, no picture"), Box).isNull());
-  EXPECT_TRUE(LoadPictureFile(write("empty.bmp", ""), Box).isNull());
+  EXPECT_EQ(sizeOf("map.wmf", Sound.File()), QSize(4, 4));
+  EXPECT_EQ(sizeOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), Box);
+  EXPECT_TRUE(sizeOf("text.wmf", "Some text, no picture").isEmpty());
+  EXPECT_TRUE(sizeOf("empty.bmp", "").isEmpty());
   EXPECT_TRUE(LoadPictureFile(folder.filePath("missing.bmp"), Box).isNull());
   EXPECT_TRUE(LoadPictureFile(folder.path(), Box).isNull());
-  QFile huge(folder.filePath("huge.bmp"));
-  ASSERT_TRUE(huge.open(QIODevice::WriteOnly));
-  huge.write(dib.File());
-  ASSERT_TRUE(huge.resize(MaxPictureFileBytes + 1));
-  huge.close();
-  EXPECT_TRUE(LoadPictureFile(huge.fileName(), Box).isNull());
+  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), MaxPictureFileBytes + 1));
+  EXPECT_TRUE(LoadPictureFile(folder.filePath("map.wmf"), Box).isNull());
 }
 
 }  // namespace

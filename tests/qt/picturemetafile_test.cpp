@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QSet>
+#include <QMap>
 #include <cstdlib>
 
 #include "picturebytes.h"
@@ -14,28 +14,39 @@ constexpr QRgb White = 0xFFFFFFFF;
 constexpr QRgb Black = 0xFF000000;
 constexpr QRgb Red = 0xFFFF0000;
 constexpr QRgb Green = 0xFF00FF00;
-constexpr std::uint32_t RedRef = 0x0000FF;
-constexpr std::uint32_t GreenRef = 0x00FF00;
+constexpr int RedRef = 0x0000FF;
+constexpr int GreenRef = 0x00FF00;
 constexpr int NullPen = 5;
 
 QImage Play(const MetafileBytes& file, QSize size = {100, 100}) {
   return PlayMetafile(file.Placeable(0, 0, 100, 100), size);
 }
 
-int Count(const QImage& image, QRgb colour) {
-  int count = 0;
+/// The pixels of a colour: how many, and the box around them.
+struct Patch {
+  int Count = 0;
+  QRect Box;
+};
+
+QMap<QRgb, Patch> Patches(const QImage& image) {
+  QMap<QRgb, Patch> patches;
   for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == colour ? 1 : 0;
+    for (int x = 0; x < image.width(); ++x) {
+      Patch& patch = patches[image.pixel(x, y)];
+      ++patch.Count;
+      patch.Box |= QRect(x, y, 1, 1);
+    }
   }
-  return count;
+  return patches;
 }
 
-QSet<QRgb> Colours(const QImage& image) {
-  QSet<QRgb> colours;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) colours.insert(image.pixel(x, y));
+/// The box around everything that is not white.
+QRect Inked(const QImage& image) {
+  QRect inked;
+  for (const auto& [colour, patch] : Patches(image).asKeyValueRange()) {
+    if (colour != White) inked |= patch.Box;
   }
-  return colours;
+  return inked;
 }
 
 // Walks the four ways from `seed` over its colour; a gap in a border lets it out to the edge.
@@ -62,7 +73,7 @@ TEST(Metafile, BordersAreBlackAndUnbroken) {
     file.Record(0x0324,
                 {7, 350, 150, 2800, 470, 3900, 2100, 2100, 1700, 2950, 3800, 900, 3500, 120, 1900});
     const QImage image = PlayMetafile(file.Placeable(0, 0, 4000, 4000), {546, 308});
-    EXPECT_EQ(Colours(image), QSet<QRgb>({White, Black, Green})) << "grey edges at pen " << width;
+    EXPECT_EQ(Patches(image).keys(), QList({Black, Green, White})) << "grey edges at pen " << width;
     EXPECT_FALSE(FloodReachesEdge(image, {200, 80})) << "a gap at pen " << width;
     EXPECT_FALSE(FloodReachesEdge(image, {300, 70})) << "a gap at pen " << width;
   }
@@ -70,9 +81,9 @@ TEST(Metafile, BordersAreBlackAndUnbroken) {
 
 TEST(Metafile, TextHasNoGreyEdges) {
   MetafileBytes file;
-  file.Record(0x02FB, {-40, 0, 200, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x012D, {0});
+  file.Object(0x02FB, {-40, 0, 200, 0, 400, 0, 0, 0, 0}, "Arial");
   file.Record(0x0102, {1}).Record(0x0521, {4}, QByteArray("Ober") + QByteArray("\x14\0\x05\0", 4));
-  EXPECT_EQ(Colours(Play(file, {300, 300})), QSet<QRgb>({White, Black}));
+  EXPECT_EQ(Patches(Play(file, {300, 300})).keys(), QList({Black, White}));
 }
 
 TEST(Metafile, TextIsReadInTheCharacterSetOfItsFont) {
@@ -104,21 +115,10 @@ TEST(Metafile, TextIsReadInTheCharacterSetOfItsFont) {
   }
 }
 
-// The box around everything that is not white.
-QRect Inked(const QImage& image) {
-  QRect inked;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      if (image.pixel(x, y) != White) inked |= QRect(x, y, 1, 1);
-    }
-  }
-  return inked;
-}
-
 TEST(Metafile, TextStandsWhereItsAlignmentPutsIt) {
   const auto inked = [](int align, int escapement) {
     MetafileBytes file;
-    file.Record(0x02FB, {-20, 0, escapement, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x012D, {0});
+    file.Object(0x02FB, {-20, 0, escapement, 0, 400, 0, 0, 0, 0}, "Arial");
     file.Record(0x012E, {align}).Record(0x0102, {1});
     // "HH", with 15 from letter to letter.
     return Inked(Play(file.Record(0x0A32, {50, 50, 2, 0, 0x4848, 15, 15})));
@@ -148,231 +148,175 @@ TEST(Metafile, FillsBothAxesOfTheBox) {
   EXPECT_TRUE(filled(PlayMetafile(window.Plain(), {121, 41}))) << "bounds from the window";
 }
 
+/// A file that has selected a brush and paints no outlines.
+MetafileBytes Filled(int colour = RedRef) {
+  return MetafileBytes().Pen(NullPen, 0, 0).Brush(0, colour);
+}
+
+TEST(Metafile, RecordsPaintTheirPixels) {
+  // One square inside the other, turning the same way.
+  const auto nested = [](int mode) {
+    return Filled()
+        .Record(0x0106, {mode})
+        .Record(0x0538, {2, 4, 4, 10, 10, 90, 10, 90, 90, 10, 90, 30, 30, 70, 30, 70, 70, 30, 70});
+  };
+  const auto inverted = [] { return Filled(0xFFFFFF).Record(0x0104, {7}).Rectangle(0, 0, 50, 50); };
+  // A frame inside the clip, a square left out of it.
+  const auto clipped = [] {
+    return Filled()
+        .Record(0x001E, {})
+        .Record(0x0416, {50, 50, 10, 10})
+        .Record(0x0415, {40, 40, 20, 20})
+        .Record(0x0209, {0, 0})
+        .Whole();
+  };
+  // Two red pixels above two green ones.
+  const QByteArray dib =
+      DibBytes{2, 2, 24, 0, {}, QByteArray::fromHex("00ff0000ff0000000000ff0000ff0000")}.Packed();
+  // From the right end of the box to its top: the upper right quarter.
+  const auto arc = [](int function) {
+    return MetafileBytes().Brush(0, RedRef).Record(function, {0, 50, 50, 100, 91, 91, 10, 10});
+  };
+  const auto flood = [](int function, std::initializer_list<int> words) {
+    return MetafileBytes()
+        .Brush(1, 0)
+        .Rectangle(20, 20, 60, 60)
+        .Brush(0, RedRef)
+        .Record(function, words);
+  };
+  const auto dashes = [](int style, int mode) {
+    return MetafileBytes()
+        .Record(0x0201, {0x00FF, 0})
+        .Record(0x0102, {mode})
+        .Pen(style, 0, 0)
+        .Line(0, 10, 72, 10);
+  };
+  // Two scans: 10 to 50 in rows 10 to 20, 10 to 30 in rows 20 to 40.
+  const auto region = [](int function, std::initializer_list<int> words) {
+    return Filled()
+        .Record(0x06FF, {0, 6,  0,  0,  0,  2, 2, 10, 10, 50, 40,  //
+                         2, 10, 20, 10, 50, 2, 2, 20, 40, 10, 30, 2})
+        .Record(function, words);
+  };
+  const auto whole = [] { return Filled().Whole(); };
+  const Patch everywhere{100 * 100, {0, 0, 100, 100}};
+  const Patch scans{40 * 10 + 20 * 20, {10, 10, 40, 30}};
+  const struct {
+    const char* What;
+    QRgb Colour;
+    Patch Painted;
+    MetafileBytes File;
+    QSize Size{100, 100};
+  } cases[]{
+      // clang-format off
+      {"a rectangle lacks its right and bottom edge", Black, {36, {10, 10, 10, 10}},
+       MetafileBytes().Rectangle(10, 10, 20, 20)},
+      {"a line lacks its last pixel", Black, {10, {10, 10, 10, 1}},
+       MetafileBytes().Line(10, 10, 20, 10)},
+      {"a wide pen by the scale across", Black, {2716, {30, 40, 140, 20}},
+       MetafileBytes().Pen(0, 10, 0).Line(20, 50, 80, 50), {200, 100}},
+      {"alternate polygons", Red, {80 * 80 - 40 * 40, {10, 10, 80, 80}}, nested(1)},
+      {"winding polygons", Red, {80 * 80, {10, 10, 80, 80}}, nested(2)},
+      {"inverted", Black, {49 * 49, {0, 0, 49, 49}}, inverted()},
+      {"inverted twice", Black, {}, inverted().Rectangle(0, 0, 50, 50)},
+      {"a wide line that crosses itself", Black, {1992, {5, 5, 90, 90}},
+       MetafileBytes().Pen(0, 10, 0xFFFFFF).Record(0x0104, {7})
+           .Record(0x0325, {4, 10, 50, 90, 50, 90, 10, 50, 90})},
+      {"a clip", Red, {40 * 40 - 20 * 20, {10, 10, 40, 40}}, clipped()},
+      {"no clip any more", Red, everywhere, clipped().Record(0x0127, {-1}).Whole()},
+      {"a deleted brush that stays selected", Red, {49 * 99, {0, 0, 49, 99}},
+       Filled().Record(0x01F0, {1}).Record(0x02FC, {0, 0xFF00, 0, 0}).Rectangle(0, 0, 50, 100)},
+      {"its number used again", Green, {49 * 99, {50, 0, 49, 99}},
+       Filled().Record(0x01F0, {1}).Record(0x02FC, {0, 0xFF00, 0, 0}).Record(0x012D, {1})
+           .Rectangle(50, 0, 100, 100)},
+      {"a hatch has one line in eight rows", Red, {80 * 10, {0, 3, 80, 73}},
+       MetafileBytes().Pen(NullPen, 0, 0).Brush(2, RedRef).Record(0x0102, {1})
+           .Rectangle(0, 0, 81, 81)},
+      {"a pattern of a bitmap", Red, {100 * 50, {0, 0, 100, 99}},
+       MetafileBytes().Pen(NullPen, 0, 0).Object(0x0142, {5, 0}, dib).Whole()},
+      {"stretched, the first stored row lowest", Red, {60 * 30, {20, 20, 60, 30}},
+       MetafileBytes().Record(0x0F43, {0x20, 0xCC, 0, 2, 2, 0, 0, 60, 60, 20, 20}, dib)},
+      {"stretched and mirrored", Green, {60 * 30, {20, 20, 60, 30}},
+       MetafileBytes().Record(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, -60, 60, 80, 20}, dib)},
+      {"laid over each other where they fall together", Black, {1, {20, 20, 1, 1}},
+       MetafileBytes().Record(0x0F43, {0x20, 0xCC, 0, 2, 2, 0, 0, 1, 1, 20, 20}, dib)},
+      {"its size in pixels", Red, {2, {80, 60, 2, 1}},
+       MetafileBytes().Record(0x0D33, {0, 2, 0, 0, 0, 2, 2, 30, 40}, dib), {200, 200}},
+      {"white and the picture", Red, {2, {10, 10, 2, 1}},
+       MetafileBytes().Record(0x0940, {0xC6, 0x88, 0, 0, 2, 2, 10, 10}, dib)},
+      {"a blit without a bitmap", Black, {30 * 30, {10, 10, 30, 30}},
+       MetafileBytes().Record(0x061D, {0x09, 0x55, 30, 30, 10, 10})},
+      {"an arc against the clock", Black, {58, {51, 10, 40, 41}}, arc(0x0817)},
+      {"an open arc", Red, {}, arc(0x0817)},
+      {"a pie", Red, {1189, {51, 11, 39, 39}}, arc(0x081A)},
+      {"the sides of a pie", Black, {58 + 80, {50, 10, 41, 41}}, arc(0x081A)},
+      {"a chord", Red, {409, {52, 11, 38, 38}}, arc(0x0830)},
+      {"a flood up to black", Red, {38 * 38, {21, 21, 38, 38}}, flood(0x0419, {0, 0, 30, 30})},
+      {"over white", Red, {38 * 38, {21, 21, 38, 38}}, flood(0x0548, {1, -1, 0xFF, 30, 30})},
+      {"over black", Red, {4 * 39, {20, 20, 40, 40}}, flood(0x0548, {1, 0, 0, 20, 20})},
+      {"from outside the picture", Red, {}, flood(0x0419, {0, 0, 200, 200})},
+      {"dashes, 18 on and 6 off", Black, {54, {0, 10, 66, 1}}, dashes(1, 1)},
+      {"nothing in their gaps", Red, {}, dashes(1, 1)},
+      {"the background in their gaps", Red, {18, {18, 10, 54, 1}}, dashes(1, 2)},
+      {"dots", Black, {36, {0, 10, 69, 1}}, dashes(2, 1)},
+      {"no line at all", White, everywhere, dashes(NullPen, 2)},
+      {"a viewport", Red, {2500, {20, 30, 50, 50}},
+       Filled().Record(0x020D, {30, 20}).Record(0x020E, {50, 50}).Rectangle(0, 0, 102, 102)},
+      {"a palette entry looked up when it paints", Red, everywhere,
+       MetafileBytes().Object(0x02FC, {0, 1, 0x0100, 0}).Pen(NullPen, 0, 0)
+           .Record(0x00F7, {0x300, 2, 0, 0, 0x00FF, 0}).Record(0x0234, {2}).Whole()},
+      {"a region filled", Red, scans, region(0x012B, {2})},
+      {"a region inverted", Black, scans, region(0x012A, {2})},
+      {"no frame where its scans meet", Red, {310, {10, 10, 40, 30}}, region(0x0429, {2, 1, 2, 3})},
+      {"a region as clip", Red, scans, region(0x012C, {2}).Whole()},
+      {"number 0 is a pen: the clip is off", Red, everywhere,
+       region(0x012C, {2}).Record(0x012C, {0}).Whole()},
+      {"unknown records", Red, everywhere,
+       Filled().Record(0x7777, {1, 2, 3}).Record(0x0626, {15, 4, 0, 0}).Whole()},
+      {"a record without end", Red, everywhere,
+       whole().Raw(Words({-1, 0x7FFF, 0x041B})).Brush(0, GreenRef).Whole()},
+      {"a record without a length", Red, everywhere,
+       whole().Raw(Words({2, 0, 0x041B})).Brush(0, GreenRef).Whole()},
+      {"more points than there are", Red, everywhere, whole().Record(0x0324, {0x7FFF, 5})},
+      {"fewer polygons than none", Red, everywhere, whole().Record(0x0538, {-1, -1, -1})},
+      {"a window without a size", Red, everywhere,
+       whole().Record(0x020C, {0, 0}).Record(0x0410, {0, 0, 0, 0})},
+      // clang-format on
+  };
+  for (const auto& c : cases) {
+    const Patch painted = Patches(Play(c.File, c.Size)).value(c.Colour);
+    EXPECT_EQ(painted.Count, c.Painted.Count) << c.What;
+    EXPECT_EQ(painted.Box, c.Painted.Box) << c.What;
+  }
+}
+
 TEST(Metafile, MetricModesPointUpWhereNothingSaysMore) {
-  MetafileBytes file;
-  file.Record(0x0103, {2}).Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(0, 0, 200, 100);
+  MetafileBytes file = Filled().Record(0x0103, {2}).Rectangle(0, 0, 200, 100);
   file.Brush(0, GreenRef).Rectangle(0, 100, 200, 200);
   const QImage image = PlayMetafile(file.Plain(), {50, 50});
   EXPECT_EQ(image.pixel(25, 10), Green);
   EXPECT_EQ(image.pixel(25, 40), Red);
 }
 
-TEST(Metafile, ShapesLeaveOutTheirRightAndBottomEdge) {
-  MetafileBytes rectangle;
-  rectangle.Rectangle(10, 10, 20, 20);
-  EXPECT_EQ(Play(rectangle).pixel(19, 19), Black);
-  EXPECT_EQ(Play(rectangle).pixel(20, 19), White);
-  MetafileBytes ellipse;
-  ellipse.Brush(0, RedRef).Record(0x0418, {90, 90, 10, 10});
-  const QImage round = Play(ellipse);
-  EXPECT_EQ(round.pixel(10, 50), Black);
-  EXPECT_EQ(round.pixel(89, 50), Black);
-  EXPECT_EQ(round.pixel(90, 50), White);
-  EXPECT_EQ(round.pixel(50, 50), Red);
-  EXPECT_EQ(round, round.mirrored(true, true)) << "not symmetric";
-  MetafileBytes line;
-  line.Line(10, 10, 20, 10);
-  EXPECT_EQ(Count(Play(line), Black), 10) << "the last pixel belongs to the next line";
+TEST(Metafile, EllipsesAreSymmetric) {
+  const QImage image = Play(MetafileBytes().Brush(0, RedRef).Record(0x0418, {90, 90, 10, 10}));
+  EXPECT_EQ(Inked(image), QRect(10, 10, 80, 80));
+  EXPECT_EQ(image.pixel(50, 50), Red);
+  EXPECT_EQ(image, image.mirrored(true, true));
 }
 
-TEST(Metafile, PolygonsFillByTheirMode) {
-  // One square inside the other, turning the same way.
-  const auto file = [](int mode) {
-    MetafileBytes bytes;
-    bytes.Pen(NullPen, 0, 0).Brush(0, RedRef).Record(0x0106, {mode});
-    bytes.Record(0x0538, {2, 4, 4, 10, 10, 90, 10, 90, 90, 10, 90, 30, 30, 70, 30, 70, 70, 30, 70});
-    return Play(bytes);
-  };
-  EXPECT_EQ(file(1).pixel(50, 50), White);
-  EXPECT_EQ(file(2).pixel(50, 50), Red);
-  EXPECT_EQ(Count(file(2), Red), 80 * 80);
-}
-
-TEST(Metafile, RasterOperationsCombineWithThePicture) {
-  MetafileBytes twice;
-  twice.Pen(NullPen, 0, 0).Brush(0, 0xFFFFFF).Record(0x0104, {7});
-  twice.Rectangle(0, 0, 50, 50);
-  EXPECT_EQ(Play(twice).pixel(20, 20), Black);
-  twice.Rectangle(0, 0, 50, 50);
-  EXPECT_EQ(Play(twice).pixel(20, 20), White) << "inverting twice gives back the picture";
-  MetafileBytes crossing;
-  crossing.Pen(0, 10, 0xFFFFFF).Record(0x0104, {7});
-  crossing.Record(0x0325, {4, 10, 50, 90, 50, 90, 10, 50, 90});
-  EXPECT_EQ(Play(crossing).pixel(89, 50), Black) << "a wide line inverted its own joint back";
-}
-
-TEST(Metafile, ClipsAreSavedAndRestored) {
-  MetafileBytes file;
-  file.Pen(NullPen, 0, 0).Brush(0, RedRef);
-  file.Record(0x001E, {}).Record(0x0416, {50, 50, 10, 10}).Record(0x0415, {40, 40, 20, 20});
-  file.Record(0x0209, {0, 0}).Rectangle(0, 0, 100, 100);
-  const QImage clipped = Play(file);
-  EXPECT_EQ(Count(clipped, Red), 40 * 40 - 20 * 20);
-  file.Record(0x0127, {-1}).Rectangle(0, 0, 101, 101);
-  EXPECT_EQ(Count(Play(file), Red), 100 * 100);
-}
-
-TEST(Metafile, DeletedNumbersAreUsedAgain) {
-  MetafileBytes file;
-  file.Pen(NullPen, 0, 0).Brush(0, RedRef).Record(0x01F0, {1});
-  file.Record(0x02FC, {0, 0xFF00, 0, 0});
-  file.Rectangle(0, 0, 50, 100).Record(0x012D, {1}).Rectangle(50, 0, 100, 100);
-  const QImage image = Play(file);
-  EXPECT_EQ(image.pixel(20, 20), Red) << "a deleted brush stays selected";
-  EXPECT_EQ(image.pixel(70, 20), Green);
-}
-
-TEST(Metafile, HatchesAndBlitsPaint) {
-  MetafileBytes hatch;
-  hatch.Pen(NullPen, 0, 0).Brush(2, RedRef, 0).Record(0x0102, {1}).Rectangle(0, 0, 81, 81);
-  EXPECT_EQ(Count(Play(hatch), Red), 80 * 10) << "one line in eight rows";
-
-  const QByteArray dib =
-      DibBytes{2, 2, 24, 0, {}, QByteArray::fromHex("00ff0000ff0000000000ff0000ff0000")}.Packed();
-  MetafileBytes blit;
-  blit.Record(0x0F43, {0x20, 0xCC, 0, 2, 2, 0, 0, 60, 60, 20, 20}, dib);
-  const QImage stretched = Play(blit);
-  EXPECT_EQ(stretched.pixel(21, 21), Red) << "the first stored row is the lowest";
-  EXPECT_EQ(stretched.pixel(78, 78), Green);
-  EXPECT_EQ(Count(stretched, Red), 60 * 30);
-  MetafileBytes unscaled;
-  unscaled.Record(0x0D33, {0, 2, 0, 0, 0, 2, 2, 30, 40}, dib);
-  EXPECT_EQ(Inked(Play(unscaled, {200, 200})), QRect(80, 60, 2, 2)) << "its size is in pixels";
-  MetafileBytes mirrored;
-  mirrored.Record(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, -60, 60, 80, 20}, dib);
-  EXPECT_EQ(Play(mirrored).pixel(21, 21), Green);
-  MetafileBytes masked;
-  masked.Record(0x0940, {0xC6, 0x88, 0, 0, 2, 2, 10, 10}, dib);
-  EXPECT_EQ(Play(masked).pixel(10, 10), Red) << "white and the picture";
-  MetafileBytes tiled;
-  tiled.Pen(NullPen, 0, 0).Record(0x0142, {5, 0}, dib).Record(0x012D, {1});
-  EXPECT_EQ(Count(Play(tiled.Rectangle(0, 0, 101, 101)), Red), 50 * 100);
-  MetafileBytes shrunk;
-  shrunk.Record(0x0F43, {0x20, 0xCC, 0, 2, 2, 0, 0, 1, 1, 20, 20}, dib);
-  EXPECT_EQ(Play(shrunk).pixel(20, 20), Black)
-      << "pixels that fall together are laid over each other";
-  MetafileBytes invert;
-  invert.Record(0x061D, {0x09, 0x55, 30, 30, 10, 10});
-  EXPECT_EQ(Count(Play(invert), Black), 30 * 30);
-}
-
-TEST(Metafile, ArcsRunAgainstTheClock) {
-  // From the right end of the box to its top: the upper right quarter.
-  const auto arc = [](int function) {
-    MetafileBytes file;
-    file.Brush(0, RedRef).Record(function, {0, 50, 50, 100, 91, 91, 10, 10});
-    return Play(file);
-  };
-  const QImage open = arc(0x0817);
-  EXPECT_EQ(Count(open, Red), 0);
-  EXPECT_EQ(open.pixel(51, 10), Black);
-  EXPECT_TRUE(Inked(open).left() >= 49 && Inked(open).bottom() <= 51);
-  const QImage pie = arc(0x081A);
-  EXPECT_EQ(pie.pixel(60, 40), Red);
-  EXPECT_EQ(pie.pixel(50, 30), Black) << "the way back to the centre";
-  const QImage chord = arc(0x0830);
-  EXPECT_EQ(chord.pixel(55, 45), White) << "the centre lies outside";
-  EXPECT_EQ(chord.pixel(78, 25), Red);
-}
-
-TEST(Metafile, FloodsStopAtTheirBorder) {
-  const auto flood = [](int function, std::initializer_list<int> words) {
-    MetafileBytes file;
-    file.Brush(1, 0).Rectangle(20, 20, 60, 60).Brush(0, RedRef);
-    return Play(file.Record(function, words));
-  };
-  EXPECT_EQ(Count(flood(0x0419, {0, 0, 30, 30}), Red), 38 * 38) << "up to black";
-  EXPECT_EQ(Count(flood(0x0548, {1, -1, 0xFF, 30, 30}), Red), 38 * 38) << "over white";
-  EXPECT_EQ(Count(flood(0x0548, {1, 0, 0, 20, 20}), Red), 4 * 39) << "over black";
-  EXPECT_EQ(Count(flood(0x0419, {0, 0, 200, 200}), Red), 0) << "from outside the picture";
-}
-
-TEST(Metafile, DashesShowTheBackgroundInTheirGaps) {
-  const auto line = [](int style, int mode) {
-    MetafileBytes file;
-    file.Record(0x0201, {0x00FF, 0}).Record(0x0102, {mode}).Pen(style, 0, 0);
-    return Play(file.Line(0, 10, 72, 10));
-  };
-  constexpr int Transparent = 1;
-  EXPECT_EQ(Count(line(1, Transparent), Black), 54) << "18 on, 6 off";
-  EXPECT_EQ(Count(line(1, Transparent), Red), 0);
-  EXPECT_EQ(Count(line(1, 2), Red), 18);
-  EXPECT_EQ(Count(line(2, Transparent), Black), 36);
-  EXPECT_EQ(Count(line(NullPen, 2), White), 100 * 100);
-}
-
-TEST(Metafile, WidePensTakeTheirWidthFromTheMapping) {
-  MetafileBytes file;
-  file.Pen(0, 10, 0).Line(20, 50, 80, 50);
-  const QRect inked = Inked(Play(file, {200, 100}));
-  EXPECT_EQ(inked.height(), 20) << "by the scale across";
-  EXPECT_EQ(inked.width(), 140) << "with a round end at both sides";
-}
-
-TEST(Metafile, ViewportAndPaletteAndJustificationAct) {
-  MetafileBytes viewport;
-  viewport.Record(0x020D, {30, 20}).Record(0x020E, {50, 50}).Pen(NullPen, 0, 0).Brush(0, RedRef);
-  viewport.Rectangle(0, 0, 102, 102);
-  EXPECT_EQ(Inked(Play(viewport)), QRect(20, 30, 50, 50));
-
-  MetafileBytes indexed;
-  indexed.Record(0x02FC, {0, 1, 0x0100, 0}).Record(0x012D, {0}).Record(0x02FA, {5, 0, 0, 0, 0});
-  indexed.Record(0x012D, {1}).Record(0x00F7, {0x300, 2, 0, 0, 0x00FF, 0}).Record(0x0234, {2});
-  EXPECT_EQ(Play(indexed.Rectangle(0, 0, 101, 101)).pixel(50, 50), Red)
-      << "a brush's palette entry is looked up when it paints";
-
+TEST(Metafile, JustificationWidensBlanks) {
   const auto width = [](std::initializer_list<int> justification) {
     MetafileBytes file;
-    file.Record(0x02FB, {-12, 0, 0, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x012D, {0});
-    file.Record(0x020A, justification).Record(0x0102, {1});
-    return Inked(Play(file.Record(0x0521, {3, 0x2048, 0x48, 10, 10}))).width();
+    file.Object(0x02FB, {-12, 0, 0, 0, 400, 0, 0, 0, 0}, "Arial").Record(0x0102, {1});
+    file.Record(0x020A, justification).Record(0x0521, {3, 0x2048, 0x48, 10, 10});
+    return Inked(Play(file)).width();
   };
   EXPECT_EQ(width({1, 9}), width({0, 0}) + 9);
 }
 
-TEST(Metafile, RegionsClipAndPaint) {
-  const auto region = [](MetafileBytes& file) {
-    // Two scans: 10 to 50 in rows 10 to 20, 10 to 30 in rows 20 to 40.
-    file.Record(0x06FF, {0, 6,  0,  0,  0,  2, 2, 10, 10, 50, 40,  //
-                         2, 10, 20, 10, 50, 2, 2, 20, 40, 10, 30, 2});
-  };
-  MetafileBytes painted;
-  painted.Pen(NullPen, 0, 0).Brush(0, RedRef);
-  region(painted);
-  EXPECT_EQ(Count(Play(MetafileBytes(painted).Record(0x012B, {2})), Red), 40 * 10 + 20 * 20);
-  EXPECT_EQ(Count(Play(MetafileBytes(painted).Record(0x012A, {2})), Black), 40 * 10 + 20 * 20);
-  const QImage framed = Play(MetafileBytes(painted).Record(0x0429, {2, 1, 2, 3}));
-  EXPECT_EQ(framed.pixel(11, 30), Red);
-  EXPECT_EQ(framed.pixel(20, 19), White) << "no frame where the scans meet";
-  MetafileBytes clipped = MetafileBytes(painted).Record(0x012C, {2});
-  clipped.Rectangle(0, 0, 101, 101);
-  EXPECT_EQ(Count(Play(clipped), Red), 40 * 10 + 20 * 20);
-  clipped.Record(0x012C, {0}).Rectangle(0, 0, 101, 101);
-  EXPECT_EQ(Count(Play(clipped), Red), 100 * 100) << "number 0 is a pen: the clip is off";
-}
-
-TEST(Metafile, PassesOverUnknownRecords) {
-  MetafileBytes file;
-  file.Record(0x7777, {1, 2, 3}).Record(0x0626, {15, 4, 0, 0}).Pen(NullPen, 0, 0).Brush(0, RedRef);
-  EXPECT_EQ(Play(file.Rectangle(0, 0, 101, 101)).pixel(99, 99), Red);
-}
-
-TEST(Metafile, HostileRecordsEndThePictureOrAreLeftOut) {
-  const auto start = [] {
-    return MetafileBytes().Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(0, 0, 101, 101);
-  };
-  const QByteArray tooLong("\xFF\xFF\xFF\x7F\x1B\x04", 6);
-  const QByteArray tooShort("\x02\0\0\0\x1B\x04", 6);
-  EXPECT_EQ(Play(start().Raw(tooLong)).pixel(50, 50), Red);
-  EXPECT_EQ(Play(start().Raw(tooShort).Brush(0, GreenRef).Rectangle(0, 0, 50, 50)).pixel(9, 9), Red)
-      << "nothing is played past a record that has no length";
-  EXPECT_EQ(Play(start().Record(0x0324, {0x7FFF, 5})).pixel(50, 50), Red);
-  EXPECT_EQ(Play(start().Record(0x0538, {-1, -1, -1})).pixel(50, 50), Red);
-  EXPECT_EQ(Play(start().Record(0x020C, {0, 0}).Record(0x0410, {0, 0, 0, 0})).pixel(50, 50), Red);
-  EXPECT_TRUE(PlayMetafile(MetafileBytes().Plain(), {10, 10}).isNull())
-      << "nothing drawn, no frame";
-
-  // Each of these would run for hours without a limit on the work.
+TEST(Metafile, HostileRecordsCostNoHours) {
+  EXPECT_TRUE(PlayMetafile(MetafileBytes().Plain(), {10, 10}).isNull()) << "no bounds";
   MetafileBytes objects;
   MetafileBytes saves;
   MetafileBytes fills;

@@ -33,33 +33,30 @@ class EditorTest : public testing::Test {
     return {origin.X + bounds.Width / 2, origin.Y + bounds.Height / 2};
   }
 
-  void Press(forms::PixelPoint at, int shift = 0, int button = forms::LeftButton) {
-    Form.Pointer.Press(at.X, at.Y, static_cast<std::int16_t>(button),
-                       static_cast<std::int16_t>(shift));
+  using Bits = std::int16_t;
+  void Press(forms::PixelPoint at, Bits shift = 0, Bits button = forms::LeftButton) {
+    Form.Pointer.Press(at.X, at.Y, button, shift);
   }
-  void Release(forms::PixelPoint at, int shift = 0, int button = forms::LeftButton) {
-    Form.Pointer.Release(at.X, at.Y, static_cast<std::int16_t>(button),
-                         static_cast<std::int16_t>(shift));
+  void Release(forms::PixelPoint at, Bits shift = 0, Bits button = forms::LeftButton) {
+    Form.Pointer.Release(at.X, at.Y, button, shift);
   }
-  void Click(const forms::Control& control, int shift = 0, int button = forms::LeftButton) {
-    const forms::PixelPoint at = Middle(control);
-    Press(at, shift, button);
-    Release(at, shift, button);
+  /// Takes hold of a control in its middle and lets go so many pixels away.
+  void Drag(const forms::Control& control, int dx, int dy, Bits shift = 0,
+            Bits button = forms::LeftButton) {
+    const forms::PixelPoint from = Middle(control);
+    Press(from, shift, button);
+    Form.Pointer.Move(from.X + dx, from.Y + dy, shift);
+    Release({from.X + dx, from.Y + dy}, shift, button);
+  }
+  void Click(const forms::Control& control, Bits shift = 0, Bits button = forms::LeftButton) {
+    Drag(control, 0, 0, shift, button);
   }
   void ShiftClick(const forms::Control& control) { Click(control, forms::ShiftKey); }
   /// A press and release on the backdrop, in pixels of the picture.
-  void ClickMap(int x, int y, int shift = 0) {
+  void ClickMap(int x, int y, Bits shift = 0) {
     const forms::PixelPoint origin = forms::InnerOrigin(Form.Picture1);
     Press({origin.X + x, origin.Y + y}, shift);
     Release({origin.X + x, origin.Y + y}, shift);
-  }
-  /// Takes hold of a control in its middle and lets go so many pixels away.
-  void Drag(const forms::Control& control, int dx, int dy, int shift = 0,
-            int button = forms::LeftButton) {
-    const forms::PixelPoint from = Middle(control);
-    Press(from, shift, button);
-    Form.Pointer.Move(from.X + dx, from.Y + dy, static_cast<std::int16_t>(shift));
-    Release({from.X + dx, from.Y + dy}, shift, button);
   }
   void Hover(const forms::Control& control) {
     const forms::PixelPoint at = Middle(control);
@@ -94,6 +91,12 @@ class EditorTest : public testing::Test {
           .Move(480, static_cast<float>(4 + 18 * (r % 16)));
     }
     ClickMap(5, 300);
+  }
+  /// Presses Delete and says Yes.
+  void Delete() {
+    Screen.Answers = {forms::Answer::Yes};
+    Click(Form.DelControl);
+    Screen.Answers.clear();
   }
   /// Makes a link on both sides, by selecting one and marking the other.
   void Link(std::int16_t a, std::int16_t b) {

@@ -52,6 +52,8 @@ class ScriptedDesktop : public forms::Desktop {
   /// Next random numbers; none left gives 0.
   std::deque<float> Draws;
   std::map<std::string, forms::Picture> Pictures;
+  /// Runs while a picture is read.
+  std::function<void()> Loading = [] {};
   int ModalForms = 0;
   forms::DateTime Clock{1999, 3, 14, 21, 5, 7};
   float SecondsOfDay = 75907;
@@ -88,6 +90,7 @@ class ScriptedDesktop : public forms::Desktop {
   }
   forms::Picture LoadPicture(const std::string& path, int, int) override {
     ++PictureReads;
+    Loading();
     if (path.empty()) return std::make_shared<forms::Raster>();
     const auto found = Pictures.find(path);
     return found == Pictures.end() ? nullptr : found->second;

@@ -27,7 +27,7 @@ with open(FORM, encoding="utf-8") as form:
     # From the editor's own table, by name, and in an array by name and index: the frame that a
     # control stands in, and its left, top, width and height in pixels.
     CONTROLS = {
-        name + (index if kind == "Element" else ""): (frame, [int(int(t) / TWIPS + 0.5) for t in at])
+        name + index * (kind == "Element"): (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
         for kind, name, index, frame, *at in re.findall(
             r'{(The|Element)<.*"(\w+)", +(\d), ".*", +(?:Itself|The<&Form1::(\w+)>),'
             r" +(\d+), +(\d+), +(\d+), +(\d+)}", form.read())}
@@ -185,5 +185,5 @@ class Editor:
         self.dialog(FILE_DIALOG, "key", "Return")
 
     def answer(self, key):
-        """Answers the question that is up: alt+y is Yes, whatever Return would mean; Escape is No."""
+        """Answers the question that is up: alt+y is Yes, Escape No, whatever Return would mean."""
         self.dialog(QUESTION, "key", key)

@@ -17,8 +17,8 @@ from itertools import zip_longest
 
 sys.dont_write_bytecode = True
 
-from editor import (ABOUT, BLACK, FILE_DIALOG, GREEN, HELP, QUESTION, RED, WHITE, WINDOW,  # noqa: E402
-                    Editor)
+from editor import (ABOUT, BLACK, FILE_DIALOG, GREEN, HELP, QUESTION, RED, WHITE,  # noqa: E402
+                    WINDOW, Editor)
 from screen import LIMIT, Failure, Screen  # noqa: E402
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -152,7 +152,7 @@ class Tour(Editor):
             self.add_at(number, x, y)
         self.step("Add three more with the button and drag them into place")
         # One of them goes by way of the button Exit, outside the map.
-        for number, to, via in ((4, (180, 112), ()), (5, (216, 125), ["Quit"]), (6, (240, 100), ())):
+        for number, to, *via in ((4, (180, 112)), (5, (216, 125), "Quit"), (6, (240, 100))):
             self.changes("the number of Areas", self.control("Countx0"),
                          lambda: self.press_control("AddTer"))
             self.areas[number] = self.areas[number - 1]
@@ -184,7 +184,8 @@ class Tour(Editor):
 
     def add_regions(self):
         self.step("Add two Regions, place and name them, give them armies")
-        for number, to, name, armies in ((1, (8, 160), "West", "7"), (2, (200, 76), "Middle", "12")):
+        for number, to, name, armies in ((1, (8, 160), "West", "7"),
+                                         (2, (200, 76), "Middle", "12")):
             self.says(GREEN, lambda: self.press_control("AddCont"))
             self.regions[number] = 48, 163
             self.wait_look("current", regions=[number])
@@ -228,9 +229,9 @@ class Tour(Editor):
         self.set_region(1, [1, 2, 3])
         self.set_region(2, [4, 5, 6])
         self.step("Set Neighbours for each Area")
-        for area, flipped, neighbours in ((1, [2], [2]), (2, [3], [1, 3]), (3, [4], [2, 4]),
-                                          (4, [5, 6], [3, 5, 6]), (5, [6], [4, 6]), (6, [], [4, 5])):
-            self.set_neighbours(area, flipped, neighbours)
+        for links in ((1, [2], [2]), (2, [3], [1, 3]), (3, [4], [2, 4]), (4, [5, 6], [3, 5, 6]),
+                      (5, [6], [4, 6]), (6, [], [4, 5])):
+            self.set_neighbours(*links)
         self.shot("linked")
 
     def validate(self):
@@ -317,10 +318,10 @@ class Tour(Editor):
         """Drags a thumb from one end of its bar to the other."""
         rect = self.control(bar)
         x, middle = rect.centre
-        ends = [(rect.top + 22, rect.top), (rect.top + rect.height - 22, rect.top + rect.height - 1)]
-        self.screen.tool("mousemove", x, ends[up][0], "mousedown", 1)
+        bottom = rect.top + rect.height
+        self.screen.tool("mousemove", x, bottom - 22 if up else rect.top + 22, "mousedown", 1)
         self.screen.tool("mousemove", x, middle)
-        self.screen.tool("mousemove", x, ends[not up][1], "mouseup", 1)
+        self.screen.tool("mousemove", x, rect.top if up else bottom - 1, "mouseup", 1)
         self.wait_share("the button", self.target, shows, 40)
 
     def page(self, bar, down, shows):
