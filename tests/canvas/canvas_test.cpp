@@ -19,8 +19,8 @@ TEST_F(MarkerTest, ADragLandsTheGrabbedPointUnderThePointerAndSelectsNothing) {
   EXPECT_EQ(Marker(Form.Continent(2)), "Region 2 at 280,82 ffffff plain");
   const forms::PixelPoint corner = forms::InnerOrigin(Form.ArmyAt(4));
   Press({corner.X + 30, corner.Y + 8});
-  Release({corner.X + 30 - 165, corner.Y + 8});
-  EXPECT_EQ(Marker(Form.ArmyAt(4)), "+4 at -20,24 ffffff plain") << "no place is clamped";
+  Release({corner.X + 30 - 165, corner.Y + 108});
+  EXPECT_EQ(Marker(Form.ArmyAt(4)), "+4 at -20,124 ffffff plain") << "no place is clamped";
   EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
   EXPECT_EQ(Message(), message);
 }

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "document/links.h"
@@ -9,17 +12,14 @@ namespace terramark {
 namespace {
 
 TEST(Numbers, AreReadAsFarAsTheyGo) {
-  const struct {
-    const char* Text;
-    double Value;
-  } cases[] = {
+  const std::pair<const char*, double> cases[] = {
       {"7x", 7},      {"x7", 0},       {"", 0},         {"  ", 0},
       {".5", 0.5},    {"1.5.5", 1.5},  {"-5", -5},      {"+3", 3},
       {"- 1 2", -12}, {" 1 0 0", 100}, {"1e5", 1},      {"--5", 0},
       {"5-", 5},      {"-", 0},        {"-.25", -0.25}, {"16777215", 16777215},
       {"+-5", 0},
   };
-  for (const auto& c : cases) EXPECT_EQ(ReadNumber(c.Text), c.Value) << '"' << c.Text << '"';
+  for (const auto& [text, value] : cases) EXPECT_EQ(ReadNumber(text), value) << text;
   EXPECT_GT(ReadNumber(std::string(400, '9')), 1e300);
   EXPECT_EQ(ReadNumber("-0." + std::string(400, '0') + "1"), 0);
 }
@@ -35,26 +35,14 @@ TEST(Numbers, AreWrittenInTheirForms) {
 }
 
 TEST(Links, AreReadByTheirCountAndAtTheirPlaces) {
-  const struct {
-    const char* Links;
-    std::vector<std::int16_t> Areas;
-  } cases[] = {
-      {"", {}},
-      {" ", {}},
-      {"  ", {}},
-      {"00", {}},
-      {"0012", {}},
-      {"020512", {5, 12}},
-      {"01 7xx", {7}},
-      {"020305ZZ99", {3, 5}},
-      {"0307", {7, 0, 0}},
-      {"-1", {}},
-      {"02-105", {0, 5}},
-      {"017", {7}},
-  };
-  for (const auto& c : cases) {
-    const Neighbours read(c.Links);
-    EXPECT_EQ(std::vector<std::int16_t>(read.begin(), read.end()), c.Areas) << c.Links;
+  const std::map<std::string, std::vector<std::int16_t>> cases{
+      {"", {}},           {" ", {}},           {"  ", {}},
+      {"00", {}},         {"0012", {}},        {"-1", {}},
+      {"017", {7}},       {"01 7xx", {7}},     {"020512", {5, 12}},
+      {"02-105", {0, 5}}, {"0307", {7, 0, 0}}, {"020305ZZ99", {3, 5}}};
+  for (const auto& [links, areas] : cases) {
+    const Neighbours read(links);
+    EXPECT_EQ(std::vector<std::int16_t>(read.begin(), read.end()), areas) << links;
   }
   Tables tables;
   tables.AreaLinks(4) = "020512";

@@ -43,14 +43,10 @@ TEST_F(EditorTablesTest, ShiftOpensTheTopicOfAControlAndRunsNoCommand) {
 }
 
 TEST_F(EditorTablesTest, FramesOpenHelpWhereNoControlCoversThem) {
-  const forms::PixelPoint colours = forms::InnerOrigin(Form.Frame3D1);
-  const forms::PixelPoint rgb = forms::InnerOrigin(Form.RGBFrame);
   for (const bool enabled : {false, true}) {
     Form.RGBFrame.Enabled = enabled;
-    for (const forms::PixelPoint frame : {colours, rgb}) {
-      Press({frame.X + 2, frame.Y + 2}, forms::ShiftKey);
-      Release({frame.X + 2, frame.Y + 2}, forms::ShiftKey);
-    }
+    ClickInside(Form.Frame3D1, 2, 2, forms::ShiftKey);
+    ClickInside(Form.RGBFrame, 2, 2, forms::ShiftKey);
   }
   EXPECT_EQ(Screen.Topics, (std::vector<int>{14, 14, 14})) << "a disabled one lets presses through";
 }
@@ -58,7 +54,6 @@ TEST_F(EditorTablesTest, FramesOpenHelpWhereNoControlCoversThem) {
 TEST_F(EditorTablesTest, TheHelpBarDescribesMarkersAndGoesBlankElsewhere) {
   MakeMap(7, 1);
   Hover(Form.ArmyAt(7));
-  EXPECT_EQ(Form.Helpbar.Caption.Get(), " 7: Area 7 in Region *UNKNOWN*");
   Hover(Form.RGBFrame);
   EXPECT_EQ(Form.Helpbar.Caption.Get(), " 7: Area 7 in Region *UNKNOWN*");
   Hover(Form.Continent(1));
@@ -77,41 +72,28 @@ TEST_F(EditorTablesTest, TheHelpBarDescribesMarkersAndGoesBlankElsewhere) {
 
 class GesturesTest : public EditorTest {
  protected:
-  int Pick(int count) {
-    return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, count)));
-  }
-
-  const forms::Control& AnyMarker() {
-    const bool area = Pick(3) > 0;
-    const auto number =
-        static_cast<std::int16_t>(1 + Pick(area ? Form.AreaCount : Form.RegionCount));
-    const forms::Control* marker = area ? Form.ArmyAt.Find(number) : Form.Continent.Find(number);
-    return marker != nullptr ? *marker : Form.Picture1;
-  }
+  int Pick(int count) { return std::uniform_int_distribution(0, count - 1)(random_); }
 
   void AnyGesture() {
-    const int keys[] = {0, 0, 0, forms::ShiftKey, forms::ShiftKey, forms::CtrlKey, 3};
-    const int shift = keys[Pick(7)];
-    const int button = 1 << Pick(3);
-    const forms::CommandButton* commands[] = {
-        &Form.AddTer,  &Form.AddTer,    &Form.AddCont,    &Form.MakeNeibor, &Form.MakeNeibor,
-        &Form.SetCont, &Form.ClearLink, &Form.DelControl, &Form.SwapTer,    &Form.RefMap,
-        &Form.Cvalid,  &Form.TMHelp,    &Form.DBPush1,    &Form.Quit,       &Form.PlColor(4)};
-    forms::TextBox* boxes[] = {&Form.EditText, &Form.Symb, &Form.Armypc, &Form.Text1};
+    const Bits keys[] = {0, 0, 0, 0, 0, forms::ShiftKey, forms::ShiftKey, forms::CtrlKey, 3};
+    const Bits buttons[] = {forms::LeftButton, forms::RightButton, forms::MiddleButton};
     const char* texts[] = {"", "G", "x", "0", "-3", "99", "Name, \"of\" it", ".5"};
+    const Bits shift = keys[Pick(9)];
+    const Bits button = buttons[Pick(3)];
+    forms::Control& any = *Form.Controls()[Pick(static_cast<int>(Form.Controls().size()))];
+    auto* box = dynamic_cast<forms::TextBox*>(Form.ActiveControl());
+    // The map is emptied now and then, but seldom enough to grow.
+    if (&any == &Form.DelAll && Pick(20) != 0) return;
     // clang-format off
-    switch (Pick(12)) {
+    switch (Pick(9)) {
       case 0: ClickMap(Pick(546), Pick(308), shift); break;
-      case 1: Drag(AnyMarker(), Pick(600) - 300, Pick(400) - 200, shift, button); break;
+      case 1: Drag(any, Pick(600) - 300, Pick(400) - 200, shift, button); break;
       case 2: Key(Pick(2) == 0 ? forms::KeyUpArrow : forms::KeyDownArrow); break;
-      case 3: Type(*boxes[Pick(4)], texts[Pick(8)]); break;
+      case 3: if (box != nullptr) Type(*box, texts[Pick(8)]); break;
       case 4: Form.ColBar(0).Moved(Pick(300)); break;
-      case 5: case 6: case 7: Click(*commands[Pick(15)], Pick(3) == 0 ? shift : 0, button); break;
-      default: Click(AnyMarker(), shift, button);
+      default: Click(any, shift, button);
     }
     // clang-format on
-    // The map is emptied now and then, but seldom enough to grow.
-    if (Pick(1500) == 0) Click(Form.DelAll);
   }
 
   void ExpectInvariants() {
@@ -119,11 +101,9 @@ class GesturesTest : public EditorTest {
       ASSERT_EQ(Form.ArmyAt.Find(i) != nullptr, i <= Form.AreaCount) << i;
       ASSERT_EQ(Form.Continent.Find(i) != nullptr, i <= Form.RegionCount) << i;
     }
-    ASSERT_FALSE(Form.ArmyAt(0).Visible);
-    ASSERT_FALSE(Form.Continent(0).Visible);
+    ASSERT_FALSE(Form.ArmyAt(0).Visible || Form.Continent(0).Visible);
     for (std::int16_t i = 1; i <= Form.AreaCount; ++i) {
-      ASSERT_GE(Form.AreaRegion(i), 0);
-      ASSERT_LE(Form.AreaRegion(i), Form.RegionCount);
+      ASSERT_TRUE(Form.AreaRegion(i) >= 0 && Form.AreaRegion(i) <= Form.RegionCount) << i;
       const std::string& links = Form.AreaLinks(i);
       const auto pairs = static_cast<std::size_t>(LinkCount(links));
       ASSERT_TRUE(pairs == 0 || links.size() == 2 + 2 * pairs) << links;
@@ -146,12 +126,9 @@ TEST_F(GesturesTest, NoOrderOfGesturesBreaksTheDocument) {
   for (int start : {0, 3, 40, 96, 99}) {
     while (Form.AreaCount < start) {
       Form.ArmyAt.Load(++Form.AreaCount);
-      Form.AreaLinks(Form.AreaCount) = " ";
-      Form.ArmyAt(Form.AreaCount).Tag = "0";
-      Form.ArmyAt(Form.AreaCount).BackColor = ClrBlack;
-      Form.ArmyAt(Form.AreaCount)
-          .Move(static_cast<float>(Pick(546)), static_cast<float>(Pick(308)));
-      Form.ArmyAt(Form.AreaCount).Visible = true;
+      forms::Label& marker = Form.ArmyAt(Form.AreaCount);
+      marker.Move(static_cast<float>(Pick(546)), static_cast<float>(Pick(308)));
+      marker.Visible = true;
     }
     for (int i = 0; i < 2000; ++i) {
       Screen.Answers = {++yes % 2 == 0 ? forms::Answer::Yes : forms::Answer::No};

@@ -9,28 +9,25 @@ namespace terramark::forms {
 namespace {
 
 constexpr Color Brush = 0x00000080;  // dark red
+constexpr std::uint32_t Painted = 0xFF800000;
+
+using Rows = std::vector<std::string>;
 
 /// '#' pure black, 'd' almost black, '.' white; painted pixels come back as 'r'.
-std::vector<std::string> Filled(const std::vector<std::string>& rows, int x, int y) {
-  Raster raster;
-  raster.Width = static_cast<int>(rows[0].size());
-  raster.Height = static_cast<int>(rows.size());
+Rows Filled(Rows rows, int x, int y) {
+  Raster raster{static_cast<int>(rows[0].size()), static_cast<int>(rows.size()), {}};
   for (const std::string& row : rows) {
     for (const char c : row) {
       raster.Pixels.push_back(c == '#' ? 0xFF000000 : c == 'd' ? 0xFF010000 : 0xFFFFFFFF);
     }
   }
   BorderFill(raster, x, y, Brush, 0);
-  std::vector<std::string> painted = rows;
-  for (int py = 0; py < raster.Height; ++py) {
-    for (int px = 0; px < raster.Width; ++px) {
-      if (raster.Pixels[raster.At(px, py)] == 0xFF800000) painted[py][px] = 'r';
-    }
+  auto pixel = raster.Pixels.begin();
+  for (std::string& row : rows) {
+    for (char& c : row) c = *pixel++ == Painted ? 'r' : c;
   }
-  return painted;
+  return rows;
 }
-
-using Rows = std::vector<std::string>;
 
 TEST(BorderFill, StopsAtPureBlackOnlyAndDoesNotSlipThroughCorners) {
   EXPECT_EQ(Filled({"..#..", ".d#..", "##...", "....."}, 0, 0),
@@ -56,7 +53,7 @@ TEST(BorderFill, FillsLargeCombsAndPaintedGround) {
     for (int x = 1; x < 2000; x += 2) raster.Pixels[raster.At(x, y)] = 0xFF000000;
   }
   BorderFill(raster, 0, 1999, Brush, 0);
-  EXPECT_EQ(raster.Pixels[raster.At(1998, 1999)], 0xFF800000);
+  EXPECT_EQ(raster.Pixels[raster.At(1998, 1999)], Painted);
   const std::vector<std::uint32_t> once = raster.Pixels;
   BorderFill(raster, 1998, 5, Brush, 0);
   EXPECT_EQ(raster.Pixels, once) << "a second fill over the same ground ends, and changes nothing";

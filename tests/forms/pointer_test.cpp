@@ -46,13 +46,14 @@ class PointerTest : public testing::Test {
   }
   void Stroke(int x0, int y0, int x1, int y1, std::int16_t button = LeftButton,
               std::int16_t shift = 0) {
-    Window.Pointer.Press(x0, y0, button, shift);
-    Window.Pointer.Move(x1, y1, shift);
-    Window.Pointer.Release(x1, y1, button, shift);
+    Pointer.Press(x0, y0, button, shift);
+    Pointer.Move(x1, y1, shift);
+    Pointer.Release(x1, y1, button, shift);
   }
 
   ScriptedDesktop Screen;
   Form Window{Screen};
+  PointerRouter& Pointer = Window.Pointer;
   PictureBox Box;
   Label Under;
   Label Over;
@@ -60,9 +61,15 @@ class PointerTest : public testing::Test {
   std::string Log;
 };
 
-TEST_F(PointerTest, ADisabledControlLetsThePressThrough) {
+TEST_F(PointerTest, APressReachesTheUppermostEnabledControl) {
+  const struct {
+    int X, Y;
+    Control& Hit;
+  } cases[]{{50, 35, Over},  {69, 44, Over}, {49, 35, Under},
+            {50, 34, Under}, {70, 44, Box},  {69, 45, Box}};
+  for (const auto& [x, y, hit] : cases) EXPECT_EQ(&Pointer.Under(x, y), &hit) << x << " " << y;
   Over.Enabled = false;
-  EXPECT_EQ(&Window.Pointer.Under(62, 42), &Box);
+  EXPECT_EQ(&Pointer.Under(62, 42), &Box);
   Box.Enabled = false;
   Stroke(62, 42, 62, 42);
   EXPECT_EQ(Log, "");
@@ -78,41 +85,37 @@ TEST_F(PointerTest, DropsGoToWhatLiesUnderThePointer) {
 }
 
 TEST_F(PointerTest, ACancelledDragDropsNothingAndItsReleaseReachesNobody) {
-  Window.Pointer.Press(45, 32, LeftButton, 0);
-  Window.Pointer.Move(100, 90, 0);
-  ASSERT_TRUE(Window.Pointer.InFlight());
-  EXPECT_EQ(Window.Pointer.InFlight()->Corner.X, 85);
-  Window.Pointer.CancelDrag();
-  Window.Pointer.Release(100, 90, LeftButton, 0);
+  Pointer.Press(45, 32, LeftButton, 0);
+  Pointer.Move(100, 90, 0);
+  ASSERT_TRUE(Pointer.InFlight());
+  EXPECT_EQ(Pointer.InFlight()->Corner.X, 85);
+  Pointer.CancelDrag();
+  Pointer.Release(100, 90, LeftButton, 0);
   EXPECT_EQ(Log, "");
   Stroke(100, 90, 100, 90);
   EXPECT_EQ(Log, "backdrop ") << "the next press is a press again";
 }
 
 TEST_F(PointerTest, OtherButtonsLeaveThePressThatHoldsThePointer) {
-  Window.Pointer.Press(45, 32, LeftButton, 0);
-  Window.Pointer.Press(305, 15, RightButton, ShiftKey);
-  Window.Pointer.Release(305, 15, RightButton, ShiftKey);
-  EXPECT_TRUE(Window.Pointer.InFlight());
-  Window.Pointer.Release(46, 33, LeftButton, 0);
+  Pointer.Press(45, 32, LeftButton, 0);
+  Pointer.Press(305, 15, RightButton, ShiftKey);
+  Pointer.Release(305, 15, RightButton, ShiftKey);
+  EXPECT_TRUE(Pointer.InFlight());
+  Pointer.Release(46, 33, LeftButton, 0);
   EXPECT_EQ(Log, "self ");
   Under.Drag(DragAction::Begin);
-  EXPECT_FALSE(Window.Pointer.InFlight()) << "no button is down";
+  EXPECT_FALSE(Pointer.InFlight()) << "no button is down";
   Stroke(45, 32, 400, 400, LeftButton, ShiftKey);
   EXPECT_EQ(Log, "self up ") << "the release reaches what was pressed";
 }
 
 TEST_F(PointerTest, AButtonActsOnTheReleaseOfAnyButtonInsideIt) {
   Stroke(310, 15, 320, 20, RightButton, CtrlKey);
-  EXPECT_EQ(Log, "button22 ");
   Stroke(310, 15, 310, 200);  // a change of mind
-  EXPECT_EQ(Log, "button22 ");
   Stroke(310, 15, 320, 20);
-  EXPECT_EQ(Log, "button22 button10 click ");
-  Window.Pointer.PressKey(Button, ShiftKey);
-  EXPECT_EQ(Log, "button22 button10 click button11 click ");
+  Pointer.PressKey(Button, ShiftKey);
   Button.Enabled = false;
-  Window.Pointer.PressKey(Button, 0);
+  Pointer.PressKey(Button, 0);
   Stroke(310, 15, 320, 20);
   EXPECT_EQ(Log, "button22 button10 click button11 click ");
 }
@@ -122,13 +125,13 @@ TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
     Label passing;
     Put(passing, Box, 100, 50, 20, 10);
     passing.MouseDown = [&](const MouseEvent&) { passing.Drag(DragAction::Begin); };
-    Window.Pointer.Press(115, 65, LeftButton, 0);
-    Window.Pointer.Release(115, 65, LeftButton, 0);
+    Pointer.Press(115, 65, LeftButton, 0);
+    Pointer.Release(115, 65, LeftButton, 0);
     passing.MouseDown = nullptr;
-    Window.Pointer.Press(115, 65, LeftButton, 0);
+    Pointer.Press(115, 65, LeftButton, 0);
   }
-  EXPECT_FALSE(Window.Pointer.InFlight());
-  Window.Pointer.Release(115, 65, LeftButton, 0);
+  EXPECT_FALSE(Pointer.InFlight());
+  Pointer.Release(115, 65, LeftButton, 0);
   EXPECT_EQ(Log, "");
 }
 
@@ -142,19 +145,19 @@ TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
   Box.ScrollTo(30, 0);
   Stroke(15, 32, 110, 80);  // the marker at 30, 20 now stands at the left edge
   EXPECT_EQ(Log, "box 130 70");
-  EXPECT_EQ(&Window.Pointer.Under(100, 100), &Window) << "a scroll bar is no backdrop";
-  Window.Pointer.Press(15, 32, LeftButton, 0);
-  Window.Pointer.Move(190, 50, 0);
-  Window.Pointer.ScrollByDrag();
+  EXPECT_EQ(&Pointer.Under(100, 100), &Window) << "a scroll bar is no backdrop";
+  Pointer.Press(15, 32, LeftButton, 0);
+  Pointer.Move(190, 50, 0);
+  Pointer.ScrollByDrag();
   EXPECT_GT(Box.ScrollLeft.Get(), 30);
-  Window.Pointer.Move(15, 90, 0);
-  for (int i = 0; i < 9; ++i) Window.Pointer.ScrollByDrag();
+  Pointer.Move(15, 90, 0);
+  for (int i = 0; i < 9; ++i) Pointer.ScrollByDrag();
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_EQ(Box.ScrollTop.Get(), 16);
-  Window.Pointer.Move(250, 50, 0);
-  Window.Pointer.ScrollByDrag();
+  Pointer.Move(250, 50, 0);
+  Pointer.ScrollByDrag();
   EXPECT_EQ(Box.ScrollLeft.Get(), 0) << "outside the box nothing scrolls";
-  Window.Pointer.CancelDrag();
+  Pointer.CancelDrag();
   Box.Picture = BlankPicture(10, 10);
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_EQ(Box.Image().Width, 200) << "never smaller than the box";

@@ -76,32 +76,26 @@ void Run(const std::string& bytes) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 3) {
-    std::fprintf(stderr, "usage: %s seconds|@run seed...\n", argv[0]);
-    return 2;
-  }
   std::vector<std::string> seeds;
   for (int k = 2; k < argc; ++k) {
     std::ifstream file(argv[k], std::ios::binary);
     seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-    if (seeds.back().empty()) {
-      std::fprintf(stderr, "no seed in %s\n", argv[k]);
-      return 2;
-    }
+    if (seeds.back().empty()) std::fprintf(stderr, "no seed in %s\n", argv[k]);
+  }
+  if (seeds.empty() || std::count(seeds.begin(), seeds.end(), "") != 0) {
+    std::fprintf(stderr, "usage: %s seconds|@run seed...\n", argv[0]);
+    return 2;
   }
   std::signal(SIGABRT, [](int) { TellRun(); });
   if (__sanitizer_set_death_callback != nullptr) __sanitizer_set_death_callback(TellRun);
-  if (argv[1][0] == '@') {
-    currentRun = std::strtoul(argv[1] + 1, nullptr, 10);
-    Run(Mutator(currentRun, seeds).Mutated());
-    return 0;
-  }
+  const bool one = argv[1][0] == '@';
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(std::atoi(argv[1]));
-  for (const std::string& seed : seeds) Run(seed);
-  while (std::chrono::steady_clock::now() < end) {
+  if (one) currentRun = std::strtoul(argv[1] + 1, nullptr, 10) - 1;
+  if (!one) std::for_each(seeds.begin(), seeds.end(), Run);
+  do {
     ++currentRun;
     Run(Mutator(currentRun, seeds).Mutated());
-  }
+  } while (std::chrono::steady_clock::now() < end);
   std::printf("%lu runs\n", currentRun);
   return 0;
 }

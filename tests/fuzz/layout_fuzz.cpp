@@ -54,20 +54,17 @@ void CheckMarkers(forms::ControlArray<forms::Label>& markers, std::int16_t count
   }
 }
 
-/// Whether the text comes back whole where the file has it in quotes.
-bool Quotable(const std::string& text) {
-  return text.find('"') == std::string::npos;
-}
-
+/// Whether a map can be read again whole: a text that the file has in quotes must hold none.
 bool ComesBack(const Tables& map) {
-  bool whole = map.PictureFile.find_first_of(",\"\r\n") == std::string::npos &&
-               !map.PictureFile.empty() && map.PictureFile[0] != ' ';
+  std::string quoted;
+  bool linked = true;
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
-    whole = whole && Quotable(map.AreaName(i)) && Quotable(map.AreaLinks(i)) &&
-            Neighbours(map.AreaLinks(i)).Count() != 0;
+    quoted += map.AreaName(i) + map.AreaLinks(i);
+    linked = linked && Neighbours(map.AreaLinks(i)).Count() != 0;
   }
-  for (std::int16_t r = 1; r <= map.RegionCount; ++r) whole = whole && Quotable(map.RegionName(r));
-  return whole && JudgeMap(map).Status == 0;
+  for (std::int16_t r = 1; r <= map.RegionCount; ++r) quoted += map.RegionName(r);
+  return linked && quoted.find('"') == std::string::npos && JudgeMap(map).Status == 0 &&
+         map.PictureFile[0] != ' ' && map.PictureFile.find_first_of(",\"\r\n") == std::string::npos;
 }
 
 void TryOne(Form1& form, const ScriptedDesktop& desktop, std::string_view bytes) {
@@ -93,8 +90,7 @@ void TryOne(Form1& form, const ScriptedDesktop& desktop, std::string_view bytes)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static terramark::StockedDesktop desktop;
   static terramark::Form1 form(desktop);
-  static const bool loaded = (terramark::Form_Load(form), true);
-  static_cast<void>(loaded);
+  [[maybe_unused]] static const bool loaded = (terramark::Form_Load(form), true);
   terramark::TryOne(form, desktop, {reinterpret_cast<const char*>(data), size});
   desktop.Boxes.clear();
   desktop.Seeds.clear();

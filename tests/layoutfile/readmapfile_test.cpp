@@ -24,7 +24,9 @@ TEST_F(LoadLayout, RoundTripKeepsEveryByte) {
 
 TEST_F(LoadLayout, MarkersAndBoxesShowTheMap) {
   Twips = 12;
+  Loading = [this] { EXPECT_FALSE(Form.ArmyAt(6).Visible); };
   LoadBytes(Tiny);
+  EXPECT_TRUE(Form.ArmyAt(6).Visible && Form.Continent(2).Visible);
   const forms::Label& birch = Form.ArmyAt(2);
   EXPECT_EQ(birch.Left, 150);  // 120 pixels of 15 twips
   EXPECT_EQ(birch.Caption.Get(), "^2");
@@ -66,11 +68,16 @@ TEST_F(LoadLayout, EveryFailureIsToldAndEndsTheProcess) {
       // Counts, colours and a scale that do not fit
       {3, "100,6"}, {3, "2,32768"}, {5, "0,256,0,256,0,0,256,256,0,125,125,40000"}, {29, "15,32768"},
       // Numbers outside the tables or without a marker
-      {6, "100,3,1,2,3,\"\",3"}, {6, "3,3,1,2,3,\"\",3"}, {7, "-1,G,,0102,2"}, {7, "7,G,,0102,2"},
-      {15, "100,0104"}, {20, "-1,0101"}, {26, "100,010403"}, {31, "7,40,30"}, {38, "-1,60,10"},
+      {6, "100,3,1,2,3,\"\",3"}, {13, "-1,G,,0102,2"}, {13, "7,G,,0102,2"}, {15, "100,0104"},
+      {17, "100,0104"}, {24, "-1,0101"}, {27, "100,010403"}, {36, "7,40,30"}, {39, "-1,60,10"},
       {4, "broken.bmp"}};
   // clang-format on
   files.push_back(TinyWith({{3, "2,-1"}, {4, "gone.bmp"}}));  // the count comes before the picture
+  // Three Regions, of which one that is not there has no Areas.
+  files.push_back(TinyWith({{3, "3,6"},
+                            {10, "9,0,1,2,3,,3\n2,3,0,0,255,\"South\",2"},
+                            {27, "2,\n3,"},
+                            {39, "2,1,1\n3,1,1"}}));
   files.push_back(TinyWith({{29, "30,15"}, {31, "1,3" + std::string(38, '0') + ",10"}}));
   for (const auto& fault : faults) files.push_back(TinyWith({fault}));
   Put("broken.bmp", "no picture");

@@ -22,36 +22,28 @@ QByteArray Bytes(std::initializer_list<int> values) {
   return bytes;
 }
 
-struct BitmapCase {
-  const char* Kind;
-  DibBytes Dib;
-};
+const std::vector<std::uint32_t> RedBlueWhite{0xFF0000, 0x0000FF, 0xFFFFFF};
 
-// Each shows two rows of two pixels: red and blue above, white and red below.
-const BitmapCase BitmapCases[] = {
-    {"1 bit, no white to be had",
-     {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0})}},
-    {"4 bit", {2, 2, 4, 0, {0xFF0000, 0x0000FF, 0xFFFFFF}, Bytes({0x20, 0, 0, 0, 0x01, 0, 0, 0})}},
-    {"8 bit", {2, 2, 8, 0, {0xFF0000, 0x0000FF, 0xFFFFFF}, Bytes({2, 0, 0, 0, 0, 1, 0, 0})}},
-    {"8 bit, top row first",
-     {2, -2, 8, 0, {0xFF0000, 0x0000FF, 0xFFFFFF}, Bytes({0, 1, 0, 0, 2, 0, 0, 0})}},
-    {"8 bit, run lengths",
-     {2, 2, 8, 1, {0xFF0000, 0x0000FF, 0xFFFFFF}, Bytes({1, 2, 1, 0, 0, 0, 1, 0, 1, 1, 0, 1})}},
-    {"16 bit", {2, 2, 16, 0, {}, Bytes({0xFF, 0x7F, 0x00, 0x7C, 0x00, 0x7C, 0x1F, 0x00})}},
-    {"24 bit",
-     {2, 2, 24, 0, {}, Bytes({255, 255, 255, 0, 0, 255, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0})}},
-    {"32 bit",
-     {2, 2, 32, 0, {}, Bytes({255, 255, 255, 0, 0, 0, 255, 0, 0, 0, 255, 0, 255, 0, 0, 0})}},
-};
+// Each shows two rows of two pixels: red and blue above, white and red below. Of one bit there is
+// no white to be had.
+const DibBytes Bitmaps[]{
+    {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0})},
+    {2, 2, 4, 0, RedBlueWhite, Bytes({0x20, 0, 0, 0, 0x01, 0, 0, 0})},
+    {2, 2, 8, 0, RedBlueWhite, Bytes({2, 0, 0, 0, 0, 1, 0, 0})},
+    {2, -2, 8, 0, RedBlueWhite, Bytes({0, 1, 0, 0, 2, 0, 0, 0})},             // top row first
+    {2, 2, 8, 1, RedBlueWhite, Bytes({1, 2, 1, 0, 0, 0, 1, 0, 1, 1, 0, 1})},  // run lengths
+    {2, 2, 16, 0, {}, Bytes({0xFF, 0x7F, 0x00, 0x7C, 0x00, 0x7C, 0x1F, 0x00})},
+    {2, 2, 24, 0, {}, Bytes({255, 255, 255, 0, 0, 255, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0})},
+    {2, 2, 32, 0, {}, Bytes({255, 255, 255, 0, 0, 0, 255, 0, 0, 0, 255, 0, 255, 0, 0, 0})}};
 
 TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
-  for (const BitmapCase& bitmap : BitmapCases) {
-    const QImage image = LoadPictureBytes(bitmap.Dib.File(), Box);
-    ASSERT_EQ(image.size(), QSize(2, 2)) << bitmap.Kind;
-    EXPECT_EQ(image.format(), QImage::Format_RGB32) << bitmap.Kind;
-    EXPECT_EQ(image.pixel(0, 0), Red) << bitmap.Kind;
-    EXPECT_EQ(image.pixel(1, 0), Blue) << bitmap.Kind;
-    EXPECT_EQ(image.pixel(0, 1), bitmap.Dib.Bits > 1 ? White : Red) << bitmap.Kind;
+  for (const DibBytes& bitmap : Bitmaps) {
+    const QImage image = LoadPictureBytes(bitmap.File(), Box);
+    ASSERT_EQ(image.size(), QSize(2, 2)) << bitmap.Bits;
+    EXPECT_EQ(image.format(), QImage::Format_RGB32) << bitmap.Bits;
+    EXPECT_EQ(image.pixel(0, 0), Red) << bitmap.Bits;
+    EXPECT_EQ(image.pixel(1, 0), Blue) << bitmap.Bits;
+    EXPECT_EQ(image.pixel(0, 1), bitmap.Bits > 1 ? White : Red) << bitmap.Bits;
   }
 }
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QMap>
-#include <cstdlib>
+#include <tuple>
 
 #include "picturebytes.h"
 #include "qt/pictures/metafileplayer.h"
@@ -49,33 +49,17 @@ QRect Inked(const QImage& image) {
   return inked;
 }
 
-// Walks the four ways from `seed` over its colour; a gap in a border lets it out to the edge.
-bool FloodReachesEdge(QImage image, QPoint seed) {
-  const QRgb ground = image.pixel(seed);
-  std::vector<QPoint> pending{seed};
-  while (!pending.empty()) {
-    const QPoint at = pending.back();
-    pending.pop_back();
-    if (!image.valid(at)) return true;
-    if (image.pixel(at) != ground) continue;
-    image.setPixel(at, ~ground);
-    for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
-      pending.push_back(at + step);
-    }
-  }
-  return false;
-}
-
 TEST(Metafile, BordersAreBlackAndUnbroken) {
   for (const int width : {0, 1, 40}) {
-    MetafileBytes file;
-    file.Pen(0, width, 0).Brush(0, GreenRef);
-    file.Record(0x0324,
-                {7, 350, 150, 2800, 470, 3900, 2100, 2100, 1700, 2950, 3800, 900, 3500, 120, 1900});
+    MetafileBytes file = MetafileBytes()
+                             .Pen(0, width, 0)
+                             .Record(0x0324, {7, 350, 150, 2800, 470, 3900, 2100, 2100, 1700, 2950,
+                                              3800, 900, 3500, 120, 1900});
+    file.Brush(0, RedRef).Record(0x0419, {0, 0, 1040, 1465});
     const QImage image = PlayMetafile(file.Placeable(0, 0, 4000, 4000), {546, 308});
-    EXPECT_EQ(Patches(image).keys(), QList({Black, Green, White})) << "grey edges at pen " << width;
-    EXPECT_FALSE(FloodReachesEdge(image, {200, 80})) << "a gap at pen " << width;
-    EXPECT_FALSE(FloodReachesEdge(image, {300, 70})) << "a gap at pen " << width;
+    // Without a gap the flood leaves all that is outside as it was.
+    EXPECT_EQ(Patches(image).keys(), QList({Black, Red, White})) << width;
+    EXPECT_GT(Patches(image)[White].Count, 60000) << width;
   }
 }
 
@@ -87,31 +71,25 @@ TEST(Metafile, TextHasNoGreyEdges) {
 }
 
 TEST(Metafile, TextIsReadInTheCharacterSetOfItsFont) {
-  struct Row {
-    int Charset;
-    const char* Bytes;
-    QString Letters;
+  const std::tuple<int, const char*, const char16_t*> rows[]{
+      {0, "\xE4\x80", u"\u00E4\u20AC"},          // Western
+      {161, "\xE1", u"\u03B1"},                  // Greek
+      {204, "\xC6", u"\u0416"},                  // Cyrillic
+      {128, "A\x83\x41\xB1", u"A\u30A2\uFF71"},  // Japanese, one or two bytes a letter
+      {2, "a", u"\uF061"},                       // signs
+      {204, "\x98", u"\uFFFD"},                  // not assigned
   };
-  const Row rows[] = {
-      {0, "\xE4\x80", QStringLiteral(u"\u00E4\u20AC")},  // Western
-      {161, "\xE1", QStringLiteral(u"\u03B1")},          // Greek
-      {204, "\xC6", QStringLiteral(u"\u0416")},          // Cyrillic
-      {128, "A\x83\x41\xB1",
-       QStringLiteral(u"A\u30A2\uFF71")},        // Japanese, one or two bytes a letter
-      {2, "a", QStringLiteral(u"\uF061")},       // signs
-      {204, "\x98", QStringLiteral(u"\uFFFD")},  // not assigned
-  };
-  for (const Row& row : rows) {
+  for (const auto& [charset, coded, letters] : rows) {
     Font font;
-    font.Charset = row.Charset;
+    font.Charset = charset;
     QString text;
     int bytes = 0;
-    for (const Letter& letter : DecodeText(row.Bytes, font)) {
+    for (const Letter& letter : DecodeText(coded, font)) {
       text += letter.Text;
       bytes += letter.Bytes;
     }
-    EXPECT_EQ(text, row.Letters) << row.Charset;
-    EXPECT_EQ(bytes, qstrlen(row.Bytes)) << row.Charset;
+    EXPECT_EQ(text, letters) << charset;
+    EXPECT_EQ(bytes, qstrlen(coded)) << charset;
   }
 }
 
@@ -133,24 +111,24 @@ TEST(Metafile, TextStandsWhereItsAlignmentPutsIt) {
   EXPECT_GT(upwards.height(), upwards.width());
 }
 
-TEST(Metafile, FillsBothAxesOfTheBox) {
-  MetafileBytes corners;
-  corners.Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(100, 50, 3000, 1050);
-  const auto filled = [](const QImage& image) {
-    return image.pixel(1, 1) == Red && image.pixel(118, 1) == Red && image.pixel(1, 38) == Red;
-  };
-  EXPECT_TRUE(filled(PlayMetafile(corners.Placeable(100, 50, 3000, 1050), {121, 41})));
-  EXPECT_TRUE(filled(PlayMetafile(corners.Plain(), {121, 41}))) << "bounds from what is drawn";
-
-  MetafileBytes window;
-  window.Record(0x020B, {50, 100}).Record(0x020C, {1000, 2900});
-  window.Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(100, 50, 3000, 1050);
-  EXPECT_TRUE(filled(PlayMetafile(window.Plain(), {121, 41}))) << "bounds from the window";
-}
-
 /// A file that has selected a brush and paints no outlines.
 MetafileBytes Filled(int colour = RedRef) {
   return MetafileBytes().Pen(NullPen, 0, 0).Brush(0, colour);
+}
+
+TEST(Metafile, FillsBothAxesOfTheBox) {
+  const auto rectangle = [](MetafileBytes file) {
+    return file.Pen(NullPen, 0, 0).Brush(0, RedRef).Rectangle(100, 50, 3000, 1050);
+  };
+  const QByteArray files[]{
+      rectangle({}).Placeable(100, 50, 3000, 1050),
+      rectangle({}).Plain(),  // bounds from what is drawn, and from the window
+      rectangle(MetafileBytes().Record(0x020B, {50, 100}).Record(0x020C, {1000, 2900})).Plain()};
+  for (const QByteArray& file : files) {
+    const QImage image = PlayMetafile(file, {121, 41});
+    EXPECT_TRUE(image.pixel(1, 1) == Red && image.pixel(118, 1) == Red &&
+                image.pixel(1, 38) == Red);
+  }
 }
 
 TEST(Metafile, RecordsPaintTheirPixels) {
@@ -213,6 +191,8 @@ TEST(Metafile, RecordsPaintTheirPixels) {
        MetafileBytes().Rectangle(10, 10, 20, 20)},
       {"a line lacks its last pixel", Black, {10, {10, 10, 10, 1}},
        MetafileBytes().Line(10, 10, 20, 10)},
+      {"an ellipse is filled", Red, {4728, {11, 11, 78, 78}},
+       MetafileBytes().Brush(0, RedRef).Record(0x0418, {90, 90, 10, 10})},
       {"a wide pen by the scale across", Black, {2716, {30, 40, 140, 20}},
        MetafileBytes().Pen(0, 10, 0).Line(20, 50, 80, 50), {200, 100}},
       {"alternate polygons", Red, {80 * 80 - 40 * 40, {10, 10, 80, 80}}, nested(1)},
@@ -299,9 +279,8 @@ TEST(Metafile, MetricModesPointUpWhereNothingSaysMore) {
 }
 
 TEST(Metafile, EllipsesAreSymmetric) {
-  const QImage image = Play(MetafileBytes().Brush(0, RedRef).Record(0x0418, {90, 90, 10, 10}));
+  const QImage image = Play(MetafileBytes().Record(0x0418, {90, 90, 10, 10}));
   EXPECT_EQ(Inked(image), QRect(10, 10, 80, 80));
-  EXPECT_EQ(image.pixel(50, 50), Red);
   EXPECT_EQ(image, image.mirrored(true, true));
 }
 

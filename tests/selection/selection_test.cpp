@@ -73,7 +73,8 @@ TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
   Key(forms::KeyUpArrow);
   EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
   Key(forms::KeyDownArrow);
-  EXPECT_EQ(Form.CurArea, 6);
+  Key(forms::KeyDownArrow);
+  EXPECT_EQ(Selected(), "A5 R0 3 ...o*o ..");
   Click(Form.Continent(1));
   Key(forms::KeyDownArrow);
   EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*");
@@ -116,16 +117,13 @@ TEST_F(InspectorTest, NamesGoStraightIntoTheDocument) {
 }
 
 TEST_F(InspectorTest, CardSymbolsAreTypedByTheirLetters) {
-  const struct {
-    const char* Typed;
-    const char* Symbol;
-  } cases[] = {{"g", "1"}, {"H", "2"}, {"s", "3"}, {"x", "9"}, {"Q", "9"}, {"2", "9"}};
   Click(Form.ArmyAt(1));
-  for (const auto& c : cases) {
+  for (const auto& [typed, symbol] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"g", "1"}, {"H", "2"}, {"s", "3"}, {"x", "9"}, {"Q", "9"}, {"2", "9"}}) {
     Type(Form.Symb, "");
-    Type(Form.Symb, c.Typed);
-    EXPECT_EQ(Form.AreaSymbol(1), c.Symbol) << c.Typed;
-    EXPECT_EQ(Form.Symb.Text.Get(), c.Typed);
+    Type(Form.Symb, typed);
+    EXPECT_EQ(Form.AreaSymbol(1), symbol) << typed;
+    EXPECT_EQ(Form.Symb.Text.Get(), typed);
   }
   EXPECT_EQ(Message(), "Area Card Symbol for Area Area 1 set to X");
   Form.AreaSymbol(1) = "1rest";

@@ -52,12 +52,13 @@ class EditorTest : public testing::Test {
     Drag(control, 0, 0, shift, button);
   }
   void ShiftClick(const forms::Control& control) { Click(control, forms::ShiftKey); }
-  /// A press and release on the backdrop, in pixels of the picture.
-  void ClickMap(int x, int y, Bits shift = 0) {
-    const forms::PixelPoint origin = forms::InnerOrigin(Form.Picture1);
+  /// A press and release so many pixels from where the inside of a container begins.
+  void ClickInside(const forms::Control& container, int x, int y, Bits shift = 0) {
+    const forms::PixelPoint origin = forms::InnerOrigin(container);
     Press({origin.X + x, origin.Y + y}, shift);
     Release({origin.X + x, origin.Y + y}, shift);
   }
+  void ClickMap(int x, int y, Bits shift = 0) { ClickInside(Form.Picture1, x, y, shift); }
   void Hover(const forms::Control& control) {
     const forms::PixelPoint at = Middle(control);
     Form.Pointer.Move(at.X, at.Y, 0);
@@ -178,7 +179,6 @@ class EditorTest : public testing::Test {
   std::string Message() const {
     return (Form.Message.BackColor == ClrRed ? "red: " : "") + Form.Message.Caption.Get();
   }
-  forms::Color Look(std::int16_t area) const { return Form.ArmyAt(area).BackColor; }
 };
 
 }  // namespace terramark

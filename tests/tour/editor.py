@@ -1,10 +1,10 @@
 """The editor's window as a person meets it: its controls, the markers on the map, the gestures."""
-import os
 import re
+from pathlib import Path
 
 from screen import Rect
 
-FORM = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../src/shell/form1.cpp")
+FORM = Path(__file__).resolve().parents[2] / "src/shell/form1.cpp"
 TITLE = "TERRAMARK 1"
 FILE_DIALOG = "Choose a File"
 QUESTION = "Terramark"
@@ -21,23 +21,22 @@ TWIPS = 15  # per pixel
 AREA_SIZE = 32, 16
 HOLD = 8  # where in a marker the mouse takes hold, from its left and top edge
 WINDOW = Rect(0, 0, 843, 599)
-BARE_FORM = 700, 500  # a place of the window where nothing stands
+BARE_FORM = Rect(700, 500, 1, 1)  # a place of the window where nothing stands
 
-with open(FORM, encoding="utf-8") as form:
-    # From the editor's own table, by name, and in an array by name and index: the frame that a
-    # control stands in, and its left, top, width and height in pixels.
-    CONTROLS = {
-        name + index * (kind == "Element"): (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
-        for kind, name, index, frame, *at in re.findall(
-            r'{(The|Element)<.*"(\w+)", +(\d), ".*", +(?:Itself|The<&Form1::(\w+)>),'
-            r" +(\d+), +(\d+), +(\d+), +(\d+)}", form.read())}
+# From the editor's own table, by name, and in an array by name and index: the frame that a control
+# stands in, and its left, top, width and height in pixels.
+CONTROLS = {
+    name + index * (kind == "Element"): (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
+    for kind, name, index, frame, *at in re.findall(
+        r'{(The|Element)<.*"(\w+)", +(\d), ".*", +(?:Itself|The<&Form1::(\w+)>),'
+        r" +(\d+), +(\d+), +(\d+), +(\d+)}", FORM.read_text("utf-8"))}
 
 
 class Editor:
-    def __init__(self, screen, program, folder):
+    def __init__(self, screen, program):
         self.screen = screen
         self.wait = screen.wait
-        self.process = screen.start([program], cwd=folder)
+        self.process = screen.start([program])
         self.back()
         self.origin = screen.corner()
         self.areas, self.regions = {}, {}  # where the markers stand on the map, by number
@@ -81,16 +80,13 @@ class Editor:
     def says(self, colour, act):
         """Does something and waits until the message bar says something new in the colour."""
         bar = self.control("Message").inner(1)
+        whole = bar.width * bar.height
         self.changes("a message", bar, act)
-        self.wait_share("the message bar", bar, colour, 60)
-        self.wait("a text in the message bar", lambda: not self._blank(bar, colour))
+        self.wait(f"a text on {colour:06X} in the message bar",
+                  lambda: 0.6 * whole <= self.screen.count(bar, colour) < whole)
 
     def wait_blank_bar(self):
-        bar = self.control("Message").inner(1)
-        self.wait("a blank message bar", lambda: self._blank(bar, GREEN))
-
-    def _blank(self, rect, colour):
-        return self.screen.count(rect, colour) == rect.width * rect.height
+        self.wait_share("a blank message bar", self.control("Message").inner(1), GREEN, 100)
 
     def shows(self, x, y, colour):
         """Whether a pixel of the map has a colour."""
@@ -102,11 +98,12 @@ class Editor:
         """The window has the keyboard and is alone: a list that a dialog leaves behind for a moment
         would still swallow a press."""
         self.screen.wait_active(TITLE)
-        self.wait("all dialogs gone", lambda: len(self.screen.windows("terramark")) == 1)
+        self.wait("all dialogs gone", lambda: len(self.screen.tool(
+            "search", "--onlyvisible", "--classname", "^terramark$", check=False).split()) == 1)
 
     def park(self):
         """Moves the pointer out of the way; tips over the boxes go away."""
-        self.move(*Rect(*BARE_FORM, 0, 0).moved(*self.origin)[:2])
+        self.move(*BARE_FORM.moved(*self.origin).centre)
 
     def move(self, x, y):
         self.screen.tool("mousemove", x, y)

@@ -37,8 +37,7 @@ class Rect(namedtuple("Rect", "left top width height")):
 class Screen:
     def __init__(self, folder):
         """Starts it; what its programs write goes into the folder."""
-        self.folder = folder
-        self.log = open(os.path.join(folder, "programs.log"), "w+b")
+        self.log = open(os.path.join(folder, "programs.log"), "wb")
         self.started = []
         # Nothing that a person set up for their own desktop reaches what runs here.
         self.environment = {key: value for key, value in os.environ.items()
@@ -77,11 +76,6 @@ class Screen:
             process.terminate()
             process.wait(LIMIT)
 
-    def said(self):
-        """What the programs wrote: the log of a run that failed."""
-        self.log.seek(0)
-        return self.log.read().decode(errors="replace")
-
     def wait(self, what, seen):
         """Looks again and again until seen() is true."""
         end = time.monotonic() + LIMIT
@@ -96,17 +90,13 @@ class Screen:
     # The mouse, the keyboard and the windows.
 
     def tool(self, *words, check=True):
-        """Runs xdotool and gives its output. The words may be several of its commands in a row."""
+        """Runs xdotool and gives its output. The words may be several of its commands in a row.
+        To look for windows fails where one is just going."""
         done = subprocess.run(["xdotool", *map(str, words)], env=self.environment, text=True,
                               stdin=subprocess.DEVNULL, capture_output=True, timeout=LIMIT)
         if check and done.returncode:
             raise Failure(f"xdotool {' '.join(map(str, words))}: {done.stderr.strip()}")
         return done.stdout.strip()
-
-    def windows(self, program):
-        """The numbers of all visible windows of a program, its menus and lists among them."""
-        return self.tool("search", "--onlyvisible", "--classname", f"^{program}$",
-                         check=False).split()
 
     def wait_active(self, title):
         """Until a window of that title has the keyboard."""

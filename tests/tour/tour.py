@@ -14,6 +14,7 @@ import sys
 import tempfile
 import time
 from itertools import zip_longest
+from pathlib import Path
 
 sys.dont_write_bytecode = True
 
@@ -21,8 +22,7 @@ from editor import (ABOUT, BLACK, FILE_DIALOG, GREEN, HELP, QUESTION, RED, WHITE
                     WINDOW, Editor)
 from screen import LIMIT, Failure, Screen  # noqa: E402
 
-HERE = os.path.dirname(os.path.abspath(__file__))
-SAMPLES = os.path.join(HERE, "..", "..", "samples")
+HERE = Path(__file__).resolve().parent
 SEA = 20, 100  # on the map, where no marker stands
 SEA_COLOUR = 0xB0D0EC
 
@@ -30,35 +30,25 @@ SEA_COLOUR = 0xB0D0EC
 class Tour(Editor):
     def __init__(self, screen, program, output):
         self.output = output
-        self.folder = os.path.join(screen.folder, "samples")
-        shutil.copytree(SAMPLES, self.folder)
         self.began = time.monotonic()
         self.shots = 0
-        super().__init__(screen, program, self.folder)
+        super().__init__(screen, program)
 
     def step(self, text):
         print(f"{time.monotonic() - self.began:6.1f} s  {text}", flush=True)
 
     def shot(self, name):
         self.shots += 1
-        self.screen.save(os.path.join(self.output, f"{self.shots:02}-{name}.png"),
-                         WINDOW.moved(*self.origin))
-
-    def path(self, name):
-        return os.path.join(self.folder, name)
-
-    def bytes_of(self, name):
-        with open(self.path(name), "rb") as file:
-            return file.read()
+        self.screen.save(self.output / f"{self.shots:02}-{name}.png", WINDOW.moved(*self.origin))
 
     def save_and_compare(self, name, expected, picture):
         """All lines but the time stamp are as expected; line 4 is the path of the picture."""
         self.choose("SaveCFG", name)
-        self.wait(f"the file {name}", lambda: os.path.exists(self.path(name)))
+        self.wait(f"the file {name}", lambda: os.path.exists(name))
         self.wait_blank_bar()
-        shutil.copy(self.path(name), self.output)
-        got, want = (self.bytes_of(file).split(b"\r\n") for file in (name, expected))
-        want[3] = self.path(picture).encode()
+        shutil.copy(name, self.output)
+        got, want = (Path(file).read_bytes().split(b"\r\n") for file in (name, expected))
+        want[3] = os.path.abspath(picture).encode()
         for number, (mine, its) in enumerate(zip_longest(got, want), 1):
             if mine != its and number != 2:
                 raise Failure(f"{name}, line {number}: {mine!r} instead of {its!r}")
@@ -72,7 +62,7 @@ class Tour(Editor):
         self.areas, self.regions = (
             {int(number): (int(x), int(y)) for number, x, y in
              re.findall(rb"\n([1-9]\d*),(\d+),(\d+)(?=\r)", part)}
-            for part in self.bytes_of("europe.tml").split(b"X,Y Coordinates for ")[1:])
+            for part in Path("europe.tml").read_bytes().split(b"X,Y Coordinates for ")[1:])
         self.wait_look("plain", self.areas, self.regions)
         self.wait("the sea", lambda: self.shows(*SEA, SEA_COLOUR))
         self.shot("loaded")
@@ -119,9 +109,8 @@ class Tour(Editor):
         self.dialog(ABOUT, "key", "space")
 
     def another_picture(self):
-        self.step("Load the same picture as a metafile")
+        self.step("Load the same picture as a metafile, save under a new name, and compare")
         self.choose("LoadMap", "europe.wmf")
-        self.step("Save under a new name, and compare")
         self.save_and_compare("copy.tml", "europe.tml", "europe.wmf")
         self.wait_look("plain", self.areas, self.regions)
 
@@ -225,10 +214,9 @@ class Tour(Editor):
         self.says(GREEN, lambda: self.press_control("MakeNeibor"))
 
     def link(self):
-        self.step("Set Region for both Regions")
+        self.step("Set Region for both Regions, Set Neighbours for each Area")
         self.set_region(1, [1, 2, 3])
         self.set_region(2, [4, 5, 6])
-        self.step("Set Neighbours for each Area")
         for links in ((1, [2], [2]), (2, [3], [1, 3]), (3, [4], [2, 4]), (4, [5, 6], [3, 5, 6]),
                       (5, [6], [4, 6]), (6, [], [4, 5])):
             self.set_neighbours(*links)
@@ -258,21 +246,19 @@ class Tour(Editor):
         self.wait_look("plain", self.areas, self.regions)
 
     def swap(self):
-        self.step("Poland and Bohemia stand in each other's place: swap them")
+        self.step("Poland and Bohemia stand in each other's place: swap them, once")
         self.press_area(5, ["shift"])
         self.press_area(6, ["shift"])
         self.wait_look("marked", [5, 6])
         self.says(GREEN, lambda: self.press_control("SwapTer"))
         self.areas[5], self.areas[6] = self.areas[6], self.areas[5]
         self.wait_look("plain", [5, 6])
-        self.step("A second press finds nothing marked")
         self.says(RED, lambda: self.press_control("SwapTer"))
 
     def delete(self):
-        self.step("Delete the last Area: refused while it has links")
+        self.step("Delete the last Area: refused until its links are cleared")
         self.says(GREEN, lambda: self.press_area(6))
         self.says(RED, lambda: self.press_control("DelControl"))
-        self.step("Clear its links, and delete it")
         self.says(GREEN, lambda: self.press_control("ClearLink"))
         self.says(GREEN, lambda: self.press_area(6))
         self.press_control("DelControl")
@@ -336,8 +322,7 @@ class Tour(Editor):
         self.dialog(FILE_DIALOG, "key", "Escape")
         self.says(GREEN, lambda: self.key("Tab", "space"))
         self.step("Save, and compare with the layout that must come out")
-        shutil.copy(os.path.join(HERE, "expected.tml"), self.folder)
-        self.save_and_compare("lands.tml", "expected.tml", "europe.bmp")
+        self.save_and_compare("lands.tml", HERE / "expected.tml", "europe.bmp")
         self.step("Clear, load the saved layout, and save that: nothing is lost")
         self.clear_map()
         self.choose("LoadMpa", "lands.tml")
@@ -357,23 +342,24 @@ class Tour(Editor):
                      self.clear, self.begin, self.add_areas, self.add_regions, self.name_areas,
                      self.link, self.validate, self.swap, self.delete, self.paint, self.finish):
             part()
-        self.step("The tour is over; its pictures are in " + self.output)
+        self.step(f"The tour is over; its pictures are in {self.output}")
 
 
 def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
-    program, output = map(os.path.abspath, sys.argv[1:])
+    program, output = (Path(argument).resolve() for argument in sys.argv[1:])
     shutil.rmtree(output, ignore_errors=True)
-    os.makedirs(output)
+    output.mkdir(parents=True)
     with tempfile.TemporaryDirectory(prefix="terramark-tour-") as folder:
+        os.chdir(shutil.copytree(HERE.parents[1] / "samples", folder + "/samples"))
         screen = Screen(folder)
         try:
             Tour(screen, program, output).play()
         except Failure as failure:
             print("FAILED:", failure)
-            screen.save(os.path.join(output, "failed.png"))
-            sys.exit(screen.said())
+            screen.save(output / "failed.png")
+            sys.exit(Path(screen.log.name).read_text(errors="replace"))
         finally:
             screen.close()
 
