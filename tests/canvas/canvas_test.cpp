@@ -141,9 +141,7 @@ TEST_F(ColourPanelTest, AButtonLoadsTheBarsAndChangesNoColour) {
   EXPECT_EQ(Form.PlayerRGB[2], (Components{300, -5, 40}));
   Form.ColBar(2).Moved(41);
   EXPECT_EQ(Form.PlayerRGB[2], (Components{256, 0, 41}));
-}
-
-TEST_F(ColourPanelTest, ARowTakesTheBarsUnclampedAndShowsThemClamped) {
+  // A row takes the bars unclamped and shows them clamped.
   for (std::int16_t row = 0; row < 4; ++row) {
     Click(Form.PlColor(row));
     Slide(256, 255, 16);

@@ -49,9 +49,9 @@ TEST_F(AddTest, ANewRegionBecomesCurrent) {
 }
 
 TEST_F(AddTest, BothStopAtTheLimitAndAfterALayoutAboveIt) {
-  for (const std::int16_t from : {std::int16_t{96}, std::int16_t{98}}) {
-    for (std::int16_t i = Form.AreaCount; i < from; ++i) Form.ArmyAt.Load(++Form.AreaCount);
-    for (std::int16_t r = Form.RegionCount; r < from; ++r) Form.Continent.Load(++Form.RegionCount);
+  for (const int from : {96, 98}) {
+    while (Form.AreaCount < from) Form.ArmyAt.Load(++Form.AreaCount);
+    while (Form.RegionCount < from) Form.Continent.Load(++Form.RegionCount);
     Click(Form.AddTer);
     Click(Form.AddCont);
     ClickMap(300, 200, forms::CtrlKey);
@@ -139,7 +139,7 @@ TEST_F(DeleteTest, ClearWholeMapAsksAndKeepsTheFileNames) {
   EXPECT_EQ(Screen.Boxes.size(), 1U) << "also on an empty map";
   MakeChain();
   Click(Form.ArmyAt(2));
-  Screen.Answers.push_back(forms::Answer::Yes);
+  Screen.Answers = {forms::Answer::Yes};
   Click(Form.DelAll);
   EXPECT_EQ(Selected(), "A2 R0 0  ");
   EXPECT_EQ(Form.ArmyAt.Find(6), nullptr);

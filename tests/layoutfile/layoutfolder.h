@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -14,15 +15,14 @@
 #include "layoutfile/savelayout.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
+#include "support/markertext.h"
 #include "support/scripteddesktop.h"
 
 namespace terramark {
 
 inline std::string BytesOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class LayoutFolder : public testing::Test, public ScriptedDesktop {

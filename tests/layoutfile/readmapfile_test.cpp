@@ -26,14 +26,8 @@ TEST_F(LoadLayout, MarkersAndBoxesShowTheMap) {
   Twips = 12;
   Loading = [this] { EXPECT_FALSE(Form.ArmyAt(6).Visible); };
   LoadBytes(Tiny);
-  EXPECT_TRUE(Form.ArmyAt(6).Visible && Form.Continent(2).Visible);
-  const forms::Label& birch = Form.ArmyAt(2);
-  EXPECT_EQ(birch.Left, 150);  // 120 pixels of 15 twips
-  EXPECT_EQ(birch.Caption.Get(), "^2");
-  EXPECT_EQ(birch.ForeColor, 0x000000FFU);
-  EXPECT_EQ(birch.Tag.Get(), " 255");
-  EXPECT_EQ(birch.BackColor, ClrBlack);
-  EXPECT_EQ(Form.Continent(2).Caption.Get(), "South");
+  EXPECT_EQ(Marker(Form.ArmyAt(2)), "^2 at 150,37 0000ff plain") << "120 pixels of 15 twips";
+  EXPECT_EQ(Marker(Form.Continent(2)), "South at 375,50 ff0000 plain");
   EXPECT_EQ(Form.Countx(0).Caption.Get(), " 6");
   EXPECT_EQ(Form.PlColor(0).BackColor, 0x0000FF00U);
   EXPECT_EQ(Form.LoadMap.Caption.Get(), TinyPicture);
@@ -41,6 +35,7 @@ TEST_F(LoadLayout, MarkersAndBoxesShowTheMap) {
   const auto& stack = Form.Picture1.Children();
   EXPECT_EQ(stack[stack.size() - 6], &Form.ArmyAt(1));
   EXPECT_EQ(stack.back(), &Form.ArmyAt(6));
+  EXPECT_TRUE(Form.ArmyAt(6).Visible);
 }
 
 TEST_F(LoadLayout, ReadsByTheLetter) {

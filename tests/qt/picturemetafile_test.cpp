@@ -191,7 +191,7 @@ TEST(Metafile, RecordsPaintTheirPixels) {
        MetafileBytes().Rectangle(10, 10, 20, 20)},
       {"a line lacks its last pixel", Black, {10, {10, 10, 10, 1}},
        MetafileBytes().Line(10, 10, 20, 10)},
-      {"an ellipse is filled", Red, {4728, {11, 11, 78, 78}},
+      {"an ellipse is filled", Red, {4792, {11, 11, 78, 78}},
        MetafileBytes().Brush(0, RedRef).Record(0x0418, {90, 90, 10, 10})},
       {"a wide pen by the scale across", Black, {2716, {30, 40, 140, 20}},
        MetafileBytes().Pen(0, 10, 0).Line(20, 50, 80, 50), {200, 100}},

@@ -3,16 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <string>
 
 #include "editor/handlers.h"
 #include "forms/geometry.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
-#include "shell/markers.h"
 #include "shell/startup.h"
+#include "support/markertext.h"
 #include "support/scripteddesktop.h"
 
 namespace terramark {
@@ -159,21 +157,6 @@ class EditorTest : public testing::Test {
     return Form.RegionName(r) + " " + std::to_string(Form.RegionArmies(r)) + " armies " +
            std::to_string(rgb[0]) + "," + std::to_string(rgb[1]) + "," + std::to_string(rgb[2]) +
            " " + Marker(Form.Continent(r));
-  }
-  /// Caption, place, own colour as 0xBBGGRR and look. The colours of a look go together, but for a
-  /// marker that keeps a look's background under its own colour: "own on white".
-  static std::string Marker(const forms::Label& marker) {
-    const forms::Color own = TagColour(marker);
-    const forms::Color fore = marker.ForeColor;
-    std::string look = marker.BackColor == ClrBlack   ? fore == own ? "plain" : "wrong"
-                       : marker.BackColor == ClrWhite ? fore == ClrBlack ? "current" : "on white"
-                       : fore == ClrWhite             ? "marked"
-                                                      : "on grey";
-    std::array<char, 32> colour;
-    std::snprintf(colour.data(), colour.size(), " %06x ", own);
-    return marker.Caption.Get() + " at " + std::to_string(static_cast<int>(marker.Left)) + "," +
-           std::to_string(static_cast<int>(marker.Top)) + colour.data() + look +
-           (marker.Visible ? "" : " hidden");
   }
   /// The message bar, with "red: " before a fault.
   std::string Message() const {
