@@ -107,18 +107,16 @@ TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
   EXPECT_EQ(Screen.Filters, std::vector<std::string>{"*.wmf;*.bmp"});
   MakeChain();
   Screen.FileNames.push_back("text.wmf");
-  Click(Form.LoadMap);
-  EXPECT_EQ(Message(), "red: Cannot read picture text.wmf");
+  EXPECT_EQ(Click(Form.LoadMap), "red: Cannot read picture text.wmf");
   EXPECT_EQ(Form.PictureFile, "map.bmp");
   EXPECT_EQ(Form.LoadMap.Caption.Get(), "map.bmp");
   Screen.Pictures.clear();
   Click(Form.ArmyAt(1));
-  ClickMap(5, 300);
-  EXPECT_EQ(Message(), "red: Cannot read picture map.bmp") << "outlives the blanking of the bar";
+  EXPECT_EQ(ClickMap(5, 300), "red: Cannot read picture map.bmp")
+      << "outlives the blanking of the bar";
   EXPECT_EQ(Form.CurArea, 0);
   EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
-  Click(Form.RefMap);
-  EXPECT_EQ(Message(), "red: Cannot read picture map.bmp");
+  EXPECT_EQ(Click(Form.RefMap), "red: Cannot read picture map.bmp");
 }
 
 class ColourPanelTest : public EditorTest {

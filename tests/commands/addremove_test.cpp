@@ -64,14 +64,11 @@ class DeleteTest : public EditorTest {};
 
 TEST_F(DeleteTest, OnlyTheLastAreaGoesAndOnlyWithoutLinks) {
   MakeChain();
-  Click(Form.DelControl);
-  EXPECT_EQ(Message(), "red: Select a Area/Region to delete");
+  EXPECT_EQ(Click(Form.DelControl), "red: Select a Area/Region to delete");
   Click(Form.ArmyAt(3));
-  Click(Form.DelControl);
-  EXPECT_EQ(Message(), "red: Can only delete the last Area - Area 6");
+  EXPECT_EQ(Click(Form.DelControl), "red: Can only delete the last Area - Area 6");
   Click(Form.ArmyAt(6));
-  Click(Form.DelControl);
-  EXPECT_EQ(Message(), "red: Must clear all links before deleting a Area");
+  EXPECT_EQ(Click(Form.DelControl), "red: Must clear all links before deleting a Area");
   EXPECT_EQ(Selected(), "A6 R0 1 .....* ..") << "the refusal flips the neighbours' marks";
   EXPECT_TRUE(Screen.Boxes.empty());
   Click(Form.ArmyAt(6));
@@ -85,8 +82,7 @@ TEST_F(DeleteTest, OnlyTheLastAreaGoesAndOnlyWithoutLinks) {
   EXPECT_EQ(Form.ArmyAt.Find(6), nullptr);
   EXPECT_EQ(Form.Countx(0).Caption.Get(), " 5");
   EXPECT_EQ(Form.CurArea, 6);
-  Click(Form.DelControl);
-  EXPECT_EQ(Message(), "red: Can only delete the last Area - Area 5");
+  EXPECT_EQ(Click(Form.DelControl), "red: Can only delete the last Area - Area 5");
 }
 
 TEST_F(DeleteTest, AnAreaStillListedSomewhereStays) {
@@ -94,13 +90,11 @@ TEST_F(DeleteTest, AnAreaStillListedSomewhereStays) {
   // Seen neither by its marks: it has lost the look of the current one,
   Click(Form.ArmyAt(6));
   ShiftClick(Form.ArmyAt(6));
-  Delete();
-  EXPECT_EQ(Message(), "red: Must clear all links before deleting a Area");
+  EXPECT_EQ(Delete(), "red: Must clear all links before deleting a Area");
   // nor in its own list: only Area 5 lists it.
   Form.AreaLinks(6) = " ";
   Click(Form.ArmyAt(6));
-  Delete();
-  EXPECT_EQ(Message(), "red: Must clear all links before deleting a Area");
+  EXPECT_EQ(Delete(), "red: Must clear all links before deleting a Area");
   EXPECT_EQ(Form.AreaCount, 6);
   EXPECT_TRUE(Screen.Boxes.empty());
 }
@@ -110,8 +104,7 @@ TEST_F(DeleteTest, TheRegionsAboveCloseTheGap) {
   SetRegion(3, {1, 2});
   SetRegion(4, {4});
   Click(Form.Continent(3));
-  Delete();
-  EXPECT_EQ(Message(), "red: Must clear all links before deleting a Region");
+  EXPECT_EQ(Delete(), "red: Must clear all links before deleting a Region");
   Type(Form.EditText, "East");
   Type(Form.Armypc, "8");
   Click(Form.PlColor(4));
@@ -146,8 +139,8 @@ TEST_F(DeleteTest, ClearWholeMapAsksAndKeepsTheFileNames) {
   EXPECT_EQ(Form.Continent.Find(2), nullptr);
   EXPECT_EQ(Form.PictureFile, "map.bmp");
   EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 0);
-  Click(Form.Cvalid);
-  EXPECT_EQ(Message(), "red: Number of Areas must be more than 1") << "the picture is still named";
+  EXPECT_EQ(Click(Form.Cvalid), "red: Number of Areas must be more than 1")
+      << "the picture is still named";
   Click(Form.RefMap);
   EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
 }

@@ -23,8 +23,7 @@ TEST_F(LinkingTest, TheMarkedAreasBecomeTheListAndTheFarSideOnlyGrows) {
   EXPECT_EQ(Form.AreaLinks(7), "  ") << "one mark is not enough";
   EXPECT_EQ(Message().substr(0, 5), "Area ") << "and says nothing";
   Mark({9, 5, 2});
-  Click(Form.MakeNeibor);
-  EXPECT_EQ(Message(), " 3 neighbours set for Area 7 = <02,05,09>");
+  EXPECT_EQ(Click(Form.MakeNeibor), " 3 neighbours set for Area 7 = <02,05,09>");
   EXPECT_EQ(Form.MarkCount, 4);
   EXPECT_EQ(Links(9), "  |0107|  |  |020907|  |03020509|  |0107");
   Mark({5});
@@ -37,15 +36,13 @@ TEST_F(LinkingTest, WithoutMarkedAreasNothingChanges) {
   MakeChain();
   Click(Form.ArmyAt(2));
   Click(Form.RefMap);
-  Click(Form.MakeNeibor);
-  EXPECT_EQ(Message(), "red: mark the neighbours first");
+  EXPECT_EQ(Click(Form.MakeNeibor), "red: mark the neighbours first");
   // Nor when the Area that is current has gone.
   ClickMap(300, 200, forms::CtrlKey);
   Click(Form.ArmyAt(7));
   Delete();
   Mark({1, 3});
-  Click(Form.MakeNeibor);
-  EXPECT_EQ(Message(), "red: mark the neighbours first");
+  EXPECT_EQ(Click(Form.MakeNeibor), "red: mark the neighbours first");
   EXPECT_EQ(Links(3), "0102|020103|020204");
 }
 
@@ -65,21 +62,18 @@ TEST_F(LinkingTest, MembershipFollowsTheMarksAndTheColourStartsAgain) {
   Form.ColBar(0).Moved(99);
   Click(Form.Continent(2));
   Mark({2, 6});
-  Click(Form.SetCont);
-  EXPECT_EQ(Message(), "Region Region 2 has 3 Areas = <02,04,05>");
+  EXPECT_EQ(Click(Form.SetCont), "Region Region 2 has 3 Areas = <02,04,05>");
   EXPECT_EQ(Region(2), "Region 2 5 armies 256,256,256 Region 2 at 480,22 ffffff plain");
   EXPECT_EQ(Form.PlColor(4).BackColor, 0x00FFFF63U) << "the panel is left alone";
   EXPECT_EQ(Area(6), "Area 6 [0105] 1 R0 +6 at 235,24 ffffff plain");
   EXPECT_EQ(Area(5), "Area 5 [020406] 1 R2 +5 at 190,24 ffffff marked");
   EXPECT_EQ(Area(2), "Area 2 [020103] 1 R2 +2 at 55,24 ffffff marked");
   Mark({2, 4, 5});
-  Click(Form.SetCont);
-  EXPECT_EQ(Message(), "Region Region 2 has 0 Areas = <>");
+  EXPECT_EQ(Click(Form.SetCont), "Region Region 2 has 0 Areas = <>");
   EXPECT_EQ(Area(2), "Area 2 [020103] 1 R0 +2 at 55,24 ffffff plain");
   Click(Form.ArmyAt(4));
   const std::string message = Message();
-  Click(Form.SetCont);
-  EXPECT_EQ(Message(), message) << "no current Region, no word";
+  EXPECT_EQ(Click(Form.SetCont), message) << "no current Region, no word";
 }
 
 TEST_F(LinkingTest, AnAreaLeavesEveryListAndItsRegion) {
@@ -109,8 +103,7 @@ TEST_F(LinkingTest, ARegionLosesItsAreasNameAndColourButNoLinks) {
   Type(Form.Armypc, "9");
   Click(Form.PlColor(4));
   Form.ColBar(0).Moved(99);
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "all links to Region 2 removed");
+  EXPECT_EQ(Click(Form.ClearLink), "all links to Region 2 removed");
   EXPECT_EQ(Region(2), "Region 2 9 armies 256,256,256 Region 2 at 480,22 ffffff plain");
   EXPECT_EQ(Area(6), "Area 6 [0105] 1 R0 +6 at 235,24 ffffff plain");
   EXPECT_EQ(Form.CurRegion + Form.MarkCount, 0);
@@ -118,24 +111,20 @@ TEST_F(LinkingTest, ARegionLosesItsAreasNameAndColourButNoLinks) {
 
 TEST_F(LinkingTest, ClearingNeedsAMarkAndSomethingToClear) {
   MakeMap(2, 1);
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "red: Select a Area/Region to clear");
+  EXPECT_EQ(Click(Form.ClearLink), "red: Select a Area/Region to clear");
   Mark({1});
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "red: Select a Area/Region to clear") << "marked, but nothing current";
+  EXPECT_EQ(Click(Form.ClearLink), "red: Select a Area/Region to clear")
+      << "marked, but nothing current";
   Click(Form.Continent(1));
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "Nothing to clear");
+  EXPECT_EQ(Click(Form.ClearLink), "Nothing to clear");
   EXPECT_EQ(Form.CurRegion, 1);
   SetRegion(1, {2});
   Click(Form.ArmyAt(2));
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "Nothing to clear");
+  EXPECT_EQ(Click(Form.ClearLink), "Nothing to clear");
   EXPECT_EQ(Form.AreaRegion(2), 1) << "without neighbours it keeps its Region";
   Link(1, 2);
   ShiftClick(Form.ArmyAt(1));
-  Click(Form.ClearLink);
-  EXPECT_EQ(Message(), "Nothing to clear") << "the current look is gone";
+  EXPECT_EQ(Click(Form.ClearLink), "Nothing to clear") << "the current look is gone";
 }
 
 TEST_F(LinkingTest, TwoAreasChangePlacesAndEveryLinkStillJoinsTheSamePlaces) {
@@ -149,15 +138,13 @@ TEST_F(LinkingTest, TwoAreasChangePlacesAndEveryLinkStillJoinsTheSamePlaces) {
   Form.AreaCorner(12) = 1;
   ClickMap(5, 300);
   Mark({12, 1});
-  Click(Form.SwapTer);
-  EXPECT_EQ(Message(), " 1 and  12 swapped");
+  EXPECT_EQ(Click(Form.SwapTer), " 1 and  12 swapped");
   EXPECT_EQ(Links(5), "0112|03120304|021202|0102|04012104120")
       << "the digits that meet are no pair";
   EXPECT_EQ(Area(1), "Area 1 [0112] 1 R2  1^ at 55,50 ffff00 plain");
   EXPECT_EQ(Area(12), "Area 12 [020203] 1 R1 +12 at 10,24 ffffff plain");
   EXPECT_EQ(Form.MarkCount, 2);
-  Click(Form.SwapTer);
-  EXPECT_EQ(Message(), "red: mark two Areas") << "the marks are gone";
+  EXPECT_EQ(Click(Form.SwapTer), "red: mark two Areas") << "the marks are gone";
 }
 
 TEST_F(LinkingTest, NeighboursSwapAndTheCurrentLookCounts) {
@@ -169,15 +156,13 @@ TEST_F(LinkingTest, NeighboursSwapAndTheCurrentLookCounts) {
   EXPECT_EQ(Message(), " 1 and  2 swapped");
   ClickMap(5, 300);
   Mark({1, 2, 3});
-  Click(Form.SwapTer);
-  EXPECT_EQ(Message(), "red: mark two Areas");
+  EXPECT_EQ(Click(Form.SwapTer), "red: mark two Areas");
   // A Region's Areas are marked but not counted: the two lowest numbers are the pair.
   MakeMap(2, 1);
   SetRegion(1, {4, 5});
   Click(Form.Continent(1));
   Mark({3});
-  Click(Form.SwapTer);
-  EXPECT_EQ(Message(), " 3 and  4 swapped");
+  EXPECT_EQ(Click(Form.SwapTer), " 3 and  4 swapped");
   EXPECT_EQ(Selected(), "A0 R1 2 ....o *");
 }
 

@@ -46,8 +46,11 @@ class EditorTest : public testing::Test {
     Form.Pointer.Move(from.X + dx, from.Y + dy, shift);
     Release({from.X + dx, from.Y + dy}, shift, button);
   }
-  void Click(const forms::Control& control, Bits shift = 0, Bits button = forms::LeftButton) {
+  /// Gives what the message bar says then.
+  std::string Click(const forms::Control& control, Bits shift = 0,
+                    Bits button = forms::LeftButton) {
     Drag(control, 0, 0, shift, button);
+    return Message();
   }
   void ShiftClick(const forms::Control& control) { Click(control, forms::ShiftKey); }
   /// A press and release so many pixels from where the inside of a container begins.
@@ -56,7 +59,10 @@ class EditorTest : public testing::Test {
     Press({origin.X + x, origin.Y + y}, shift);
     Release({origin.X + x, origin.Y + y}, shift);
   }
-  void ClickMap(int x, int y, Bits shift = 0) { ClickInside(Form.Picture1, x, y, shift); }
+  std::string ClickMap(int x, int y, Bits shift = 0) {
+    ClickInside(Form.Picture1, x, y, shift);
+    return Message();
+  }
   void Hover(const forms::Control& control) {
     const forms::PixelPoint at = Middle(control);
     Form.Pointer.Move(at.X, at.Y, 0);
@@ -91,11 +97,12 @@ class EditorTest : public testing::Test {
     }
     ClickMap(5, 300);
   }
-  /// Presses Delete and says Yes.
-  void Delete() {
+  /// Presses Delete and answers Yes, and gives what the message bar says then.
+  std::string Delete() {
     Screen.Answers = {forms::Answer::Yes};
     Click(Form.DelControl);
     Screen.Answers.clear();
+    return Message();
   }
   /// Makes a link on both sides, by selecting one and marking the other.
   void Link(std::int16_t a, std::int16_t b) {

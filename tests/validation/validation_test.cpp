@@ -78,8 +78,7 @@ class ValidateMapTest : public EditorTest {
 
 TEST_F(ValidateMapTest, AFaultIsShownInRedAndPaintsNothing) {
   MakeMap(6, 2);
-  Click(Form.Cvalid);
-  EXPECT_EQ(Message(), "red: No Map file (.WMF/.BMP)");
+  EXPECT_EQ(Click(Form.Cvalid), "red: No Map file (.WMF/.BMP)");
   EXPECT_FALSE(Painted(300, 200));
 }
 
@@ -91,8 +90,7 @@ TEST_F(ValidateMapTest, AGoodMapIsFloodedFromEachFillPointUpToTheBlack) {
   Screen.Pictures["map.bmp"] = picture;
   Click(Form.RefMap);
   Form.ArmyAt(6).Move(450, 100);
-  Click(Form.Cvalid);
-  EXPECT_EQ(Message(), "This map has no errors");
+  EXPECT_EQ(Click(Form.Cvalid), "This map has no errors");
   EXPECT_TRUE(Painted(3, 3) && Painted(500, 200));
   EXPECT_FALSE(Painted(440, 100));
   Click(Form.RefMap);
