@@ -139,14 +139,11 @@ TEST(Metafile, RecordsPaintTheirPixels) {
         .Record(0x0538, {2, 4, 4, 10, 10, 90, 10, 90, 90, 10, 90, 30, 30, 70, 30, 70, 70, 30, 70});
   };
   const auto inverted = [] { return Filled(0xFFFFFF).Record(0x0104, {7}).Rectangle(0, 0, 50, 50); };
-  // A frame inside the clip, a square left out of it.
+  // A square, and a smaller one left out of it.
   const auto clipped = [] {
-    return Filled()
-        .Record(0x001E, {})
-        .Record(0x0416, {50, 50, 10, 10})
-        .Record(0x0415, {40, 40, 20, 20})
-        .Record(0x0209, {0, 0})
-        .Whole();
+    MetafileBytes file = Filled();
+    file.Record(0x001E, {}).Record(0x0416, {50, 50, 10, 10}).Record(0x0415, {40, 40, 20, 20});
+    return file.Record(0x0209, {0, 0}).Whole();
   };
   // Two red pixels above two green ones.
   const QByteArray dib =
@@ -156,18 +153,14 @@ TEST(Metafile, RecordsPaintTheirPixels) {
     return MetafileBytes().Brush(0, RedRef).Record(function, {0, 50, 50, 100, 91, 91, 10, 10});
   };
   const auto flood = [](int function, std::initializer_list<int> words) {
-    return MetafileBytes()
-        .Brush(1, 0)
-        .Rectangle(20, 20, 60, 60)
-        .Brush(0, RedRef)
-        .Record(function, words);
+    MetafileBytes file;
+    file.Brush(1, 0).Rectangle(20, 20, 60, 60).Brush(0, RedRef);
+    return file.Record(function, words);
   };
   const auto dashes = [](int style, int mode) {
-    return MetafileBytes()
-        .Record(0x0201, {0x00FF, 0})
-        .Record(0x0102, {mode})
-        .Pen(style, 0, 0)
-        .Line(0, 10, 72, 10);
+    MetafileBytes file;
+    file.Record(0x0201, {0x00FF, 0}).Record(0x0102, {mode}).Pen(style, 0, 0);
+    return file.Line(0, 10, 72, 10);
   };
   // Two scans: 10 to 50 in rows 10 to 20, 10 to 30 in rows 20 to 40.
   const auto region = [](int function, std::initializer_list<int> words) {
