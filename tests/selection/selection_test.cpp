@@ -89,8 +89,7 @@ TEST_F(SelectionTest, ArrowKeysNeedAMarkAndAMarker) {
   Key(forms::KeyUpArrow);
   EXPECT_EQ(Selected(), "A7 R0 0 ....... ..") << "the only mark is gone";
   Click(Form.ArmyAt(7));
-  Screen.Answers.push_back(forms::Answer::Yes);
-  Click(Form.DelControl);
+  Delete();
   Key(forms::KeyUpArrow);
   EXPECT_EQ(Selected(), "A7 R0 1 ...... ..") << "its marker is gone";
 }
@@ -166,8 +165,7 @@ TEST_F(InspectorTest, TheLastArmiesStayOnShowWithoutARegionAndWriteNothing) {
 
 TEST_F(InspectorTest, EditsOfSomethingGoneDoNothing) {
   Click(Form.AddCont);
-  Screen.Answers.push_back(forms::Answer::Yes);
-  Click(Form.DelControl);
+  Delete();
   ASSERT_EQ(Form.CurRegion, 3);
   const std::string message = Message();
   Type(Form.EditText, "ghost");
