@@ -75,6 +75,8 @@ TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
   Key(forms::KeyDownArrow);
   Key(forms::KeyDownArrow);
   EXPECT_EQ(Selected(), "A5 R0 3 ...o*o ..");
+  Key(forms::KeyUpArrow);
+  EXPECT_EQ(Form.CurArea, 6);
   Click(Form.Continent(1));
   Key(forms::KeyDownArrow);
   EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*");
