@@ -29,17 +29,12 @@ Rows Filled(Rows rows, int x, int y) {
   return rows;
 }
 
-TEST(BorderFill, StopsAtPureBlackOnlyAndDoesNotSlipThroughCorners) {
+TEST(BorderFill, StopsAtPureBlackOnlyAndFindsEveryGapButCorners) {
   EXPECT_EQ(Filled({"..#..", ".d#..", "##...", "....."}, 0, 0),
             (Rows{"rr#..", "rr#..", "##...", "....."}));
-}
-
-TEST(BorderFill, WalksRoundObstaclesAndOutThroughGaps) {
   EXPECT_EQ(Filled({".....", ".###.", ".#.#.", ".#.#.", "....."}, 2, 2),
             (Rows{"rrrrr", "r###r", "r#r#r", "r#r#r", "rrrrr"}));
-}
-
-TEST(BorderFill, PaintsNothingFromTheBorderOrOutside) {
+  // From the border or from outside it paints nothing.
   const Rows rows{".#.", "...", "..."};
   for (const auto& [x, y] : {std::pair{1, 0}, {-1, 0}, {3, 0}, {0, 3}, {0, -1}}) {
     EXPECT_EQ(Filled(rows, x, y), rows) << x << ' ' << y;
