@@ -47,7 +47,7 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
   box.setWindowTitle(FromCp1252(title));
   box.setText(WrappableText(text));
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-  box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+  box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
   const int pressed = box.exec();
   if (!question) return forms::Answer::Ok;

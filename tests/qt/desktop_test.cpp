@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
@@ -37,8 +38,15 @@ TEST(Desktop, BoxesAnswerByButtonAndNoWhenClosed) {
     WhileModal([key](QWidget& box) { QTest::keyClick(&box, key); });
     return desktop.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark");
   };
-  EXPECT_EQ(ask(Qt::Key_Return), forms::Answer::Yes);
+  EXPECT_EQ(ask(Qt::Key_Return), forms::Answer::No);
   EXPECT_EQ(ask(Qt::Key_Escape), forms::Answer::No);
+  WhileModal([](QWidget& box) {
+    const auto buttons = box.findChildren<QPushButton*>();
+    auto* first = buttons[0]->x() < buttons[1]->x() ? buttons[0] : buttons[1];
+    QTest::mouseClick(first, Qt::LeftButton);
+  });
+  EXPECT_EQ(desktop.MsgBox("Clear whole map?", forms::Buttons::YesNo, "Terramark"),
+            forms::Answer::Yes);
   WhileModal([](QWidget& box) { box.close(); });
   EXPECT_EQ(desktop.MsgBox("Failed", forms::Buttons::Ok, "Terramark"), forms::Answer::Ok);
 }
