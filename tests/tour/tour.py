@@ -193,7 +193,8 @@ class Tour(Editor):
 
     def name_area(self, number, name, symbol):
         self.says(GREEN, lambda: self.press_area(number))
-        self.says(GREEN, lambda: self.write(name))
+        # The old name is marked and gives way.
+        self.says(GREEN, lambda: self.screen.tool("type", name))
         self.says(GREEN, lambda: self.fill("Symb", symbol))
 
     def set_region(self, region, areas):
