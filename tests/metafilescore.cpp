@@ -41,7 +41,8 @@ int main(int argc, char** argv) {
     const QString base = name.chopped(4);
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
-    const QImage drawn = terramark::qt::LoadPictureFile(folder.filePath(name), wanted.size());
+    const QImage drawn =
+        terramark::qt::LoadPictureFile(folder.filePath(name).toStdString(), wanted.size());
     if (argc > 2) drawn.save(QDir(QString::fromLocal8Bit(argv[2])).filePath(base + ".png"));
     scores.push_back(PercentDifferent(drawn, wanted));
     std::printf("%7.2f %%  %s\n", scores.back(), qPrintable(base));

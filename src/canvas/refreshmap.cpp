@@ -11,8 +11,7 @@ namespace terramark {
 
 bool RefreshMap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt(i).Visible = false;
-  const forms::Picture picture = LoadPicture(form, form.PictureFile);
-  if (picture) form.Picture1.Picture = picture;
+  const bool readable = ShowPicture(form, form.PictureFile);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
@@ -26,8 +25,8 @@ bool RefreshMap(Form1& form) {
   }
   form.EditText.SetFocus();
   ShowMessage(form, "", ClrGreen);
-  if (!picture) ShowPictureFault(form, form.PictureFile);
-  return picture != nullptr;
+  if (!readable) ShowPictureFault(form, form.PictureFile);
+  return readable;
 }
 
 void RefMap_MouseUp(Form1& form) {
@@ -38,13 +37,17 @@ void LoadMap_MouseUp(Form1& form) {
   std::string path;
   SelectAFile(form, "*.wmf;*.bmp", path);
   if (path.empty()) return;
-  const forms::Picture picture = LoadPicture(form, path);
-  if (!picture) {
+  const forms::CommonDialog& chosen = form.CommonDialog1;
+  if (!chosen.FileNameFits && !chosen.FileTitleFits) {
+    ShowNameFault(form, path);
+    return;
+  }
+  if (!ShowPicture(form, path)) {
     ShowPictureFault(form, path);
     return;
   }
-  form.PictureFile = path;
-  form.Picture1.Picture = picture;
+  form.Host.EnterFolderOf(path);
+  form.PictureFile = chosen.FileNameFits ? path : chosen.FileTitle;
   form.LoadMap.Caption = form.PictureFile;
   UpdateCounts(form);
 }

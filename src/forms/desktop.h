@@ -31,12 +31,15 @@ struct DateTime {
 };
 
 /// The file dialog's properties: Filter is a pattern list such as "*.wmf;*.bmp"; FileName goes in
-/// and comes out, unchanged when the user cancels. FileNameFits is false when the chosen path has a
-/// character that the 8-bit text lacks; FileName then shows "?" in its place.
+/// and comes out, unchanged when the user cancels. FileTitle comes out as FileName without its
+/// folder. Either fits when a Map Layout can hold it: it has no line end and no character that the
+/// 8-bit text lacks. "?" stands in the place of such a character.
 struct CommonDialog {
   std::string Filter;
   std::string FileName;
+  std::string FileTitle;
   bool FileNameFits = true;
+  bool FileTitleFits = true;
 };
 
 class Desktop {
@@ -65,10 +68,15 @@ class Desktop {
   virtual TextExtent MeasureText(const std::string& text) = 0;
 
   /// Reads a bitmap at its own size, or a metafile drawn into width x height pixels. The empty path
-  /// gives the empty picture; null when the file is missing or cannot be decoded.
+  /// gives the empty picture; null when the file is missing or cannot be decoded. Throws
+  /// std::bad_alloc when the memory does not reach.
   virtual Picture LoadPicture(const std::string& path, int width, int height) = 0;
-  /// The file system's name of a path held in 8-bit text.
+  /// The file system's name of a path held in 8-bit text. The FileName that the dialog gave last
+  /// stands for the file chosen there, whatever characters "?" hides.
   virtual std::filesystem::path NativePath(const std::string& path) = 0;
+  /// Makes the folder of a file the current one, where relative paths begin. A path without a
+  /// folder changes nothing, and neither does a folder that cannot be entered.
+  virtual void EnterFolderOf(const std::string& path) = 0;
 
   /// Ends the process at once; nothing of the calling handler runs after it.
   [[noreturn]] virtual void End(int status) = 0;

@@ -2,12 +2,32 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 #include "forms/borderfill.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
 
 namespace terramark::forms {
+
+namespace {
+
+/// The picture in the top left corner of a raster of at least its size.
+Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t background) {
+  if (picture.Width == width && picture.Height == height) return picture;
+  Raster image;
+  image.Width = width;
+  image.Height = height;
+  image.Pixels.assign(image.At(0, height), background);
+  for (int y = 0; y < picture.Height; ++y) {
+    const auto row = picture.Pixels.begin() + static_cast<std::ptrdiff_t>(picture.At(0, y));
+    std::copy(row, row + picture.Width,
+              image.Pixels.begin() + static_cast<std::ptrdiff_t>(image.At(0, y)));
+  }
+  return image;
+}
+
+}  // namespace
 
 int PictureBox::BoxWidth() const {
   return PixelBounds(*this).Width;
@@ -58,18 +78,9 @@ void PictureBox::PropertyChanged(PropertyId id) {
 void PictureBox::RebuildImage() {
   const Raster empty;
   const Raster& picture = Picture.Get() ? *Picture.Get() : empty;
-  image_.Width = std::max(picture.Width, BoxWidth());
-  image_.Height = std::max(picture.Height, BoxHeight());
-  if (picture.Width == image_.Width && picture.Height == image_.Height) {
-    image_.Pixels = picture.Pixels;
-    return;
-  }
-  image_.Pixels.assign(image_.At(0, image_.Height), PixelOf(BackColor));
-  for (int y = 0; y < picture.Height; ++y) {
-    const auto row = picture.Pixels.begin() + static_cast<std::ptrdiff_t>(picture.At(0, y));
-    std::copy(row, row + picture.Width,
-              image_.Pixels.begin() + static_cast<std::ptrdiff_t>(image_.At(0, y)));
-  }
+  // Built aside: when the memory does not reach for it, the old one stays whole.
+  image_ = Enlarged(picture, std::max(picture.Width, BoxWidth()),
+                    std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
 }
 
 }  // namespace terramark::forms

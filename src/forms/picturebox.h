@@ -15,7 +15,8 @@ class PictureBox : public Control {
   PictureBox() : Control(ControlKind::PictureBox) { InnerScale = Scale::Pixels; }
 
   /// Assigning replaces the persistent image, paint included, also by the picture that stands
-  /// already. The empty picture empties the box.
+  /// already. The empty picture empties the box. Throws std::bad_alloc, with nothing changed, when
+  /// the memory does not reach for the image.
   Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;

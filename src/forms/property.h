@@ -45,11 +45,17 @@ class Property {
   Property(const Property&) = delete;
   ~Property() = default;
 
-  /// An assignment of the value that stands already tells nobody, unless every assignment does.
+  /// An assignment of the value that stands already tells nobody, unless every assignment does. One
+  /// that the owner cannot carry out, and so throws, leaves the old value.
   Property& operator=(T value) {
     if (When == Tells::Changes && value == value_) return *this;
-    value_ = std::move(value);
-    owner_.PropertyChanged(id_);
+    std::swap(value_, value);
+    try {
+      owner_.PropertyChanged(id_);
+    } catch (...) {
+      std::swap(value_, value);
+      throw;
+    }
     return *this;
   }
   Property& operator=(const Property& other) { return *this = T(other.value_); }

@@ -5,7 +5,8 @@ namespace terramark {
 
 struct Form1;
 
-/// The button "Load a Map Layout". A file that cannot be opened changes nothing and is said in red.
+/// The button "Load a Map Layout". The layout's folder becomes the current one. A file that cannot
+/// be opened changes nothing and is said in red.
 void LoadMpa_MouseUp(Form1& form);
 
 }  // namespace terramark

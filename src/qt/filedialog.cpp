@@ -1,28 +1,84 @@
 #include "qt/filedialog.h"
 
-#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QScreen>
+#include <QTreeView>
+#include <algorithm>
 
 #include "qt/cp1252.h"
 
 namespace terramark::qt {
 
-void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
-  dialog.FileName = ToCp1252(path);
-  // A line end in a name would end the line of the layout that holds it.
-  dialog.FileNameFits = FitsCp1252(path) && !path.contains('\n') && !path.contains('\r');
+namespace {
+
+constexpr QSize UsualSize(760, 480);
+
+/// What the files of a pattern list are called.
+struct FileKind {
+  const char* Filter;
+  const char* Name;
+};
+
+constexpr FileKind Kinds[] = {{"*.tml", "Map Layouts"}, {"*.wmf;*.bmp", "Pictures"}};
+
+QString Worded(const std::string& filter) {
+  // Patterns stand between semicolons here and between blanks there.
+  const QString patterns = FromCp1252(filter).replace(';', ' ');
+  for (const FileKind& kind : Kinds) {
+    if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
+  }
+  return patterns;
 }
 
-void ShowFileDialog(forms::CommonDialog& dialog, QWidget* parent) {
-  QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), QDir::currentPath());
+bool Fits(const QString& name) {
+  // A line end in a name would end the line of the layout that holds it.
+  return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+}
+
+/// Makes the dialog as wide as its columns, as far as the screen goes.
+void WidenFor(const QTreeView& list, QFileDialog& chooser) {
+  const int lack = list.header()->length() - list.viewport()->width();
+  if (!chooser.isVisible() || lack <= 0) return;
+  const QRect screen = chooser.screen()->availableGeometry();
+  chooser.resize(std::min(chooser.width() + lack, screen.width()), chooser.height());
+  const int beyond = chooser.frameGeometry().right() - screen.right();
+  if (beyond > 0) chooser.move(std::max(screen.left(), chooser.x() - beyond), chooser.y());
+}
+
+/// The dialog's own columns are too narrow for a date.
+void ShowWholeColumns(QFileDialog& chooser) {
+  chooser.setViewMode(QFileDialog::Detail);
+  chooser.resize(UsualSize);
+  auto* const list = chooser.findChild<QTreeView*>();
+  if (list == nullptr) return;
+  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // The columns grow when the folder has been read; how far is known when all of them have.
+  QObject::connect(
+      list->header(), &QHeaderView::sectionResized, &chooser,
+      [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
+}
+
+}  // namespace
+
+void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
+  const QString title = QFileInfo(path).fileName();
+  dialog.FileName = ToCp1252(path);
+  dialog.FileTitle = ToCp1252(title);
+  dialog.FileNameFits = Fits(path);
+  dialog.FileTitleFits = Fits(title);
+}
+
+QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
+  QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), folder);
   chooser.setOption(QFileDialog::DontUseNativeDialog);
   chooser.setAcceptMode(QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
-  // Patterns stand between semicolons here and between blanks there.
-  const QString patterns = FromCp1252(dialog.Filter).replace(';', ' ');
-  chooser.setNameFilters({patterns, "*"});
-  if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return;
-  TakeChosenPath(dialog, chooser.selectedFiles().first());
+  chooser.setNameFilters({Worded(filter), "All files (*)"});
+  ShowWholeColumns(chooser);
+  if (chooser.exec() != QDialog::Accepted) return {};
+  return chooser.selectedFiles().value(0);
 }
 
 }  // namespace terramark::qt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 #include "forms/desktop.h"
 
@@ -9,9 +10,10 @@ class QWidget;
 
 namespace terramark::qt {
 
-/// Shows the dialog in the current folder, which stays the current one. Takes a file that exists
-/// and a name that does not; asks nothing about either. A cancel changes nothing.
-void ShowFileDialog(forms::CommonDialog& dialog, QWidget* parent);
+/// Shows the dialog with the files of a pattern list in a folder, and gives the full path of the
+/// one chosen, the empty text for a cancel. Takes a file that exists and a name that does not; asks
+/// nothing about either. The process's current folder stays.
+QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent);
 
 /// Puts a chosen path into the dialog's properties.
 void TakeChosenPath(forms::CommonDialog& dialog, const QString& path);

@@ -1,7 +1,9 @@
 #include "qt/qtdesktop.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -55,7 +57,12 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
 }
 
 void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
-  ShowFileDialog(dialog, window_);
+  const QString folder = chosen_.isEmpty() ? QDir::currentPath() : QFileInfo(chosen_).path();
+  const QString path = AskForFile(dialog.Filter, folder, window_);
+  if (path.isEmpty()) return;
+  TakeChosenPath(dialog, path);
+  chosen_ = path;
+  chosenName_ = dialog.FileName;
 }
 
 void QtDesktop::ShowModal(forms::Form& form) {
@@ -102,12 +109,17 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
 
 forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
   if (path.empty()) return std::make_shared<forms::Raster>();
-  const QImage image = LoadPictureFile(FromCp1252(path), QSize(width, height));
+  const QImage image = LoadPictureFile(NativePath(path), QSize(width, height));
   return image.isNull() ? nullptr : PictureOf(image);
 }
 
 std::filesystem::path QtDesktop::NativePath(const std::string& path) {
-  return QFile::encodeName(FromCp1252(path)).toStdString();
+  return QFile::encodeName(path == chosenName_ ? chosen_ : FromCp1252(path)).toStdString();
+}
+
+void QtDesktop::EnterFolderOf(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::current_path(NativePath(path).parent_path(), ignored);
 }
 
 void QtDesktop::End(int status) {

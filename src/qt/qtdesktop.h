@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 #include <memory>
 #include <random>
+#include <string>
 
 #include "forms/desktop.h"
 #include "qt/helpwindow.h"
@@ -34,12 +36,16 @@ class QtDesktop : public forms::Desktop {
 
   forms::Picture LoadPicture(const std::string& path, int width, int height) override;
   std::filesystem::path NativePath(const std::string& path) override;
+  void EnterFolderOf(const std::string& path) override;
 
   [[noreturn]] void End(int status) override;
 
  private:
   QPointer<QWidget> window_;
   std::unique_ptr<HelpWindow> help_;
+  // The file chosen last in the file dialog, and the name that it went by; empty before the first.
+  QString chosen_;
+  std::string chosenName_;
   std::mt19937 random_;
 };
 

@@ -9,11 +9,11 @@ namespace terramark {
 struct Form1;
 
 /// Asks for a file with the dialog for opening one, also where a file is to be written. s gets the
-/// name as the dialog gave it, or the empty text when the user cancelled. A name that 8-bit text
-/// cannot hold is refused in red and comes back as the empty text too.
+/// name as the dialog gave it, or the empty text when the user cancelled. It may show "?" for what
+/// 8-bit text lacks; CommonDialog1 then says so, and Host knows the file by it all the same.
 void SelectAFile(Form1& form, const std::string& filt, std::string& s);
 
-/// 1 when the file can be opened for reading, else 0.
+/// 1 when the path names a regular file that can be opened for reading, else 0.
 std::int16_t FileExists(Form1& form, const std::string& path);
 
 }  // namespace terramark

@@ -49,6 +49,7 @@ class ScriptedDesktop : public forms::Desktop {
   /// Next names chosen in the file dialog; none left cancels.
   std::deque<std::string> FileNames;
   bool FileNameFits = true;
+  bool FileTitleFits = true;
   /// Next random numbers; none left gives 0.
   std::deque<float> Draws;
   std::map<std::string, forms::Picture> Pictures;
@@ -65,6 +66,8 @@ class ScriptedDesktop : public forms::Desktop {
   std::vector<int> Topics;
   std::vector<float> Seeds;
   int PictureReads = 0;
+  /// Paths whose folders became the current one.
+  std::vector<std::string> Entered;
 
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
                        const std::string& title) override {
@@ -74,7 +77,9 @@ class ScriptedDesktop : public forms::Desktop {
   void ShowOpen(forms::CommonDialog& dialog) override {
     Filters.push_back(dialog.Filter);
     dialog.FileName = Next(FileNames, dialog.FileName);
+    dialog.FileTitle = std::filesystem::path(dialog.FileName).filename();
     dialog.FileNameFits = FileNameFits;
+    dialog.FileTitleFits = FileTitleFits;
   }
   void ShowModal(forms::Form&) override { ++ModalForms; }
   void ShowHelp(const std::string&, std::int32_t topic) override { Topics.push_back(topic); }
@@ -96,6 +101,7 @@ class ScriptedDesktop : public forms::Desktop {
     return found == Pictures.end() ? nullptr : found->second;
   }
   std::filesystem::path NativePath(const std::string& path) override { return path; }
+  void EnterFolderOf(const std::string& path) override { Entered.push_back(path); }
   [[noreturn]] void End(int status) override { throw Ended{status}; }
 
  private:

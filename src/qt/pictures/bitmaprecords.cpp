@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "qt/pictures/dib.h"
+#include "qt/pictures/newimage.h"
 #include "qt/pictures/recordplayers.h"
 
 namespace terramark::qt {
@@ -141,7 +142,7 @@ QImage DecodeOldBitmap(const DeviceContext& context, const MetafileRecord& recor
   if (bits.size() < qsizetype{rowBytes} * height) return {};
   const QRgb clear = context.Resolve(context.State.TextColour);
   const QRgb set = context.Resolve(context.State.BackColour);
-  QImage image(width, height, QImage::Format_RGB32);
+  QImage image = NewImage({width, height}, QImage::Format_RGB32);
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
       const int byte = static_cast<unsigned char>(bits[qsizetype{y} * rowBytes + x / 8]);

@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "qt/pictures/newimage.h"
+
 namespace terramark::qt {
 namespace {
 
@@ -124,14 +126,14 @@ QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bi
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer, "bmp");
   reader.setAutoDetectImageFormat(false);
-  const QImage image = reader.read();
+  QImage image = reader.read();
   if (image.size() !=
       QSize(static_cast<int>(header.Width), static_cast<int>(std::abs(header.Height)))) {
     return {};
   }
   // An alpha channel has no meaning here; the colours stand as they are stored.
-  QImage plain = image.hasAlphaChannel() ? image.convertToFormat(QImage::Format_ARGB32)
-                                         : image.convertToFormat(QImage::Format_RGB32);
+  const auto format = image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+  QImage plain = OwnPixels(std::move(image).convertToFormat(format));
   if (plain.format() == QImage::Format_ARGB32) plain.reinterpretAsFormat(QImage::Format_RGB32);
   const bool sixGreenBits = header.Compression == BitFields && Long(head, GreenMaskAt) == 0x07E0;
   for (int y = 0; y < plain.height(); ++y) {

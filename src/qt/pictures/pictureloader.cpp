@@ -1,10 +1,10 @@
 #include "qt/pictures/pictureloader.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 #include <optional>
+#include <string>
 
+#include "forms/regularfile.h"
 #include "qt/pictures/dib.h"
 #include "qt/pictures/metafileplayer.h"
 #include "qt/pictures/metafilereader.h"
@@ -32,13 +32,11 @@ QImage LoadPictureBytes(QByteArrayView bytes, QSize box) {
   return PlayMetafile(bytes, box.boundedTo(QSize(MaxPictureBoxSide, MaxPictureBoxSide)));
 }
 
-QImage LoadPictureFile(const QString& path, QSize box) {
-  QFile file(path);
-  // A pipe or a device could be read for ever.
-  if (!QFileInfo(file).isFile() || file.size() > MaxPictureFileBytes) return {};
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = file.read(MaxPictureFileBytes);
-  return LoadPictureBytes(bytes, box);
+QImage LoadPictureFile(const std::filesystem::path& path, QSize box) {
+  const forms::RegularFile file(path);
+  if (file.Size() > MaxPictureFileBytes) return {};
+  const std::optional<std::string> bytes = file.Read(MaxPictureFileBytes);
+  return bytes ? LoadPictureBytes(*bytes, box) : QImage();
 }
 
 }  // namespace terramark::qt

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "qt/pictures/newimage.h"
+
 namespace terramark::qt {
 namespace {
 
@@ -88,7 +90,7 @@ void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int w
   const QRect bounds = BoundsOf(points).adjusted(-width, -width, width, width);
   if (!target.Touch(bounds)) return;
   const QRect area = bounds.intersected(target.Area());
-  QImage mask(area.size(), QImage::Format_Grayscale8);
+  QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
   mask.fill(0);
   const auto mark = [&](int y, int x0, int x1) {
     std::memset(mask.scanLine(y - area.top()) + (x0 - area.left()), 1,

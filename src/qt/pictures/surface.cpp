@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "qt/pictures/newimage.h"
+
 namespace terramark::qt {
 namespace {
 
@@ -37,7 +39,8 @@ QRgb CombineTernary(int code, QRgb pattern, QRgb source, QRgb destination) {
 }
 
 Surface::Surface(QSize size, bool measuring)
-    : image_(measuring ? QSize(1, 1) : size, QImage::Format_RGB32), measuring_(measuring) {
+    : image_(NewImage(measuring ? QSize(1, 1) : size, QImage::Format_RGB32)),
+      measuring_(measuring) {
   image_.fill(Qt::white);
 }
 
@@ -115,7 +118,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
   const std::int64_t work = std::int64_t{Area().width()} * Area().height() * WorkPerFloodPixel;
   if (!Area().contains(seed) || !Spend(work)) return;
   // Painting changes the colours that are asked for, so the filled shape is found first.
-  QImage inside(Area().size(), QImage::Format_Grayscale8);
+  QImage inside = NewImage(Area().size(), QImage::Format_Grayscale8);
   inside.fill(0);
   const auto fills = [&](int x, int y) {
     const bool same = (image_.pixel(x, y) & 0xFFFFFF) == (colour & 0xFFFFFF);
@@ -146,7 +149,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
 }
 
 QImage Surface::NewClip(std::uint8_t value) const {
-  QImage clip(image_.size(), QImage::Format_Grayscale8);
+  QImage clip = NewImage(image_.size(), QImage::Format_Grayscale8);
   clip.fill(value);
   return clip;
 }
@@ -154,6 +157,7 @@ QImage Surface::NewClip(std::uint8_t value) const {
 void Surface::FillClip(const QRect& rect, std::uint8_t value) {
   const QRect visible = rect.intersected(Area());
   if (visible.isEmpty()) return;
+  clip_ = OwnPixels(std::move(clip_));
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     std::memset(clip_.scanLine(y) + visible.left(), value,
                 static_cast<std::size_t>(visible.width()));

@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "qt/pictures/fontmatch.h"
+#include "qt/pictures/newimage.h"
 #include "qt/pictures/recordplayers.h"
 #include "qt/pictures/textdecoding.h"
 
@@ -80,7 +81,7 @@ QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
 
 QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransform& place,
                    const QRect& area) {
-  QImage image(area.size(), QImage::Format_RGB32);
+  QImage image = NewImage(area.size(), QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.setFont(font.Face);
@@ -94,7 +95,7 @@ QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransfo
     painter.drawText(QPointF(0, 0), line.Letters[i].Text);
   }
   painter.end();
-  QImage mask(area.size(), QImage::Format_Grayscale8);
+  QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
   for (int y = 0; y < mask.height(); ++y) {
     const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
     uchar* to = mask.scanLine(y);

@@ -1,0 +1,37 @@
+// A file opened for reading that is sure to be a plain one: reading it ends, and waits for nobody.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace terramark::forms {
+
+/// Takes no folder, pipe or device, nor what the kernel makes up as it is read, and does not wait
+/// for any of them. A path with a NUL names no file.
+class RegularFile {
+ public:
+  explicit RegularFile(const std::filesystem::path& path);
+  RegularFile(const RegularFile&) = delete;
+  RegularFile& operator=(const RegularFile&) = delete;
+  ~RegularFile();
+
+  /// Whether the path names such a file and it may be read.
+  bool IsOpen() const { return file_ >= 0; }
+  /// Bytes at the time of opening; 0 when it is not open.
+  std::uintmax_t Size() const { return size_; }
+
+  /// From the beginning up to the size, and at most so many bytes. Nothing when it is not open or a
+  /// read fails: a disk's fault does not look like a short file.
+  std::optional<std::string> Read(std::size_t most) const;
+
+ private:
+  bool IsPlain();
+
+  int file_ = -1;
+  std::uintmax_t size_ = 0;
+};
+
+}  // namespace terramark::forms
