@@ -1,3 +1,4 @@
+#include "shell/bars.h"
 #include "support/editortest.h"
 
 namespace terramark {
@@ -117,6 +118,41 @@ TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
   EXPECT_EQ(Form.CurArea, 0);
   EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
   EXPECT_EQ(Click(Form.RefMap), "red: Cannot read picture map.bmp");
+}
+
+TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
+  struct Case {
+    bool NameFits, TitleFits;
+    std::string Name;
+  };
+  Screen.Pictures["/?/a.bmp"] = BlankPicture(4, 3);
+  for (const Case& chosen :
+       {Case{true, true, "/?/a.bmp"}, Case{false, true, "a.bmp"}, Case{false, false, "before"}}) {
+    Form.PictureFile = "before";
+    Screen.Entered.clear();
+    Screen.FileNames = {"/?/a.bmp"};
+    Screen.FileNameFits = chosen.NameFits;
+    Screen.FileTitleFits = chosen.TitleFits;
+    Click(Form.LoadMap);
+    EXPECT_EQ(Form.PictureFile, chosen.Name);
+    EXPECT_EQ(Screen.Entered.size(), chosen.TitleFits ? 1U : 0U);
+  }
+  EXPECT_EQ(Form.LoadMap.Caption.Get(), "a.bmp");
+  EXPECT_EQ(Message(),
+            "red: Cannot use this file name in a Map Layout: /?/a.bmp (it has characters"
+            " that a Map Layout cannot hold)");
+  const auto load = [&](const char* name) {
+    Screen.FileNameFits = true;
+    Screen.FileNames = {name};
+    Click(Form.LoadMap);
+    return Message();
+  };
+  EXPECT_EQ(load("/?/a.bmp"), "") << "a picture that loads takes such a text off the bar";
+  load("text.wmf");
+  EXPECT_EQ(Screen.Entered.size(), 1U) << "nor is its folder entered";
+  EXPECT_EQ(load("/?/a.bmp"), "");
+  ShowMessage(Form, "Cannot", ClrRed);
+  EXPECT_EQ(load("/?/a.bmp"), "red: Cannot");
 }
 
 class ColourPanelTest : public EditorTest {

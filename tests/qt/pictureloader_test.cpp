@@ -83,16 +83,16 @@ TEST(PictureLoader, TellsTheKindByContentAndNotByName) {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
     file.close();
-    return LoadPictureFile(file.fileName(), Box).size();
+    return LoadPictureFile(file.fileName().toStdString(), Box).size();
   };
   EXPECT_EQ(sizeOf("map.wmf", Sound.File()), QSize(4, 4));
   EXPECT_EQ(sizeOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), Box);
   EXPECT_TRUE(sizeOf("text.wmf", "Some text, no picture").isEmpty());
   EXPECT_TRUE(sizeOf("empty.bmp", "").isEmpty());
-  EXPECT_TRUE(LoadPictureFile(folder.filePath("missing.bmp"), Box).isNull());
-  EXPECT_TRUE(LoadPictureFile(folder.path(), Box).isNull());
-  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), MaxPictureFileBytes + 1));
-  EXPECT_TRUE(LoadPictureFile(folder.filePath("map.wmf"), Box).isNull());
+  EXPECT_TRUE(LoadPictureFile("missing.bmp", Box).isNull());
+  EXPECT_TRUE(LoadPictureFile(folder.path().toStdString(), Box).isNull());
+  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), qint64{MaxPictureFileBytes} + 1));
+  EXPECT_TRUE(LoadPictureFile(folder.filePath("map.wmf").toStdString(), Box).isNull());
 }
 
 }  // namespace

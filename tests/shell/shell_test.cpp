@@ -1,3 +1,9 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "forms/regularfile.h"
 #include "shell/bars.h"
 #include "shell/clearmap.h"
 #include "shell/filenames.h"
@@ -63,20 +69,32 @@ TEST_F(ShellTest, ExitAsksAndClosingDoesNot) {
   EXPECT_EQ(Screen.Boxes.size(), 2U);
 }
 
-TEST_F(ShellTest, AFileNameIsTakenUnchangedOrNotAtAll) {
+TEST_F(ShellTest, AFileNameIsTakenAsTheDialogGivesIt) {
   std::string name = "before";
   SelectAFile(Form, "*.tml", name);
   EXPECT_EQ(name, "") << "cancelled";
-  Screen.FileNames.push_back("new map");
+  Screen.FileNames.push_back("/?/new map");
+  Screen.FileNameFits = Screen.FileTitleFits = false;
   SelectAFile(Form, "*.tml", name);
-  EXPECT_EQ(name, "new map");
-  Screen.FileNames.push_back("caf?.tml");
-  Screen.FileNameFits = false;
-  SelectAFile(Form, "*.tml", name);
-  EXPECT_EQ(name, "");
-  EXPECT_EQ(Message(), "red: Cannot use this file name in a Map Layout: caf?.tml");
-  EXPECT_EQ(FileExists(Form, SAMPLES), 0) << "a folder is no file";
-  EXPECT_EQ(FileExists(Form, SAMPLES "/europe.bmp"), 1);
+  EXPECT_EQ(name, "/?/new map");
+}
+
+TEST_F(ShellTest, OnlyARegularFileThatCanBeReadIsThere) {
+  const std::string here = testing::TempDir() + "regular." + std::to_string(::getpid());
+  const std::string pipe = here + ".pipe";
+  std::ofstream(here).put('x');
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(FileExists(Form, here), 1);
+  for (const std::string& none :
+       {here + '\0', here + ".gone", testing::TempDir(), pipe, std::string("/dev/zero"),
+        std::string("/proc/self/status"), std::string("/proc/self/mem")}) {
+    EXPECT_EQ(FileExists(Form, none), 0) << none;
+  }
+  EXPECT_EQ(forms::RegularFile(here).Read(9), "x");
+  std::filesystem::resize_file(here, 0);
+  EXPECT_EQ(forms::RegularFile(here).Read(9), "") << "an empty file is one";
+  std::filesystem::remove(here);
+  std::filesystem::remove(pipe);
 }
 
 }  // namespace
