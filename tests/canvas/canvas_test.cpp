@@ -111,6 +111,7 @@ TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
   EXPECT_EQ(Click(Form.LoadMap), "red: Cannot read picture text.wmf");
   EXPECT_EQ(Form.PictureFile, "map.bmp");
   EXPECT_EQ(Form.LoadMap.Caption.Get(), "map.bmp");
+  EXPECT_EQ(Screen.Entered, std::vector<std::string>{"map.bmp"});
   Screen.Pictures.clear();
   Click(Form.ArmyAt(1));
   EXPECT_EQ(ClickMap(5, 300), "red: Cannot read picture map.bmp")
@@ -121,38 +122,22 @@ TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
 }
 
 TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
-  struct Case {
-    bool NameFits, TitleFits;
-    std::string Name;
-  };
   Screen.Pictures["/?/a.bmp"] = BlankPicture(4, 3);
-  for (const Case& chosen :
-       {Case{true, true, "/?/a.bmp"}, Case{false, true, "a.bmp"}, Case{false, false, "before"}}) {
-    Form.PictureFile = "before";
-    Screen.Entered.clear();
+  const auto load = [&](bool nameFits, bool titleFits) {
     Screen.FileNames = {"/?/a.bmp"};
-    Screen.FileNameFits = chosen.NameFits;
-    Screen.FileTitleFits = chosen.TitleFits;
+    Screen.FileNameFits = nameFits;
+    Screen.FileTitleFits = titleFits;
     Click(Form.LoadMap);
-    EXPECT_EQ(Form.PictureFile, chosen.Name);
-    EXPECT_EQ(Screen.Entered.size(), chosen.TitleFits ? 1U : 0U);
-  }
-  EXPECT_EQ(Form.LoadMap.Caption.Get(), "a.bmp");
-  EXPECT_EQ(Message(),
-            "red: Cannot use this file name in a Map Layout: /?/a.bmp (it has characters"
-            " that a Map Layout cannot hold)");
-  const auto load = [&](const char* name) {
-    Screen.FileNameFits = true;
-    Screen.FileNames = {name};
-    Click(Form.LoadMap);
-    return Message();
+    return Form.PictureFile + " " + Message();
   };
-  EXPECT_EQ(load("/?/a.bmp"), "") << "a picture that loads takes such a text off the bar";
-  load("text.wmf");
-  EXPECT_EQ(Screen.Entered.size(), 1U) << "nor is its folder entered";
-  EXPECT_EQ(load("/?/a.bmp"), "");
   ShowMessage(Form, "Cannot", ClrRed);
-  EXPECT_EQ(load("/?/a.bmp"), "red: Cannot");
+  EXPECT_EQ(load(true, true), "/?/a.bmp red: Cannot");
+  EXPECT_EQ(load(false, true), "a.bmp red: Cannot");
+  EXPECT_EQ(load(false, false),
+            "a.bmp red: Cannot use this file name in a Map Layout: /?/a.bmp (it "
+            "has characters that a Map Layout cannot hold)");
+  EXPECT_EQ(Screen.Entered, (std::vector<std::string>{"/?/a.bmp", "/?/a.bmp"}));
+  EXPECT_EQ(load(true, true), "/?/a.bmp ") << "a text about an earlier picture goes";
 }
 
 class ColourPanelTest : public EditorTest {

@@ -90,14 +90,9 @@ TEST_F(LoadLayout, EveryFailureIsToldAndEndsTheProcess) {
 
 TEST_F(LoadLayout, MissingPictureStopsTheReadButNotTheEditor) {
   LoadBytes(Tiny);
-  LoadBytes(TinyWith({{4, TinyPicture + '\0'}}));
-  EXPECT_EQ(Boxes.size(), 1U) << "no path goes on behind a NUL";
-  LoadBytes(Tiny);
-  Boxes.clear();
-  Entered.clear();
   Put("other.tml", TinyWith({{1, "Other"}, {3, "1,3"}, {4, "gone,away.bmp"}}));
   Load("other.tml");
-  EXPECT_EQ(Entered, std::vector<std::string>{"other.tml"});
+  EXPECT_EQ(Entered.back(), "other.tml");
   EXPECT_EQ(Boxes, std::vector<std::string>{"TMRK 1.1: MAP File gone not found"});
   EXPECT_EQ(Form.PictureFile, "gone");  // a comma ends it
   EXPECT_EQ(Form.LoadMap.Caption.Get(), TinyPicture);
