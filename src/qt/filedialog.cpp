@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QScreen>
+#include <QSettings>
 #include <QTreeView>
 #include <algorithm>
 
@@ -35,6 +36,12 @@ QString Worded(const std::string& filter) {
 bool Fits(const QString& name) {
   // A line end in a name would end the line of the layout that holds it.
   return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+}
+
+/// The dialog would find its columns and folders again in the next run, and so would that of any
+/// other program; nothing but the layouts outlives a run here.
+void ForgetSettings() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
 /// Makes the dialog as wide as its columns, as far as the screen goes.
@@ -71,6 +78,7 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
 }
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
+  ForgetSettings();
   QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), folder);
   chooser.setOption(QFileDialog::DontUseNativeDialog);
   chooser.setAcceptMode(QFileDialog::AcceptOpen);
