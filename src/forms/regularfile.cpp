@@ -5,19 +5,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 
 namespace terramark::forms {
 
 namespace {
-
-/// A call again for as long as a signal breaks it off.
-template <typename Call>
-auto Uninterrupted(const Call& call) {
-  auto result = call();
-  while (result < 0 && errno == EINTR) result = call();
-  return result;
-}
 
 ssize_t ReadAt(int file, char* to, std::size_t bytes, std::size_t from) {
   return Uninterrupted([&] { return ::pread(file, to, bytes, static_cast<off_t>(from)); });
@@ -32,26 +23,20 @@ RegularFile::RegularFile(const std::filesystem::path& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return;
   constexpr int Flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
-  file_ = Uninterrupted([&] { return ::open(path.c_str(), Flags); });
-  if (file_ < 0 || IsPlain()) return;
-  ::close(file_);
-  file_ = -1;
-}
-
-RegularFile::~RegularFile() {
-  if (file_ >= 0) ::close(file_);
+  file_ = Descriptor(Uninterrupted([&] { return ::open(path.c_str(), Flags); }));
+  if (file_.IsOpen() && !IsPlain()) file_.Close();
 }
 
 bool RegularFile::IsPlain() {
   struct stat status {};
-  if (::fstat(file_, &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  if (::fstat(file_.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   if (status.st_size > 0) {
     size_ = static_cast<std::uintmax_t>(status.st_size);
     return true;
   }
   // The kernel's own files call themselves empty; then they give bytes, or let the reader wait.
   char byte = 0;
-  return ReadAt(file_, &byte, 1, 0) == 0;
+  return ReadAt(file_.Number(), &byte, 1, 0) == 0;
 }
 
 std::optional<std::string> RegularFile::Read(std::size_t most) const {
@@ -59,7 +44,7 @@ std::optional<std::string> RegularFile::Read(std::size_t most) const {
   std::string bytes(static_cast<std::size_t>(std::min<std::uintmax_t>(size_, most)), '\0');
   std::size_t done = 0;
   while (done < bytes.size()) {
-    const ssize_t got = ReadAt(file_, bytes.data() + done, bytes.size() - done, done);
+    const ssize_t got = ReadAt(file_.Number(), bytes.data() + done, bytes.size() - done, done);
     if (got < 0) return std::nullopt;
     if (got == 0) break;  // cut short by another program in the meantime
     done += static_cast<std::size_t>(got);

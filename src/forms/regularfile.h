@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "forms/descriptor.h"
+
 namespace terramark::forms {
 
 /// Takes no folder, pipe or device, nor what the kernel makes up as it is read, and does not wait
@@ -14,12 +16,9 @@ namespace terramark::forms {
 class RegularFile {
  public:
   explicit RegularFile(const std::filesystem::path& path);
-  RegularFile(const RegularFile&) = delete;
-  RegularFile& operator=(const RegularFile&) = delete;
-  ~RegularFile();
 
   /// Whether the path names such a file and it may be read.
-  bool IsOpen() const { return file_ >= 0; }
+  bool IsOpen() const { return file_.IsOpen(); }
   /// Bytes at the time of opening; 0 when it is not open.
   std::uintmax_t Size() const { return size_; }
 
@@ -30,7 +29,7 @@ class RegularFile {
  private:
   bool IsPlain();
 
-  int file_ = -1;
+  Descriptor file_;
   std::uintmax_t size_ = 0;
 };
 

@@ -3,18 +3,14 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-namespace terramark {
+#include "forms/descriptor.h"
 
-void Descriptor::Close() {
-  // Never twice: even a closing that fails has given the number back.
-  if (number_ >= 0) ::close(number_);
-  number_ = -1;
-}
+namespace terramark {
 
 std::size_t WriteAll(int file, std::string_view text) {
   std::size_t done = 0;
   while (done < text.size()) {
-    const ssize_t written = Uninterrupted([&] {
+    const ssize_t written = forms::Uninterrupted([&] {
       return ::pwrite(file, text.data() + done, text.size() - done, static_cast<off_t>(done));
     });
     if (written <= 0) break;
@@ -24,7 +20,7 @@ std::size_t WriteAll(int file, std::string_view text) {
 }
 
 bool Flush(int file) {
-  return Uninterrupted([&] { return ::fsync(file); }) == 0;
+  return forms::Uninterrupted([&] { return ::fsync(file); }) == 0;
 }
 
 }  // namespace terramark

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string>
 
+#include "forms/descriptor.h"
 #include "layoutfile/filecalls.h"
 
 namespace terramark {
@@ -17,12 +18,12 @@ constexpr off_t MostKept = off_t{64} << 20;
 
 bool ReadAll(int file, std::string& bytes) {
   struct stat status {};
-  if (Uninterrupted([&] { return ::fstat(file, &status); }) != 0) return false;
+  if (forms::Uninterrupted([&] { return ::fstat(file, &status); }) != 0) return false;
   if (!S_ISREG(status.st_mode) || status.st_size > MostKept) return false;
   bytes.resize(static_cast<std::size_t>(status.st_size));
   std::size_t done = 0;
   while (done < bytes.size()) {
-    const ssize_t got = Uninterrupted([&] {
+    const ssize_t got = forms::Uninterrupted([&] {
       return ::pread(file, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
     });
     if (got <= 0) return false;
@@ -32,7 +33,7 @@ bool ReadAll(int file, std::string& bytes) {
 }
 
 bool Truncate(int file, std::size_t size) {
-  return Uninterrupted([&] { return ::ftruncate(file, static_cast<off_t>(size)); }) == 0;
+  return forms::Uninterrupted([&] { return ::ftruncate(file, static_cast<off_t>(size)); }) == 0;
 }
 
 /// A full disk shows here, before a byte of the old text is gone. The size stays, and where room
@@ -40,7 +41,8 @@ bool Truncate(int file, std::size_t size) {
 bool MakeRoom(int file, std::size_t size) {
   if (size == 0) return true;
   const auto length = static_cast<off_t>(size);
-  if (Uninterrupted([&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, length); }) == 0) {
+  if (forms::Uninterrupted([&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, length); }) ==
+      0) {
     return true;
   }
   return errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL;
@@ -57,8 +59,8 @@ bool PutBack(int file, std::string_view old, std::size_t overwritten, bool cut) 
 }  // namespace
 
 InPlace WriteInPlace(const std::filesystem::path& path, std::string_view text) {
-  const Descriptor file(
-      Uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC); }));
+  const forms::Descriptor file(
+      forms::Uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC); }));
   std::string old;
   if (!file.IsOpen() || !ReadAll(file.Number(), old)) return InPlace::Kept;
 

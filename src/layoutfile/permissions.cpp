@@ -3,7 +3,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "layoutfile/filecalls.h"
+#include "forms/descriptor.h"
 
 namespace terramark {
 
@@ -21,9 +21,9 @@ bool CannotBeSet(int error) {
 int SetList(int file, const std::string& list) {
   if (!list.empty()) {
     const auto set = [&] { return ::fsetxattr(file, AccessList, list.data(), list.size(), 0); };
-    return Uninterrupted(set) == 0 ? 0 : errno;
+    return forms::Uninterrupted(set) == 0 ? 0 : errno;
   }
-  if (Uninterrupted([&] { return ::fremovexattr(file, AccessList); }) == 0) return 0;
+  if (forms::Uninterrupted([&] { return ::fremovexattr(file, AccessList); }) == 0) return 0;
   return errno == ENODATA ? 0 : errno;
 }
 
@@ -35,7 +35,7 @@ bool Permissions::Read(const std::filesystem::path& path, const struct stat& sta
   mode_ = status.st_mode & 0777U;
   constexpr std::size_t MostBytes = 65536;
   list_.resize(MostBytes);
-  const ssize_t size = Uninterrupted(
+  const ssize_t size = forms::Uninterrupted(
       [&] { return ::getxattr(path.c_str(), AccessList, list_.data(), list_.size()); });
   const int error = size >= 0 ? 0 : errno;
   list_.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
@@ -60,14 +60,14 @@ mode_t Permissions::ModeFor(bool sameOwner, bool sameGroup) const {
 }
 
 bool Permissions::GiveTo(int file) const {
-  if (Uninterrupted([&] { return ::fchown(file, owner_, group_); }) != 0) {
+  if (forms::Uninterrupted([&] { return ::fchown(file, owner_, group_); }) != 0) {
     if (!CannotBeSet(errno)) return false;
     // The old file is another's; its group at least may be one of the user's own.
     const auto regroup = [&] { return ::fchown(file, static_cast<uid_t>(-1), group_); };
-    if (Uninterrupted(regroup) != 0 && !CannotBeSet(errno)) return false;
+    if (forms::Uninterrupted(regroup) != 0 && !CannotBeSet(errno)) return false;
   }
   struct stat now {};
-  if (Uninterrupted([&] { return ::fstat(file, &now); }) != 0) return false;
+  if (forms::Uninterrupted([&] { return ::fstat(file, &now); }) != 0) return false;
   const bool sameOwner = now.st_uid == owner_;
   const bool sameGroup = now.st_gid == group_;
   // With another list than the old one the mode that is safe for all has to do.
@@ -76,7 +76,7 @@ bool Permissions::GiveTo(int file) const {
     if (error != 0) return CannotBeSet(error);
   }
   const mode_t mode = ModeFor(sameOwner, sameGroup);
-  return Uninterrupted([&] { return ::fchmod(file, mode); }) == 0 || CannotBeSet(errno);
+  return forms::Uninterrupted([&] { return ::fchmod(file, mode); }) == 0 || CannotBeSet(errno);
 }
 
 }  // namespace terramark

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "layoutfile/filecalls.h"
 #include "layoutfile/inplace.h"
 
 namespace terramark {
@@ -32,7 +33,7 @@ bool NeedsName(int error) {
 /// be asked for that, and the file itself is complete either way.
 void FlushFolder(const std::filesystem::path& folder) {
   const auto open = [&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); };
-  const Descriptor opened(Uninterrupted(open));
+  const forms::Descriptor opened(forms::Uninterrupted(open));
   if (opened.IsOpen()) Flush(opened.Number());
 }
 
@@ -43,7 +44,7 @@ SafeFile::SafeFile(std::filesystem::path target) : target_(std::move(target)) {
 
 SafeFile::~SafeFile() {
   if (temporary_.empty()) return;
-  Uninterrupted([&] { return ::unlink(temporary_.c_str()); });
+  forms::Uninterrupted([&] { return ::unlink(temporary_.c_str()); });
 }
 
 bool SafeFile::Open() {
@@ -75,19 +76,19 @@ bool SafeFile::Replace(std::string_view text) {
 bool SafeFile::FindTarget() {
   for (int links = 0; links < MostLinks; ++links) {
     struct stat status {};
-    if (Uninterrupted([&] { return ::lstat(target_.c_str(), &status); }) != 0) {
+    if (forms::Uninterrupted([&] { return ::lstat(target_.c_str(), &status); }) != 0) {
       return errno == ENOENT;
     }
     if (!S_ISLNK(status.st_mode)) {
       const auto mayWrite = [&] {
         return ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS);
       };
-      if (!S_ISREG(status.st_mode) || Uninterrupted(mayWrite) != 0) return false;
+      if (!S_ISREG(status.st_mode) || forms::Uninterrupted(mayWrite) != 0) return false;
       return old_.emplace().Read(target_, status);
     }
     std::array<char, PATH_MAX> text{};
     const ssize_t size =
-        Uninterrupted([&] { return ::readlink(target_.c_str(), text.data(), text.size()); });
+        forms::Uninterrupted([&] { return ::readlink(target_.c_str(), text.data(), text.size()); });
     if (size <= 0 || size == PATH_MAX) return false;
     // A relative link starts at its own folder; an absolute one takes the whole path over.
     target_ = target_.parent_path() / std::string(text.data(), static_cast<std::size_t>(size));
@@ -111,9 +112,9 @@ int SafeFile::OpenNamed() {
 int SafeFile::OpenTemporary(const std::filesystem::path& path, int flags) {
   const mode_t mode = old_ ? old_->StartMode() : 0666;
   const auto open = [&] { return ::open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, mode); };
-  const int number = Uninterrupted(open);
+  const int number = forms::Uninterrupted(open);
   const int error = number >= 0 ? 0 : errno;
-  file_ = Descriptor(number);
+  file_ = forms::Descriptor(number);
   return error;
 }
 
@@ -130,7 +131,7 @@ int SafeFile::TakeTarget(std::string_view text) {
   }
   file_.Close();
   const auto rename = [&] { return std::rename(temporary_.c_str(), target_.c_str()); };
-  if (Uninterrupted(rename) != 0) return errno;
+  if (forms::Uninterrupted(rename) != 0) return errno;
   temporary_.clear();
   return 0;
 }
@@ -140,7 +141,7 @@ int SafeFile::LinkTo(const std::filesystem::path& name) const {
   const auto link = [&] {
     return ::linkat(AT_FDCWD, open.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW);
   };
-  return Uninterrupted(link) == 0 ? 0 : errno;
+  return forms::Uninterrupted(link) == 0 ? 0 : errno;
 }
 
 template <typename Make>

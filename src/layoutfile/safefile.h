@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "layoutfile/filecalls.h"
+#include "forms/descriptor.h"
 #include "layoutfile/permissions.h"
 
 namespace terramark {
@@ -60,7 +60,7 @@ class SafeFile {
 
   std::filesystem::path target_;
   std::optional<Permissions> old_;   // of the target, when there is one
-  Descriptor file_;                  // the temporary file while it is open
+  forms::Descriptor file_;           // the temporary file while it is open
   std::filesystem::path temporary_;  // its name, once it has one
   std::filesystem::path kept_;
   int refusal_ = 0;  // why the folder takes no temporary file

@@ -1,0 +1,44 @@
+// The system's calls on files: repeated when a signal cuts in, and closed in time.
+#pragma once
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace terramark::forms {
+
+/// The call's result, once no signal has interrupted it; errno tells of a failure.
+template <typename Call>
+auto Uninterrupted(Call call) {
+  auto result = call();
+  while (result < 0 && errno == EINTR) result = call();
+  return result;
+}
+
+/// An open file's number, or -1. What is written has to be flushed before, so that the closing has
+/// nothing to report.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~Descriptor() { Close(); }
+
+  bool IsOpen() const { return number_ >= 0; }
+  int Number() const { return number_; }
+  void Close() {
+    // Never twice: even a closing that fails has given the number back.
+    if (number_ >= 0) ::close(number_);
+    number_ = -1;
+  }
+
+ private:
+  int number_;
+};
+
+}  // namespace terramark::forms
