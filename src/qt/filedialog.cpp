@@ -26,7 +26,7 @@ constexpr FileKind Kinds[] = {{"*.tml", "Map Layouts"}, {"*.wmf;*.bmp", "Picture
 
 QString Worded(const std::string& filter) {
   // Patterns stand between semicolons here and between blanks there.
-  const QString patterns = FromCp1252(filter).replace(';', ' ');
+  QString patterns = FromCp1252(filter).replace(';', ' ');
   for (const FileKind& kind : Kinds) {
     if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
   }
