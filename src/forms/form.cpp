@@ -38,6 +38,7 @@ void Form::Remove(Control& control) {
   if (observer_ != nullptr) observer_->ControlRemoved(control);
   Pointer.Forget(control);
   if (active_ == &control) active_ = nullptr;
+  if (lost_ == &control) lost_ = nullptr;
   if (control.container_ != nullptr) std::erase(control.container_->children_, &control);
   for (Control* child : control.children_) child->container_ = nullptr;
   std::erase(controls_, &control);
@@ -57,14 +58,20 @@ void Form::Restack(Control& control, StackEnd end) {
 void Form::Focus(Control* control) {
   if (active_ == control || (control != nullptr && !TakesKeys(*control))) return;
   active_ = control;
+  lost_ = nullptr;
   if (observer_ != nullptr) observer_->FocusMoved(control != nullptr ? *control : *this);
 }
 
 void Form::Tell(Control& control, PropertyId id) {
-  // First the keyboard, so that the screen has no need to find another place for it.
-  const bool mayLoseKeys = id == PropertyId::Enabled || id == PropertyId::Visible;
-  if (mayLoseKeys && active_ != nullptr && !TakesKeys(*active_)) Focus(nullptr);
+  const bool movesKeys = id == PropertyId::Enabled || id == PropertyId::Visible;
+  // Before the screen knows, so that it has no need to find another place for the keyboard.
+  if (movesKeys && active_ != nullptr && !TakesKeys(*active_)) {
+    Control* const lost = active_;
+    Focus(nullptr);
+    lost_ = lost;
+  }
   if (observer_ != nullptr) observer_->PropertyChanged(control, id);
+  if (movesKeys && lost_ != nullptr && TakesKeys(*lost_)) Focus(lost_);
 }
 
 void Form::KeyPressed(const KeyEvent& key) {

@@ -53,8 +53,8 @@ class Form : public Control {
   /// Gives the keyboard to a control, or with null to none. One that is disabled or invisible, or
   /// stands in something that is, does not take it.
   void Focus(Control* control);
-  /// The control that has the keyboard; null when none has, as when the one that had it was
-  /// disabled or hidden.
+  /// The control that has the keyboard; null when none has. One that is disabled or hidden loses
+  /// it, and gets it back with its state unless another has taken it by then.
   Control* ActiveControl() const { return active_; }
 
   /// Keys as the keyboard gives them; an auto-repeat must not be fed as a release.
@@ -80,6 +80,8 @@ class Form : public Control {
   FormObserver* observer_ = nullptr;
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
+  /// What lost the keyboard by its state, while no control has it.
+  Control* lost_ = nullptr;
 };
 
 }  // namespace terramark::forms

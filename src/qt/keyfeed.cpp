@@ -51,9 +51,8 @@ forms::KeyEvent EventOf(const QKeyEvent& key) {
   return {CodeOf(key.key()), KeyMask(key.modifiers())};
 }
 
-/// Whether a key comes to the widget as the one that has the focus, or as the window when none has
-/// it; and not from a widget in it that left the key.
-bool GoesFirstTo(const QObject& watched) {
+/// Whether keys go to the widget, or to it as the window when no widget in it has the focus.
+bool HasFocus(const QObject& watched) {
   const auto& widget = static_cast<const QWidget&>(watched);
   const QWidget* window = widget.window();
   return &widget == (window->focusWidget() != nullptr ? window->focusWidget() : window);
@@ -78,14 +77,27 @@ bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn:
       form_.Focus(controls_.at(watched));
       return false;
-    case QEvent::KeyPress:
-      return GoesFirstTo(*watched) && Pressed(*static_cast<QKeyEvent*>(event));
-    case QEvent::KeyRelease:
-      if (GoesFirstTo(*watched)) Released(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyPress: {
+      const auto& key = *static_cast<QKeyEvent*>(event);
+      return Hears(*watched, key) && Pressed(key);
+    }
+    case QEvent::KeyRelease: {
+      const auto& key = *static_cast<QKeyEvent*>(event);
+      if (Hears(*watched, key)) Released(key);
       return false;
+    }
     default:
       return false;
   }
+}
+
+/// Once, on the key's way up from the widget that has the focus, which it may lose over the key.
+bool KeyFeed::Hears(const QObject& watched, const QKeyEvent& key) {
+  const Stamp stamp{&key, key.type(), key.timestamp()};
+  const bool onItsWay = controls_.at(&watched) == nullptr && stamp == heard_;
+  if (onItsWay || !HasFocus(watched)) return false;
+  heard_ = stamp;
+  return true;
 }
 
 bool KeyFeed::Pressed(const QKeyEvent& key) {

@@ -26,11 +26,21 @@ class KeyFeed : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool Hears(const QObject& watched, const QKeyEvent& key);
   bool Pressed(const QKeyEvent& key);
   void Released(const QKeyEvent& key);
 
+  /// What tells one event from another.
+  struct Stamp {
+    const QKeyEvent* Event = nullptr;
+    QEvent::Type Type = QEvent::None;
+    std::uint64_t Time = 0;
+    bool operator==(const Stamp&) const = default;
+  };
+
   forms::Form& form_;
   std::unordered_map<const QObject*, forms::Control*> controls_;
+  Stamp heard_;
 };
 
 }  // namespace terramark::qt

@@ -45,7 +45,7 @@ Edit EditBetween(const QString& before, const QString& after, qsizetype markedFr
       before.sliced(at + cut) == after.sliced(caret)) {
     return {at, cut, after.sliced(at, caret - at)};
   }
-  // An edit that was taken back has changed some other place.
+  // An edit that was made anew, or by an input method, has changed some other place.
   return {0, before.size(), after};
 }
 
@@ -55,44 +55,59 @@ TextView::TextView(forms::TextBox& box, QWidget& container)
     : QLineEdit(&container), ControlView(box, *this), box_(box) {
   setFrame(false);
   setTextMargins(SideMargin, 0, SideMargin, 0);
-  // The control knows the limit, and what gives way to it.
-  setMaxLength(std::numeric_limits<int>::max());
+  Limit(0);
   ShowText();
   ShowColours();
-  const auto mark = [this] {
-    if (!editing_) marked_ = Marked();
+  const auto note = [this] {
+    if (!editing_) NoteCaret();
   };
   connect(this, &QLineEdit::textEdited, this, &TextView::Edited);
-  connect(this, &QLineEdit::cursorPositionChanged, this, mark);
-  connect(this, &QLineEdit::selectionChanged, this, mark);
+  connect(this, &QLineEdit::cursorPositionChanged, this, note);
+  connect(this, &QLineEdit::selectionChanged, this, note);
 }
 
-TextView::Part TextView::Marked() const {
-  if (hasSelectedText()) return {selectionStart(), selectionEnd()};
-  return {cursorPosition(), cursorPosition()};
+void TextView::NoteCaret() {
+  caret_ = cursorPosition();
+  markedFrom_ = hasSelectedText() ? selectionStart() : caret_;
 }
 
 void TextView::Edited(const QString& edited) {
   const QScopedValueRollback<bool> still(editing_, true);
   const QString before = Showable();
-  const Edit edit = EditBetween(before, edited, marked_.Begin, cursorPosition());
-  const std::size_t sizeBefore = box_.Text.Get().size();
+  const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
+  Take(before, edited);
+  if (const QString now = Showable(); now != text()) {
+    // Less may have come in than the line shows. An edit that was refused leaves the caret where it
+    // stood.
+    const auto size = static_cast<qsizetype>(box_.Text.Get().size());
+    const auto less = static_cast<int>(edited.size() + hidden - size);
+    const int caret = now == before ? caret_ : cursorPosition() - less;
+    ShowText();
+    setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
+  }
+  NoteCaret();
+}
+
+void TextView::Take(const QString& before, const QString& edited) {
+  if (isRedoAvailable()) {
+    // Taken back: the control has had this text, so it need not be held to the limit.
+    const auto shown = static_cast<std::size_t>(before.size());
+    box_.Text = ToCp1252(edited) + box_.Text.Get().substr(shown);
+    return;
+  }
+  const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
   box_.Edited(static_cast<std::size_t>(edit.At), static_cast<std::size_t>(edit.Cut),
               Cleaned(edit.Insert));
-  if (const QString now = Showable(); now != text()) {
-    ShowText();
-    const auto grown = static_cast<qsizetype>(box_.Text.Get().size() - sizeBefore);
-    // An edit that was refused leaves the caret where it stood.
-    const qsizetype caret = now == before ? marked_.End : edit.At + edit.Cut + grown;
-    setCursorPosition(static_cast<int>(std::clamp<qsizetype>(caret, 0, now.size())));
-  }
-  marked_ = Marked();
 }
 
 void TextView::ShowOwn(forms::PropertyId id) {
   // While an edit goes on, only what the control has in the end is shown.
   if (id == forms::PropertyId::Text && !editing_) ShowText();
-  if (id == forms::PropertyId::Selection) selectAll();
+  if (id == forms::PropertyId::Selection) {
+    // From the end to the front, so that of a long text the beginning shows.
+    const auto size = static_cast<int>(text().size());
+    setSelection(size, -size);
+  }
   if (id == forms::PropertyId::BackColor || id == forms::PropertyId::ForeColor) ShowColours();
 }
 
@@ -103,9 +118,18 @@ QString TextView::Showable() const {
 void TextView::ShowText() {
   const QString text = Showable();
   if (text == this->text()) return;
+  Limit(text.size());
   setText(text);
   // A long text shows its beginning until the caret comes to it.
   if (!hasFocus() && fontMetrics().horizontalAdvance(text) > width()) setCursorPosition(0);
+}
+
+/// The control decides what gives way to its limit. The line has the same one, since what it
+/// refuses itself leaves the way back to earlier edits; but a longer text that was assigned must
+/// pass.
+void TextView::Limit(qsizetype size) {
+  const auto limit = std::max(static_cast<qsizetype>(box_.MaxLength), size);
+  setMaxLength(box_.MaxLength == 0 ? std::numeric_limits<int>::max() : static_cast<int>(limit));
 }
 
 void TextView::ShowColours() {

@@ -20,21 +20,19 @@ class TextView : public QLineEdit, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  /// A part of the text, counted in characters; of no length where the caret stands.
-  struct Part {
-    qsizetype Begin = 0;
-    qsizetype End = 0;
-  };
-
   void Edited(const QString& edited);
-  Part Marked() const;
+  void Take(const QString& before, const QString& edited);
+  void NoteCaret();
   QString Showable() const;
+  void Limit(qsizetype size);
   void ShowText();
   void ShowColours();
 
   forms::TextBox& box_;
-  /// What the edit that comes next would replace.
-  Part marked_;
+  /// Before the edit that comes next: the caret, and where the marked part begins, or else the
+  /// caret is.
+  int caret_ = 0;
+  int markedFrom_ = 0;
   bool editing_ = false;
 };
 

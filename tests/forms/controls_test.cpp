@@ -103,7 +103,12 @@ TEST_F(ControlsTest, TheKeyboardLeavesWhatCanNotHaveIt) {
     EXPECT_EQ(Window.ActiveControl(), nullptr);
     Window.KeyReleased({});
     *state = true;
+    EXPECT_EQ(Window.ActiveControl(), &Box) << "it gets it back,";
   }
+  Box.Enabled = false;
+  Window.Focus(&Bar);
+  Box.Enabled = true;
+  EXPECT_EQ(Window.ActiveControl(), &Bar) << "unless another has taken it";
   EXPECT_EQ(heard, "form box form form box form form box form ");
 }
 

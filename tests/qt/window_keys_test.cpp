@@ -49,14 +49,20 @@ TEST(WindowKeys, TheFormHearsKeysBeforeTheControlAndWhenNoneHasThem) {
   for (forms::Control* control :
        {static_cast<forms::Control*>(&form.Symb), static_cast<forms::Control*>(&form.ColBar(1)),
         static_cast<forms::Control*>(&form.PlColor(4))}) {
-    control->SetFocus();
     forms::Control& frame = control == &form.ColBar(1) ? form.RGBFrame : *control;
-    frame.Enabled = false;
+    form.KeyUp = [&](const forms::KeyEvent&) {
+      heard += control->Name() + " ";
+      frame.Enabled = false;
+    };
+    control->SetFocus();
+    window.Key(Qt::Key_Up);
     EXPECT_EQ(form.ActiveControl(), nullptr) << control->Name();
     window.Key(Qt::Key_Up);
     frame.Enabled = true;
+    EXPECT_TRUE(window.Of(*control).hasFocus());
   }
-  EXPECT_EQ(heard, "38 38 38 ");
+  EXPECT_EQ(heard, "Symb Symb ColBar ColBar PlColor PlColor ");
+  form.KeyUp = nullptr;
   window.Window.setFocus();
   window.Key(Qt::Key_Tab);
   EXPECT_EQ(form.ActiveControl(), &form.Text1) << "where Tab begins";
@@ -145,15 +151,19 @@ TEST(WindowKeys, AnEditIsHeldToTheLimitWhereItWasMade) {
   window.Type("Z");
   EXPECT_EQ(box.Text.Get(), "0123456789abcdef") << "the end was pushed out";
   EXPECT_EQ(line.cursorPosition(), 3);
-  line.setSelection(4, 2);
+  window.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.Text.Get(), "") << "a refused letter took the way back along";
+  window.Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  line.setSelection(6, -2);
   EXPECT_EQ(paste("xyz"), "0123xy6789abcdef");
   EXPECT_EQ(line.cursorPosition(), 6);
-  window.Key(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(box.Text.Get(), line.text().toStdString());
 
   box.Text = "a text of more than sixteen";
   EXPECT_EQ(line.text(), "a text of more than sixteen");
   window.Key(Qt::Key_End);
+  window.Key(Qt::Key_Backspace);
+  window.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.Text.Get(), "a text of more than sixteen") << "taken back, nothing is lost";
   window.Key(Qt::Key_Backspace);
   window.Type("nX");
   EXPECT_EQ(box.Text.Get(), "a text of more than sixtee") << "it may only become shorter";
