@@ -35,7 +35,11 @@ double PercentDifferent(const QImage& drawn, const QImage& wanted) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
-  const QDir folder(QString::fromLocal8Bit(argc > 1 ? argv[1] : "."));
+  if (argc < 2) {
+    std::fprintf(stderr, "usage: metafilescore FOLDER [OUTPUT]\n");
+    return 2;
+  }
+  const QDir folder(QString::fromLocal8Bit(argv[1]));
   std::vector<double> scores;
   for (const QString& name : folder.entryList({"*.wmf"}, QDir::Files, QDir::Name)) {
     const QString base = name.chopped(4);
@@ -47,10 +51,7 @@ int main(int argc, char** argv) {
     scores.push_back(PercentDifferent(drawn, wanted));
     std::printf("%7.2f %%  %s\n", scores.back(), qPrintable(base));
   }
-  if (scores.empty()) {
-    std::fprintf(stderr, "usage: metafilescore FOLDER [OUTPUT]\n");
-    return 2;
-  }
+  if (scores.empty()) return 1;
   std::sort(scores.begin(), scores.end());
   const auto good = std::count_if(scores.begin(), scores.end(), [](double s) { return s < 5; });
   std::printf("median %.2f %%, %td of %zu files under 5 %%\n", scores[scores.size() / 2], good,

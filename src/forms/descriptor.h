@@ -1,4 +1,4 @@
-// The system's calls on files: repeated when a signal cuts in, and closed in time.
+// An open file that is closed in time, and the system's calls repeated when a signal cuts in.
 #pragma once
 
 #include <unistd.h>

@@ -1,5 +1,6 @@
-// The one interface of the editor to the world outside: boxes, file dialog, help, clock, random
-// numbers, screen, picture loading, ending. The window implements it; tests script it.
+// The one interface of the editor to the world outside, but for the bytes of its files: boxes, file
+// dialog, help, clock, random numbers, screen, picture loading, ending. The window implements it;
+// tests script it.
 #pragma once
 
 #include <cstdint>

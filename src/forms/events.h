@@ -46,7 +46,7 @@ struct KeyEvent {
   std::int16_t Shift = 0;
 };
 
-/// An event without arguments but the element's number: Click and Change.
+/// An event without arguments but the element's number: Click, Change and KeyPress.
 struct PlainEvent {
   std::int16_t Index = 0;
 };

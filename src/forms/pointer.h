@@ -24,7 +24,7 @@ class PointerRouter {
   void Press(int x, int y, std::int16_t button, std::int16_t shift);
   void Move(int x, int y, std::int16_t shift);
   void Release(int x, int y, std::int16_t button, std::int16_t shift);
-  /// The Space key on a button: a left press and release in its middle.
+  /// A button pressed by other means than the mouse: a left press and release in its middle.
   void PressKey(CommandButton& button, std::int16_t shift);
 
   /// The control that a press at this place would reach; the form itself where there is none.

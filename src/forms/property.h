@@ -8,7 +8,7 @@ namespace terramark::forms {
 enum class PropertyId {
   Caption,
   Text,
-  Selection,
+  Selection,  // told by TextBox::SelectAll; no control holds it
   Value,
   Picture,
   Left,

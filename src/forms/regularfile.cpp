@@ -21,15 +21,18 @@ RegularFile::RegularFile(const std::filesystem::path& path) {
   if (path.native().find('\0') != std::string::npos) return;
   // Asked before opening: that alone can stir a pipe's writer or a device.
   struct stat status {};
-  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return;
+  if (Uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0 || !S_ISREG(status.st_mode))
+    return;
   constexpr int Flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
   file_ = Descriptor(Uninterrupted([&] { return ::open(path.c_str(), Flags); }));
-  if (file_.IsOpen() && !IsPlain()) file_.Close();
+  if (file_.IsOpen() && !TakeSize()) file_.Close();
 }
 
-bool RegularFile::IsPlain() {
+bool RegularFile::TakeSize() {
   struct stat status {};
-  if (::fstat(file_.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  if (Uninterrupted([&] { return ::fstat(file_.Number(), &status); }) != 0 ||
+      !S_ISREG(status.st_mode))
+    return false;
   if (status.st_size > 0) {
     size_ = static_cast<std::uintmax_t>(status.st_size);
     return true;

@@ -27,7 +27,8 @@ class RegularFile {
   std::optional<std::string> Read(std::size_t most) const;
 
  private:
-  bool IsPlain();
+  /// False for what only looks like a plain file.
+  bool TakeSize();
 
   Descriptor file_;
   std::uintmax_t size_ = 0;

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "forms/descriptor.h"
-#include "layoutfile/filecalls.h"
+#include "layoutfile/writeall.h"
 
 namespace terramark {
 

@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <utility>
 
-#include "layoutfile/filecalls.h"
 #include "layoutfile/inplace.h"
+#include "layoutfile/writeall.h"
 
 namespace terramark {
 
@@ -67,6 +67,7 @@ bool SafeFile::Replace(std::string_view text) {
   if (!old_ || !FolderRefuses(refusal)) return false;
   const InPlace result = WriteInPlace(target_, text);
   if (result == InPlace::Damaged) {
+    damaged_ = true;
     kept_ = std::exchange(temporary_, {});
     FlushFolder(Folder());
   }

@@ -23,7 +23,7 @@ namespace terramark {
 /// A kill leaves the old text or the new one, but in place perhaps a mix. The temporary file has no
 /// name until it is whole, and only for a moment one of its own. A kill in that moment, or at any
 /// time on a file system that cannot do without names, leaves a hidden ".terramark-..." beside the
-/// target, which nothing reads and which may be deleted.
+/// target, which nothing reads and which may be deleted, unless it is Kept.
 class SafeFile {
  public:
   explicit SafeFile(std::filesystem::path target);
@@ -40,7 +40,9 @@ class SafeFile {
   /// for a disk that fails in the middle of writing in place and fails again for the old text.
   bool Replace(std::string_view text);
 
-  /// The file beside the target that holds the text when the target was damaged; else empty.
+  /// Whether a Replace that failed has left the target neither old nor new.
+  bool Damaged() const { return damaged_; }
+  /// The file beside a damaged target that holds the text; empty where the folder took none.
   const std::filesystem::path& Kept() const { return kept_; }
 
  private:
@@ -62,6 +64,7 @@ class SafeFile {
   std::optional<Permissions> old_;   // of the target, when there is one
   forms::Descriptor file_;           // the temporary file while it is open
   std::filesystem::path temporary_;  // its name, once it has one
+  bool damaged_ = false;
   std::filesystem::path kept_;
   int refusal_ = 0;  // why the folder takes no temporary file
 };

@@ -18,9 +18,10 @@ namespace {
 
 void ShowWriteFault(Form1& form, const std::string& name, const SafeFile& file) {
   std::string message = "Cannot write Map Layout File " + name;
+  if (file.Damaged()) message += "; the old file is damaged";
   // The name alone: it is plain in any encoding, which the folder's need not be.
   if (!file.Kept().empty()) {
-    message += "; the map is kept beside it in " + file.Kept().filename().string();
+    message += ", and the map is kept beside it in " + file.Kept().filename().string();
   }
   ShowMessage(form, message, ClrRed);
 }

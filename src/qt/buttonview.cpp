@@ -9,6 +9,7 @@
 #include "forms/form.h"
 #include "qt/keyfeed.h"
 #include "qt/look.h"
+#include "qt/showntext.h"
 
 namespace terramark::qt {
 

@@ -19,7 +19,7 @@ std::uint32_t CodeOf(const QKeyEvent& key) {
 }
 
 /// Keys that boxes and dialogs obey at each press, a repeat or not.
-bool Commands(const QKeyEvent& key) {
+bool NeverRepeats(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
 }
 
@@ -76,7 +76,7 @@ bool KeyRepeats::Pressed(QWindow& window, QKeyEvent& event) {
     key = {&window, true};
     return false;
   }
-  if (key.Window != &window || Commands(event)) return true;
+  if (key.Window != &window || NeverRepeats(event)) return true;
   if (event.isAutoRepeat()) return false;
   QKeyEvent marked(QEvent::KeyPress, event.key(), event.modifiers(), event.nativeScanCode(),
                    event.nativeVirtualKey(), event.nativeModifiers(), event.text(), true);

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "qt/look.h"
+#include "qt/showntext.h"
 
 namespace terramark::qt {
 

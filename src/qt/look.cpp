@@ -8,11 +8,9 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
-#include <QRegularExpression>
 #include <cmath>
 #include <memory>
 
-#include "qt/cp1252.h"
 #include "shell/icon.h"
 
 namespace terramark::qt {
@@ -21,7 +19,6 @@ namespace {
 
 constexpr float FontTwips = 8.25F * 20;
 constexpr double DialogPoints = 9;
-constexpr std::size_t ShownMost = 500;
 
 const QColor Face(0xC0, 0xC0, 0xC0);
 const QColor Shadow(0x80, 0x80, 0x80);
@@ -101,22 +98,6 @@ QFont ControlFont(forms::Desktop& host) {
   font.setBold(true);
   font.setPixelSize(static_cast<int>(std::lround(FontTwips / host.TwipsPerPixelY())));
   return font;
-}
-
-QString ShownText(const std::string& text, Qt::TextElideMode cutAt) {
-  if (text.size() <= ShownMost) return FromCp1252(text);
-  const std::size_t tail = cutAt == Qt::ElideMiddle ? ShownMost / 2 : 0;
-  return FromCp1252(text.substr(0, ShownMost - 1 - tail) + '\x85' +
-                    text.substr(text.size() - tail));
-}
-
-QString WrappableText(const std::string& text) {
-  QString shown = ShownText(text, Qt::ElideMiddle);
-  for (QChar& character : shown) {
-    if (character < ' ') character = ' ';
-  }
-  // A blank of no width is where a word may break.
-  return shown.replace(QRegularExpression("(\\S{40})"), QStringLiteral("\\1\u200B"));
 }
 
 void DrawCaption(QPainter& painter, const QRect& area, const QString& text,

@@ -4,7 +4,6 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetrics>
-#include <string>
 
 #include "forms/color.h"
 #include "forms/desktop.h"
@@ -27,13 +26,6 @@ QColor ScreenColour(forms::Color colour);
 
 /// Arial 8.25 pt bold or what has its measures, sized by the screen's twips.
 QFont ControlFont(forms::Desktop& host);
-
-/// As much of a text as is shown anywhere: up to 500 characters, one of them an ellipsis where more
-/// are left out, at the end or in the middle. Costs the same however long the text is.
-QString ShownText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
-
-/// What is shown of a text as one paragraph that can be wrapped: long words may break.
-QString WrappableText(const std::string& text);
 
 /// Draws one line of text into the rectangle: in the middle, or from the left with an ellipsis at
 /// the place told where it does not fit.

@@ -1,5 +1,6 @@
 // Brings the mouse over all widgets of a form to the form's pointer router, in pixels of the form's
-// inside, and shows which button is held down.
+// inside, and shows which button is held down. A press with the Shift key alone, on what hears its
+// release, asks for help and never reaches the widget.
 #pragma once
 
 #include <QContextMenuEvent>

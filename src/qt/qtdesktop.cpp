@@ -17,6 +17,7 @@
 #include "qt/look.h"
 #include "qt/modalform.h"
 #include "qt/pictures/pictureloader.h"
+#include "qt/showntext.h"
 
 namespace terramark::qt {
 
@@ -62,7 +63,6 @@ void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
   if (path.isEmpty()) return;
   TakeChosenPath(dialog, path);
   chosen_ = path;
-  chosenName_ = dialog.FileName;
 }
 
 void QtDesktop::ShowModal(forms::Form& form) {
@@ -114,7 +114,7 @@ forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int he
 }
 
 std::filesystem::path QtDesktop::NativePath(const std::string& path) {
-  return QFile::encodeName(path == chosenName_ ? chosen_ : FromCp1252(path)).toStdString();
+  return QFile::encodeName(path == ToCp1252(chosen_) ? chosen_ : FromCp1252(path)).toStdString();
 }
 
 void QtDesktop::EnterFolderOf(const std::string& path) {

@@ -43,9 +43,8 @@ class QtDesktop : public forms::Desktop {
  private:
   QPointer<QWidget> window_;
   std::unique_ptr<HelpWindow> help_;
-  // The file chosen last in the file dialog, and the name that it went by; empty before the first.
+  /// The file chosen last in the file dialog; empty before the first.
   QString chosen_;
-  std::string chosenName_;
   std::mt19937 random_;
 };
 

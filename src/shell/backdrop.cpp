@@ -1,7 +1,6 @@
 #include "shell/backdrop.h"
 
 #include <new>
-#include <stdexcept>
 
 #include "shell/bars.h"
 #include "shell/colours.h"
@@ -35,8 +34,6 @@ bool ShowPicture(Form1& form, const std::string& path) {
   try {
     if (!LoadBackdrop(form, path)) return false;
   } catch (const std::bad_alloc&) {
-    return false;
-  } catch (const std::length_error&) {
     return false;
   }
   ForgetFaults(form);

@@ -57,17 +57,20 @@ auto Call(const std::string& name, Real real) -> decltype(real()) {
   }
 #define PLAIN(result, name) WRAP(result, name, #name, __real_##name(a, b, c, d, e))
 
-extern "C" {
 // clang-format off
+extern "C" {
 PLAIN(int, lstat) PLAIN(ssize_t, readlink) PLAIN(int, faccessat) PLAIN(ssize_t, getxattr)
 PLAIN(int, fstat) PLAIN(int, fchown) PLAIN(int, fsetxattr) PLAIN(int, fremovexattr)
 PLAIN(int, fchmod) PLAIN(ssize_t, pread) PLAIN(int, fallocate) PLAIN(int, ftruncate)
 PLAIN(int, linkat) PLAIN(int, rename) PLAIN(int, unlink)
 WRAP(ssize_t, pwrite, d == 0 ? "pwrite" : "pwrite on",
      __real_pwrite(a, b, Armed ? std::min(c, 500L) : c, d, e))
-    // clang-format on
-    // A killed process needs no flush, and many of them take their time.
-    int __wrap_fsync(int) {
+}
+// clang-format on
+
+extern "C" {
+// A killed process needs no flush, and many of them take their time.
+int __wrap_fsync(int) {
   return Call("fsync", [] { return 0; });
 }
 int __real_close(int file);
@@ -275,7 +278,7 @@ TEST_F(Saving, SaysWhereTheMapIsKeptOnlyWhenTheFileIsDamaged) {
     EXPECT_EQ(Form.Text1.Text.Get(), "");
     EXPECT_EQ(Form.LayoutFile + Form.LoadMpa.Caption.Get(), "map.tmlmap.tml");
   }
-  const std::string where = "; the map is kept beside it in ";
+  const std::string where = "; the old file is damaged, and the map is kept beside it in ";
   ASSERT_TRUE(message.starts_with(fault + where));
   const std::string kept = Folder.string() + "/" + message.substr((fault + where).size());
   EXPECT_EQ(BytesOf(kept), TinyWith({{1, "MAP Layout File"}}));

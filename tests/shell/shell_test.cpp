@@ -71,7 +71,6 @@ TEST_F(ShellTest, AFileNameIsTakenAsTheDialogGivesIt) {
   SelectAFile(Form, "*.tml", name);
   EXPECT_EQ(name, "") << "cancelled";
   Screen.FileNames.push_back("/?/new map");
-  Screen.FileNameFits = Screen.FileTitleFits = false;
   SelectAFile(Form, "*.tml", name);
   EXPECT_EQ(name, "/?/new map");
 }

@@ -1,4 +1,4 @@
-#include "layoutfile/filecalls.h"
+#include "layoutfile/writeall.h"
 
 #include <sys/types.h>
 #include <unistd.h>
