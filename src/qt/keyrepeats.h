@@ -29,12 +29,16 @@ class KeyRepeats : public QObject {
   struct Key {
     QPointer<QWindow> Window;       // in which it went down; null when that was in none of ours
     bool Down = false;              // its release is still to be told
+    std::uint64_t PressedAt = 0;    // when it went down, in ms
     std::uint64_t LastRelease = 0;  // time of the last one seen, half of a repeat or not, in ms
   };
 
   bool Pressed(QWindow& window, QKeyEvent& event);
   bool Released(QWindow& window, const QKeyEvent& event);
-  void TellRelease();
+  /// Whether a key comes too soon after its press for a repeat, whatever its mark says.
+  bool Struck(const QKeyEvent& event) const;
+  /// False when a box came up and went again meanwhile: what is in hand was for a window behind it.
+  bool TellRelease();
   void Send(QWindow& window, QKeyEvent& event);
 
   /// By CodeOf.
@@ -42,6 +46,10 @@ class KeyRepeats : public QObject {
   /// A release that may yet turn out to be half of a repeat.
   std::unique_ptr<QKeyEvent> waiting_;
   QTimer patience_;
+  /// X11 marks two quick strokes like a repeat. Elsewhere a repeat may bear the time of its press.
+  const bool marksStrokes_;
+  /// How often boxes have come up over windows.
+  unsigned blocks_ = 0;
   /// The event that is being sent from here.
   const QEvent* sent_ = nullptr;
 };
