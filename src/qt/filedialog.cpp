@@ -1,8 +1,10 @@
 #include "qt/filedialog.h"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QMimeDatabase>
 #include <QScreen>
 #include <QSettings>
 #include <QTreeView>
@@ -32,6 +34,18 @@ QString Worded(const std::string& filter) {
   }
   return patterns;
 }
+
+/// Tells a file's kind by its name alone. The dialog would look into each file that it lists, and
+/// one that keeps its reader waiting would hold the editor for ever.
+class KindByName : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& file) const override { return icon(file.isDir() ? Folder : File); }
+  QString type(const QFileInfo& file) const override {
+    if (file.isDir()) return QFileDialog::tr("Folder");
+    return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+  }
+};
 
 bool Fits(const QString& name) {
   // A line end in a name would end the line of the layout that holds it.
@@ -79,8 +93,10 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
   ForgetSettings();
+  KindByName kinds;
   QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), folder);
   chooser.setOption(QFileDialog::DontUseNativeDialog);
+  chooser.setIconProvider(&kinds);
   chooser.setAcceptMode(QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
   chooser.setNameFilters({Worded(filter), "All files (*)"});
