@@ -22,9 +22,10 @@ void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) 
     inside.adjust(1, 1, -1, -1);
   }
   painter.setPen(ScreenColour(label.ForeColor));
-  const QString caption = ShownText(label.Caption);
+  // What is said of a long name stands before and behind it.
+  const QString caption = ShownText(label.Caption, Qt::ElideMiddle);
   if (label.Alignment == forms::Alignment::Centred) {
-    DrawCaption(painter, inside, caption, Qt::ElideRight);
+    DrawCaption(painter, inside, caption, Qt::ElideMiddle);
   } else {
     painter.drawText(inside, Qt::AlignVCenter | Qt::TextSingleLine, caption);
   }
@@ -38,7 +39,7 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 
 void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
-  if (id == forms::PropertyId::Caption) setText(ShownText(label_.Caption));
+  if (id == forms::PropertyId::Caption) setText(ShownText(label_.Caption, Qt::ElideMiddle));
   update();
 }
 

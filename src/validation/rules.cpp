@@ -6,6 +6,7 @@
 
 #include "document/links.h"
 #include "document/numbers.h"
+#include "shell/backdrop.h"
 
 namespace terramark {
 
@@ -37,7 +38,7 @@ std::string AreaInBrackets(const Tables& t, std::int16_t i, const char* gap) {
 
 Fault Picture(const Tables& t) {
   if (!t.PictureFile.empty()) return std::nullopt;
-  return "No Map file (.WMF/.BMP)";
+  return NoPictureFault;
 }
 
 Fault EnoughAreas(const Tables& t) {
