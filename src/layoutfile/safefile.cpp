@@ -5,6 +5,7 @@
 
 #include <array>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <utility>
 
@@ -28,6 +29,18 @@ bool NeedsName(int error) {
   return FolderRefuses(error) || error == EOPNOTSUPP || error == ENOSYS || error == EISDIR ||
          error == EINVAL || error == ENOENT || error == EXDEV;
 }
+
+/// Where the user's limit on the size of files is reached, a call fails like any other instead of
+/// killing the process.
+class LimitFails {
+ public:
+  LimitFails() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
+  LimitFails(const LimitFails&) = delete;
+  ~LimitFails() { std::signal(SIGXFSZ, before_); }
+
+ private:
+  void (*before_)(int);
+};
 
 /// A new name is safe when the folder that holds it is on the disk too. Not every file system can
 /// be asked for that, and the file itself is complete either way.
@@ -55,6 +68,7 @@ bool SafeFile::Open() {
 }
 
 bool SafeFile::Replace(std::string_view text) {
+  const LimitFails whileWriting;
   int refusal = refusal_;
   if (refusal == 0) {
     if (!Complete(text)) return false;

@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -233,6 +234,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Scene{"FolderClosed", true, {{"unnamed", EACCES}, {"create", EACCES}}},
                     Scene{"NameRefused", true, {{"rename", EBUSY}}}),
     [](const auto& info) { return info.param.Name; });
+
+TEST_F(Saving, FailsAtTheLimitOnTheSizeOfFiles) {
+  for (const int closed : {0, EACCES}) {
+    Prepare({.Always = {{"unnamed", closed}, {"create", closed}}});
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit lower{Old.size(), limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &lower);
+    EXPECT_FALSE(Save(Texts.back()));
+    setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(BytesOf(Map), Old);
+  }
+}
 
 TEST_F(Saving, FollowsLinksToFilesOnly) {
   fs::create_directories(Folder / "inner/deep");
