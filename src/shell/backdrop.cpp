@@ -13,11 +13,10 @@ namespace {
 constexpr char PictureFault[] = "Cannot read picture ";
 constexpr char NameFault[] = "Cannot use this file name in a Map Layout: ";
 
-/// Takes what was said of an earlier picture, or of none, off the bar.
+/// Takes what was said of an earlier picture off the bar.
 void ForgetFaults(Form1& form) {
   const std::string& text = form.Message.Caption;
-  const bool ours =
-      text.starts_with(PictureFault) || text.starts_with(NameFault) || text == NoPictureFault;
+  const bool ours = text.starts_with(PictureFault) || text.starts_with(NameFault);
   if (ours && form.Message.BackColor == ClrRed) ShowMessage(form, "", ClrGreen);
 }
 

@@ -7,13 +7,10 @@ namespace terramark {
 
 struct Form1;
 
-/// What is said of a map without a picture.
-inline constexpr char NoPictureFault[] = "No Map file (.WMF/.BMP)";
-
 /// Reads a picture and puts it into Picture1: a bitmap at its own size, a metafile drawn into the
-/// whole box; the empty path empties the box. A red text about an earlier picture or its name, or
-/// about there being none, goes off the bar. False when the file cannot be read, or the memory does
-/// not reach for it: nothing has changed then.
+/// whole box; the empty path empties the box. A red text about an earlier picture or its name goes
+/// off the bar. False when the file cannot be read, or the memory does not reach for it: nothing
+/// has changed then.
 bool ShowPicture(Form1& form, const std::string& path);
 
 /// Says in red that a picture cannot be read.

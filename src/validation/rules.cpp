@@ -6,7 +6,6 @@
 
 #include "document/links.h"
 #include "document/numbers.h"
-#include "shell/backdrop.h"
 
 namespace terramark {
 
@@ -38,7 +37,7 @@ std::string AreaInBrackets(const Tables& t, std::int16_t i, const char* gap) {
 
 Fault Picture(const Tables& t) {
   if (!t.PictureFile.empty()) return std::nullopt;
-  return NoPictureFault;
+  return "No Map file (.WMF/.BMP)";
 }
 
 Fault EnoughAreas(const Tables& t) {

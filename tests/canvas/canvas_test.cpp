@@ -138,8 +138,6 @@ TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
             "has characters that a Map Layout cannot hold)");
   EXPECT_EQ(Screen.Entered, (std::vector<std::string>{"/?/a.bmp", "/?/a.bmp"}));
   EXPECT_EQ(load(true, true), "/?/a.bmp ") << "a text about an earlier picture goes";
-  ShowMessage(Form, "No Map file (.WMF/.BMP)", ClrRed);
-  EXPECT_EQ(load(true, true), "/?/a.bmp ") << "and one about none";
 }
 
 class ColourPanelTest : public EditorTest {
