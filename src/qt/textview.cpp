@@ -69,6 +69,7 @@ TextView::TextView(forms::TextBox& box, QWidget& container)
 void TextView::NoteCaret() {
   caret_ = cursorPosition();
   markedFrom_ = hasSelectedText() ? selectionStart() : caret_;
+  markedSize_ = static_cast<int>(selectedText().size());
 }
 
 void TextView::Edited(const QString& edited) {
@@ -77,13 +78,18 @@ void TextView::Edited(const QString& edited) {
   const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
   Take(before, edited);
   if (const QString now = Showable(); now != text()) {
-    // Less may have come in than the line shows. An edit that was refused leaves the caret where it
-    // stood.
+    // Less may have come in than the line shows.
     const auto size = static_cast<qsizetype>(box_.Text.Get().size());
-    const auto less = static_cast<int>(edited.size() + hidden - size);
-    const int caret = now == before ? caret_ : cursorPosition() - less;
+    const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
     ShowText();
-    setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
+    if (now == before) {
+      // An edit that was refused leaves the caret and the mark as they were.
+      const bool backwards = caret_ == markedFrom_;
+      setSelection(backwards ? markedFrom_ + markedSize_ : markedFrom_,
+                   backwards ? -markedSize_ : markedSize_);
+    } else {
+      setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
+    }
   }
   NoteCaret();
 }
@@ -98,6 +104,15 @@ void TextView::Take(const QString& before, const QString& edited) {
   const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
   box_.Edited(static_cast<std::size_t>(edit.At), static_cast<std::size_t>(edit.Cut),
               Cleaned(edit.Insert));
+}
+
+void TextView::inputMethodEvent(QInputMethodEvent* event) {
+  {
+    // It moves the caret before it tells of the edit.
+    const QScopedValueRollback<bool> still(editing_, true);
+    QLineEdit::inputMethodEvent(event);
+  }
+  NoteCaret();
 }
 
 void TextView::ShowOwn(forms::PropertyId id) {

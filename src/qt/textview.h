@@ -17,6 +17,7 @@ class TextView : public QLineEdit, public ControlView {
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -33,6 +34,7 @@ class TextView : public QLineEdit, public ControlView {
   /// caret is.
   int caret_ = 0;
   int markedFrom_ = 0;
+  int markedSize_ = 0;
   bool editing_ = false;
 };
 

@@ -138,6 +138,8 @@ TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
             "has characters that a Map Layout cannot hold)");
   EXPECT_EQ(Screen.Entered, (std::vector<std::string>{"/?/a.bmp", "/?/a.bmp"}));
   EXPECT_EQ(load(true, true), "/?/a.bmp ") << "a text about an earlier picture goes";
+  ShowMessage(Form, "Cannot read picture b.bmp", ClrRed);
+  EXPECT_EQ(load(true, true), "/?/a.bmp ");
 }
 
 class ColourPanelTest : public EditorTest {

@@ -2,9 +2,12 @@
 
 #include <QApplication>
 
+#include "qt/look.h"
+
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
+  QApplication application(argc, argv);
+  terramark::qt::SetUpLook(application);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

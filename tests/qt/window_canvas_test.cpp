@@ -99,10 +99,10 @@ TEST(WindowCanvas, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
     window.Release(Canvas + at);
     return window.Drops.size();
   };
-  QWidget over;
-  over.setAttribute(Qt::WA_ShowWithoutActivating);
+  QWidget over(nullptr, Qt::ToolTip);
   over.setGeometry(QRect(window.Window.mapToGlobal(Canvas + QPoint(300, 100)), QSize(80, 80)));
   over.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&over));
   EXPECT_EQ(drop({340, 140}), 0U) << "another window lies there";
   over.hide();
   window.Window.resize(320, 400);

@@ -61,8 +61,10 @@ TEST(WindowKeys, TheFormHearsKeysBeforeTheControlAndWhenNoneHasThem) {
     frame.Enabled = true;
     EXPECT_TRUE(window.Of(*control).hasFocus());
   }
-  EXPECT_EQ(heard, "Symb Symb ColBar ColBar PlColor PlColor ");
-  form.KeyUp = nullptr;
+  form.KeyUp = [&](const forms::KeyEvent& key) { heard += std::to_string(key.KeyCode) + " "; };
+  QApplication::focusWidget()->clearFocus();
+  window.Key(Qt::Key_Up);
+  EXPECT_EQ(heard, "Symb Symb ColBar ColBar PlColor PlColor 38 ");
   window.Window.setFocus();
   window.Key(Qt::Key_Tab);
   EXPECT_EQ(form.ActiveControl(), &form.Text1) << "where Tab begins";
@@ -100,6 +102,7 @@ TEST(WindowKeys, AHeldKeyActsOnceAndABoxThatItFindsOpenKnowsNothingOfIt) {
       window.Half(box, {QEvent::KeyRelease, key, {}, " "});
       EXPECT_EQ(answers, 0);
       window.Half(box, {QEvent::KeyPress, key, {}, " "});
+      hold(box);
       window.Half(box, {QEvent::KeyRelease, key, {}, " "});
       TestWindow::Settle();
       EXPECT_EQ(answers, key == Qt::Key_Up ? 0 : 1);
@@ -133,6 +136,30 @@ TEST(WindowKeys, AReleaseIsToldBeforeWhatComesAfterIt) {
   window.Stroke(Qt::Key_C, {}, 'c');
   EXPECT_EQ(order, "65 press 66 ");
   EXPECT_TRUE(QTest::qWaitFor([&] { return order == "65 press 66 67 "; })) << "time passed";
+
+  for (const auto by : {QEvent::Wheel, QEvent::FocusOut, QEvent::WindowBlocked, QEvent::Close}) {
+    order.clear();
+    window.Stroke(Qt::Key_A, {}, 'a');
+    TestWindow::Settle(by);
+    EXPECT_EQ(order, "65 ") << by;
+  }
+
+  order.clear();
+  for (int i = 0; i < 2; ++i) {
+    window.Half(window.Window, {QEvent::KeyPress, Qt::Key_D, {}, "d"}, 0);
+    window.Half(window.Window, {QEvent::KeyRelease, Qt::Key_D, {}, "d"}, 0);
+  }
+  TestWindow::Settle();
+  EXPECT_EQ(order, "68 68 ") << "struck twice by a program, too soon for a repeat";
+
+  QDialog box(&window.Window);
+  window.Form.KeyUp = [&](const forms::KeyEvent&) {
+    QMetaObject::invokeMethod(&box, &QDialog::reject, Qt::QueuedConnection);
+    box.exec();
+  };
+  window.Stroke(Qt::Key_E, {}, 'e');
+  window.Click(window.Form.AddTer);
+  EXPECT_EQ(order, "68 68 ") << "pressed behind the box that the release brought up";
 }
 
 TEST(WindowKeys, AnEditIsHeldToTheLimitWhereItWasMade) {
@@ -157,6 +184,12 @@ TEST(WindowKeys, AnEditIsHeldToTheLimitWhereItWasMade) {
   line.setSelection(6, -2);
   EXPECT_EQ(paste("xyz"), "0123xy6789abcdef");
   EXPECT_EQ(line.cursorPosition(), 6);
+  box.Text = "fedcba9876543210";
+  line.setSelection(6, -3);
+  QInputMethodEvent composed;
+  composed.setCommitString("xyzu");
+  QCoreApplication::sendEvent(&line, &composed);
+  EXPECT_EQ(box.Text.Get(), "fedxyz9876543210");
 
   box.Text = "a text of more than sixteen";
   EXPECT_EQ(line.text(), "a text of more than sixteen");
@@ -209,7 +242,10 @@ TEST(WindowKeys, ARefusedEditShowsAtOnceWithTheCaretWhereItWas) {
   EXPECT_EQ(line.cursorPosition(), 1);
   window.Type("7");
   EXPECT_EQ(line.text(), "57");
-  EXPECT_EQ(atCharacters, "15 5 5 ") << "the text before each key that makes a character";
+  line.selectAll();
+  window.Type("x8");
+  EXPECT_EQ(line.text(), "8") << "the mark outlives a refusal";
+  EXPECT_EQ(atCharacters, "15 5 5 57 57 ") << "the text before each key that makes a character";
 }
 
 struct PasteCase {

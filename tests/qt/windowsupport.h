@@ -57,9 +57,9 @@ struct TestWindow {
     Half(Window, QKeyEvent(QEvent::KeyRelease, key, keys, made));
   }
   /// Something happens, so that the last release can be no half of a repeat any more.
-  static void Settle() {
+  static void Settle(QEvent::Type by = QEvent::WindowDeactivate) {
     QObject nobody;
-    QEvent after(QEvent::WindowDeactivate);
+    QEvent after(by);
     QCoreApplication::sendEvent(&nobody, &after);
   }
   void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {

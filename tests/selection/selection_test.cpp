@@ -11,6 +11,7 @@ class SelectionTest : public EditorTest {
 
 TEST_F(SelectionTest, AClickMakesAnAreaCurrentAndMarksItsNeighbours) {
   Form.AreaSymbol(3) = "2";
+  Form.Text1.SetFocus();
   Click(Form.ArmyAt(3));
   EXPECT_EQ(Selected(), "A3 R0 3 .o*o.. ..");
   EXPECT_EQ(Inspector(), "Area 3/H/-");
