@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "qt/pictures/pictureloader.h"
+#include "pictures/pictureloader.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
     const QImage drawn =
-        terramark::qt::LoadPictureFile(folder.filePath(name).toStdString(), wanted.size());
+        terramark::pictures::LoadPictureFile(folder.filePath(name).toStdString(), wanted.size());
     if (argc > 2) drawn.save(QDir(QString::fromLocal8Bit(argv[2])).filePath(base + ".png"));
     scores.push_back(PercentDifferent(drawn, wanted));
     std::printf("%7.2f %%  %s\n", scores.back(), qPrintable(base));

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "qt/pictures/pictureloader.h"
+#include "pictures/pictureloader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static int argc = 1;
@@ -12,6 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static char* argv[] = {name, nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static const QGuiApplication application(argc, argv);
-  terramark::qt::LoadPictureBytes(QByteArrayView(data, static_cast<qsizetype>(size)), {120, 80});
+  terramark::pictures::LoadPictureBytes(QByteArrayView(data, static_cast<qsizetype>(size)),
+                                        {120, 80});
   return 0;
 }

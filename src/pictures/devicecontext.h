@@ -1,0 +1,86 @@
+// What a metafile's records change and draw by: the mapping from logical units to pixels, the
+// selected objects, colours and modes, with SaveDC and RestoreDC.
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <vector>
+
+#include "pictures/graphicsobjects.h"
+#include "pictures/surface.h"
+
+namespace terramark::pictures {
+
+/// Where the picture lies before the file says anything: this much of the plane fills the box.
+struct Frame {
+  QPoint Origin;
+  QSize Extent{1, 1};
+};
+
+/// All that SaveDC keeps. The start values are those of a fresh drawing context.
+struct DeviceState {
+  QPointF WindowOrigin{0, 0};
+  QPointF WindowExtent{1, 1};
+  QPointF ViewportOrigin{0, 0};
+  QPointF ViewportExtent{1, 1};
+  bool UpIsPositive = false;  // a metric mapping mode of a picture that names no window
+  Pen CurrentPen;
+  Brush CurrentBrush;
+  Font CurrentFont;
+  Palette CurrentPalette;
+  ColourRef TextColour = 0;
+  ColourRef BackColour = WhiteRef;
+  bool Opaque = true;
+  int Operation = 13;
+  bool Winding = false;
+  int StretchMode = 1;
+  int TextAlign = 0;
+  int CharExtra = 0;
+  int BreakExtra = 0;  // logical units to add to each of BreakCount blanks
+  int BreakCount = 0;
+  QPoint Position;  // logical
+  QImage Clip;
+};
+
+class DeviceContext {
+ public:
+  /// Plays onto `surface`. `frame` fills `box` pixels until the file sets a window of its own.
+  /// A `measured` picture names no window at all: its units are pixels and the frame is for good.
+  DeviceContext(Surface& surface, const Frame& frame, QSize box, bool measured);
+
+  Surface& Target() { return surface_; }
+  DeviceState State;
+  ObjectTable Objects;
+
+  bool Measured() const { return measured_; }
+
+  /// SaveDC; beyond 256 levels a save is dropped.
+  void Save();
+  /// RestoreDC: a negative level counts back from the last save, a positive one from the first.
+  void Restore(int level);
+  void Select(const GraphicsObject& object);
+
+  /// Logical units to pixels, limited to about 16 million either way.
+  QPoint ToDevice(QPointF logical) const;
+  /// Both corners mapped and put in order, right and bottom edges outside.
+  QRect ToDevice(int left, int top, int right, int bottom) const;
+  /// Pixels per logical unit; negative where the axis runs backwards.
+  QPointF Scale() const;
+
+  QRgb Resolve(ColourRef colour) const;
+  bool HasPen() const { return State.CurrentPen.Style != PenStyle::None; }
+  bool HasBrush() const { return State.CurrentBrush.Style != BrushStyle::None; }
+  /// The pen's width in pixels, at least 1.
+  int PenWidth() const;
+  Paint PenPaint() const;
+  Paint BrushPaint(const Brush& brush) const;
+
+ private:
+  Surface& surface_;
+  bool measured_;
+  QPointF baseScale_{1, 1};
+  QPointF baseOffset_{0, 0};
+  std::vector<DeviceState> saved_;
+};
+
+}  // namespace terramark::pictures

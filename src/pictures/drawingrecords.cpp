@@ -1,0 +1,235 @@
+#include <QPolygonF>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "pictures/recordplayers.h"
+#include "pictures/strokes.h"
+
+namespace terramark::pictures {
+namespace {
+
+// A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
+std::vector<QPoint> ReadPoints(const DeviceContext& context, const MetafileRecord& record,
+                               qsizetype at, int count) {
+  std::vector<QPoint> points;
+  for (qsizetype i = 0; i < count && at + 2 * i + 1 < record.Words(); ++i) {
+    points.push_back(context.ToDevice(QPointF(record.Int(at + 2 * i), record.Int(at + 2 * i + 1))));
+  }
+  return points;
+}
+
+QPolygonF PolygonOf(const std::vector<QPoint>& points) {
+  QPolygonF polygon;
+  polygon.reserve(static_cast<qsizetype>(points.size()));
+  for (const QPoint& point : points) polygon.append(point);
+  return polygon;
+}
+
+void FillShapes(DeviceContext& context, const std::vector<std::vector<QPoint>>& shapes,
+                bool winding) {
+  if (!context.HasBrush()) return;
+  std::vector<QPolygonF> polygons;
+  for (const auto& shape : shapes) polygons.push_back(PolygonOf(shape));
+  context.Target().Polygons(polygons, winding, context.BrushPaint(context.State.CurrentBrush));
+}
+
+void DrawPolygons(DeviceContext& context, const std::vector<std::vector<QPoint>>& shapes) {
+  FillShapes(context, shapes, context.State.Winding);
+  for (const auto& shape : shapes) Stroke(context, shape, true);
+}
+
+void DrawPolyPolygon(DeviceContext& context, const MetafileRecord& record) {
+  const int count = record.Word(0);
+  qsizetype at = 1 + count;
+  std::vector<std::vector<QPoint>> shapes;
+  for (qsizetype i = 0; i < count && at < record.Words(); ++i) {
+    const int points = record.Word(1 + i);
+    shapes.push_back(ReadPoints(context, record, at, points));
+    at += 2 * points;
+  }
+  DrawPolygons(context, shapes);
+}
+
+// The box a shape's outline runs in, both ends inside. A pen that stays inside the frame takes its
+// width from the box.
+QRect OutlineBox(const DeviceContext& context, const QRect& box) {
+  QRect outline = box;
+  if (context.State.CurrentPen.Style == PenStyle::InsideFrame) {
+    const int width = context.PenWidth();
+    outline.adjust(width / 2, width / 2, -(width - 1) / 2, -(width - 1) / 2);
+  }
+  return outline;
+}
+
+void DrawRectangle(DeviceContext& context, const QRect& box) {
+  if (box.isEmpty()) return;
+  const QRect outline = OutlineBox(context, box);
+  if (context.HasBrush()) {
+    const bool thin = context.HasPen() && context.PenWidth() == 1;
+    const QRect inside = thin ? outline.adjusted(1, 1, -1, -1) : outline.adjusted(0, 0, -1, -1);
+    context.Target().Rectangle(inside, context.BrushPaint(context.State.CurrentBrush));
+  }
+  Stroke(context,
+         {outline.topRight(), outline.topLeft(), outline.bottomLeft(), outline.bottomRight()},
+         true);
+}
+
+// An outline of a box with elliptic corners of the given whole size; an ellipse when the corners
+// fill the box. The points stand one pixel from the next along the corners.
+std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
+  const std::vector<QPoint> quarter = EllipseQuarter(corner.width(), corner.height());
+  const int left = box.left() + corner.width() - 1;
+  const int top = box.top() + corner.height() - 1;
+  const int right = box.right() - corner.width() + 1;
+  const int bottom = box.bottom() - corner.height() + 1;
+  std::vector<QPoint> points;
+  for (auto p = quarter.begin(); p != quarter.end(); ++p) {
+    points.emplace_back(right + p->x(), bottom + p->y());
+  }
+  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) {
+    points.emplace_back(left - p->x(), bottom + p->y());
+  }
+  for (auto p = quarter.begin(); p != quarter.end(); ++p) {
+    points.emplace_back(left - p->x(), top - p->y());
+  }
+  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) {
+    points.emplace_back(right + p->x(), top - p->y());
+  }
+  return points;
+}
+
+void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
+  if (box.isEmpty()) return;
+  const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
+  if (!context.Target().Touch(box.adjusted(-pen, -pen, pen, pen))) return;
+  const QRect outline = OutlineBox(context, box);
+  if (outline.isEmpty() || outline.width() > 1 << 16 || outline.height() > 1 << 16) return;
+  const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
+  if (!context.Target().Spend(std::int64_t{8} * (size.width() + size.height()))) return;
+  std::vector<QPoint> points = RoundOutline(outline, size);
+  if (context.HasBrush()) {
+    FillShapes(context, {points}, true);
+  }
+  if (context.HasPen() && context.PenWidth() > 1 && points.size() > 64) {
+    // A wide pen hides the steps between pixels; every third point is enough.
+    std::vector<QPoint> fewer;
+    for (std::size_t i = 0; i < points.size(); i += 3) fewer.push_back(points[i]);
+    points = std::move(fewer);
+  }
+  Stroke(context, points, true);
+}
+
+enum class ArcKind { Open, Chord, Pie };
+
+// Against the clock from the ray through `from` to the ray through `to`.
+void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind) {
+  const QRect box = OutlineBox(
+      context, context.ToDevice(record.Int(7), record.Int(6), record.Int(5), record.Int(4)));
+  if (box.isEmpty() || !context.Target().Touch(box)) return;
+  const QPointF to = context.ToDevice(QPointF(record.PointYX(0)));
+  const QPointF from = context.ToDevice(QPointF(record.PointYX(2)));
+  const double radiusX = (box.width() - 1) / 2.0;
+  const double radiusY = (box.height() - 1) / 2.0;
+  const QPointF centre(box.left() + radiusX, box.top() + radiusY);
+  const auto angle = [&](QPointF ray) {
+    return std::atan2(-(ray.y() - centre.y()) * std::max(radiusX, 0.5),
+                      (ray.x() - centre.x()) * std::max(radiusY, 0.5));
+  };
+  constexpr double FullTurn = 2 * std::numbers::pi;
+  const double start = angle(from);
+  double sweep = angle(to) - start;
+  if (sweep <= 0) sweep += FullTurn;
+
+  constexpr int MaxSteps = 20000;
+  const double length = sweep * std::max(radiusX, radiusY);
+  const int steps = static_cast<int>(std::clamp(length, 8.0, double{MaxSteps}));
+  if (!context.Target().Spend(std::int64_t{steps} * 8)) return;
+  std::vector<QPoint> points;
+  for (int i = 0; i <= steps; ++i) {
+    const double at = start + sweep * i / steps;
+    const QPoint point(static_cast<int>(std::floor(centre.x() + radiusX * std::cos(at) + 0.5)),
+                       static_cast<int>(std::floor(centre.y() - radiusY * std::sin(at) + 0.5)));
+    if (points.empty() || points.back() != point) points.push_back(point);
+  }
+  if (kind == ArcKind::Pie) {
+    points.emplace_back(static_cast<int>(std::floor(centre.x() + 0.5)),
+                        static_cast<int>(std::floor(centre.y() + 0.5)));
+  }
+  if (kind != ArcKind::Open) FillShapes(context, {points}, true);
+  Stroke(context, points, kind != ArcKind::Open);
+}
+
+void DrawLineTo(DeviceContext& context, QPoint to) {
+  Stroke(context,
+         {context.ToDevice(QPointF(context.State.Position)), context.ToDevice(QPointF(to))}, false);
+  context.State.Position = to;
+}
+
+void FloodFill(DeviceContext& context, const MetafileRecord& record, qsizetype colourAt,
+               bool border) {
+  const QPoint seed = context.ToDevice(QPointF(record.PointYX(colourAt + 2)));
+  if (!context.HasBrush() || !context.Target().Touch(QRect(seed, QSize(1, 1)))) return;
+  context.Target().Flood(seed, context.Resolve(record.Long(colourAt)), border,
+                         context.BrushPaint(context.State.CurrentBrush));
+}
+
+}  // namespace
+
+bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record) {
+  const auto box = [&](qsizetype at) {
+    return context.ToDevice(record.Int(at + 3), record.Int(at + 2), record.Int(at + 1),
+                            record.Int(at));
+  };
+  switch (record.Function) {
+    case 0x0213:
+      DrawLineTo(context, record.PointYX(0));
+      return true;
+    case 0x0214:
+      context.State.Position = record.PointYX(0);
+      return true;
+    case 0x0324:
+      DrawPolygons(context, {ReadPoints(context, record, 1, record.Word(0))});
+      return true;
+    case 0x0325:
+      Stroke(context, ReadPoints(context, record, 1, record.Word(0)), false);
+      return true;
+    case 0x0538:
+      DrawPolyPolygon(context, record);
+      return true;
+    case 0x041B:
+      DrawRectangle(context, box(0));
+      return true;
+    case 0x0418:
+      DrawRound(context, box(0), box(0).size());
+      return true;
+    case 0x061C:  // RoundRect
+      DrawRound(context, box(2), context.ToDevice(0, 0, record.Int(1), record.Int(0)).size());
+      return true;
+    case 0x0817:
+      DrawArc(context, record, ArcKind::Open);
+      return true;
+    case 0x0830:
+      DrawArc(context, record, ArcKind::Chord);
+      return true;
+    case 0x081A:
+      DrawArc(context, record, ArcKind::Pie);
+      return true;
+    case 0x0419:
+      FloodFill(context, record, 0, true);
+      return true;
+    case 0x0548:
+      FloodFill(context, record, 1, record.Word(0) == 0);
+      return true;
+    case 0x041F: {  // SetPixel
+      const QPoint at = context.ToDevice(QPointF(record.PointYX(2)));
+      const QRgb colour = context.Resolve(record.Long(0));
+      if (context.Target().Touch(QRect(at, QSize(1, 1)))) context.Target().Put(at, colour);
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+}  // namespace terramark::pictures

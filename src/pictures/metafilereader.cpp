@@ -1,0 +1,75 @@
+#include "pictures/metafilereader.h"
+
+#include <QtEndian>
+#include <algorithm>
+
+namespace terramark::pictures {
+namespace {
+
+constexpr std::uint32_t PlaceableKey = 0x9AC6CDD7;
+constexpr qsizetype PlaceableBytes = 22;
+constexpr qsizetype HeaderBytes = 18;
+constexpr std::uint16_t HeaderWords = 9;
+constexpr qsizetype RecordHeadBytes = 6;
+
+std::uint16_t WordAt(QByteArrayView bytes, qsizetype offset) {
+  if (offset < 0 || offset + 2 > bytes.size()) return 0;
+  return qFromLittleEndian<std::uint16_t>(bytes.data() + offset);
+}
+
+std::uint32_t LongAt(QByteArrayView bytes, qsizetype offset) {
+  return WordAt(bytes, offset) | static_cast<std::uint32_t>(WordAt(bytes, offset + 2)) << 16;
+}
+
+bool IsFileHeader(QByteArrayView bytes) {
+  const std::uint16_t type = WordAt(bytes, 0);
+  const std::uint16_t version = WordAt(bytes, 4);
+  return bytes.size() >= HeaderBytes && (type == 1 || type == 2) &&
+         WordAt(bytes, 2) == HeaderWords && (version == 0x100 || version == 0x300);
+}
+
+}  // namespace
+
+std::uint16_t MetafileRecord::Word(qsizetype index) const {
+  return WordAt(Parameters, index * 2);
+}
+
+std::uint32_t MetafileRecord::Long(qsizetype index) const {
+  return LongAt(Parameters, index * 2);
+}
+
+QByteArrayView MetafileRecord::From(qsizetype index) const {
+  return index * 2 < Parameters.size() ? Parameters.sliced(index * 2) : QByteArrayView();
+}
+
+bool MetafileReader::Recognises(QByteArrayView bytes) {
+  if (LongAt(bytes, 0) == PlaceableKey) return bytes.size() >= PlaceableBytes + HeaderBytes;
+  return IsFileHeader(bytes);
+}
+
+MetafileReader::MetafileReader(QByteArrayView bytes) : bytes_(bytes) {
+  if (LongAt(bytes, 0) == PlaceableKey) {
+    const auto corner = [bytes](qsizetype offset) {
+      return static_cast<std::int16_t>(WordAt(bytes, offset));
+    };
+    const QPoint topLeft(corner(6), corner(8));
+    const QSize size(corner(10) - topLeft.x(), corner(12) - topLeft.y());
+    if (size.width() != 0 && size.height() != 0) bounds_ = QRect(topLeft, size);
+    position_ = PlaceableBytes;
+  }
+  position_ += HeaderBytes;
+}
+
+std::optional<MetafileRecord> MetafileReader::Next() {
+  if (bytes_.size() - position_ < RecordHeadBytes) return std::nullopt;
+  const qsizetype claimed = static_cast<qsizetype>(LongAt(bytes_, position_)) * 2;
+  MetafileRecord record;
+  record.Function = WordAt(bytes_, position_ + 4);
+  if (claimed < RecordHeadBytes || record.Function == 0) return std::nullopt;
+  const qsizetype length = std::min(claimed, bytes_.size() - position_);
+  record.Parameters = bytes_.sliced(position_ + RecordHeadBytes, length - RecordHeadBytes);
+  position_ += length;
+  return record;
+}
+
+}  // namespace terramark::pictures

@@ -1,0 +1,16 @@
+// Draws lines with the selected pen: one pixel wide by the classic line algorithm, with dashes, or
+// wide with round ends and joins.
+#pragma once
+
+#include <QPoint>
+#include <vector>
+
+#include "pictures/devicecontext.h"
+
+namespace terramark::pictures {
+
+/// Draws through `points`, in pixels; a `closed` line returns to its start. A line one pixel wide
+/// leaves out its very last pixel.
+void Stroke(DeviceContext& context, const std::vector<QPoint>& points, bool closed);
+
+}  // namespace terramark::pictures

@@ -1,0 +1,211 @@
+#include "pictures/surface.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "pictures/newimage.h"
+
+namespace terramark::pictures {
+namespace {
+
+constexpr QRgb OpaqueBlack = 0xFF000000;
+constexpr int CopyOperation = 13;
+constexpr std::int64_t WorkPerCrossing = 4;
+constexpr std::int64_t WorkPerFloodPixel = 10;
+// Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
+constexpr std::int64_t WorkPerClipPixel = 4;
+
+// Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
+QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
+  const int code = operation - 1;
+  QRgb result = 0;
+  if (code & 1) result |= ~pattern & ~destination;
+  if (code & 2) result |= ~pattern & destination;
+  if (code & 4) result |= pattern & ~destination;
+  if (code & 8) result |= pattern & destination;
+  return result | OpaqueBlack;
+}
+
+}  // namespace
+
+QRgb CombineTernary(int code, QRgb pattern, QRgb source, QRgb destination) {
+  QRgb result = 0;
+  for (int term = 0; term < 8; ++term) {
+    if ((code >> term & 1) == 0) continue;
+    result |= (term & 4 ? pattern : ~pattern) & (term & 2 ? source : ~source) &
+              (term & 1 ? destination : ~destination);
+  }
+  return result | OpaqueBlack;
+}
+
+Surface::Surface(QSize size, bool measuring)
+    : image_(NewImage(measuring ? QSize(1, 1) : size, QImage::Format_RGB32)),
+      measuring_(measuring) {
+  image_.fill(Qt::white);
+}
+
+bool Surface::Spend(std::int64_t work) {
+  workLeft_ -= std::min(work, workLeft_);
+  return workLeft_ > 0;
+}
+
+bool Surface::Touch(const QRect& bounds) {
+  if (measuring_) {
+    measured_ = measured_.united(bounds);
+    return false;
+  }
+  const QRect visible = bounds.intersected(Area());
+  if (visible.isEmpty()) return false;
+  return Spend(std::int64_t{visible.width()} + visible.height());
+}
+
+void Surface::Span(int y, int x0, int x1, const Paint& paint) {
+  if (!Spend(x1 - x0)) return;
+  auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
+  const QImage& pattern = paint.Pattern;
+  const QRgb* tile = nullptr;
+  if (!pattern.isNull()) {
+    tile = reinterpret_cast<const QRgb*>(pattern.constScanLine(y % pattern.height()));
+  }
+  const uchar* open = clip_.isNull() ? nullptr : clip_.constScanLine(y);
+  for (int x = x0; x < x1; ++x) {
+    if (open != nullptr && open[x] == 0) continue;
+    const QRgb colour = tile == nullptr ? paint.Colour : tile[x % pattern.width()];
+    if (qAlpha(colour) == 0) continue;
+    row[x] =
+        paint.Operation == CopyOperation ? colour : CombineBinary(paint.Operation, colour, row[x]);
+  }
+}
+
+void Surface::Pixel(QPoint at, const Paint& paint) {
+  Span(at.y(), at.x(), at.x() + 1, paint);
+}
+
+void Surface::Rectangle(const QRect& rect, const Paint& paint) {
+  if (!Touch(rect)) return;
+  const QRect visible = rect.intersected(Area());
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    Span(y, visible.left(), visible.right() + 1, paint);
+  }
+}
+
+void Surface::Mask(const QImage& mask, QPoint at, const Paint& paint) {
+  const QRect visible = mask.rect().translated(at).intersected(Area());
+  if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    const uchar* row = mask.constScanLine(y - at.y());
+    for (int x = visible.left(); x <= visible.right(); ++x) {
+      if (row[x - at.x()] != 0) Pixel({x, y}, paint);
+    }
+  }
+}
+
+void Surface::Polygons(const std::vector<QPolygonF>& polygons, bool winding, const Paint& paint) {
+  QRectF bounds;
+  for (const QPolygonF& polygon : polygons) bounds = bounds.united(polygon.boundingRect());
+  if (!Touch(bounds.toAlignedRect())) return;
+  const QRect area = bounds.toAlignedRect().intersected(Area());
+  if (!Spend(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
+  ScanPolygons(polygons, winding, area, [&](int y, int x0, int x1) { Span(y, x0, x1, paint); });
+}
+
+void Surface::Put(QPoint at, QRgb colour) {
+  if (Clipped(at.x(), at.y())) return;
+  reinterpret_cast<QRgb*>(image_.scanLine(at.y()))[at.x()] = colour;
+}
+
+void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
+  const std::int64_t work = std::int64_t{Area().width()} * Area().height() * WorkPerFloodPixel;
+  if (!Area().contains(seed) || !Spend(work)) return;
+  // Painting changes the colours that are asked for, so the filled shape is found first.
+  QImage inside = NewImage(Area().size(), QImage::Format_Grayscale8);
+  inside.fill(0);
+  const auto fills = [&](int x, int y) {
+    const bool same = (image_.pixel(x, y) & 0xFFFFFF) == (colour & 0xFFFFFF);
+    return same != border && inside.constScanLine(y)[x] == 0 && !Clipped(x, y);
+  };
+  std::vector<QPoint> pending{seed};
+  while (!pending.empty()) {
+    const QPoint at = pending.back();
+    pending.pop_back();
+    if (!fills(at.x(), at.y())) continue;
+    int left = at.x();
+    while (left > 0 && fills(left - 1, at.y())) --left;
+    int right = at.x();
+    while (right + 1 < Area().width() && fills(right + 1, at.y())) ++right;
+    std::memset(inside.scanLine(at.y()) + left, 1, static_cast<std::size_t>(right - left + 1));
+    for (const int y : {at.y() - 1, at.y() + 1}) {
+      if (y < 0 || y >= Area().height()) continue;
+      for (int x = left; x <= right; ++x) {
+        if (fills(x, y) && (x == left || !fills(x - 1, y))) pending.emplace_back(x, y);
+      }
+    }
+  }
+  for (int y = 0; y < Area().height(); ++y) {
+    for (int x = 0; x < Area().width(); ++x) {
+      if (inside.constScanLine(y)[x] != 0) Pixel({x, y}, paint);
+    }
+  }
+}
+
+QImage Surface::NewClip(std::uint8_t value) const {
+  QImage clip = NewImage(image_.size(), QImage::Format_Grayscale8);
+  clip.fill(value);
+  return clip;
+}
+
+void Surface::FillClip(const QRect& rect, std::uint8_t value) {
+  const QRect visible = rect.intersected(Area());
+  if (visible.isEmpty()) return;
+  clip_ = OwnPixels(std::move(clip_));
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    std::memset(clip_.scanLine(y) + visible.left(), value,
+                static_cast<std::size_t>(visible.width()));
+  }
+}
+
+void Surface::ClipTo(const std::vector<QRect>& rects) {
+  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  clip_ = NewClip(0);
+  for (const QRect& rect : rects) {
+    const QRect visible = rect.intersected(Area());
+    if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
+    FillClip(rect, 1);
+  }
+}
+
+void Surface::IntersectClip(const QRect& rect) {
+  const int right = rect.right() + 1;
+  const int bottom = rect.bottom() + 1;
+  const int width = Area().width();
+  const int height = Area().height();
+  ExcludeClip(QRect(QPoint(0, 0), QPoint(width, rect.top() - 1)));
+  ExcludeClip(QRect(QPoint(0, bottom), QPoint(width, height)));
+  ExcludeClip(QRect(QPoint(0, rect.top()), QPoint(rect.left() - 1, rect.bottom())));
+  ExcludeClip(QRect(QPoint(right, rect.top()), QPoint(width, rect.bottom())));
+}
+
+void Surface::ExcludeClip(const QRect& rect) {
+  const QRect visible = rect.intersected(Area());
+  if (visible.isEmpty()) return;
+  const bool copies = clip_.isNull() || !clip_.isDetached();
+  const std::int64_t whole = std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel;
+  if (!Spend((copies ? whole : 0) + std::int64_t{visible.width()} * visible.height())) return;
+  if (clip_.isNull()) clip_ = NewClip(1);
+  FillClip(visible, 0);
+}
+
+void Surface::OffsetClip(QPoint by) {
+  if (clip_.isNull()) return;
+  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  const QImage old = clip_;
+  clip_ = NewClip(0);
+  for (int y = 0; y < Area().height(); ++y) {
+    for (int x = 0; x < Area().width(); ++x) {
+      const QPoint from = QPoint(x, y) - by;
+      if (Area().contains(from)) clip_.scanLine(y)[x] = old.constScanLine(from.y())[from.x()];
+    }
+  }
+}
+
+}  // namespace terramark::pictures

@@ -1,0 +1,84 @@
+// The raster a metafile is drawn into: every pixel passes the clip, the raster operation and the
+// limit on the work one picture may cost.
+#pragma once
+
+#include <QImage>
+#include <QPolygonF>
+#include <QRect>
+#include <QRgb>
+#include <cstdint>
+#include <vector>
+
+#include "pictures/scanconvert.h"
+
+namespace terramark::pictures {
+
+/// What an area or a line is painted with.
+struct Paint {
+  /// Raster operation 1 to 16 as the metafile counts them; 13 lays the colour over what is there.
+  int Operation = 13;
+  QRgb Colour = 0xFF000000;
+  /// When not null, tiled from the raster's top left corner in place of Colour; where its alpha is
+  /// 0 nothing is painted.
+  QImage Pattern;
+};
+
+/// The eight-bit code of a ternary raster operation applied to pattern, source and destination.
+QRgb CombineTernary(int code, QRgb pattern, QRgb source, QRgb destination);
+
+/// Starts white. In measuring mode nothing is painted; it only learns what would be.
+class Surface {
+ public:
+  /// The work one picture may cost, counted in pixels touched or the like: about 2,000 fills of a
+  /// box of the usual size, some seconds at worst.
+  static constexpr std::int64_t WorkLimit = 300'000'000;
+
+  Surface(QSize size, bool measuring);
+
+  const QImage& Image() const { return image_; }
+  QRect Area() const { return image_.rect(); }
+
+  /// Takes `work` from what is left. False when it is used up: draw nothing more.
+  bool Spend(std::int64_t work);
+
+  /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
+  /// do: it lies outside, the work is used up, or only the bounds were wanted.
+  bool Touch(const QRect& bounds);
+  /// What Touch was told in measuring mode, united.
+  QRect Measured() const { return measured_; }
+
+  /// The pixels x0 <= x < x1 of row y, which must lie inside Area().
+  void Span(int y, int x0, int x1, const Paint& paint);
+  void Pixel(QPoint at, const Paint& paint);
+  void Rectangle(const QRect& rect, const Paint& paint);
+  /// The pixels that `mask`, one byte a pixel and laid at `at`, marks with anything but 0.
+  void Mask(const QImage& mask, QPoint at, const Paint& paint);
+  void Polygons(const std::vector<QPolygonF>& polygons, bool winding, const Paint& paint);
+  /// A pixel as a blit writes it, past the paint's operation but not past the clip.
+  void Put(QPoint at, QRgb colour);
+  QRgb At(QPoint at) const { return image_.pixel(at); }
+  /// Fills from `seed` over the pixels of `colour`, or, when `border`, up to those of `colour`.
+  void Flood(QPoint seed, QRgb colour, bool border, const Paint& paint);
+
+  /// The clip: one byte a pixel, 0 where nothing may be painted; null lets everything through.
+  /// It is shared until it changes, so keeping one aside costs nothing.
+  const QImage& Clip() const { return clip_; }
+  void SetClip(const QImage& clip) { clip_ = clip; }
+  void ClipTo(const std::vector<QRect>& rects);
+  void IntersectClip(const QRect& rect);
+  void ExcludeClip(const QRect& rect);
+  void OffsetClip(QPoint by);
+
+ private:
+  bool Clipped(int x, int y) const { return !clip_.isNull() && clip_.constScanLine(y)[x] == 0; }
+  void FillClip(const QRect& rect, std::uint8_t value);
+  QImage NewClip(std::uint8_t value) const;
+
+  QImage image_;
+  QImage clip_;
+  bool measuring_;
+  QRect measured_;
+  std::int64_t workLeft_ = WorkLimit;
+};
+
+}  // namespace terramark::pictures

@@ -1,0 +1,24 @@
+// From the bytes of a text record to Unicode, by the character set of the font.
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+#include <vector>
+
+#include "pictures/graphicsobjects.h"
+
+namespace terramark::pictures {
+
+/// One letter and how many of the record's bytes it takes.
+struct Letter {
+  QString Text;
+  int Bytes = 1;
+};
+
+/// Whether the font holds signs in place of letters, like the symbol font.
+bool HoldsSigns(const Font& font);
+
+/// Letters that the set does not have come out as U+FFFD.
+std::vector<Letter> DecodeText(QByteArrayView bytes, const Font& font);
+
+}  // namespace terramark::pictures

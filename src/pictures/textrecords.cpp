@@ -1,0 +1,201 @@
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "pictures/fontmatch.h"
+#include "pictures/newimage.h"
+#include "pictures/recordplayers.h"
+#include "pictures/textdecoding.h"
+
+namespace terramark::pictures {
+namespace {
+
+constexpr int AlignUpdate = 1;
+constexpr int AlignSideways = 6;
+constexpr int AlignRight = 2;
+constexpr int AlignCentre = 6;
+constexpr int AlignUpright = 24;
+constexpr int AlignBottom = 8;
+constexpr int AlignBaseline = 24;
+constexpr int OptionOpaque = 2;
+constexpr int OptionClipped = 4;
+constexpr int OptionGlyphs = 0x10;
+constexpr qsizetype MaxLetters = 4096;
+constexpr std::int64_t WorkPerLetter = 4000;
+
+struct TextRun {
+  QByteArrayView Bytes;
+  QPoint At;                 // logical
+  std::vector<int> Advance;  // logical, one a byte; empty for the font's own
+};
+
+// Letters laid along the baseline, in pixels from its start.
+struct TextLine {
+  std::vector<Letter> Letters;
+  std::vector<int> Offsets;
+  int Width = 0;
+};
+
+TextLine LayOut(const DeviceContext& context, const TextRun& run, const MatchedFont& font) {
+  const DeviceState& state = context.State;
+  const double scale = std::abs(context.Scale().x());
+  const QFontMetrics metrics(font.Face);
+  const auto toPixels = [scale](double logical) {
+    return static_cast<int>(std::clamp(std::floor(logical * scale + 0.5), -1e7, 1e7));
+  };
+  TextLine line{.Letters = DecodeText(run.Bytes, state.CurrentFont), .Offsets = {}};
+  std::int64_t logical = 0;
+  double own = 0;
+  std::size_t byte = 0;
+  for (const Letter& letter : line.Letters) {
+    line.Offsets.push_back(line.Width);
+    if (run.Advance.empty()) {
+      own += std::floor(metrics.horizontalAdvance(letter.Text) * font.Stretch + 0.5);
+    } else {
+      for (int i = 0; i < letter.Bytes && byte < run.Advance.size(); ++i) {
+        logical += run.Advance[byte++];
+      }
+    }
+    logical += state.CharExtra;
+    if (letter.Text == u" " && state.BreakCount > 0) logical += state.BreakExtra / state.BreakCount;
+    line.Width = static_cast<int>(own) + toPixels(static_cast<double>(logical));
+  }
+  return line;
+}
+
+// Where the baseline starts, as seen from the reference point, before the text is turned.
+QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
+  QPoint start;
+  if ((align & AlignSideways) == AlignRight) start.setX(-line.Width);
+  if ((align & AlignSideways) == AlignCentre) start.setX(-line.Width / 2);
+  if ((align & AlignUpright) == AlignBottom) {
+    start.setY(-font.Descent);
+  } else if ((align & AlignUpright) != AlignBaseline) {
+    start.setY(font.Ascent);
+  }
+  return start;
+}
+
+QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransform& place,
+                   const QRect& area) {
+  QImage image = NewImage(area.size(), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setFont(font.Face);
+  painter.setPen(Qt::black);
+  for (std::size_t i = 0; i < line.Letters.size(); ++i) {
+    const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
+    const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+    const QTransform shape(font.Stretch, 0, -font.Slant, 1, 0, 0);
+    const QTransform turn(place.m11(), place.m12(), place.m21(), place.m22(), whole.x(), whole.y());
+    painter.setTransform(shape * turn);
+    painter.drawText(QPointF(0, 0), line.Letters[i].Text);
+  }
+  painter.end();
+  QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
+  for (int y = 0; y < mask.height(); ++y) {
+    const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    uchar* to = mask.scanLine(y);
+    for (int x = 0; x < mask.width(); ++x) to[x] = qGreen(from[x]) < 128 ? 1 : 0;
+  }
+  return mask;
+}
+
+// Text is laid over what is there, whatever the raster operation.
+Paint Plain(const DeviceContext& context, ColourRef colour) {
+  return {.Operation = 13, .Colour = context.Resolve(colour), .Pattern = {}};
+}
+
+void DrawRun(DeviceContext& context, const TextRun& run, bool ground) {
+  Surface& target = context.Target();
+  DeviceState& state = context.State;
+  if (!target.Spend(run.Bytes.size() * WorkPerLetter)) return;
+  const bool update = (state.TextAlign & AlignUpdate) != 0;
+  const QPoint reference = update ? state.Position : run.At;
+  const MatchedFont font = MatchFont(context);
+  const TextLine line = LayOut(context, run, font);
+
+  const QPoint origin = context.ToDevice(QPointF(reference));
+  const QPoint start = BaselineStart(state.TextAlign, line, font);
+  QTransform place = QTransform::fromTranslate(origin.x(), origin.y());
+  if (state.CurrentFont.Escapement != 0) place.rotate(-state.CurrentFont.Escapement / 10.0);
+  place.translate(start.x(), start.y());
+
+  const QRectF cell(0, -font.Ascent, line.Width, font.Ascent + font.Descent);
+  if (ground) {
+    target.Polygons({place.map(QPolygonF(cell))}, true, Plain(context, state.BackColour));
+  }
+  const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
+  const QRect bounds =
+      place.mapRect(cell.adjusted(-overhang, -overhang, overhang, overhang)).toAlignedRect();
+  const QRect inner = place.mapRect(cell).toAlignedRect();
+  const QRect area = bounds.intersected(target.Area());
+  if (target.Touch(context.Measured() ? inner : bounds) &&
+      target.Spend(std::int64_t{2} * area.width() * area.height())) {
+    target.Mask(DrawLetters(line, font, place, area), area.topLeft(),
+                Plain(context, state.TextColour));
+  }
+  const double scale = std::abs(context.Scale().x());
+  if (update && (state.TextAlign & AlignSideways) != AlignCentre && scale > 0) {
+    const double walked = std::clamp(line.Width / scale, -1e6, 1e6);
+    const bool backwards = (state.TextAlign & AlignSideways) == AlignRight;
+    state.Position.rx() += static_cast<int>(std::lround(backwards ? -walked : walked));
+    state.Position.setX(std::clamp(state.Position.x(), -1 << 24, 1 << 24));
+  }
+}
+
+void PlayTextOut(DeviceContext& context, const MetafileRecord& record) {
+  const qsizetype count = std::min<qsizetype>(record.Word(0), MaxLetters);
+  const QByteArrayView text = record.From(1);
+  const qsizetype after = 1 + (qsizetype{record.Word(0)} + 1) / 2;
+  DrawRun(context,
+          {.Bytes = text.first(std::min(count, text.size())),
+           .At = record.PointYX(after),
+           .Advance = {}},
+          context.State.Opaque);
+}
+
+void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
+  Surface& target = context.Target();
+  const qsizetype count = record.Word(2);
+  const int options = record.Word(3);
+  const bool hasRect = (options & (OptionOpaque | OptionClipped)) != 0;
+  const qsizetype textAt = hasRect ? 8 : 4;
+  const QRect rect = context.ToDevice(record.Int(4), record.Int(5), record.Int(6), record.Int(7));
+  if ((options & OptionOpaque) != 0) {
+    target.Rectangle(rect, Plain(context, context.State.BackColour));
+  }
+  if (count == 0 || (options & OptionGlyphs) != 0) return;
+  const QByteArrayView text = record.From(textAt);
+  TextRun run{.Bytes = text.first(std::min({count, text.size(), MaxLetters})),
+              .At = record.PointYX(0),
+              .Advance = {}};
+  const qsizetype advanceAt = textAt + (count + 1) / 2;
+  if (record.Words() >= advanceAt + count) {
+    for (qsizetype i = 0; i < count; ++i) run.Advance.push_back(record.Int(advanceAt + i));
+  }
+  const QImage clip = target.Clip();
+  if ((options & OptionClipped) != 0) target.IntersectClip(rect);
+  DrawRun(context, run, context.State.Opaque && (options & OptionOpaque) == 0);
+  target.SetClip(clip);
+}
+
+}  // namespace
+
+bool PlayTextRecord(DeviceContext& context, const MetafileRecord& record) {
+  switch (record.Function) {
+    case 0x0521:
+      PlayTextOut(context, record);
+      return true;
+    case 0x0A32:
+      PlayExtTextOut(context, record);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace terramark::pictures

@@ -1,0 +1,25 @@
+// A vertical scroll bar: its control hears of a value when the thumb is let go, and of every step.
+#pragma once
+
+#include <QScrollBar>
+
+#include "forms/controls.h"
+#include "window/controlview.h"
+
+namespace terramark::window {
+
+class BarView : public QScrollBar, public ControlView {
+ public:
+  BarView(forms::VScrollBar& bar, QWidget& container);
+
+  bool OwnMouse() const override { return true; }
+
+ protected:
+  void ShowOwn(forms::PropertyId id) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  forms::VScrollBar& bar_;
+};
+
+}  // namespace terramark::window

@@ -1,0 +1,78 @@
+#include "window/buttonview.h"
+
+#include <qdrawutil.h>
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "forms/form.h"
+#include "window/keyfeed.h"
+#include "window/look.h"
+#include "window/showntext.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr int EdgeWidth = 2;
+constexpr int DarkFace = 75;  // of 255, by the eye's weights
+
+bool Pushes(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Space || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
+    : QPushButton(&container), ControlView(button, *this), button_(button) {
+  setFocusPolicy(Qt::StrongFocus);
+  ShowOwn(forms::PropertyId::Caption);
+  // By a dialog whose Enter key found nobody else, or by an assistive tool.
+  connect(this, &QPushButton::clicked, this, [this] {
+    button_.Owner()->Pointer.PressKey(button_, KeyMask(QGuiApplication::keyboardModifiers()));
+  });
+}
+
+void ButtonView::ShowOwn(forms::PropertyId id) {
+  if (id == forms::PropertyId::Caption) {
+    // A single "&" would make a shortcut.
+    setText(ShownText(button_.Caption, Qt::ElideMiddle).replace('&', "&&"));
+  }
+  update();
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event) {
+  if (!Pushes(*event)) {
+    // A change of mind. The arrows, which would go to a neighbour here, belong to the form.
+    if (event->key() == Qt::Key_Escape) setDown(false);
+    return event->ignore();
+  }
+  if (!event->isAutoRepeat()) setDown(true);
+}
+
+void ButtonView::keyReleaseEvent(QKeyEvent* event) {
+  if (!Pushes(*event)) return event->ignore();
+  if (event->isAutoRepeat() || !isDown()) return;
+  setDown(false);
+  button_.Owner()->Pointer.PressKey(button_, KeyMask(event->modifiers()));
+}
+
+void ButtonView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor colour = ScreenColour(button_.BackColor);
+  const QBrush face(colour);
+  qDrawWinButton(&painter, rect(), palette(), isDown(), &face);
+  QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
+  if (isDown()) inside.translate(1, 1);
+  QColor ink = palette().color(QPalette::ButtonText);
+  if (isEnabled() && qGray(colour.rgb()) < DarkFace) ink = Qt::white;
+  painter.setPen(ink);
+  // Of a file's path both ends are worth seeing.
+  DrawCaption(painter, inside, ShownText(button_.Caption, Qt::ElideMiddle), Qt::ElideMiddle);
+  if (!hasFocus()) return;
+  painter.setPen(QPen(ink, 1, Qt::DotLine));
+  painter.drawRect(inside.adjusted(1, 0, -2, -1));
+}
+
+}  // namespace terramark::window

@@ -1,0 +1,93 @@
+#include "window/controlview.h"
+
+#include "forms/form.h"
+#include "forms/geometry.h"
+#include "window/barview.h"
+#include "window/buttonview.h"
+#include "window/canvasview.h"
+#include "window/cp1252.h"
+#include "window/frameview.h"
+#include "window/labelview.h"
+#include "window/look.h"
+#include "window/memoview.h"
+#include "window/textview.h"
+
+namespace terramark::window {
+
+namespace {
+
+/// Control arrays begin at element 0, so a name alone does not tell one from a lone control.
+bool InArray(const forms::Control& control) {
+  for (const forms::Control* other : control.Owner()->Controls()) {
+    if (other != &control && other->Name() == control.Name()) return true;
+  }
+  return false;
+}
+
+QString NameOf(const forms::Control& control) {
+  const QString name = FromCp1252(control.Name());
+  return InArray(control) ? QString("%1(%2)").arg(name).arg(control.Index()) : name;
+}
+
+}  // namespace
+
+ControlView::ControlView(forms::Control& control, QWidget& widget)
+    : control_(control), widget_(widget) {
+  const QString hint = FromCp1252(control.ToolTipText);
+  widget.setObjectName(NameOf(control));
+  widget.setToolTip(hint);
+  widget.setAccessibleName(hint);
+  widget.setFont(ControlFont(control.Owner()->Host));
+  widget.setGeometry(BoundsOf(control));
+  widget.setEnabled(control.Enabled);
+  widget.setVisible(control.Visible);
+}
+
+void ControlView::Changed(forms::PropertyId id) {
+  switch (id) {
+    case forms::PropertyId::Left:
+    case forms::PropertyId::Top:
+    case forms::PropertyId::Width:
+    case forms::PropertyId::Height:
+      widget_.setGeometry(BoundsOf(control_));
+      break;
+    case forms::PropertyId::Visible:
+      widget_.setVisible(control_.Visible);
+      break;
+    case forms::PropertyId::Enabled:
+      widget_.setEnabled(control_.Enabled);
+      break;
+    default:
+      ShowOwn(id);
+  }
+}
+
+QRect BoundsOf(const forms::Control& control) {
+  const forms::PixelRect bounds = forms::PixelBounds(control);
+  return {bounds.Left, bounds.Top, bounds.Width, bounds.Height};
+}
+
+std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& container) {
+  switch (control.Kind()) {
+    case forms::ControlKind::Label:
+      return std::make_unique<LabelView>(static_cast<forms::Label&>(control), container);
+    case forms::ControlKind::CommandButton:
+      return std::make_unique<ButtonView>(static_cast<forms::CommandButton&>(control), container);
+    case forms::ControlKind::Frame:
+      return std::make_unique<FrameView>(static_cast<forms::Frame&>(control), container);
+    case forms::ControlKind::VScrollBar:
+      return std::make_unique<BarView>(static_cast<forms::VScrollBar&>(control), container);
+    case forms::ControlKind::PictureBox:
+      return std::make_unique<CanvasView>(static_cast<forms::PictureBox&>(control), container);
+    case forms::ControlKind::TextBox: {
+      auto& box = static_cast<forms::TextBox&>(control);
+      if (box.MultiLine) return std::make_unique<MemoView>(box, container);
+      return std::make_unique<TextView>(box, container);
+    }
+    case forms::ControlKind::Form:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace terramark::window

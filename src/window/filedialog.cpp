@@ -1,0 +1,108 @@
+#include "window/filedialog.h"
+
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMimeDatabase>
+#include <QScreen>
+#include <QSettings>
+#include <QTreeView>
+#include <algorithm>
+
+#include "window/cp1252.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr QSize UsualSize(760, 480);
+
+/// What the files of a pattern list are called.
+struct FileKind {
+  const char* Filter;
+  const char* Name;
+};
+
+constexpr FileKind Kinds[] = {{"*.tml", "Map Layouts"}, {"*.wmf;*.bmp", "Pictures"}};
+
+QString Worded(const std::string& filter) {
+  // Patterns stand between semicolons here and between blanks there.
+  QString patterns = FromCp1252(filter).replace(';', ' ');
+  for (const FileKind& kind : Kinds) {
+    if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
+  }
+  return patterns;
+}
+
+/// Tells a file's kind by its name alone. The dialog would look into each file that it lists, and
+/// one that keeps its reader waiting would hold the editor for ever.
+class KindByName : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& file) const override { return icon(file.isDir() ? Folder : File); }
+  QString type(const QFileInfo& file) const override {
+    if (file.isDir()) return QFileDialog::tr("Folder");
+    return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+  }
+};
+
+bool Fits(const QString& name) {
+  // A line end in a name would end the line of the layout that holds it.
+  return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+}
+
+/// The dialog would find its columns and folders again in the next run, and so would that of any
+/// other program; nothing but the layouts outlives a run here.
+void ForgetSettings() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
+
+/// Makes the dialog as wide as its columns, as far as the screen goes.
+void WidenFor(const QTreeView& list, QFileDialog& chooser) {
+  const int lack = list.header()->length() - list.viewport()->width();
+  if (!chooser.isVisible() || lack <= 0) return;
+  const QRect screen = chooser.screen()->availableGeometry();
+  chooser.resize(std::min(chooser.width() + lack, screen.width()), chooser.height());
+  const int beyond = chooser.frameGeometry().right() - screen.right();
+  if (beyond > 0) chooser.move(std::max(screen.left(), chooser.x() - beyond), chooser.y());
+}
+
+/// The dialog's own columns are too narrow for a date.
+void ShowWholeColumns(QFileDialog& chooser) {
+  chooser.setViewMode(QFileDialog::Detail);
+  chooser.resize(UsualSize);
+  auto* const list = chooser.findChild<QTreeView*>();
+  if (list == nullptr) return;
+  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // The columns grow when the folder has been read; how far is known when all of them have.
+  QObject::connect(
+      list->header(), &QHeaderView::sectionResized, &chooser,
+      [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
+}
+
+}  // namespace
+
+void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
+  const QString title = QFileInfo(path).fileName();
+  dialog.FileName = ToCp1252(path);
+  dialog.FileTitle = ToCp1252(title);
+  dialog.FileNameFits = Fits(path);
+  dialog.FileTitleFits = Fits(title);
+}
+
+QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
+  ForgetSettings();
+  KindByName kinds;
+  QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), folder);
+  chooser.setOption(QFileDialog::DontUseNativeDialog);
+  chooser.setIconProvider(&kinds);
+  chooser.setAcceptMode(QFileDialog::AcceptOpen);
+  chooser.setFileMode(QFileDialog::AnyFile);
+  chooser.setNameFilters({Worded(filter), "All files (*)"});
+  ShowWholeColumns(chooser);
+  if (chooser.exec() != QDialog::Accepted) return {};
+  return chooser.selectedFiles().value(0);
+}
+
+}  // namespace terramark::window

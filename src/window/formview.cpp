@@ -1,0 +1,177 @@
+#include "window/formview.h"
+
+#include <QEvent>
+#include <algorithm>
+
+#include "forms/geometry.h"
+#include "window/canvasview.h"
+#include "window/controlview.h"
+#include "window/cp1252.h"
+#include "window/look.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr int DragScrollMilliseconds = 20;
+
+/// Labels on a picture are drawn by its canvas.
+bool OnCanvas(const forms::Control& control) {
+  return control.Container()->Kind() == forms::ControlKind::PictureBox;
+}
+
+}  // namespace
+
+FormView::FormView(forms::Form& form, QWidget* parent)
+    : QWidget(parent), form_(form), pointer_(form, *this), keys_(form) {
+  setObjectName("inside");
+  pointer_.Watch(*this, false);
+  keys_.Watch(*this, nullptr);
+  if (parent != nullptr) keys_.Watch(*parent, nullptr);
+  FormChanged(forms::PropertyId::BackColor);
+  for (forms::Control* control : form.Controls()) ControlAdded(*control);
+  LayTabOrder();
+  dragScroll_.setInterval(DragScrollMilliseconds);
+  connect(&dragScroll_, &QTimer::timeout, this, [this] { form_.Pointer.ScrollByDrag(); });
+  form.Observe(this);
+}
+
+FormView::~FormView() {
+  form_.Observe(nullptr);
+  // A container would delete the widgets in it.
+  while (!views_.empty()) views_.pop_back();
+}
+
+void FormView::ControlAdded(forms::Control& control) {
+  if (ViewOf(control) != nullptr) return;
+  forms::Control& container = *control.Container();
+  const bool inForm = &container == &form_;
+  // The tab order may name a control before the frame around it.
+  if (!inForm) ControlAdded(container);
+  if (OnCanvas(control)) return ShowOnCanvas(control);
+  views_.push_back(MakeView(control, inForm ? *this : ViewOf(container)->Widget()));
+  Attend(*views_.back());
+}
+
+/// Listens to the mouse over a view and over what the view is made of, and to its keys.
+void FormView::Attend(ControlView& view) {
+  QWidget& widget = view.Widget();
+  pointer_.Watch(widget, view.OwnMouse());
+  for (QWidget* part : widget.findChildren<QWidget*>()) pointer_.Watch(*part, true);
+  // Others get only the keys that those in them have left.
+  if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, &view.Shown());
+}
+
+void FormView::LayTabOrder() {
+  QWidget* last = nullptr;
+  for (const forms::Control* control : form_.Controls()) {
+    QWidget* widget = WidgetOf(*control);
+    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+    if (last != nullptr) setTabOrder(last, widget);
+    if (last == nullptr) widget->setFocus();
+    last = widget;
+  }
+}
+
+QSize FormView::DesignSize() const {
+  const forms::PixelRect bounds = forms::PixelBounds(form_);
+  return {bounds.Width, bounds.Height};
+}
+
+void FormView::DressWindow() {
+  window()->setWindowIcon(WindowIcon());
+  FormChanged(forms::PropertyId::Caption);
+  FormChanged(forms::PropertyId::Left);
+}
+
+void FormView::FormChanged(forms::PropertyId id) {
+  switch (id) {
+    case forms::PropertyId::Caption:
+      window()->setWindowTitle(FromCp1252(form_.Caption));
+      break;
+    case forms::PropertyId::Left:
+    case forms::PropertyId::Top:
+      window()->move(qRound(form_.Left / form_.Host.TwipsPerPixelX()),
+                     qRound(form_.Top / form_.Host.TwipsPerPixelY()));
+      break;
+    case forms::PropertyId::BackColor: {
+      QPalette colours = palette();
+      colours.setColor(QPalette::Window, ScreenColour(form_.BackColor));
+      setPalette(colours);
+      setAutoFillBackground(true);
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+ControlView* FormView::ViewOf(const forms::Control& control) const {
+  const auto view = std::find_if(views_.begin(), views_.end(), [&control](const auto& candidate) {
+    return &candidate->Shown() == &control;
+  });
+  return view == views_.end() ? nullptr : view->get();
+}
+
+QWidget* FormView::WidgetOf(const forms::Control& control) const {
+  const ControlView* view = ViewOf(control);
+  return view == nullptr ? nullptr : &view->Widget();
+}
+
+void FormView::ControlRemoved(forms::Control& control) {
+  for (const auto& view : views_) {
+    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->LabelGone(control);
+  }
+  std::erase_if(views_, [&control](const auto& view) { return &view->Shown() == &control; });
+}
+
+void FormView::PropertyChanged(forms::Control& control, forms::PropertyId id) {
+  if (&control == &form_) return FormChanged(id);
+  if (OnCanvas(control)) return ShowOnCanvas(control);
+  if (ControlView* view = ViewOf(control)) view->Changed(id);
+}
+
+void FormView::ShowOnCanvas(const forms::Control& label) {
+  static_cast<CanvasView*>(ViewOf(*label.Container()))->LabelChanged(label);
+}
+
+void FormView::Restacked(forms::Control& control) {
+  if (OnCanvas(control)) return ShowOnCanvas(control);
+  for (const forms::Control* inOrder : control.Container()->Children()) {
+    if (QWidget* widget = WidgetOf(*inOrder)) widget->raise();
+  }
+}
+
+void FormView::FocusMoved(forms::Control& control) {
+  if (&control == &form_) return setFocus();
+  if (QWidget* widget = WidgetOf(control)) widget->setFocus();
+}
+
+void FormView::Refreshed(forms::Control& control) {
+  if (OnCanvas(control)) return ShowOnCanvas(control);
+  if (QWidget* widget = WidgetOf(control)) widget->update();
+}
+
+void FormView::DragMoved() {
+  for (const auto& view : views_) {
+    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->DragMoved();
+  }
+  const bool dragging = form_.Pointer.InFlight().has_value();
+  if (dragging == dragScroll_.isActive()) return;
+  if (dragging) {
+    dragScroll_.start();
+  } else {
+    dragScroll_.stop();
+  }
+}
+
+void FormView::Unloaded() {
+  if (OnUnload) OnUnload();
+}
+
+bool FormView::event(QEvent* event) {
+  if (event->type() == QEvent::WindowDeactivate) form_.Pointer.CancelDrag();
+  return QWidget::event(event);
+}
+
+}  // namespace terramark::window

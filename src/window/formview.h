@@ -1,0 +1,62 @@
+// The inside of a form: a widget for each control of its table, brought into line with every change
+// of the form. The window or dialog that holds it gets the form's caption and place.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "forms/form.h"
+#include "window/keyfeed.h"
+#include "window/pointerfeed.h"
+
+namespace terramark::window {
+
+class ControlView;
+
+class FormView : public QWidget, private forms::FormObserver {
+ public:
+  /// The form must outlive the view. It has one view at a time.
+  FormView(forms::Form& form, QWidget* parent);
+  ~FormView() override;
+
+  /// Size of the form's client area, in pixels.
+  QSize DesignSize() const;
+  /// Puts the form's caption, icon and place on the window that holds the view.
+  void DressWindow();
+  /// The widget of a control; null for a label on a picture.
+  QWidget* WidgetOf(const forms::Control& control) const;
+
+  /// Called when the form is unloaded.
+  std::function<void()> OnUnload;
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  void ControlAdded(forms::Control& control) override;
+  void ControlRemoved(forms::Control& control) override;
+  void PropertyChanged(forms::Control& control, forms::PropertyId id) override;
+  void Restacked(forms::Control& control) override;
+  void FocusMoved(forms::Control& control) override;
+  void Refreshed(forms::Control& control) override;
+  void DragMoved() override;
+  void Unloaded() override;
+
+  void FormChanged(forms::PropertyId id);
+  void ShowOnCanvas(const forms::Control& label);
+  ControlView* ViewOf(const forms::Control& control) const;
+  void Attend(ControlView& view);
+  void LayTabOrder();
+
+  forms::Form& form_;
+  PointerFeed pointer_;
+  KeyFeed keys_;
+  QTimer dragScroll_;
+  /// A container stands before what is in it.
+  std::vector<std::unique_ptr<ControlView>> views_;
+};
+
+}  // namespace terramark::window

@@ -1,0 +1,42 @@
+#include "window/frameview.h"
+
+#include <qdrawutil.h>
+
+#include <QPainter>
+
+#include "window/look.h"
+#include "window/showntext.h"
+
+namespace terramark::window {
+
+namespace {
+constexpr int CaptionLeft = 8;
+constexpr int CaptionPadding = 2;
+}  // namespace
+
+FrameView::FrameView(forms::Frame& frame, QWidget& container)
+    : QGroupBox(&container), ControlView(frame, *this), frame_(frame) {
+  ShowOwn(forms::PropertyId::Caption);
+}
+
+void FrameView::ShowOwn(forms::PropertyId id) {
+  if (id == forms::PropertyId::Caption) setTitle(ShownText(frame_.Caption).replace('&', "&&"));
+  update();
+}
+
+void FrameView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor face = ScreenColour(frame_.BackColor);
+  const QFontMetrics metrics = painter.fontMetrics();
+  painter.fillRect(rect(), face);
+  qDrawShadeRect(&painter, rect().adjusted(0, metrics.height() / 2, 0, 0), palette(), true);
+  const QString caption = ShownText(frame_.Caption);
+  if (caption.isEmpty()) return;
+  const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;
+  const QRect place(CaptionLeft, 0, qMin(width, this->width() - 2 * CaptionLeft), metrics.height());
+  painter.fillRect(place, face);
+  painter.setPen(palette().color(QPalette::WindowText));
+  DrawCaption(painter, place, caption, Qt::ElideRight);
+}
+
+}  // namespace terramark::window

@@ -1,0 +1,46 @@
+// Brings the keys and the focus of a form's widgets to the form.
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <QWidget>
+#include <cstdint>
+#include <unordered_map>
+
+#include "forms/form.h"
+
+namespace terramark::window {
+
+/// The key mask Shift of the forms layer.
+std::int16_t KeyMask(Qt::KeyboardModifiers modifiers);
+
+class KeyFeed : public QObject {
+ public:
+  explicit KeyFeed(forms::Form& form) : form_(form) {}
+
+  /// The widget takes the focus for the control, or with null for the form itself. The form hears
+  /// the keys of the widget that has the focus before that widget does.
+  void Watch(QWidget& widget, forms::Control* control);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool Hears(const QObject& watched, const QKeyEvent& key);
+  bool Pressed(const QKeyEvent& key);
+  void Released(const QKeyEvent& key);
+
+  /// What tells one event from another.
+  struct Stamp {
+    const QKeyEvent* Event = nullptr;
+    QEvent::Type Type = QEvent::None;
+    std::uint64_t Time = 0;
+    bool operator==(const Stamp&) const = default;
+  };
+
+  forms::Form& form_;
+  std::unordered_map<const QObject*, forms::Control*> controls_;
+  Stamp heard_;
+};
+
+}  // namespace terramark::window

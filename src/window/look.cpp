@@ -1,0 +1,114 @@
+#include "window/look.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QProxyStyle>
+#include <cmath>
+#include <memory>
+
+#include "shell/icon.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr float FontTwips = 8.25F * 20;
+constexpr double DialogPoints = 9;
+
+const QColor Face(0xC0, 0xC0, 0xC0);
+const QColor Shadow(0x80, 0x80, 0x80);
+const QColor Greyed(0x58, 0x58, 0x58);
+const QColor Marked(0x00, 0x00, 0x80);
+const QColor Hint(0xFF, 0xFF, 0xE1);
+
+/// The buttons of a box stand with the agreeing one first, on every desktop.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle("Fusion") {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+QPalette LightPalette() {
+  QPalette palette(Qt::black, Face, Qt::white, Shadow, Greyed, Qt::black, Qt::white, Qt::white,
+                   Face);
+  palette.setColor(QPalette::Shadow, Qt::black);
+  palette.setColor(QPalette::Highlight, Marked);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, Hint);
+  palette.setColor(QPalette::ToolTipText, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, Greyed);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, Greyed);
+  }
+  return palette;
+}
+
+QFont FamilyFont() {
+  QFont font;
+  font.setFamilies({"Arial", "Liberation Sans"});
+  return font;
+}
+
+}  // namespace
+
+void SetUpLook(QApplication& application) {
+  // The application takes the style over.
+  QApplication::setStyle(std::make_unique<Style>().release());
+  QApplication::setPalette(LightPalette());
+  QFont font = FamilyFont();
+  font.setPointSizeF(DialogPoints);
+  QApplication::setFont(font);
+  application.setWindowIcon(WindowIcon());
+}
+
+QIcon WindowIcon() {
+  const forms::Picture icon = ProgramIcon();
+  const QImage image(reinterpret_cast<const uchar*>(icon->Pixels.data()), icon->Width, icon->Height,
+                     QImage::Format_RGB32);
+  // A pixmap may share an image's memory, which here goes with the picture.
+  return QPixmap::fromImage(image.copy());
+}
+
+QColor ScreenColour(forms::Color colour) {
+  switch (colour) {
+    case forms::SysWindow:
+      return Qt::white;
+    case forms::SysWindowText:
+      return Qt::black;
+    case forms::SysButtonFace:
+      return Face;
+    default:
+      return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
+              static_cast<int>(colour >> 16U & 0xFFU)};
+  }
+}
+
+QFont ControlFont(forms::Desktop& host) {
+  QFont font = FamilyFont();
+  font.setBold(true);
+  font.setPixelSize(static_cast<int>(std::lround(FontTwips / host.TwipsPerPixelY())));
+  return font;
+}
+
+void DrawCaption(QPainter& painter, const QRect& area, const QString& text,
+                 Qt::TextElideMode cutAt) {
+  const QFontMetrics metrics = painter.fontMetrics();
+  if (metrics.horizontalAdvance(text) <= area.width()) {
+    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, text);
+  } else {
+    painter.drawText(area, Qt::AlignVCenter | Qt::TextSingleLine,
+                     metrics.elidedText(text, cutAt, area.width()));
+  }
+}
+
+}  // namespace terramark::window

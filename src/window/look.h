@@ -1,0 +1,35 @@
+// How the window looks whatever the desktop's theme: style, colours, the controls' font.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QFontMetrics>
+
+#include "forms/color.h"
+#include "forms/desktop.h"
+
+class QApplication;
+class QIcon;
+class QPainter;
+class QRect;
+
+namespace terramark::window {
+
+/// Gives the application its own light look; once, before the first widget is made.
+void SetUpLook(QApplication& application);
+
+/// The program's icon for windows.
+QIcon WindowIcon();
+
+/// A system colour or 0x00BBGGRR on the screen.
+QColor ScreenColour(forms::Color colour);
+
+/// Arial 8.25 pt bold or what has its measures, sized by the screen's twips.
+QFont ControlFont(forms::Desktop& host);
+
+/// Draws one line of text into the rectangle: in the middle, or from the left with an ellipsis at
+/// the place told where it does not fit.
+void DrawCaption(QPainter& painter, const QRect& area, const QString& text,
+                 Qt::TextElideMode cutAt);
+
+}  // namespace terramark::window

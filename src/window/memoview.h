@@ -1,0 +1,24 @@
+// A text box of several lines, to be read only.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "forms/controls.h"
+#include "window/controlview.h"
+
+namespace terramark::window {
+
+class MemoView : public QPlainTextEdit, public ControlView {
+ public:
+  MemoView(forms::TextBox& box, QWidget& container);
+
+  bool OwnMouse() const override { return true; }
+
+ protected:
+  void ShowOwn(forms::PropertyId id) override;
+
+ private:
+  forms::TextBox& box_;
+};
+
+}  // namespace terramark::window

@@ -1,0 +1,133 @@
+#include "window/pointerfeed.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include "window/keyfeed.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr Qt::MouseButton Buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+constexpr char OwnMouse[] = "ownMouse";
+/// A place where no control stands.
+constexpr QPoint Nowhere(-10000, -10000);
+
+/// 0 for a button that the forms layer does not know.
+std::int16_t CodeOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return forms::LeftButton;
+    case Qt::RightButton:
+      return forms::RightButton;
+    case Qt::MiddleButton:
+      return forms::MiddleButton;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+void PointerFeed::Watch(QWidget& widget, bool ownMouse) {
+  widget.setProperty(OwnMouse, ownMouse);
+  widget.setMouseTracking(true);
+  // What a widget leaves is not offered to those below it, which would feed it twice.
+  widget.setAttribute(Qt::WA_NoMousePropagation);
+  widget.installEventFilter(this);
+}
+
+bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
+  auto& widget = *static_cast<QWidget*>(watched);
+  bool forHelp = asksHelp_;
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      Press(widget, *static_cast<QMouseEvent*>(event));
+      forHelp = asksHelp_;
+      break;
+    case QEvent::MouseMove:
+      Move(*static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::MouseButtonRelease: {
+      const auto& mouse = *static_cast<QMouseEvent*>(event);
+      forHelp = forHelp || (heard_ && KeyMask(mouse.modifiers()) == forms::ShiftKey);
+      Release(In(mouse), mouse.button(), mouse.modifiers());
+      break;
+    }
+    case QEvent::ContextMenu:
+      return ContextMenu(widget, *static_cast<QContextMenuEvent*>(event));
+    default:
+      return false;
+  }
+  return forHelp || !(widget.isEnabled() && widget.property(OwnMouse).toBool());
+}
+
+QPoint PointerFeed::In(const QMouseEvent& event) const {
+  return inside_.mapFromGlobal(event.globalPosition().toPoint());
+}
+
+void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
+  if (CodeOf(event.button()) == 0) return;
+  ReleaseLost(event);
+  const QPoint at = In(event);
+  if (down_ == Qt::NoButton) {
+    if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
+    heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
+    asksHelp_ = heard_ && KeyMask(event.modifiers()) == forms::ShiftKey;
+  }
+  down_ |= event.button();
+  if (held_) held_->setDown(true);
+  form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));
+}
+
+void PointerFeed::Move(const QMouseEvent& event) {
+  ReleaseLost(event);
+  const QPoint at = In(event);
+  if (held_) held_->setDown(held_->rect().contains(held_->mapFrom(&inside_, at)));
+  form_.Pointer.Move(at.x(), at.y(), KeyMask(event.modifiers()));
+}
+
+void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  if (CodeOf(button) == 0) return;
+  down_.setFlag(button, false);
+  if (held_) held_->setDown(false);
+  if (down_ == Qt::NoButton) {
+    held_.clear();
+    asksHelp_ = false;
+  }
+  if (form_.Pointer.InFlight() && !Shows(at)) at = Nowhere;
+  form_.Pointer.Release(at.x(), at.y(), CodeOf(button), KeyMask(keys));
+}
+
+/// Whether the window shows a place of the form: it has not been made too small for it, and no
+/// other window lies over it. X11 alone tells of other programs' windows, by naming none of ours.
+bool PointerFeed::Shows(QPoint at) const {
+  if (!inside_.rect().contains(at)) return false;
+  const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
+  if (over == nullptr) return QGuiApplication::platformName() != "xcb";
+  return over == inside_.window()->windowHandle();
+}
+
+/// A menu or a box that came up while a button was down has swallowed its release.
+void PointerFeed::ReleaseLost(const QMouseEvent& event) {
+  for (const Qt::MouseButton button : Buttons) {
+    const bool pressedNow = event.type() != QEvent::MouseMove && event.button() == button;
+    if (!down_.testFlag(button) || (event.buttons().testFlag(button) && !pressedNow)) continue;
+    form_.Pointer.CancelDrag();
+    Release(In(event), button, event.modifiers());
+  }
+}
+
+/// Text boxes have a menu, which swallows the release; with the Shift key a press asks for help
+/// instead.
+bool PointerFeed::ContextMenu(QWidget& widget, const QContextMenuEvent& event) {
+  if (event.modifiers().testFlag(Qt::ShiftModifier)) return true;
+  if (!widget.property(OwnMouse).toBool()) return true;
+  const QPoint at = inside_.mapFromGlobal(event.globalPos());
+  if (down_.testFlag(Qt::RightButton)) Release(at, Qt::RightButton, event.modifiers());
+  return false;
+}
+
+}  // namespace terramark::window

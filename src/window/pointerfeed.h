@@ -1,0 +1,47 @@
+// Brings the mouse over all widgets of a form to the form's pointer router, in pixels of the form's
+// inside, and shows which button is held down. A press with the Shift key alone, on what hears its
+// release, asks for help and never reaches the widget.
+#pragma once
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QObject>
+#include <QPointer>
+#include <QPushButton>
+
+#include "forms/form.h"
+#include "window/controlview.h"
+
+namespace terramark::window {
+
+class PointerFeed : public QObject {
+ public:
+  /// inside is the widget that shows the form's inside; the widgets watched are in it.
+  PointerFeed(forms::Form& form, QWidget& inside) : form_(form), inside_(inside) {}
+
+  /// Hears the mouse over the widget and all that it holds by now. The widget itself sees the mouse
+  /// only when ownMouse says so, and then after the router.
+  void Watch(QWidget& widget, bool ownMouse);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Press(QWidget& widget, const QMouseEvent& event);
+  void Move(const QMouseEvent& event);
+  void Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys);
+  bool ContextMenu(QWidget& widget, const QContextMenuEvent& event);
+  void ReleaseLost(const QMouseEvent& event);
+  QPoint In(const QMouseEvent& event) const;
+  bool Shows(QPoint at) const;
+
+  forms::Form& form_;
+  QWidget& inside_;
+  Qt::MouseButtons down_;
+  QPointer<QPushButton> held_;
+  /// Of the press that holds the pointer: what it is on hears its release, and it asks for help.
+  bool heard_ = false;
+  bool asksHelp_ = false;
+};
+
+}  // namespace terramark::window

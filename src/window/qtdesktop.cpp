@@ -1,0 +1,130 @@
+#include "window/qtdesktop.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QScreen>
+#include <bit>
+#include <cstdio>
+#include <cstdlib>
+
+#include "pictures/pictureloader.h"
+#include "window/cp1252.h"
+#include "window/filedialog.h"
+#include "window/look.h"
+#include "window/modalform.h"
+#include "window/showntext.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr double TwipsPerInch = 1440;
+constexpr float MillisecondsPerSecond = 1000;
+/// Bits that a float holds exactly.
+constexpr unsigned FractionBits = 24;
+
+forms::Picture PictureOf(const QImage& image) {
+  auto raster = std::make_shared<forms::Raster>();
+  raster->Width = image.width();
+  raster->Height = image.height();
+  raster->Pixels.reserve(raster->At(0, raster->Height));
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    raster->Pixels.insert(raster->Pixels.end(), row, row + image.width());
+  }
+  return raster;
+}
+
+}  // namespace
+
+forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
+                                const std::string& title) {
+  const bool question = buttons == forms::Buttons::YesNo;
+  QMessageBox box(window_);
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowTitle(FromCp1252(title));
+  box.setText(WrappableText(text));
+  box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
+  box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+  const int pressed = box.exec();
+  if (!question) return forms::Answer::Ok;
+  return pressed == QMessageBox::Yes ? forms::Answer::Yes : forms::Answer::No;
+}
+
+void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
+  const QString folder = chosen_.isEmpty() ? QDir::currentPath() : QFileInfo(chosen_).path();
+  const QString path = AskForFile(dialog.Filter, folder, window_);
+  if (path.isEmpty()) return;
+  TakeChosenPath(dialog, path);
+  chosen_ = path;
+}
+
+void QtDesktop::ShowModal(forms::Form& form) {
+  ModalForm(form, window_).exec();
+}
+
+void QtDesktop::ShowHelp(const std::string& /*helpFile*/, std::int32_t topic) {
+  if (!help_) help_ = std::make_unique<HelpWindow>();
+  help_->Open(topic);
+}
+
+forms::DateTime QtDesktop::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
+}
+
+float QtDesktop::Timer() {
+  return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / MillisecondsPerSecond;
+}
+
+void QtDesktop::Randomize(float seed) {
+  random_.seed(std::bit_cast<std::uint32_t>(seed));
+}
+
+float QtDesktop::Rnd() {
+  const auto draw = static_cast<std::uint32_t>(random_()) >> (32U - FractionBits);
+  return static_cast<float>(draw) / static_cast<float>(1U << FractionBits);
+}
+
+float QtDesktop::TwipsPerPixelX() {
+  return static_cast<float>(TwipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchX());
+}
+
+float QtDesktop::TwipsPerPixelY() {
+  return static_cast<float>(TwipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchY());
+}
+
+forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
+  const QFontMetrics metrics(ControlFont(*this));
+  return {metrics.horizontalAdvance(ShownText(text)), metrics.height()};
+}
+
+forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
+  if (path.empty()) return std::make_shared<forms::Raster>();
+  const QImage image = pictures::LoadPictureFile(NativePath(path), QSize(width, height));
+  return image.isNull() ? nullptr : PictureOf(image);
+}
+
+std::filesystem::path QtDesktop::NativePath(const std::string& path) {
+  return QFile::encodeName(path == ToCp1252(chosen_) ? chosen_ : FromCp1252(path)).toStdString();
+}
+
+void QtDesktop::EnterFolderOf(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::current_path(NativePath(path).parent_path(), ignored);
+}
+
+void QtDesktop::End(int status) {
+  std::fflush(nullptr);
+  std::_Exit(status);
+}
+
+}  // namespace terramark::window

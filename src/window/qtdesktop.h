@@ -1,0 +1,51 @@
+// The world outside the editor, on Qt.
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "forms/desktop.h"
+#include "window/helpwindow.h"
+
+namespace terramark::window {
+
+class QtDesktop : public forms::Desktop {
+ public:
+  /// The window over which boxes and dialogs stand; none until it is set.
+  void StandOver(QWidget* window) { window_ = window; }
+
+  forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
+                       const std::string& title) override;
+  void ShowOpen(forms::CommonDialog& dialog) override;
+  void ShowModal(forms::Form& form) override;
+  /// The help is built in: the file's name is not looked at.
+  void ShowHelp(const std::string& helpFile, std::int32_t topic) override;
+
+  forms::DateTime Now() override;
+  float Timer() override;
+  void Randomize(float seed) override;
+  float Rnd() override;
+
+  float TwipsPerPixelX() override;
+  float TwipsPerPixelY() override;
+  forms::TextExtent MeasureText(const std::string& text) override;
+
+  forms::Picture LoadPicture(const std::string& path, int width, int height) override;
+  std::filesystem::path NativePath(const std::string& path) override;
+  void EnterFolderOf(const std::string& path) override;
+
+  [[noreturn]] void End(int status) override;
+
+ private:
+  QPointer<QWidget> window_;
+  std::unique_ptr<HelpWindow> help_;
+  /// The file chosen last in the file dialog; empty before the first.
+  QString chosen_;
+  std::mt19937 random_;
+};
+
+}  // namespace terramark::window

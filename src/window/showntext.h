@@ -1,0 +1,17 @@
+// What is shown of a text that may be of any length.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace terramark::window {
+
+/// As much of a text as a caption or a box shows: up to 500 characters, one of them an ellipsis
+/// where more are left out, at the end or in the middle. Costs the same however long the text is.
+QString ShownText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
+
+/// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
+/// characters are blanks.
+QString WrappableText(const std::string& text);
+
+}  // namespace terramark::window

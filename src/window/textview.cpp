@@ -1,0 +1,165 @@
+#include "window/textview.h"
+
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <limits>
+
+#include "window/cp1252.h"
+#include "window/look.h"
+
+namespace terramark::window {
+
+namespace {
+
+constexpr int SideMargin = 2;
+
+/// Of a longer text the box holds the beginning; what is behind stays as it is, also when the
+/// beginning is edited.
+constexpr std::size_t MostShown = 65536;
+
+/// What came in by an edit, as the box may hold it: composed, a line break or tab a blank, and "?"
+/// for a character that code page 1252 lacks.
+std::string Cleaned(QString insert) {
+  insert.replace("\r\n", " ");
+  for (QChar& character : insert) {
+    if (character < ' ') character = ' ';
+  }
+  return ToCp1252(ComposedForm(insert));
+}
+
+/// An edit, from a place of the text on.
+struct Edit {
+  qsizetype At;
+  qsizetype Cut;
+  QString Insert;
+};
+
+/// What an edit replaced, by the part of the text that was marked before it and the caret after it:
+/// behind the caret, and before the part or the caret, nothing changes.
+Edit EditBetween(const QString& before, const QString& after, qsizetype markedFrom,
+                 qsizetype caret) {
+  const qsizetype at = std::min(markedFrom, caret);
+  const qsizetype cut = before.size() - at - (after.size() - caret);
+  if (cut >= 0 && before.left(at) == after.left(at) &&
+      before.sliced(at + cut) == after.sliced(caret)) {
+    return {at, cut, after.sliced(at, caret - at)};
+  }
+  // An edit that was made anew, or by an input method, has changed some other place.
+  return {0, before.size(), after};
+}
+
+}  // namespace
+
+TextView::TextView(forms::TextBox& box, QWidget& container)
+    : QLineEdit(&container), ControlView(box, *this), box_(box) {
+  setFrame(false);
+  setTextMargins(SideMargin, 0, SideMargin, 0);
+  Limit(0);
+  ShowText();
+  ShowColours();
+  const auto note = [this] {
+    if (!editing_) NoteCaret();
+  };
+  connect(this, &QLineEdit::textEdited, this, &TextView::Edited);
+  connect(this, &QLineEdit::cursorPositionChanged, this, note);
+  connect(this, &QLineEdit::selectionChanged, this, note);
+}
+
+void TextView::NoteCaret() {
+  caret_ = cursorPosition();
+  markedFrom_ = hasSelectedText() ? selectionStart() : caret_;
+  markedSize_ = static_cast<int>(selectedText().size());
+}
+
+void TextView::Edited(const QString& edited) {
+  const QScopedValueRollback<bool> still(editing_, true);
+  const QString before = Showable();
+  const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
+  Take(before, edited);
+  if (const QString now = Showable(); now != text()) {
+    // Less may have come in than the line shows.
+    const auto size = static_cast<qsizetype>(box_.Text.Get().size());
+    const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
+    ShowText();
+    if (now == before) {
+      // An edit that was refused leaves the caret and the mark as they were.
+      const bool backwards = caret_ == markedFrom_;
+      setSelection(backwards ? markedFrom_ + markedSize_ : markedFrom_,
+                   backwards ? -markedSize_ : markedSize_);
+    } else {
+      setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
+    }
+  }
+  NoteCaret();
+}
+
+void TextView::Take(const QString& before, const QString& edited) {
+  if (isRedoAvailable()) {
+    // Taken back: the control has had this text, so it need not be held to the limit.
+    const auto shown = static_cast<std::size_t>(before.size());
+    box_.Text = ToCp1252(edited) + box_.Text.Get().substr(shown);
+    return;
+  }
+  const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
+  box_.Edited(static_cast<std::size_t>(edit.At), static_cast<std::size_t>(edit.Cut),
+              Cleaned(edit.Insert));
+}
+
+void TextView::inputMethodEvent(QInputMethodEvent* event) {
+  {
+    // It moves the caret before it tells of the edit.
+    const QScopedValueRollback<bool> still(editing_, true);
+    QLineEdit::inputMethodEvent(event);
+  }
+  NoteCaret();
+}
+
+void TextView::ShowOwn(forms::PropertyId id) {
+  // While an edit goes on, only what the control has in the end is shown.
+  if (id == forms::PropertyId::Text && !editing_) ShowText();
+  if (id == forms::PropertyId::Selection) {
+    // From the end to the front, so that of a long text the beginning shows.
+    const auto size = static_cast<int>(text().size());
+    setSelection(size, -size);
+  }
+  if (id == forms::PropertyId::BackColor || id == forms::PropertyId::ForeColor) ShowColours();
+}
+
+QString TextView::Showable() const {
+  return FromCp1252(box_.Text.Get().substr(0, MostShown));
+}
+
+void TextView::ShowText() {
+  const QString text = Showable();
+  if (text == this->text()) return;
+  Limit(text.size());
+  setText(text);
+  // A long text shows its beginning until the caret comes to it.
+  if (!hasFocus() && fontMetrics().horizontalAdvance(text) > width()) setCursorPosition(0);
+}
+
+/// The control decides what gives way to its limit. The line has the same one, since what it
+/// refuses itself leaves the way back to earlier edits; but a longer text that was assigned must
+/// pass.
+void TextView::Limit(qsizetype size) {
+  const auto limit = std::max(static_cast<qsizetype>(box_.MaxLength), size);
+  setMaxLength(box_.MaxLength == 0 ? std::numeric_limits<int>::max() : static_cast<int>(limit));
+}
+
+void TextView::ShowColours() {
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Active, QPalette::Text, ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Inactive, QPalette::Text, ScreenColour(box_.ForeColor));
+  setPalette(colours);
+}
+
+void TextView::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(Qt::black);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace terramark::window

@@ -1,0 +1,41 @@
+// A text box of one line. What is typed or pasted goes to the control, and the box then shows what
+// the control made of it.
+#pragma once
+
+#include <QLineEdit>
+
+#include "forms/controls.h"
+#include "window/controlview.h"
+
+namespace terramark::window {
+
+class TextView : public QLineEdit, public ControlView {
+ public:
+  TextView(forms::TextBox& box, QWidget& container);
+
+  bool OwnMouse() const override { return true; }
+
+ protected:
+  void ShowOwn(forms::PropertyId id) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Edited(const QString& edited);
+  void Take(const QString& before, const QString& edited);
+  void NoteCaret();
+  QString Showable() const;
+  void Limit(qsizetype size);
+  void ShowText();
+  void ShowColours();
+
+  forms::TextBox& box_;
+  /// Before the edit that comes next: the caret, and where the marked part begins, or else the
+  /// caret is.
+  int caret_ = 0;
+  int markedFrom_ = 0;
+  int markedSize_ = 0;
+  bool editing_ = false;
+};
+
+}  // namespace terramark::window

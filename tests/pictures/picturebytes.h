@@ -1,0 +1,94 @@
+// Builds picture files byte by byte for the tests of the picture loader.
+#pragma once
+
+#include <QByteArray>
+#include <cstdint>
+#include <initializer_list>
+#include <vector>
+
+namespace terramark::pictures {
+
+inline QByteArray Words(std::initializer_list<int> values) {
+  QByteArray bytes;
+  for (const int value : values) {
+    bytes.append(static_cast<char>(value & 0xFF)).append(static_cast<char>(value >> 8 & 0xFF));
+  }
+  return bytes;
+}
+
+inline QByteArray Long(qint64 value) {
+  return Words({static_cast<int>(value & 0xFFFF), static_cast<int>(value >> 16 & 0xFFFF)});
+}
+
+/// The bitmap header of 40 bytes, the colours and the rows, as blit records carry them.
+struct DibBytes {
+  int Width = 0;
+  int Height = 0;
+  int Bits = 24;
+  std::uint32_t Compression = 0;
+  std::vector<std::uint32_t> Colours;
+  QByteArray Rows;
+
+  QByteArray Packed() const {
+    QByteArray bytes = Long(40) + Long(Width) + Long(Height) + Words({1, Bits}) +
+                       Long(Compression) + QByteArray(12, 0) + Long(std::ssize(Colours)) + Long(0);
+    for (const std::uint32_t colour : Colours) bytes += Long(colour);
+    return bytes + Rows;
+  }
+
+  QByteArray File() const {
+    const QByteArray packed = Packed();
+    return "BM" + Long(packed.size() + 14) + Long(0) + Long(packed.size() - Rows.size() + 14) +
+           packed;
+  }
+};
+
+/// Collects the records of a metafile.
+class MetafileBytes {
+ public:
+  MetafileBytes& Record(int function, std::initializer_list<int> words,
+                        const QByteArray& tail = {}) {
+    QByteArray body = Words(words) + tail;
+    if (body.size() % 2 != 0) body.append('\0');
+    return Raw(Long(3 + body.size() / 2) + Words({function}) + body);
+  }
+  /// Bytes as they are, for records that lie.
+  MetafileBytes& Raw(const QByteArray& bytes) {
+    records_ += bytes;
+    return *this;
+  }
+
+  /// Creates and selects; the objects' numbers count up from 0.
+  MetafileBytes& Object(int function, std::initializer_list<int> words,
+                        const QByteArray& tail = {}) {
+    return Record(function, words, tail).Record(0x012D, {objects_++});
+  }
+  MetafileBytes& Pen(int style, int width, int colour) {
+    return Object(0x02FA, {style, width, 0, colour & 0xFFFF, colour >> 16});
+  }
+  MetafileBytes& Brush(int style, int colour, int hatch = 0) {
+    return Object(0x02FC, {style, colour & 0xFFFF, colour >> 16, hatch});
+  }
+  MetafileBytes& Rectangle(int left, int top, int right, int bottom) {
+    return Record(0x041B, {bottom, right, top, left});
+  }
+  MetafileBytes& Whole() { return Rectangle(0, 0, 101, 101); }
+  MetafileBytes& Line(int x0, int y0, int x1, int y1) {
+    return Record(0x0214, {y0, x0}).Record(0x0213, {y1, x1});
+  }
+
+  QByteArray Plain() const {
+    return Words({1, 9, 0x300}) + Long(9 + records_.size() / 2) + Words({objects_, 0, 0, 0}) +
+           records_ + Words({3, 0, 0});
+  }
+
+  QByteArray Placeable(int left, int top, int right, int bottom) const {
+    return Long(0x9AC6CDD7) + Words({0, left, top, right, bottom, 1440, 0, 0, 0}) + Plain();
+  }
+
+ private:
+  QByteArray records_;
+  int objects_ = 0;
+};
+
+}  // namespace terramark::pictures

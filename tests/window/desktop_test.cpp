@@ -1,0 +1,211 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QTreeView>
+#include <climits>
+#include <functional>
+#include <new>
+
+#include "canvas/refreshmap.h"
+#include "shell/aboutform.h"
+#include "shell/form1.h"
+#include "window/cp1252.h"
+#include "window/mainwindow.h"
+#include "window/qtdesktop.h"
+
+namespace terramark::window {
+
+/// Of large blocks so many are still to be had; the linker leads the editor's operator new here.
+static int LargeBlocksLeft = INT_MAX;
+extern "C" void* RealNew(std::size_t size) asm("__real__Znwm");
+extern "C" void* RationedNew(std::size_t size) asm("__wrap__Znwm");
+void* RationedNew(std::size_t size) {
+  if (size > 65536 && LargeBlocksLeft-- == 0) throw std::bad_alloc();
+  return RealNew(size);
+}
+
+namespace {
+
+/// Does something to the modal window that is about to come up.
+void WhileModal(const std::function<void(QWidget&)>& act) {
+  QTimer::singleShot(20, [act] { act(*QApplication::activeModalWidget()); });
+}
+
+TEST(Cp1252, EveryByteGoesRoundAndOnlyWhatItLacksIsLost) {
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+  EXPECT_EQ(ToCp1252(FromCp1252(all)), all);
+  EXPECT_EQ(FromCp1252("\x80\x9F\xA0\x81"), QStringLiteral("\u20AC\u0178\u00A0\u0081"));
+  EXPECT_EQ(ToCp1252(QStringLiteral("\u0080\u0100\U0001F600")), "???");
+}
+
+TEST(Desktop, BoxesAnswerByButtonAndNoWhenClosed) {
+  QtDesktop desktop;
+  const auto ask = [&](Qt::Key key) {
+    WhileModal([key](QWidget& box) { QTest::keyClick(&box, key); });
+    return desktop.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark");
+  };
+  EXPECT_EQ(ask(Qt::Key_Return), forms::Answer::No);
+  EXPECT_EQ(ask(Qt::Key_Escape), forms::Answer::No);
+  WhileModal([](QWidget& box) {
+    const auto buttons = box.findChildren<QPushButton*>();
+    auto* first = buttons[0]->x() < buttons[1]->x() ? buttons[0] : buttons[1];
+    QTest::mouseClick(first, Qt::LeftButton);
+  });
+  EXPECT_EQ(desktop.MsgBox("Clear whole map?", forms::Buttons::YesNo, "Terramark"),
+            forms::Answer::Yes);
+  WhileModal([](QWidget& box) { box.close(); });
+  EXPECT_EQ(desktop.MsgBox("Failed", forms::Buttons::Ok, "Terramark"), forms::Answer::Ok);
+}
+
+TEST(Desktop, TheAboutBoxEndsByItsButtonAndByEscape) {
+  QtDesktop desktop;
+  Form1 form(desktop);
+  int shown = 0;
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
+    WhileModal([&](QWidget& about) {
+      EXPECT_EQ(about.windowTitle(), "About Terramark");
+      EXPECT_EQ(about.minimumSize(), QSize(337, 97));
+      EXPECT_EQ(about.maximumSize(), QSize(337, 97));
+      ++shown;
+      QTest::keyClick(about.focusWidget(), key);
+    });
+    DBPush1_MouseUp(form);
+  }
+  EXPECT_EQ(shown, 3);
+}
+
+void ExpectOneFileInWholeColumns(QWidget& chooser) {
+  EXPECT_EQ(static_cast<QFileDialog&>(chooser).nameFilters(),
+            (QStringList{"Pictures (*.wmf *.bmp)", "All files (*)"}));
+  auto& list = *chooser.findChild<QTreeView*>();
+  const QHeaderView& columns = *list.header();
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    bool whole = list.model()->rowCount(list.rootIndex()) == 1;
+    for (int i = 0; i < columns.count(); ++i) {
+      whole &= columns.sectionSize(i) >= list.QAbstractItemView::sizeHintForColumn(i);
+    }
+    const int most = chooser.screen()->availableGeometry().width();
+    return whole && (columns.length() <= list.viewport()->width() || chooser.width() == most);
+  }));
+  // A file that waits for its reader must not be looked into to tell its kind.
+  static_cast<QFileDialog&>(chooser).selectNameFilter("All files (*)");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 2; }));
+  EXPECT_FALSE(list.model()->index(1, 2, list.rootIndex()).data().toString().contains("BMP"));
+}
+
+TEST(Desktop, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
+  const QTemporaryDir folder;
+  const QString before = QDir::currentPath();
+  QDir::setCurrent(folder.path());
+  const std::string here = QDir::currentPath().toStdString();
+  EXPECT_TRUE(QFile::copy(SAMPLES "/europe.bmp", "A NAME THAT IS LONGER THAN MOST NAMES.BMP"));
+  EXPECT_TRUE(QFile::copy(SAMPLES "/europe.bmp", "picture"));
+  QtDesktop desktop;
+  forms::CommonDialog dialog{"*.wmf;*.bmp", "*.wmf;*.bmp", "", true, true};
+  const auto choose = [&](const char* name, Qt::Key key) {
+    WhileModal([&](QWidget& chooser) {
+      if (key == Qt::Key_Escape) ExpectOneFileInWholeColumns(chooser);
+      auto* line = chooser.findChild<QLineEdit*>();
+      line->setText(name);
+      QTest::keyClick(line, key);
+    });
+    desktop.ShowOpen(dialog);
+    return dialog.FileName;
+  };
+  EXPECT_EQ(choose("no.tml", Qt::Key_Escape), "*.wmf;*.bmp");
+  EXPECT_EQ(choose("caf\u00E9.tml", Qt::Key_Return), here + "/caf\xE9.tml");
+  EXPECT_TRUE(dialog.FileNameFits);
+  QDir().mkdir("\u4E2D");
+  EXPECT_EQ(choose("\u4E2D/a.bmp", Qt::Key_Return), here + "/?/a.bmp");
+  EXPECT_TRUE(!dialog.FileNameFits && dialog.FileTitle == "a.bmp" && dialog.FileTitleFits);
+  EXPECT_EQ(QDir::currentPath().toStdString(), here) << "choosing enters no folder";
+  QFile::copy(SAMPLES "/europe.bmp", "\u4E2D/\u0141.bmp");
+  EXPECT_EQ(choose("\u0141.bmp", Qt::Key_Return), here + "/?/?.bmp");
+  EXPECT_FALSE(dialog.FileTitleFits);
+  EXPECT_NE(desktop.LoadPicture(dialog.FileName, 60, 40), nullptr);
+  desktop.EnterFolderOf(dialog.FileName);
+  EXPECT_EQ(QDir::currentPath().toStdString(), here + "/\u4E2D");
+  QDir::setCurrent(before);
+}
+
+TEST(Desktop, OneHelpWindowShowsTheTopicAskedFor) {
+  QtDesktop desktop;
+  const auto pages = [] {
+    QStringList texts;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      const auto* page = window->findChild<QTextBrowser*>("HelpPage");
+      if (page != nullptr) texts += page->toPlainText();
+    }
+    return texts.join("|").toStdString();
+  };
+  desktop.ShowHelp("TMRK.HLP", 13);
+  desktop.ShowHelp("TMRK.HLP", 12);
+  EXPECT_EQ(pages().substr(0, 22), "Topic 12: Card symbols");
+  EXPECT_EQ(pages().find('|'), std::string::npos);
+  desktop.ShowHelp("TMRK.HLP", -3);
+  EXPECT_NE(pages().find("no such help topic"), std::string::npos);
+}
+
+TEST(Desktop, DrawsAreBelowOneAndRepeatWithTheirSeed) {
+  QtDesktop desktop;
+  desktop.Randomize(75907.5F);
+  const float first = desktop.Rnd();
+  float highest = 0;
+  for (int i = 0; i < 100000; ++i) highest = std::max(highest, desktop.Rnd());
+  EXPECT_TRUE(highest > 0.99F && highest < 1.0F);
+  desktop.Randomize(75907.5F);
+  EXPECT_EQ(desktop.Rnd(), first);
+}
+
+TEST(Desktop, PicturesComeRowByRowFromTheNamedFile) {
+  const QTemporaryDir folder;
+  QImage image(3, 2, QImage::Format_RGB888);  // rows of a bitmap file are padded
+  image.fill(Qt::white);
+  image.setPixel(2, 1, 0xFF123456);
+  const QString path = folder.filePath(QStringLiteral("\u00FC.bmp"));
+  ASSERT_TRUE(image.save(path));
+  QtDesktop desktop;
+  const forms::Picture picture = desktop.LoadPicture(ToCp1252(path), 60, 40);
+  ASSERT_NE(picture, nullptr);
+  EXPECT_EQ(picture->Pixels, (std::vector<std::uint32_t>{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF,
+                                                         0xFFFFFFFF, 0xFFFFFFFF, 0xFF123456}));
+  EXPECT_EQ(desktop.LoadPicture("", 60, 40)->Width, 0);
+  EXPECT_EQ(desktop.LoadPicture(ToCp1252(folder.path()), 60, 40), nullptr);
+}
+
+TEST(Desktop, APictureThatTheMemoryDoesNotHoldCannotBeRead) {
+  QtDesktop desktop;
+  Form1 form(desktop);
+  form.PictureFile = SAMPLES "/europe.bmp";
+  form.Picture1.FillToBorder(0, 0, 0);
+  const auto before = form.Picture1.Image().Pixels;
+  int blocks = -1;
+  do {
+    EXPECT_EQ(form.Picture1.Image().Pixels, before);
+    EXPECT_EQ(form.Picture1.Picture.Get(), nullptr);
+    LargeBlocksLeft = ++blocks;
+  } while (!RefreshMap(form) && blocks < 9);
+  LargeBlocksLeft = INT_MAX;
+  EXPECT_GE(blocks, 2) << "one for the picture and one for the image";
+  EXPECT_NE(form.Picture1.Image().Pixels, before);
+}
+
+TEST(Desktop, AFailureAndTheClosedWindowEndTheProcess) {
+  QtDesktop desktop;
+  Form1 form(desktop);
+  EXPECT_EXIT(desktop.End(1), testing::ExitedWithCode(1), "");
+  EXPECT_EXIT(MainWindow(form).close(), testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace terramark::window

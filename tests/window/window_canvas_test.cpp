@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <vector>
+
+#include "window/windowsupport.h"
+
+namespace terramark::window {
+namespace {
+
+constexpr QPoint Canvas(0, 58);  // where Picture1 stands in the window
+const QColor Blue(0x00, 0x00, 0xFF);
+const QColor White(0xFF, 0xFF, 0xFF);
+
+/// A window with one blue marker of 32 x 16 at 100, 50 that a press takes up.
+struct MarkerWindow : TestWindow {
+  std::vector<QPoint> Drops;
+
+  MarkerWindow() {
+    Form.ArmyAt.Load(1);
+    forms::Label& marker = Marker();
+    marker.Caption = "";
+    marker.BackColor = 0x00FF0000;
+    marker.Width = 32;
+    marker.Height = 16;
+    marker.Move(100, 50);
+    marker.Visible = true;
+    marker.MouseDown = [&marker](const forms::MouseEvent&) {
+      marker.Drag(forms::DragAction::Begin);
+    };
+    Form.Picture1.DragDrop = [this](const forms::DropEvent& event) {
+      Drops.emplace_back(static_cast<int>(event.X), static_cast<int>(event.Y));
+    };
+  }
+
+  forms::Label& Marker() { return Form.ArmyAt(1); }
+  QColor Pixel(int x, int y) { return PixelOn(Form.Picture1, {x, y}); }
+};
+
+TEST(WindowCanvas, DrawsMarkersInTheirOrderAndTakesThemAway) {
+  MarkerWindow window;
+  EXPECT_EQ(window.Pixel(110, 58), Blue);
+  EXPECT_EQ(window.Pixel(99, 58), White);
+  window.Form.ArmyAt.Load(2);
+  window.Form.ArmyAt(2).BackColor = 0x000000FF;
+  window.Form.ArmyAt(2).Move(105, 50);
+  window.Form.ArmyAt(2).Visible = true;
+  EXPECT_EQ(window.Pixel(112, 62), QColor(Qt::red));
+  window.Marker().ZOrder(forms::StackEnd::Front);
+  EXPECT_EQ(window.Pixel(110, 58), Blue);
+  window.Form.ArmyAt.Unload(1);
+  window.Form.ArmyAt.Unload(2);
+  EXPECT_EQ(window.Pixel(110, 58), White);
+}
+
+/// Counts what a widget is asked to paint.
+struct PaintWatch : QObject {
+  QRegion Painted;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) Painted += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+TEST(WindowCanvas, PaintsOnlyWhereAMarkerWasAndIs) {
+  MarkerWindow window;
+  QTest::qWait(20);
+  PaintWatch watch;
+  window.Of(window.Form.Picture1).installEventFilter(&watch);
+  window.Marker().Move(300, 200);
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.Painted.intersects(QRect(100, 50, 1, 1)));
+  EXPECT_TRUE(watch.Painted.intersects(QRect(331, 215, 1, 1)));
+  EXPECT_FALSE(watch.Painted.intersects(QRect(200, 100, 50, 50)));
+  watch.Painted = {};
+  window.Form.Picture1.Refresh();
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.Painted.contains(QRect(0, 0, 546, 308)));
+}
+
+TEST(WindowCanvas, AMarkerFollowsThePointerOutOfTheBoxAndBack) {
+  MarkerWindow window;
+  window.Press(Canvas + QPoint(105, 55));
+  window.Move(Canvas + QPoint(205, 155));
+  EXPECT_NE(window.Pixel(210, 158), White);
+  EXPECT_EQ(window.Pixel(110, 58), Blue) << "it stays at its place until it is dropped";
+  window.Move({-40, -40});
+  EXPECT_EQ(window.Pixel(210, 158), White);
+  window.Move(Canvas + QPoint(25, 30));
+  window.Release(Canvas + QPoint(25, 30));
+  EXPECT_EQ(window.Drops, std::vector<QPoint>{QPoint(25, 30)});
+}
+
+TEST(WindowCanvas, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
+  MarkerWindow window;
+  const auto drop = [&](QPoint at) {
+    window.Press(Canvas + QPoint(105, 55));
+    window.Move(Canvas + at);
+    window.Release(Canvas + at);
+    return window.Drops.size();
+  };
+  QWidget over(nullptr, Qt::ToolTip);
+  over.setGeometry(QRect(window.Window.mapToGlobal(Canvas + QPoint(300, 100)), QSize(80, 80)));
+  over.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&over));
+  EXPECT_EQ(drop({340, 140}), 0U) << "another window lies there";
+  over.hide();
+  window.Window.resize(320, 400);
+  EXPECT_EQ(drop({340, 140}), 0U) << "outside the window";
+  EXPECT_EQ(drop({300, 140}), 1U);
+}
+
+TEST(WindowCanvas, EscapeAndALostFocusEndADragWithNothingMoved) {
+  for (const bool escape : {true, false}) {
+    MarkerWindow window;
+    window.Press(Canvas + QPoint(105, 55));
+    window.Move(Canvas + QPoint(205, 155));
+    if (escape) {
+      window.Key(Qt::Key_Escape);
+    } else {
+      QWidget other;
+      other.show();
+      other.activateWindow();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    }
+    EXPECT_FALSE(window.Form.Pointer.InFlight().has_value());
+    EXPECT_EQ(window.Pixel(210, 158), White);
+    window.Release(Canvas + QPoint(205, 155));
+    EXPECT_TRUE(window.Drops.empty());
+  }
+}
+
+TEST(WindowCanvas, ALargerPictureIsReachedByItsScrollBars) {
+  MarkerWindow window;
+  forms::PictureBox& box = window.Form.Picture1;
+  const auto bars = window.Of(box).findChildren<QScrollBar*>();
+  ASSERT_EQ(bars.size(), 2);
+  EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
+  auto picture = std::make_shared<forms::Raster>(*BlankPicture(800, 600));
+  picture->Pixels[picture->At(600, 10)] = 0xFF0000FF;
+  box.Picture = picture;
+  EXPECT_TRUE(bars[0]->isVisible() && bars[1]->isVisible());
+  EXPECT_EQ(bars[0]->geometry(), QRect(0, 292, 530, 16));
+  bars[0]->setValue(90);
+  EXPECT_EQ(box.ScrollLeft, 90);
+  EXPECT_EQ(window.Pixel(510, 10), Blue);
+  EXPECT_EQ(window.Pixel(20, 58), Blue) << "the marker goes with the picture";
+  box.ScrollTo(0, 80);
+  EXPECT_EQ(bars[0]->value(), 0);
+  EXPECT_EQ(bars[1]->value(), 80);
+  EXPECT_NE(window.Pixel(538, 300), White) << "the corner between the bars";
+
+  box.ScrollTo(0, 0);
+  window.Press(Canvas + QPoint(105, 55));
+  window.Move(Canvas + QPoint(520, 100));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box.ScrollLeft > 30; }));
+  window.Key(Qt::Key_Escape);
+  box.Picture = BlankPicture(0, 0);
+  EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
+}
+
+}  // namespace
+}  // namespace terramark::window

@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <string>
+#include <vector>
+
+#include "window/windowsupport.h"
+
+namespace terramark::window {
+namespace {
+
+struct PlaceCase {
+  const char* Name;
+  QRect At15;  // twips per pixel
+  QRect At12;
+};
+
+// Pixels of the control's container; twips divided and rounded by hand.
+const PlaceCase Places[] = {
+    {"Text1", {0, 0, 545, 21}, {0, 0, 681, 26}},
+    {"Picture1", {0, 58, 546, 308}, {0, 72, 683, 385}},
+    {"Helpbar", {189, 20, 356, 20}, {236, 25, 445, 25}},
+    {"PlColor(4)", {4, 84, 73, 17}, {5, 105, 92, 21}},
+    {"Frame1", {548, 44, 81, 89}, {685, 55, 101, 111}},
+    {"Countx(0)", {4, 30, 72, 14}, {5, 38, 90, 18}},
+    {"ColBar(1)", {34, 16, 13, 86}, {43, 20, 17, 107}},
+};
+
+TEST(Window, EveryControlStandsWhereTheTableSaysOnAnyScreen) {
+  for (const float twips : {15.0F, 12.0F}) {
+    ScriptedDesktop desktop;
+    desktop.Twips = twips;
+    Form1 form(desktop);
+    MainWindow window(form);
+    EXPECT_EQ(window.size(), twips == 15 ? QSize(843, 599) : QSize(1054, 749));
+    for (const PlaceCase& place : Places) {
+      const auto* widget = window.findChild<QWidget*>(place.Name);
+      ASSERT_NE(widget, nullptr) << place.Name;
+      EXPECT_EQ(widget->geometry(), twips == 15 ? place.At15 : place.At12) << place.Name;
+    }
+    EXPECT_EQ(window.findChild<QWidget*>("PlColor(0)")->parentWidget()->objectName(), "Frame3D1");
+    EXPECT_FALSE(form.Picture1.ScrollsAcross()) << "no picture has been loaded";
+  }
+}
+
+TEST(Window, NoCaptionIsCutOff) {
+  TestWindow window;
+  for (const QPushButton* button : window.Window.findChildren<QPushButton*>()) {
+    const QFontMetrics metrics(button->font());
+    EXPECT_LE(metrics.horizontalAdvance(button->text()), button->width() - 4);
+    EXPECT_LE(metrics.height(), button->height() - 4) << button->objectName().toStdString();
+  }
+}
+
+TEST(Window, ATextDrawnInJustItsOwnWidthIsWhole) {
+  ScriptedDesktop desktop;
+  const QFont font = ControlFont(desktop);
+  for (const char* text : {"Scandinavia", "Latin West", "The Isles"}) {
+    const int width = QFontMetrics(font).horizontalAdvance(text);
+    QImage images[2];
+    for (const int spare : {0, 1}) {
+      images[spare] = QImage(width, 16, QImage::Format_RGB32);
+      images[spare].fill(Qt::white);
+      QPainter painter(&images[spare]);
+      painter.setFont(font);
+      DrawCaption(painter, {-spare, 0, width + 2 * spare, 16}, text, Qt::ElideRight);
+    }
+    EXPECT_EQ(images[0], images[1]) << text;
+  }
+}
+
+TEST(Window, FollowsTheForm) {
+  TestWindow window;
+  Form1& form = window.Form;
+  form.Caption = "Caf\xE9";
+  form.Move(150, 300);
+  form.LoadMpa.Caption = "a&b";
+  form.LoadMpa.BackColor = 0x00FF8000;
+  form.Quit.Visible = false;
+  form.Frame1.Left = 15;
+  EXPECT_EQ(window.Window.windowTitle(), QStringLiteral("Caf\u00E9"));
+  EXPECT_EQ(window.Window.pos(), QPoint(10, 20));
+  EXPECT_EQ(window.Of<QPushButton>(form.LoadMpa).text(), "a&&b") << "a shortcut of its own";
+  EXPECT_EQ(window.PixelOn(form.LoadMpa, {4, 4}), QColor(0x00, 0x80, 0xFF));
+  EXPECT_FALSE(window.Of(form.Quit).isVisible());
+  EXPECT_EQ(window.Of(form.Frame1).x(), 1);
+}
+
+TEST(Window, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpaceAndEnter) {
+  TestWindow window;
+  forms::CommandButton& button = window.Form.AddTer;
+  const auto& face = window.Of<QPushButton>(button);
+  std::string events;
+  button.MouseUp = [&](const forms::MouseEvent& event) {
+    events += std::to_string(event.Button) + std::to_string(event.Shift) + " ";
+  };
+  button.Click = [&](const forms::PlainEvent&) { events += "click "; };
+  window.Click(button);
+  window.Click(button, Qt::RightButton, Qt::ShiftModifier);
+  window.Click(button, Qt::MiddleButton, Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(events, "10 click 21 46 ");
+  window.Press(window.Centre(button));
+  EXPECT_TRUE(face.isDown());
+  window.Move({5, 5});
+  EXPECT_FALSE(face.isDown());
+  window.Release({5, 5});
+  EXPECT_EQ(events, "10 click 21 46 ") << "let go outside";
+  button.SetFocus();
+  window.Key(Qt::Key_Space);
+  window.Key(Qt::Key_Down);
+  window.Key(Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(events, "10 click 21 46 10 click 11 click ");
+}
+
+TEST(Window, APressOnADisabledControlReachesWhatLiesUnderIt) {
+  TestWindow window;
+  Form1& form = window.Form;
+  std::string events;
+  form.PlColor(4).MouseUp = [&](const forms::MouseEvent&) { events += "button "; };
+  form.Frame3D1.MouseUp = [&](const forms::MouseEvent&) { events += "frame "; };
+  form.ColBar(0).Change = [&](const forms::PlainEvent&) { events += "bar "; };
+  for (const bool enabled : {false, true}) {
+    form.PlColor(4).Enabled = enabled;
+    form.RGBFrame.Enabled = enabled;
+    EXPECT_EQ(window.Of(form.ColBar(0)).isEnabled(), enabled);
+    window.Click(form.PlColor(4));
+    window.Click(form.ColBar(0));
+  }
+  EXPECT_EQ(events, "frame button bar ");
+}
+
+TEST(Window, ScrollBarsTellTheirValueWhenTheThumbIsLetGoAndAtEachStep) {
+  TestWindow window;
+  forms::VScrollBar& bar = window.Form.ColBar(2);
+  std::vector<int> values;
+  bar.Change = [&](const forms::PlainEvent&) { values.push_back(bar.Value); };
+  const QPoint top = window.Centre(bar) - QPoint(0, 24);
+  window.Press(top);
+  for (int y = 0; y <= 100; y += 10) window.Move(top + QPoint(0, y));
+  EXPECT_TRUE(values.empty()) << "still held";
+  window.Release(top + QPoint(0, 100));
+  bar.Value = 100;
+  EXPECT_EQ(window.Of<QScrollBar>(bar).value(), 100);
+  window.Key(Qt::Key_Up);
+  EXPECT_EQ(values, (std::vector<int>{256, 100, 99}));
+}
+
+TEST(Window, MovesReachWhateverLiesUnderThePointer) {
+  TestWindow window;
+  Form1& form = window.Form;
+  std::string over;
+  form.ArmyAt.Load(1);
+  form.ArmyAt(1).Move(100, 50);
+  form.ArmyAt(1).Visible = true;
+  form.Symb.Enabled = false;
+  const auto listen = [&over](forms::Control& control) {
+    control.MouseMove = [&](const forms::MouseEvent& event) {
+      over += control.Name() + " " + std::to_string(static_cast<int>(event.X)) + " ";
+    };
+  };
+  listen(form);
+  for (forms::Control* control : form.Controls()) listen(*control);
+  for (const QPoint at : {QPoint(700, 500), QPoint(600, 50), QPoint(560, 80), QPoint(100, 10),
+                          QPoint(105, 58 + 55), QPoint(20, 58 + 7), QPoint(153, 30)}) {
+    window.Move(at);
+  }
+  EXPECT_EQ(over, " 10500 Frame1 780 Countx 120 Text1 1500 ArmyAt 75 Picture1 20 Symb 150 ");
+}
+
+}  // namespace
+}  // namespace terramark::window

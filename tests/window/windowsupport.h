@@ -1,0 +1,80 @@
+// The editor's window on a scripted desktop, with mouse and keys as the platform gives them.
+#pragma once
+
+#include <QTest>
+#include <QWindow>
+
+#include "forms/geometry.h"
+#include "support/scripteddesktop.h"
+#include "window/look.h"
+#include "window/mainwindow.h"
+
+namespace terramark::window {
+
+struct TestWindow {
+  ScriptedDesktop Desktop;
+  Form1 Form{Desktop};
+  MainWindow Window{Form};
+
+  TestWindow() {
+    Form.KeyPreview = true;
+    Window.show();
+    Window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window));
+  }
+
+  template <typename T = QWidget>
+  T& Of(const forms::Control& control) {
+    return *dynamic_cast<T*>(Window.Inside().WidgetOf(control));
+  }
+  QPoint Centre(const forms::Control& control) const {
+    const forms::PixelPoint corner = forms::InnerOrigin(control);
+    const forms::PixelRect size = forms::PixelBounds(control);
+    return {corner.X + size.Width / 2, corner.Y + size.Height / 2};
+  }
+
+  void Press(QPoint at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {}) {
+    QTest::mousePress(Window.windowHandle(), button, keys, at);
+  }
+  void Move(QPoint at) { QTest::mouseMove(Window.windowHandle(), at); }
+  void Release(QPoint at, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers keys = {}) {
+    QTest::mouseRelease(Window.windowHandle(), button, keys, at);
+  }
+  void Click(const forms::Control& control, Qt::MouseButton button = Qt::LeftButton,
+             Qt::KeyboardModifiers keys = {}) {
+    Press(Centre(control), button, keys);
+    Release(Centre(control), button, keys);
+  }
+  /// Half a stroke as the platform gives it to a window, so many milliseconds after the last.
+  void Half(QWidget& to, QKeyEvent event, int wait = 40) {
+    event.setTimestamp(Now += static_cast<std::uint64_t>(wait));
+    QCoreApplication::sendEvent(to.windowHandle(), &event);
+  }
+  void Stroke(int key, Qt::KeyboardModifiers keys, char text) {
+    const QString made = text != 0 ? QString(QLatin1Char(text)) : QString();
+    Half(Window, QKeyEvent(QEvent::KeyPress, key, keys, made));
+    Half(Window, QKeyEvent(QEvent::KeyRelease, key, keys, made));
+  }
+  /// Something happens, so that the last release can be no half of a repeat any more.
+  static void Settle(QEvent::Type by = QEvent::WindowDeactivate) {
+    QObject nobody;
+    QEvent after(by);
+    QCoreApplication::sendEvent(&nobody, &after);
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {
+    Stroke(key, keys, QTest::keyToAscii(key));
+    Settle();
+  }
+  void Type(const char* text) {
+    for (; *text != 0; ++text) Stroke(QTest::asciiToKey(*text), {}, *text);
+    Settle();
+  }
+  std::uint64_t Now = 1000;
+
+  QColor PixelOn(const forms::Control& control, QPoint at) {
+    return Of(control).grab().toImage().pixelColor(at);
+  }
+};
+
+}  // namespace terramark::window
