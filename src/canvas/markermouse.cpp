@@ -1,8 +1,10 @@
 #include "canvas/markermouse.h"
 
 #include "document/corner.h"
+#include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -24,9 +26,9 @@ void Grab(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
 
 void TurnCorner(Form1& form, std::int16_t area) {
   const std::int16_t old = form.AreaCorner(area);
-  form.AreaCorner(area) = NextCorner(old);
+  SetCorner(form, area, NextCorner(old));
   // A code that names no corner shows none until the next turn.
-  form.ArmyAt(area).Caption = MarkerCaption(area, IsCorner(old) ? form.AreaCorner(area) : old);
+  if (!IsCorner(old)) form.ArmyAt(area).Caption = MarkerCaption(area, old);
 }
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.

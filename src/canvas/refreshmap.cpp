@@ -1,10 +1,9 @@
 #include "canvas/refreshmap.h"
 
-#include <string>
-
 #include "shell/backdrop.h"
 #include "shell/bars.h"
-#include "shell/filenames.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -15,12 +14,12 @@ bool RefreshMap(Form1& form) {
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
-    marker.ForeColor = TagColour(marker);
+    // The background stays, so that the current Region is seen to be it.
+    marker.ForeColor = OwnColour(marker);
   }
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     forms::Label& marker = form.ArmyAt(i);
-    marker.BackColor = ClrBlack;
-    marker.ForeColor = TagColour(marker);
+    Show(marker, Look::Plain);
     marker.Visible = true;
   }
   form.EditText.SetFocus();
@@ -31,25 +30,6 @@ bool RefreshMap(Form1& form) {
 
 void RefMap_MouseUp(Form1& form) {
   RefreshMap(form);
-}
-
-void LoadMap_MouseUp(Form1& form) {
-  std::string path;
-  SelectAFile(form, "*.wmf;*.bmp", path);
-  if (path.empty()) return;
-  const forms::CommonDialog& chosen = form.CommonDialog1;
-  if (!chosen.FileNameFits && !chosen.FileTitleFits) {
-    ShowNameFault(form, path);
-    return;
-  }
-  if (!ShowPicture(form, path)) {
-    ShowPictureFault(form, path);
-    return;
-  }
-  form.Host.EnterFolderOf(path);
-  form.PictureFile = chosen.FileNameFits ? path : chosen.FileTitle;
-  form.LoadMap.Caption = form.PictureFile;
-  UpdateCounts(form);
 }
 
 }  // namespace terramark

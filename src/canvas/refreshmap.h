@@ -1,4 +1,4 @@
-// The backdrop: choosing its picture, and resetting the canvas to it.
+// The canvas reset to the picture.
 #pragma once
 
 namespace terramark {
@@ -13,10 +13,5 @@ bool RefreshMap(Form1& form);
 
 /// The button "Refresh map".
 void RefMap_MouseUp(Form1& form);
-
-/// The button "Load A .WMF Picture". The picture's folder becomes the current one, so that the bare
-/// name, which is taken where a layout cannot hold the full one, finds it. A picture that cannot be
-/// read, or whose bare name does not fit either, changes nothing and is said in red.
-void LoadMap_MouseUp(Form1& form);
 
 }  // namespace terramark

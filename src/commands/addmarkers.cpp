@@ -1,9 +1,13 @@
 #include "commands/addmarkers.h"
 
-#include "document/corner.h"
+#include "document/links.h"
+#include "document/numbers.h"
 #include "selection/selection.h"
-#include "shell/carddraw.h"
+#include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
+#include "shell/randomcard.h"
 
 namespace terramark {
 
@@ -13,7 +17,7 @@ namespace {
 /// user pressed.
 constexpr std::int16_t NewCorner = 2;
 
-void Show(forms::Label& marker) {
+void BringUp(forms::Label& marker) {
   marker.ZOrder(forms::StackEnd::Front);
   marker.Visible = true;
 }
@@ -26,14 +30,13 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
   form.ArmyAt.Load(i);
   forms::Label& marker = form.ArmyAt(i);
   PaintMarker(marker, ClrWhite);
-  marker.Caption = MarkerCaption(i, NewCorner);
-  form.AreaCorner(i) = NewCorner;
-  Show(marker);
+  SetCorner(form, i, NewCorner);
+  BringUp(marker);
   form.AreaName(i) = "Area" + NumberText(i);
-  form.Countx(0).Caption = NumberText(form.AreaCount);
-  form.AreaLinks(i) = "  ";
+  UpdateAreaCount(form);
+  form.AreaLinks(i) = EmptyLinks;
   form.AreaRegion(i) = 0;
-  form.AreaSymbol(i) = DrawCardSymbol(form);
+  form.AreaSymbol(i) = RandomCardSymbol(form);
   if (event.Shift == forms::CtrlKey) {
     marker.Move(event.X, event.Y);
   } else {
@@ -50,9 +53,9 @@ void AddCont_MouseUp(Form1& form) {
   PaintMarker(marker, ClrWhite);
   form.RegionRGB(r).fill(UnsetComponent);
   marker.Caption = "Region" + NumberText(r);
-  Show(marker);
+  BringUp(marker);
   form.RegionName(r) = marker.Caption;
-  form.Countx(1).Caption = NumberText(form.RegionCount);
+  UpdateRegionCount(form);
   form.CurRegion = r;
   form.RegionArmies(r) = NewArmies;
   SelectRegion(form, r);

@@ -3,8 +3,11 @@
 #include <string>
 
 #include "document/links.h"
+#include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -30,7 +33,7 @@ std::string WithoutEntry(const std::string& links, std::int16_t area) {
     at += 2;
   }
   if (!found) return links;
-  if (entries.Count() == 1) return "  ";
+  if (entries.Count() == 1) return EmptyLinks;
   return TwoDigit(static_cast<std::int16_t>(entries.Count() - 1)) + kept;
 }
 
@@ -46,7 +49,7 @@ void ClearArea(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     form.AreaLinks(i) = WithoutEntry(form.AreaLinks(i), a);
   }
-  form.AreaLinks(a) = " ";
+  form.AreaLinks(a) = ClearedLinks;
   form.AreaRegion(a) = 0;
   PaintMarker(form.ArmyAt(a), ClrWhite);
   ClearSelection(form);

@@ -3,9 +3,11 @@
 #include <string>
 
 #include "document/links.h"
+#include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
-#include "shell/markers.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/questions.h"
 
 namespace terramark {

@@ -1,15 +1,15 @@
 #include "commands/markedareas.h"
 
 #include "document/numbers.h"
-#include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/markers.h"
 
 namespace terramark {
 
 std::vector<std::int16_t> GreyAreas(Form1& form) {
   std::vector<std::int16_t> areas;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.ArmyAt(i).BackColor == ClrGrey) areas.push_back(i);
+    if (LookOf(form.ArmyAt(i)) == Look::Marked) areas.push_back(i);
   }
   return areas;
 }

@@ -5,7 +5,10 @@
 
 #include "commands/markedareas.h"
 #include "document/links.h"
+#include "document/numbers.h"
 #include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {

@@ -1,8 +1,11 @@
 #include "commands/setregion.h"
 
 #include "commands/markedareas.h"
+#include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -14,15 +17,14 @@ void SetCont_MouseUp(Form1& form) {
   PaintMarker(*region, ClrWhite);
   form.RegionRGB(r).fill(UnsetComponent);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.AreaRegion(i) != r || form.ArmyAt(i).BackColor == ClrGrey) continue;
+    if (form.AreaRegion(i) != r || LookOf(form.ArmyAt(i)) == Look::Marked) continue;
     PaintMarker(form.ArmyAt(i), ClrWhite);
     form.AreaRegion(i) = 0;
   }
   const std::vector<std::int16_t> members = GreyAreas(form);
   for (const std::int16_t i : members) {
     form.AreaRegion(i) = r;
-    form.ArmyAt(i).ForeColor = TagColour(*region);
-    form.ArmyAt(i).Tag = region->Tag;
+    TakeRegionColour(form.ArmyAt(i), *region);
   }
   ShowMessage(form,
               "Region " + form.RegionName(r) + " has" +

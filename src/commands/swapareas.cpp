@@ -3,8 +3,10 @@
 #include <string>
 #include <utility>
 
-#include "document/corner.h"
+#include "document/numbers.h"
 #include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -20,7 +22,7 @@ int FindMarkedAreas(Form1& form) {
   form.MarkedAreas(2) = 0;
   std::int16_t found = 0;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.ArmyAt(i).BackColor != ClrBlack) form.MarkedAreas(++found) = i;
+    if (LookOf(form.ArmyAt(i)) != Look::Plain) form.MarkedAreas(++found) = i;
   }
   return found;
 }
@@ -47,10 +49,8 @@ void SwapPlaces(forms::Label& first, forms::Label& second) {
 /// Shows an Area by its new Region and corner.
 void Repaint(Form1& form, std::int16_t area) {
   forms::Label& marker = form.ArmyAt(area);
-  marker.ForeColor = form.Continent(form.AreaRegion(area)).ForeColor;
-  marker.Tag = PlainNumber(static_cast<std::int32_t>(marker.ForeColor.Get()));
-  marker.BackColor = ClrBlack;
-  marker.Caption = MarkerCaption(area, form.AreaCorner(area));
+  PaintMarker(marker, form.Continent(form.AreaRegion(area)).ForeColor, TagForm::WithoutBlank);
+  SetCorner(form, area, form.AreaCorner(area));
   marker.Refresh();
 }
 

@@ -1,24 +1,23 @@
 #include "document/cardsymbol.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace terramark {
 
 namespace {
 
-constexpr std::array<CardSymbol, 3> CardSymbols{{
+constexpr CardSymbol CardSymbols[] = {
     // code letter word
     {'1', 'G', "GUN"},
     {'2', 'H', "HORSE"},
     {'3', 'S', "SOLDIER"},
-}};
+};
 
 template <typename Key>
 const CardSymbol* FindSymbol(Key CardSymbol::*key, Key wanted) {
-  const auto* found = std::find_if(CardSymbols.begin(), CardSymbols.end(),
-                                   [&](const CardSymbol& symbol) { return symbol.*key == wanted; });
-  return found == CardSymbols.end() ? nullptr : found;
+  const auto* found = std::ranges::find(CardSymbols, wanted, key);
+  return found == std::end(CardSymbols) ? nullptr : found;
 }
 
 }  // namespace

@@ -26,6 +26,11 @@ class Neighbours {
   std::size_t count_ = 0;
 };
 
+/// The strings without neighbours that the commands leave: of an Area that was cleared, and of one
+/// that is new or has lost its last neighbour.
+inline constexpr char ClearedLinks[] = " ";
+inline constexpr char EmptyLinks[] = "  ";
+
 /// The number of neighbours that a link string declares, 0 to 99.
 std::int16_t LinkCount(std::string_view links);
 

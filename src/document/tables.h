@@ -35,7 +35,10 @@ class Table {
 };
 
 /// Red, green, blue, each 0 to 256; a layout can bring others.
-using Components = std::array<std::int16_t, 3>;
+inline constexpr std::int16_t ComponentCount = 3;
+using Components = std::array<std::int16_t, ComponentCount>;
+/// Player1, Player2, Player3, Neutral.
+inline constexpr std::int16_t PlayerColours = 4;
 
 struct Tables {
   /// 0 to 96 by the commands, to 99 from a layout.
@@ -57,8 +60,7 @@ struct Tables {
   Table<std::int16_t> RegionArmies;
   Table<Components> RegionRGB;
 
-  /// Player1, Player2, Player3, Neutral.
-  std::array<Components, 4> PlayerRGB{};
+  std::array<Components, PlayerColours> PlayerRGB{};
   /// Path of the backdrop as the file dialog or the layout gave it; empty for none.
   std::string PictureFile;
 };

@@ -40,12 +40,12 @@ void JoinBackdrop(Form1& form) {
 }
 
 void JoinColourPanel(Form1& form) {
-  for (std::int16_t i = 0; i < 5; ++i) {
-    form.PlColor(i).Click = [&form](const auto& event) { PlColor_Click(form, event); };
-  }
-  for (std::int16_t i = 0; i < 3; ++i) {
-    form.ColBar(i).Change = [&form](const auto&) { ColBar_Change(form); };
-  }
+  form.PlColor.ForEach([&form](forms::CommandButton& button) {
+    button.Click = [&form](const auto& event) { PlColor_Click(form, event); };
+  });
+  form.ColBar.ForEach([&form](forms::VScrollBar& bar) {
+    bar.Change = [&form](const auto&) { ColBar_Change(form); };
+  });
 }
 
 }  // namespace

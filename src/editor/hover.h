@@ -5,8 +5,9 @@ namespace terramark {
 
 struct Form1;
 
-/// Fills the MouseMove slots. Controls that are left out leave the bar as it is: the frames, the
-/// scroll bars and the plain labels.
+/// Fills the MouseMove slots, by the kinds of the controls: the markers describe themselves; the
+/// form, the picture, the boxes, the buttons and the two bars blank the bar; the rest leaves it as
+/// it is.
 void JoinHover(Form1& form);
 
 }  // namespace terramark

@@ -48,6 +48,7 @@ void Control::CopyCommon(const Control& from) {
   ForeColor = from.ForeColor;
   Tag = from.Tag;
   ToolTipText = from.ToolTipText;
+  HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;
   MouseDown = from.MouseDown;
   MouseMove = from.MouseMove;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/color.h"
@@ -23,7 +24,9 @@ enum class StackEnd { Front, Back };
 
 class Control : public PropertyOwner {
  public:
-  explicit Control(ControlKind kind) : kind_(kind) {}
+  /// A control has its name and its index for life; a lone one has index 0.
+  Control(ControlKind kind, std::string name, std::int16_t index = 0)
+      : kind_(kind), name_(std::move(name)), index_(index) {}
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   virtual ~Control();
@@ -39,6 +42,8 @@ class Control : public PropertyOwner {
   Property<Color> ForeColor{*this, PropertyId::ForeColor, SysWindowText};
   Property<std::string> Tag{*this, PropertyId::Tag};
   std::string ToolTipText;
+  /// Topic of the help that tells of the control; 0 for none.
+  std::int16_t HelpTopic = 0;
   /// Unit inside this control, when it contains others.
   Scale InnerScale = Scale::Twips;
 
@@ -80,8 +85,8 @@ class Control : public PropertyOwner {
   friend class Form;
 
   const ControlKind kind_;
-  std::string name_;
-  std::int16_t index_ = 0;
+  const std::string name_;
+  const std::int16_t index_;
   Form* form_ = nullptr;
   Control* container_ = nullptr;
   std::vector<Control*> children_;

@@ -7,7 +7,9 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
+#include "forms/broken.h"
 #include "forms/form.h"
 
 namespace terramark::forms {
@@ -18,44 +20,60 @@ class ControlArray {
   /// Indices run from 0 to MaxElements - 1.
   static constexpr std::size_t MaxElements = 100;
 
-  /// The element, which must exist.
-  T& operator()(std::int16_t index) { return *elements_.at(Place(index)); }
-  const T& operator()(std::int16_t index) const { return *elements_.at(Place(index)); }
+  explicit ControlArray(std::string name) : name_(std::move(name)) {}
+
+  /// The element, which must exist: another index ends the program and names the array.
+  T& operator()(std::int16_t index) { return *Existing(index); }
+  const T& operator()(std::int16_t index) const { return *Existing(index); }
 
   /// The element, or null when there is none of that index, whatever the index.
-  T* Find(std::int16_t index) {
-    if (index < 0 || Place(index) >= MaxElements) return nullptr;
-    return elements_[Place(index)].get();
-  }
+  T* Find(std::int16_t index) { return At(index); }
 
-  /// Creates an element at design time, with the defaults of its kind; not yet on a form.
+  /// Creates an element at design time, with the defaults of its kind; not yet on a form. An
+  /// element that exists is given as it is.
   T& Design(std::int16_t index) {
-    auto& element = elements_.at(Place(index));
-    if (!element) element = std::make_unique<T>();
+    auto& element = elements_.at(static_cast<std::size_t>(index));
+    if (!element) element = std::make_unique<T>(name_, index);
     return *element;
   }
 
   /// Creates an element as an invisible copy of element 0, in front of its container's stack.
   /// An element that exists stays as it is.
   void Load(std::int16_t index) {
-    auto& element = elements_.at(Place(index));
-    if (element) return;
+    if (Find(index) != nullptr) return;
     T& pattern = (*this)(0);
-    element = std::make_unique<T>();
-    element->Visible = false;
+    T& element = Design(index);
+    element.Visible = false;
     // On the form first: a caption is measured there.
-    pattern.Owner()->Add(*element, *pattern.Container(), pattern.Name(), index);
-    element->CopyTemplate(pattern);
+    pattern.Owner()->Add(element, *pattern.Container());
+    element.CopyTemplate(pattern);
   }
 
   /// Destroys an element; one that does not exist is passed over.
   void Unload(std::int16_t index) {
-    if (Find(index) != nullptr) elements_[Place(index)].reset();
+    if (Find(index) != nullptr) elements_[static_cast<std::size_t>(index)].reset();
+  }
+
+  /// Calls visit with each element that exists, by rising index.
+  template <typename Visit>
+  void ForEach(Visit visit) {
+    for (auto& element : elements_) {
+      if (element) visit(*element);
+    }
   }
 
  private:
-  static std::size_t Place(std::int16_t index) { return static_cast<std::size_t>(index); }
+  T* At(std::int16_t index) const {
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < MaxElements ? elements_[place].get() : nullptr;
+  }
+  T* Existing(std::int16_t index) const {
+    T* element = At(index);
+    if (element == nullptr) Broken(name_ + "(" + std::to_string(index) + ") does not exist");
+    return element;
+  }
 
+  const std::string name_;
   std::array<std::unique_ptr<T>, MaxElements> elements_;
 };
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/control.h"
 
@@ -14,7 +16,8 @@ enum class Border { None, FixedSingle };
 
 class Label : public Control {
  public:
-  Label() : Control(ControlKind::Label) {}
+  explicit Label(std::string name, std::int16_t index = 0)
+      : Control(ControlKind::Label, std::move(name), index) {}
 
   Property<std::string> Caption{*this, PropertyId::Caption};
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
@@ -32,7 +35,8 @@ class Label : public Control {
 
 class TextBox : public Control {
  public:
-  TextBox() : Control(ControlKind::TextBox) {}
+  explicit TextBox(std::string name, std::int16_t index = 0)
+      : Control(ControlKind::TextBox, std::move(name), index) {}
 
   Property<std::string> Text{*this, PropertyId::Text};
   /// Characters that typing may reach; 0 for no limit. Assignments are not held to it.
@@ -54,7 +58,8 @@ class TextBox : public Control {
 
 class CommandButton : public Control {
  public:
-  CommandButton() : Control(ControlKind::CommandButton) {}
+  explicit CommandButton(std::string name, std::int16_t index = 0)
+      : Control(ControlKind::CommandButton, std::move(name), index) {}
 
   Property<std::string> Caption{*this, PropertyId::Caption};
   Slot<PlainEvent> Click;
@@ -62,14 +67,16 @@ class CommandButton : public Control {
 
 class Frame : public Control {
  public:
-  Frame() : Control(ControlKind::Frame) {}
+  explicit Frame(std::string name, std::int16_t index = 0)
+      : Control(ControlKind::Frame, std::move(name), index) {}
 
   Property<std::string> Caption{*this, PropertyId::Caption};
 };
 
 class VScrollBar : public Control {
  public:
-  VScrollBar() : Control(ControlKind::VScrollBar) {}
+  explicit VScrollBar(std::string name, std::int16_t index = 0)
+      : Control(ControlKind::VScrollBar, std::move(name), index) {}
 
   int Min = 0;
   int Max = 0;

@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace terramark::forms {
 
@@ -15,7 +16,8 @@ bool TakesKeys(const Control& control) {
 
 }  // namespace
 
-Form::Form(Desktop& host) : Control(ControlKind::Form), Host(host) {
+Form::Form(Desktop& host, std::string name)
+    : Control(ControlKind::Form, std::move(name)), Host(host) {
   form_ = this;
 }
 
@@ -24,11 +26,9 @@ Form::~Form() {
   for (Control* control : controls_) control->form_ = nullptr;
 }
 
-void Form::Add(Control& control, Control& container, const std::string& name, std::int16_t index) {
+void Form::Add(Control& control, Control& container) {
   control.form_ = this;
   control.container_ = &container;
-  control.name_ = name;
-  control.index_ = index;
   container.children_.push_back(&control);
   controls_.push_back(&control);
   if (observer_ != nullptr) observer_->ControlAdded(control);

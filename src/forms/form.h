@@ -35,7 +35,7 @@ class FormObserver {
 
 class Form : public Control {
  public:
-  explicit Form(Desktop& host);
+  Form(Desktop& host, std::string name);
   ~Form() override;
 
   Desktop& Host;
@@ -46,7 +46,7 @@ class Form : public Control {
 
   /// Puts a control on the form inside a container, in front of what stands there already. The
   /// order of adding is the tab order.
-  void Add(Control& control, Control& container, const std::string& name, std::int16_t index);
+  void Add(Control& control, Control& container);
   /// All controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }
 

@@ -2,6 +2,9 @@
 // painted on. A picture larger than the box is reached by scrolling.
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "forms/control.h"
 #include "forms/raster.h"
 
@@ -12,7 +15,9 @@ class PictureBox : public Control {
   /// Thickness of the scroll bars inside the box, in pixels.
   static constexpr int ScrollBarExtent = 16;
 
-  PictureBox() : Control(ControlKind::PictureBox) { InnerScale = Scale::Pixels; }
+  explicit PictureBox(std::string name) : Control(ControlKind::PictureBox, std::move(name)) {
+    InnerScale = Scale::Pixels;
+  }
 
   /// Assigning replaces the persistent image, paint included, also by the picture that stands
   /// already. The empty picture empties the box. Throws std::bad_alloc, with nothing changed, when

@@ -6,15 +6,9 @@
 
 #include <algorithm>
 
+#include "forms/readbytes.h"
+
 namespace terramark::forms {
-
-namespace {
-
-ssize_t ReadAt(int file, char* to, std::size_t bytes, std::size_t from) {
-  return Uninterrupted([&] { return ::pread(file, to, bytes, static_cast<off_t>(from)); });
-}
-
-}  // namespace
 
 RegularFile::RegularFile(const std::filesystem::path& path) {
   // The system's call would take the path for one that ends at the NUL.
@@ -38,22 +32,14 @@ bool RegularFile::TakeSize() {
     return true;
   }
   // The kernel's own files call themselves empty; then they give bytes, or let the reader wait.
-  char byte = 0;
-  return ReadAt(file_.Number(), &byte, 1, 0) == 0;
+  const auto byte = ReadBytes(file_.Number(), 1);
+  return byte && byte->empty();
 }
 
 std::optional<std::string> RegularFile::Read(std::size_t most) const {
   if (!IsOpen()) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(std::min<std::uintmax_t>(size_, most)), '\0');
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t got = ReadAt(file_.Number(), bytes.data() + done, bytes.size() - done, done);
-    if (got < 0) return std::nullopt;
-    if (got == 0) break;  // cut short by another program in the meantime
-    done += static_cast<std::size_t>(got);
-  }
-  bytes.resize(done);
-  return bytes;
+  // Fewer when another program has cut the file short in the meantime.
+  return ReadBytes(file_.Number(), static_cast<std::size_t>(std::min<std::uintmax_t>(size_, most)));
 }
 
 }  // namespace terramark::forms

@@ -16,62 +16,68 @@ bool EndsLine(char c) {
 
 /// The number when the text is nothing but digits and fits the type, as nearly all are.
 template <typename Number>
-bool ReadDigits(std::string_view text, Number& number) {
+std::optional<Number> ReadDigits(std::string_view text) {
   const char* end = text.data() + text.size();
+  Number number = 0;
   const auto read = std::from_chars(text.data(), end, number);
-  return read.ec == std::errc() && read.ptr == end;
+  return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
 }
 
 }  // namespace
 
-bool FieldReader::Line(std::string_view& line) {
-  if (AtEnd()) return false;
+std::optional<std::string_view> FieldReader::Line() {
+  if (AtEnd()) return std::nullopt;
   const std::size_t start = place_;
   while (!AtEnd() && !EndsLine(Next())) ++place_;
-  line = bytes_.substr(start, place_ - start);
+  const std::string_view line = bytes_.substr(start, place_ - start);
   PassLineEnd();
-  return true;
+  return line;
 }
 
-bool FieldReader::Field(std::string_view& text) {
-  if (!BeginField()) return false;
-  if (Next() == '"') return Quoted(text);
-  text = Until(false);
+template <>
+std::optional<std::string_view> FieldReader::Field() {
+  if (!BeginField()) return std::nullopt;
+  if (Next() == '"') return Quoted();
+  const std::string_view text = Until(false);
   PassSeparator();
-  return true;
+  return text;
 }
 
-bool FieldReader::Field(std::int16_t& number) {
-  std::string_view text;
-  if (!Number(text)) return false;
-  if (ReadDigits(text, number)) return true;
-  const auto whole = WholeNumber(ReadNumber(text));
-  if (whole) number = *whole;
-  return whole.has_value();
+template <>
+std::optional<std::int16_t> FieldReader::Field() {
+  const auto text = Number();
+  if (!text) return std::nullopt;
+  const auto digits = ReadDigits<std::int16_t>(*text);
+  return digits ? digits : WholeNumber(ReadNumber(*text));
 }
 
-bool FieldReader::Field(float& number) {
-  std::string_view text;
-  if (!Number(text)) return false;
-  std::int32_t digits = 0;
-  const double value = ReadDigits(text, digits) ? digits : ReadNumber(text);
-  if (std::abs(value) > std::numeric_limits<float>::max()) return false;
-  number = static_cast<float>(value);
-  return true;
+template <>
+std::optional<float> FieldReader::Field() {
+  const auto text = Number();
+  if (!text) return std::nullopt;
+  const auto digits = ReadDigits<std::int32_t>(*text);
+  const double value = digits ? *digits : ReadNumber(*text);
+  if (std::abs(value) > std::numeric_limits<float>::max()) return std::nullopt;
+  return static_cast<float>(value);
 }
 
-bool FieldReader::Field(Components& numbers) {
-  return Fields(numbers[0], numbers[1], numbers[2]);
+template <>
+std::optional<Components> FieldReader::Field() {
+  Components numbers{};
+  for (std::int16_t& number : numbers) {
+    if (!Take(number)) return std::nullopt;
+  }
+  return numbers;
 }
 
 /// The text of a number field; blanks behind it belong to its separator and may be all of it.
-bool FieldReader::Number(std::string_view& number) {
-  if (!BeginField()) return false;
-  if (Next() == '"') return Quoted(number);
-  number = Until(true);
+std::optional<std::string_view> FieldReader::Number() {
+  if (!BeginField()) return std::nullopt;
+  if (Next() == '"') return Quoted();
+  const std::string_view number = Until(true);
   PassBlanks();
   PassSeparator();
-  return true;
+  return number;
 }
 
 bool FieldReader::BeginField() {
@@ -79,17 +85,16 @@ bool FieldReader::BeginField() {
   return !AtEnd();
 }
 
-/// What stands in the quotes, over line ends too; the rest up to the separator is dropped. False
+/// What stands in the quotes, over line ends too; the rest up to the separator is dropped. Nothing
 /// when nothing closes them.
-bool FieldReader::Quoted(std::string_view& text) {
+std::optional<std::string_view> FieldReader::Quoted() {
   const std::size_t start = place_ + 1;
   const std::size_t close = bytes_.find('"', start);
-  if (close == std::string_view::npos) return false;
-  text = bytes_.substr(start, close - start);
+  if (close == std::string_view::npos) return std::nullopt;
   place_ = close + 1;
   Until(false);
   PassSeparator();
-  return true;
+  return bytes_.substr(start, close - start);
 }
 
 std::string_view FieldReader::Until(bool blankEnds) {

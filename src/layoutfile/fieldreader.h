@@ -3,38 +3,49 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
+#include <tuple>
 
 #include "document/tables.h"
 
 namespace terramark {
 
-/// A line end is CR LF, a lone CR or a lone LF, and separates fields as a comma does. Every read is
-/// false when the file ends before it and for a number that its type cannot hold; the reader stands
-/// anywhere then and is done with. Texts point into the bytes, which must outlive them.
+/// A line end is CR LF, a lone CR or a lone LF, and separates fields as a comma does. Every read
+/// gives nothing when the file ends before it and for a number that its type cannot hold; the
+/// reader stands anywhere then and is done with. Texts point into the bytes, which must outlive
+/// them.
 class FieldReader {
  public:
   explicit FieldReader(std::string_view bytes) : bytes_(bytes) {}
 
   /// What is left of the present line, its line end used up.
-  bool Line(std::string_view& line);
+  std::optional<std::string_view> Line();
 
-  /// The next fields, each by the type of its argument: a text; a whole number, rounded, a tie to
-  /// the even one; a float; three whole numbers. A number without digits is 0.
+  /// The next field, by its type: a text; a whole number, rounded, a tie to the even one; a float;
+  /// three whole numbers. A number without digits is 0.
+  template <typename Type>
+  std::optional<Type> Field();
+
+  /// The next fields; nothing when one of them gives nothing.
   template <typename... Types>
-  bool Fields(Types&... fields) {
-    return (Field(fields) && ...);
+  std::optional<std::tuple<Types...>> Fields() {
+    std::tuple<Types...> fields;
+    const bool all = std::apply([this](auto&... field) { return (Take(field) && ...); }, fields);
+    return all ? std::optional(fields) : std::nullopt;
   }
 
  private:
-  bool Field(std::string_view& text);
-  bool Field(std::int16_t& number);
-  bool Field(float& number);
-  bool Field(Components& numbers);
+  template <typename Type>
+  bool Take(Type& field) {
+    const std::optional<Type> read = Field<Type>();
+    if (read) field = *read;
+    return read.has_value();
+  }
 
-  bool Number(std::string_view& number);
+  std::optional<std::string_view> Number();
+  std::optional<std::string_view> Quoted();
   bool BeginField();
-  bool Quoted(std::string_view& text);
   std::string_view Until(bool blankEnds);
   void PassBlanks();
   void PassSeparator();
@@ -45,5 +56,14 @@ class FieldReader {
   std::string_view bytes_;
   std::size_t place_ = 0;
 };
+
+template <>
+std::optional<std::string_view> FieldReader::Field();
+template <>
+std::optional<std::int16_t> FieldReader::Field();
+template <>
+std::optional<float> FieldReader::Field();
+template <>
+std::optional<Components> FieldReader::Field();
 
 }  // namespace terramark

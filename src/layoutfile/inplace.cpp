@@ -5,9 +5,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "forms/descriptor.h"
+#include "forms/readbytes.h"
 #include "layoutfile/writeall.h"
 
 namespace terramark {
@@ -16,20 +18,14 @@ namespace {
 
 constexpr off_t MostKept = off_t{64} << 20;
 
-bool ReadAll(int file, std::string& bytes) {
+/// The whole file; nothing when it is none to keep in memory, or cannot be read to its end.
+std::optional<std::string> ReadAll(int file) {
   struct stat status {};
-  if (forms::Uninterrupted([&] { return ::fstat(file, &status); }) != 0) return false;
-  if (!S_ISREG(status.st_mode) || status.st_size > MostKept) return false;
-  bytes.resize(static_cast<std::size_t>(status.st_size));
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t got = forms::Uninterrupted([&] {
-      return ::pread(file, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
-    });
-    if (got <= 0) return false;
-    done += static_cast<std::size_t>(got);
-  }
-  return true;
+  if (forms::Uninterrupted([&] { return ::fstat(file, &status); }) != 0) return std::nullopt;
+  if (!S_ISREG(status.st_mode) || status.st_size > MostKept) return std::nullopt;
+  const auto size = static_cast<std::size_t>(status.st_size);
+  auto bytes = forms::ReadBytes(file, size);
+  return bytes && bytes->size() == size ? bytes : std::nullopt;
 }
 
 bool Truncate(int file, std::size_t size) {
@@ -61,18 +57,19 @@ bool PutBack(int file, std::string_view old, std::size_t overwritten, bool cut) 
 InPlace WriteInPlace(const std::filesystem::path& path, std::string_view text) {
   const forms::Descriptor file(
       forms::Uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC); }));
-  std::string old;
-  if (!file.IsOpen() || !ReadAll(file.Number(), old)) return InPlace::Kept;
+  if (!file.IsOpen()) return InPlace::Kept;
+  const std::optional<std::string> old = ReadAll(file.Number());
+  if (!old) return InPlace::Kept;
 
   if (!MakeRoom(file.Number(), text.size())) {
     // Gives back what room there was.
-    Truncate(file.Number(), old.size());
+    Truncate(file.Number(), old->size());
     return InPlace::Kept;
   }
   const std::size_t written = WriteAll(file.Number(), text);
   const bool cut = written == text.size() && Truncate(file.Number(), text.size());
   if (cut && Flush(file.Number())) return InPlace::Written;
-  return PutBack(file.Number(), old, written, cut) ? InPlace::Kept : InPlace::Damaged;
+  return PutBack(file.Number(), *old, written, cut) ? InPlace::Kept : InPlace::Damaged;
 }
 
 }  // namespace terramark

@@ -49,6 +49,8 @@ Decimal ShortestDecimal(float value) {
   return SplitScientific({form.data(), rounded.ptr});
 }
 
+/// The shortest decimal form, with at most 7 significant digits, a zero before the point below 1
+/// and no exponent. Minus zero is 0.
 void AppendFloat(std::string& text, float value) {
   if (std::abs(value) < WholeLimit && std::trunc(value) == value) {
     AppendWhole(text, static_cast<int>(value));
@@ -69,12 +71,6 @@ void AppendFloat(std::string& text, float value) {
 }
 
 }  // namespace
-
-std::string FloatText(float value) {
-  std::string text;
-  AppendFloat(text, value);
-  return text;
-}
 
 void LayoutText::Put(std::int16_t number) {
   AppendWhole(text_, number);

@@ -10,10 +10,6 @@
 
 namespace terramark {
 
-/// A 32-bit float in its shortest decimal form, with at most 7 significant digits, a zero before
-/// the point below 1 and no exponent. Minus zero is 0.
-std::string FloatText(float value);
-
 class LayoutText {
  public:
   LayoutText() { text_.reserve(UsualBytes); }
@@ -24,8 +20,8 @@ class LayoutText {
     text_ += "\r\n";
   }
 
-  /// A line of fields, each by its type: a whole number, a float, a text in quotes, three whole
-  /// numbers.
+  /// A line of fields, each by its type: a whole number, a float in its shortest form, a text in
+  /// quotes, three whole numbers.
   template <typename First, typename... Rest>
   void Fields(const First& first, const Rest&... rest) {
     Put(first);
@@ -36,7 +32,7 @@ class LayoutText {
   const std::string& Text() const { return text_; }
 
  private:
-  /// Room for the largest map, so that the text seldom moves as it grows.
+  /// Room for most maps, so that the text seldom moves as it grows.
   static constexpr std::size_t UsualBytes = 16384;
 
   void Put(std::int16_t number);

@@ -1,10 +1,10 @@
 #include "layoutfile/readmapfile.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "document/cardsymbol.h"
-#include "document/corner.h"
 #include "shell/backdrop.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
@@ -19,10 +19,6 @@ namespace {
 constexpr char BoxTitle[] = "TMRK 1.1";
 constexpr int ExitFailed = 1;
 
-// Pixels; the same for every Area marker, the template included.
-constexpr float MarkerWidth = 32;
-constexpr float MarkerHeight = 16;
-
 /// Pairs that are looked through for the end of the bridge lines.
 constexpr int MostBridgeLines = 99;
 
@@ -36,34 +32,36 @@ void MakeMarkers(Form1& form) {
   for (std::int16_t i = 0; i <= form.AreaCount; ++i) {
     forms::Label& marker = form.ArmyAt(i);
     marker.BorderStyle = forms::Border::FixedSingle;
-    marker.Width = MarkerWidth;
-    marker.Height = MarkerHeight;
+    marker.Width = AreaMarkerWidth;
+    marker.Height = AreaMarkerHeight;
   }
 }
 
 bool ReadHead(Form1& form, FieldReader& file) {
-  std::string_view header;
-  std::string_view timeStamp;
-  if (!file.Line(header)) return false;
-  form.Text1.Text = std::string(header);
-  std::int16_t regions = 0;
-  std::int16_t areas = 0;
-  if (!file.Line(timeStamp) || !file.Fields(regions, areas)) return false;
+  const auto header = file.Line();
+  if (!header) return false;
+  form.Text1.Text = std::string(*header);
+  const auto timeStamp = file.Line();
+  const auto counts = file.Fields<std::int16_t, std::int16_t>();
+  if (!timeStamp || !counts) return false;
+  const auto [regions, areas] = *counts;
   if (!IsTableNumber(regions) || !IsTableNumber(areas)) return false;
   form.RegionCount = regions;
   form.AreaCount = areas;
   MakeMarkers(form);
-  std::string_view picture;
-  if (!file.Fields(picture)) return false;
-  form.PictureFile = picture;
+  const auto picture = file.Field<std::string_view>();
+  if (!picture) return false;
+  form.PictureFile = *picture;
   return true;
 }
 
 bool ReadPlayerColours(Form1& form, FieldReader& file) {
   for (Components& rgb : form.PlayerRGB) {
-    if (!file.Fields(rgb)) return false;
+    const auto read = file.Field<Components>();
+    if (!read) return false;
+    rgb = *read;
   }
-  for (std::int16_t i = 0; i < 4; ++i) {
+  for (std::int16_t i = 0; i < PlayerColours; ++i) {
     form.PlColor(i).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(i)]);
   }
   return true;
@@ -75,31 +73,26 @@ std::string SymbolCode(std::string_view letter, std::string_view name) {
 }
 
 bool ReadArea(Form1& form, FieldReader& file, std::int16_t region) {
-  std::int16_t a = 0;
-  std::int16_t corner = 0;
-  std::string_view letter;
-  std::string_view name;
-  std::string_view links;
-  if (!file.Fields(a, letter, name, links, corner)) return false;
+  using Text = std::string_view;
+  const auto line = file.Fields<std::int16_t, Text, Text, Text, std::int16_t>();
+  if (!line) return false;
+  const auto [a, letter, name, links, corner] = *line;
   forms::Label* marker = form.ArmyAt.Find(a);
   if (marker == nullptr) return false;
   form.AreaName(a) = name;
   form.AreaLinks(a) = links;
-  form.AreaCorner(a) = corner;
   form.AreaSymbol(a) = SymbolCode(letter, name);
   PaintMarker(*marker, form.Continent(region).ForeColor);
-  marker->Caption = MarkerCaption(a, corner);
+  SetCorner(form, a, corner);
   form.AreaRegion(a) = region;
   return true;
 }
 
 bool ReadRegionGroup(Form1& form, FieldReader& file) {
-  std::int16_t r = 0;
-  std::int16_t members = 0;
-  Components rgb{};
-  std::string_view name;
-  std::int16_t armies = 0;
-  if (!file.Fields(r, members, rgb, name, armies)) return false;
+  const auto line =
+      file.Fields<std::int16_t, std::int16_t, Components, std::string_view, std::int16_t>();
+  if (!line) return false;
+  const auto [r, members, rgb, name, armies] = *line;
   forms::Label* marker = form.Continent.Find(r);
   if (marker == nullptr) return false;
   form.RegionName(r) = name;
@@ -120,34 +113,33 @@ bool ReadRegionGroups(Form1& form, FieldReader& file) {
   return true;
 }
 
-/// A line of a section that is computed afresh at each save.
-bool PassPair(FieldReader& file, std::int16_t& number) {
-  std::string_view text;
-  return file.Fields(number, text) && IsTableNumber(number);
+/// The number of a line of a section that is computed afresh at each save.
+std::optional<std::int16_t> PassPair(FieldReader& file) {
+  const auto pair = file.Fields<std::int16_t, std::string_view>();
+  if (!pair || !IsTableNumber(std::get<0>(*pair))) return std::nullopt;
+  return std::get<0>(*pair);
 }
 
 bool PassPairs(FieldReader& file, std::int16_t count) {
-  std::int16_t number = 0;
   for (std::int16_t k = 0; k < count; ++k) {
-    if (!PassPair(file, number)) return false;
+    if (!PassPair(file)) return false;
   }
   return true;
 }
 
 bool PassBridges(FieldReader& file) {
   for (int k = 0; k < MostBridgeLines; ++k) {
-    std::int16_t number = 0;
-    if (!PassPair(file, number)) return false;
-    if (number == 0) break;
+    const auto number = PassPair(file);
+    if (!number) return false;
+    if (*number == 0) break;
   }
   return true;
 }
 
 bool PassComputedSections(Form1& form, FieldReader& file) {
-  std::string_view head;
-  return file.Line(head) && PassBridges(file) &&                // bridges
-         file.Line(head) && PassPairs(file, form.AreaCount) &&  // blitz
-         file.Line(head) && PassPairs(file, form.RegionCount);  // breaks
+  return file.Line() && PassBridges(file) &&                // bridges
+         file.Line() && PassPairs(file, form.AreaCount) &&  // blitz
+         file.Line() && PassPairs(file, form.RegionCount);  // breaks
 }
 
 /// From pixels of the saving screen to pixels of this one.
@@ -158,10 +150,9 @@ struct PositionScale {
 
 bool ReadPosition(forms::ControlArray<forms::Label>& markers, FieldReader& file,
                   PositionScale scale) {
-  std::int16_t k = 0;
-  float x = 0;
-  float y = 0;
-  if (!file.Fields(k, x, y)) return false;
+  const auto line = file.Fields<std::int16_t, float, float>();
+  if (!line) return false;
+  const auto [k, x, y] = *line;
   forms::Label* marker = markers.Find(k);
   if (marker == nullptr) return false;
   marker->Left = scale.X * x;
@@ -170,16 +161,16 @@ bool ReadPosition(forms::ControlArray<forms::Label>& markers, FieldReader& file,
 }
 
 bool ReadPositions(Form1& form, FieldReader& file) {
-  std::string_view head;
-  std::int16_t twipsX = 0;
-  std::int16_t twipsY = 0;
-  if (!file.Line(head) || !file.Fields(twipsX, twipsY)) return false;
+  if (!file.Line()) return false;
+  const auto twips = file.Fields<std::int16_t, std::int16_t>();
+  if (!twips) return false;
+  const auto [twipsX, twipsY] = *twips;
   const PositionScale scale{static_cast<float>(twipsX) / form.Host.TwipsPerPixelX(),
                             static_cast<float>(twipsY) / form.Host.TwipsPerPixelY()};
   for (std::int16_t k = 0; k <= form.AreaCount; ++k) {
     if (!ReadPosition(form.ArmyAt, file, scale)) return false;
   }
-  if (!file.Line(head)) return false;
+  if (!file.Line()) return false;
   for (std::int16_t k = 0; k < form.RegionCount; ++k) {
     if (!ReadPosition(form.Continent, file, scale)) return false;
   }

@@ -10,9 +10,9 @@
 #include "layoutfile/routes.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
-#include "shell/carddraw.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/randomcard.h"
 
 namespace terramark {
 
@@ -39,7 +39,7 @@ void WriteHead(Form1& form, LayoutText& file) {
 /// An Area without a symbol gets one drawn for the file alone. Code "9" has no letter of its own.
 char CardLetter(Form1& form, std::int16_t area) {
   const std::string& symbol = form.AreaSymbol(area);
-  const char code = symbol.empty() ? DrawCardSymbol(form) : symbol[0];
+  const char code = symbol.empty() ? RandomCardSymbol(form) : symbol[0];
   const CardSymbol* found = SymbolOfCode(std::string_view(&code, 1));
   return found == nullptr ? 'G' : found->Letter;
 }

@@ -1,6 +1,7 @@
 #include "selection/arrowkeys.h"
 
 #include "selection/selection.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {

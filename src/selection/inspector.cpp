@@ -3,6 +3,8 @@
 #include "document/cardsymbol.h"
 #include "document/numbers.h"
 #include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
 #include "shell/markers.h"
 
 namespace terramark {

@@ -14,32 +14,18 @@ namespace terramark {
 namespace {
 
 void Unmark(forms::Label& marker) {
-  marker.BackColor = ClrBlack;
-  marker.ForeColor = TagColour(marker);
-}
-
-void LookMarked(forms::Label& marker) {
-  marker.BackColor = ClrGrey;
-  marker.ForeColor = ClrWhite;
-}
-
-void LookCurrent(forms::Label& marker) {
-  marker.BackColor = ClrWhite;
-  marker.ForeColor = ClrBlack;
+  if (LookOf(marker) != Look::Plain) Show(marker, Look::Plain);
 }
 
 void FlipMark(Form1& form, forms::Label& marker) {
-  if (marker.BackColor != ClrBlack) {
-    Unmark(marker);
+  if (LookOf(marker) != Look::Plain) {
+    Show(marker, Look::Plain);
     --form.MarkCount;
   } else {
-    LookMarked(marker);
+    Show(marker, Look::Marked);
     ++form.MarkCount;
   }
-  if (form.RGBFrame.Enabled) {
-    form.RGBFrame.Enabled = false;
-    form.RGBFrame.Tag = NoColourTarget;
-  }
+  if (form.RGBFrame.Enabled) DropColourTarget(form);
 }
 
 void ShowName(Form1& form, const std::string& name, forms::Color colour) {
@@ -56,11 +42,11 @@ std::string ArmiesText(std::int16_t armies) {
 
 void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
   ClearSelection(form);
-  LookCurrent(marker);
+  Show(marker, Look::Current);
   ++form.MarkCount;
   form.CurArea = area;
   const CardSymbol* symbol = SymbolOfCode(form.AreaSymbol(area));
-  ShowName(form, form.AreaName(area), TagColour(form.Continent(0)));
+  ShowName(form, form.AreaName(area), OwnColour(form.Continent(0)));
   form.Symb.Text = SymbolLetter(form.AreaSymbol(area));
   form.Symb.Enabled = true;
   form.Armypc.Text = "";
@@ -81,18 +67,17 @@ void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
 
 void ClearSelection(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.ArmyAt(i).BackColor != ClrBlack) Unmark(form.ArmyAt(i));
+    Unmark(form.ArmyAt(i));
   }
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
-    if (form.Continent(r).BackColor != ClrBlack) Unmark(form.Continent(r));
+    Unmark(form.Continent(r));
   }
   // Before the boxes go blank, so that their change events write nothing into the document.
   form.MarkCount = 0;
   form.CurArea = 0;
   form.CurRegion = 0;
-  form.RGBFrame.Enabled = false;
+  DropColourTarget(form);
   form.PlColor(RegionButton).Enabled = false;
-  form.RGBFrame.Tag = NoColourTarget;
   ShowMessage(form, "", ClrGreen);
   form.EditText.Text = "";
   form.Symb.Text = "";
@@ -113,10 +98,10 @@ void SelectRegion(Form1& form, std::int16_t region) {
   forms::Label* marker = RegionMarker(form, region);
   if (marker == nullptr) return;
   ClearSelection(form);
-  LookCurrent(*marker);
+  Show(*marker, Look::Current);
   form.CurRegion = region;
   ++form.MarkCount;
-  ShowName(form, form.RegionName(region), TagColour(*marker));
+  ShowName(form, form.RegionName(region), OwnColour(*marker));
   form.Symb.Text = "";
   form.Symb.Enabled = false;
   form.Armypc.Enabled = true;
@@ -128,7 +113,7 @@ void SelectRegion(Form1& form, std::int16_t region) {
                   ", armies = " + form.Armypc.Text.Get(),
               ClrGreen);
   form.PlColor(RegionButton).Enabled = true;
-  form.PlColor(RegionButton).BackColor = TagColour(*marker);
+  form.PlColor(RegionButton).BackColor = OwnColour(*marker);
 }
 
 void HiliteRegionAreas(Form1& form, std::int16_t& count) {
@@ -136,7 +121,7 @@ void HiliteRegionAreas(Form1& form, std::int16_t& count) {
   count = 0;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) != form.CurRegion) continue;
-    LookMarked(form.ArmyAt(i));
+    Show(form.ArmyAt(i), Look::Marked);
     ++count;
   }
 }
@@ -144,7 +129,7 @@ void HiliteRegionAreas(Form1& form, std::int16_t& count) {
 void HiliteAreaLinks(Form1& form, std::int16_t& count) {
   if (form.CurArea == 0) return;
   for (std::int16_t a = 1; a <= form.AreaCount; ++a) {
-    if (form.ArmyAt(a).BackColor != ClrWhite) continue;
+    if (LookOf(form.ArmyAt(a)) != Look::Current) continue;
     count = 0;
     for (const std::int16_t neighbour : Neighbours(form.AreaLinks(a))) {
       SelectArea(form, neighbour, 1);

@@ -1,7 +1,5 @@
 #include "shell/aboutform.h"
 
-#include <array>
-
 #include "shell/controltable.h"
 #include "shell/form1.h"
 #include "shell/icon.h"
@@ -15,18 +13,18 @@ constexpr char AboutSentence[] =
 
 // In tab order; places and sizes in twips.
 // clang-format off
-constexpr std::array<ControlRow<AboutForm>, 4> AboutControls{{
-    // control                    name         i  caption  inside  left  top   width  height
-    {The<&AboutForm::AboutOk>,    "AboutOk",   0, "OK",    Itself, 4530,  615,  510,  375},
-    {The<&AboutForm::Picture1>,   "Picture1",  0, "",      Itself, 4530,   45,  510,  480},
-    {The<&AboutForm::AboutText>,  "AboutText", 0, "",      Itself,    0,   30, 4440, 1050},
-    {The<&AboutForm::Label1>,     "Label1",    0, "",      Itself,   30, 1110, 5025,  315},
-}};
+constexpr ControlRow<AboutForm> AboutControls[] = {
+    // control                   caption topic inside  left  top   width  height
+    {The<&AboutForm::AboutOk>,   "OK",  0,     Itself, 4530,  615,  510,  375},
+    {The<&AboutForm::Picture1>,  "",    0,     Itself, 4530,   45,  510,  480},
+    {The<&AboutForm::AboutText>, "",    0,     Itself,    0,   30, 4440, 1050},
+    {The<&AboutForm::Label1>,    "",    0,     Itself,   30, 1110, 5025,  315},
+};
 // clang-format on
 
 }  // namespace
 
-AboutForm::AboutForm(forms::Desktop& host) : Form(host) {
+AboutForm::AboutForm(forms::Desktop& host) : Form(host, "AboutForm") {
   Caption = "About Terramark";
   BackColor = 0x00808080;
   Move(2790, 2925);

@@ -12,10 +12,10 @@ struct Form1;
 struct AboutForm : forms::Form {
   explicit AboutForm(forms::Desktop& host);
 
-  forms::CommandButton AboutOk;
-  forms::PictureBox Picture1;
-  forms::TextBox AboutText;
-  forms::Label Label1;
+  forms::CommandButton AboutOk{"AboutOk"};  // "OK"
+  forms::PictureBox Picture1{"Picture1"};   // the program's icon
+  forms::TextBox AboutText{"AboutText"};    // what the program is called and who made it
+  forms::Label Label1{"Label1"};            // a bare coloured bar
 };
 
 /// Shows the about box until it is closed. The one command button without help: a press with the

@@ -27,7 +27,15 @@ void ShowHelpbar(Form1& form, const std::string& text) {
 }
 
 void UpdateCounts(Form1& form) {
+  UpdateAreaCount(form);
+  UpdateRegionCount(form);
+}
+
+void UpdateAreaCount(Form1& form) {
   UpdateCount(form.Countx(0), form.AreaCount);
+}
+
+void UpdateRegionCount(Form1& form) {
   UpdateCount(form.Countx(1), form.RegionCount);
 }
 

@@ -20,6 +20,9 @@ void ShowHelpbar(Form1& form, const std::string& text);
 /// Brings the Countx labels into line with AreaCount and RegionCount. A label that reads as its
 /// count already is left alone, so an empty one stays empty at 0.
 void UpdateCounts(Form1& form);
+/// The same for one of them.
+void UpdateAreaCount(Form1& form);
+void UpdateRegionCount(Form1& form);
 
 /// Opens the help viewer on a topic of the help file. A missing viewer or topic is not reported.
 void ShowHelpTopic(Form1& form, std::int16_t topic);

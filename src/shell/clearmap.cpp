@@ -1,15 +1,16 @@
 #include "shell/clearmap.h"
 
-#include "document/numbers.h"
+#include "document/links.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/markers.h"
 
 namespace terramark {
 
 void ClearMap(Form1& form) {
   for (std::int16_t i = 1; i <= LastNumber; ++i) {
-    form.AreaLinks(i) = " ";
+    form.AreaLinks(i) = ClearedLinks;
     form.RegionName(i) = UnknownName;
     form.AreaName(i) = UnknownName;
     form.RegionArmies(i) = NewArmies;
@@ -26,10 +27,9 @@ void ClearMap(Form1& form) {
   form.ArmyAt(0).Visible = false;
   form.Continent(0).Visible = false;
   for (std::int16_t r = 0; r <= LastNumber; ++r) {
-    form.RegionRGB(r) = {UnsetComponent, UnsetComponent, UnsetComponent};
+    form.RegionRGB(r).fill(UnsetComponent);
   }
-  form.Continent(0).ForeColor = ClrWhite;
-  form.Continent(0).Tag = PlainNumber(static_cast<std::int32_t>(ClrWhite));
+  SetOwnColour(form.Continent(0), ClrWhite, TagForm::WithoutBlank);
   form.RGBFrame.Enabled = false;
   UpdateCounts(form);
 }

@@ -1,14 +1,32 @@
-// What the scroll bars of the colour panel edit, as RGBFrame.Tag holds it: "0" to "3" for a row of
-// PlayerRGB, "R" and a number for a Region, or nothing.
+// What the scroll bars of the colour panel edit. RGBFrame.Tag holds it, as a text.
 #pragma once
 
 #include <cstdint>
 
+#include "document/tables.h"
+
 namespace terramark {
 
-inline constexpr char NoColourTarget[] = "-1";
-inline constexpr char RegionTarget = 'R';
+struct Form1;
+
 /// The PlColor button of the current Region; those before it are the rows of PlayerRGB.
-inline constexpr std::int16_t RegionButton = 4;
+inline constexpr std::int16_t RegionButton = PlayerColours;
+
+struct ColourTarget {
+  enum class Kind { None, Player, Region };
+
+  Kind Of = Kind::None;
+  std::int16_t Number = 0;  // a row of PlayerRGB, or a Region
+};
+
+/// The target as the Tag tells it: "-1" or nothing for none, "0" to "3" for a row of PlayerRGB, "R"
+/// and a number for a Region.
+ColourTarget TargetOf(const Form1& form);
+
+/// Lets the bars move, for a target that is not none.
+void SetColourTarget(Form1& form, ColourTarget target);
+
+/// Holds the bars still and leaves them no target.
+void DropColourTarget(Form1& form);
 
 }  // namespace terramark

@@ -11,38 +11,47 @@
 
 namespace terramark {
 
+/// Finds a control of a form, for a row of a table.
+template <typename FormType, typename Kind = forms::Control>
+using Finder = Kind& (*)(FormType&);
+
 /// A row of a form's control table; the rows stand in tab order. Left, Top, Width and Height are
 /// twips from the inside of the container.
 template <typename FormType>
 struct ControlRow {
-  using Place = forms::Control& (*)(FormType&);
-
-  Place Of;
-  const char* Name;
-  std::int16_t Index;
+  Finder<FormType> Of;
   const char* Caption;
-  Place Container;
+  std::int16_t HelpTopic;  // opened by a press with the Shift key alone; 0 for none
+  Finder<FormType> Container;
   float Left;
   float Top;
   float Width;
   float Height;
+  const char* ToolTipText = "";
 };
 
-/// The control that a member of the form holds, for a row.
-template <auto Member, typename FormType>
-forms::Control& The(FormType& form) {
+/// The control that a member of the form holds. In a row that takes one kind of control, a member
+/// of another kind does not compile.
+template <auto Member, typename Kind, typename FormType>
+Kind& The(FormType& form) {
   return form.*Member;
 }
 
-/// The element of a control array, created when it does not exist yet, for a row.
-template <auto Array, std::int16_t Index, typename FormType>
-forms::Control& Element(FormType& form) {
+/// The element of a control array, made here: for the control table alone.
+template <auto Array, std::int16_t Index, typename Kind, typename FormType>
+Kind& Make(FormType& form) {
   return (form.*Array).Design(Index);
 }
 
-/// The form itself as a container, for a row.
-template <typename FormType>
-forms::Control& Itself(FormType& form) {
+/// The element of a control array, which the control table has to make.
+template <auto Array, std::int16_t Index, typename Kind, typename FormType>
+Kind& Element(FormType& form) {
+  return (form.*Array)(Index);
+}
+
+/// The form itself as a container.
+template <typename Kind, typename FormType>
+Kind& Itself(FormType& form) {
   return form;
 }
 
@@ -60,7 +69,9 @@ void BuildControls(FormType& form, std::span<const ControlRow<FormType>> table) 
     forms::Control& control = row.Of(form);
     forms::Control& container = row.Container(form);
     // On the form first: only there does a size in twips mean pixels.
-    form.Add(control, container, row.Name, row.Index);
+    form.Add(control, container);
+    control.HelpTopic = row.HelpTopic;
+    control.ToolTipText = row.ToolTipText;
     SetCaption(control, row.Caption);
     PlaceControl(form, control, container, row.Left, row.Top, row.Width, row.Height);
   }

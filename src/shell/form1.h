@@ -12,77 +12,81 @@
 
 namespace terramark {
 
+/// Behind a control stands its caption, or the word that a user knows it by.
 struct Form1 : forms::Form, Tables {
   /// Builds the controls from the control table. Form_Load then brings the editor up.
   explicit Form1(forms::Desktop& host);
 
-  // Twips per screen pixel in whole numbers; from a place inside a marker to pixels.
-  std::int16_t TwipsX = 0;
-  std::int16_t TwipsY = 0;
-  // Where a drag took hold of a marker, in pixels from its corner.
-  std::int16_t DragOffX = 0;
-  std::int16_t DragOffY = 0;
   // What is current, 0 for none. A number may outlive its marker: look with Find before use.
   std::int16_t CurArea = 0;
   std::int16_t CurRegion = 0;
   // Running count of marks; raised and lowered by gestures, not derived from the markers.
   std::int16_t MarkCount = 0;
-  // The marked Areas found by Swap Territories, from element 1 on.
-  Table<std::int16_t> MarkedAreas;
-  // The text of Armypc before the key now being pressed.
-  std::string ArmypcLast;
   // Path of the layout last opened or saved.
   std::string LayoutFile;
   std::string HelpFile;
-  // The colour composed on the scroll bars, and what holds them still while the panel moves them.
+
+  // Of the mouse on the markers (canvas/markermouse). Twips per screen pixel in whole numbers; from
+  // a place inside a marker to pixels. And where a drag took hold, in pixels from its corner.
+  std::int16_t TwipsX = 0;
+  std::int16_t TwipsY = 0;
+  std::int16_t DragOffX = 0;
+  std::int16_t DragOffY = 0;
+  // Of "Swap Territories" (commands/swapareas): the marked Areas it found, from element 1 on.
+  Table<std::int16_t> MarkedAreas;
+  // Of the armies (selection/inspector): the text of Armypc before the key now being pressed.
+  std::string ArmypcLast;
+  // Of the colour panel (canvas/colourpanel): the colour composed on the bars, and what holds them
+  // still while the panel moves them.
   forms::Color SliderColour = 0;
   std::int16_t SliderLock = 0;
   static constexpr std::int16_t LockOn = 1;
   static constexpr std::int16_t LockOff = 0;
-
+  // Of the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
 
-  // Inspector and bars
-  forms::TextBox Text1;
-  forms::TextBox EditText;
-  forms::TextBox Symb;
-  forms::TextBox Armypc;
-  forms::Label Message;
-  forms::Label Helpbar;
+  // Above the picture
+  forms::TextBox Text1{"Text1"};        // the header line of the layout
+  forms::TextBox EditText{"EditText"};  // the name of the Area or Region
+  forms::TextBox Symb{"Symb"};          // the card symbol of the Area
+  forms::TextBox Armypc{"Armypc"};      // the armies of the Region
+  forms::Label Helpbar{"Helpbar"};      // what is under the pointer
+  forms::Label Message{"Message"};      // what a command says
 
-  // Canvas
-  forms::PictureBox Picture1;
-  forms::ControlArray<forms::Label> ArmyAt;
-  forms::ControlArray<forms::Label> Continent;
+  // The map
+  forms::PictureBox Picture1{"Picture1"};                    // the picture
+  forms::ControlArray<forms::Label> ArmyAt{"ArmyAt"};        // the Areas' markers
+  forms::ControlArray<forms::Label> Continent{"Continent"};  // the Regions' markers
 
-  // Colour panel
-  forms::Frame Frame3D1;
-  forms::ControlArray<forms::CommandButton> PlColor;
-  forms::Frame RGBFrame;
-  forms::ControlArray<forms::VScrollBar> ColBar;
+  // "Colours" and "RGB"
+  forms::Frame Frame3D1{"Frame3D1"};                             // "Colours"
+  forms::ControlArray<forms::CommandButton> PlColor{"PlColor"};  // "Player1" to "Continent"
+  forms::Frame RGBFrame{"RGBFrame"};                             // "RGB"
+  forms::ControlArray<forms::VScrollBar> ColBar{"ColBar"};       // red, green, blue
 
-  // Counts and captions
-  forms::Frame Frame1;
-  forms::ControlArray<forms::Label> Countx;
-  forms::ControlArray<forms::Label> Label1;
+  // "Size", and the words over other controls
+  forms::Frame Frame1{"Frame1"};                       // "Size"
+  forms::ControlArray<forms::Label> Countx{"Countx"};  // the numbers of Areas and of Regions
+  forms::ControlArray<forms::Label> Label1{
+      "Label1"};  // "Areas", "Regions", "Map Layout", "Picture"
 
   // Commands
-  forms::CommandButton LoadMpa;
-  forms::CommandButton LoadMap;
-  forms::CommandButton Cvalid;
-  forms::CommandButton SaveCFG;
-  forms::CommandButton DelAll;
-  forms::CommandButton TMHelp;
-  forms::CommandButton DBPush1;
-  forms::CommandButton RefMap;
-  forms::CommandButton SwapTer;
-  forms::CommandButton ClearLink;
-  forms::CommandButton DelControl;
-  forms::CommandButton AddTer;
-  forms::CommandButton AddCont;
-  forms::CommandButton MakeNeibor;
-  forms::CommandButton SetCont;
-  forms::CommandButton Quit;
+  forms::CommandButton LoadMap{"LoadMap"};        // "Load A .WMF Picture"; then the picture's name
+  forms::CommandButton LoadMpa{"LoadMpa"};        // "Load a Map Layout"; then the layout's name
+  forms::CommandButton SaveCFG{"SaveCFG"};        // "Save a Map Layout"
+  forms::CommandButton Cvalid{"Cvalid"};          // "Validate Map"
+  forms::CommandButton RefMap{"RefMap"};          // "Refresh map"
+  forms::CommandButton AddTer{"AddTer"};          // "Add Area"
+  forms::CommandButton AddCont{"AddCont"};        // "Add Region"
+  forms::CommandButton MakeNeibor{"MakeNeibor"};  // "Set Neighbours"
+  forms::CommandButton SetCont{"SetCont"};        // "Set Region"
+  forms::CommandButton SwapTer{"SwapTer"};        // "Swap Territories"
+  forms::CommandButton ClearLink{"ClearLink"};    // "Clear all Links"
+  forms::CommandButton DelControl{"DelControl"};  // "Delete"
+  forms::CommandButton DelAll{"DelAll"};          // "Clear whole Map"
+  forms::CommandButton TMHelp{"TMHelp"};          // "Help"
+  forms::CommandButton DBPush1{"DBPush1"};        // "About"
+  forms::CommandButton Quit{"Quit"};              // "Exit"
 };
 
 }  // namespace terramark

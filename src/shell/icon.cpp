@@ -1,6 +1,6 @@
 #include "shell/icon.h"
 
-#include <array>
+#include <iterator>
 
 namespace terramark {
 
@@ -9,7 +9,7 @@ namespace {
 constexpr int Side = 32;
 
 // K frame and borders, B sea, R G Y W the territories.
-constexpr std::array<const char*, Side> Drawing{
+constexpr const char* Drawing[] = {
     "KKKKKKKKKKKKKKKKKKKKKKKKKKKKKKKK", "KBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBK",
     "KBBBBBBBBBBBBKKKKKBBBBBBBBBBBBBK", "KBBBBBBBBBBBKRRKGGKBBBBBBBBBBBBK",
     "KBBBBBBBBBBKRRRKGGGKBBBBBBBBBBBK", "KBBBBBBBBKKRRRRKGGGKBBBBBBBBBBBK",
@@ -27,6 +27,7 @@ constexpr std::array<const char*, Side> Drawing{
     "KBBBBBBBBKKKBBBBBBBBBBBBBBBBBBBK", "KBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBK",
     "KBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBK", "KKKKKKKKKKKKKKKKKKKKKKKKKKKKKKKK",
 };
+static_assert(std::size(Drawing) == Side);
 
 std::uint32_t PixelOf(char mark) {
   switch (mark) {

@@ -1,35 +1,54 @@
-// The markers by number, and their saved colour: the plain ForeColor of a marker, kept as decimal
-// text in its Tag while a mark covers it.
+// The markers: by number, how they look, and the colour of their own that a look covers.
 #pragma once
 
 #include <cstdint>
 
-#include "document/numbers.h"
-#include "shell/colours.h"
-#include "shell/form1.h"
+#include "forms/color.h"
+#include "forms/controls.h"
 
 namespace terramark {
 
+struct Form1;
+
+/// Pixels; the same for every Area's marker.
+inline constexpr float AreaMarkerWidth = 32;
+inline constexpr float AreaMarkerHeight = 16;
+/// The template's; a caption then sets its own.
+inline constexpr float RegionMarkerHeight = 16;
+
 /// The marker of an Area, or null when that number has none, as 0 and a number that has gone.
-inline forms::Label* AreaMarker(Form1& form, std::int16_t area) {
-  return area < 1 ? nullptr : form.ArmyAt.Find(area);
-}
-
+forms::Label* AreaMarker(Form1& form, std::int16_t area);
 /// The marker of a Region, likewise.
-inline forms::Label* RegionMarker(Form1& form, std::int16_t region) {
-  return region < 1 ? nullptr : form.Continent.Find(region);
-}
+forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
-/// The colour that a Tag's text holds.
-inline forms::Color TagColour(const forms::Control& marker) {
-  return static_cast<forms::Color>(static_cast<std::int64_t>(ReadNumber(marker.Tag.Get())));
-}
+/// What is selected lives in the looks of the markers and nowhere else.
+enum class Look {
+  Plain,    // its own colour on ClrBlack
+  Current,  // ClrBlack on ClrWhite
+  Marked,   // ClrWhite on ClrGrey
+};
 
-/// Gives a marker its own colour: as ForeColor, in the Tag, on ClrBlack.
-inline void PaintMarker(forms::Label& marker, forms::Color colour) {
-  marker.ForeColor = colour;
-  marker.Tag = NumberText(static_cast<std::int32_t>(colour));
-  marker.BackColor = ClrBlack;
-}
+/// By the background alone: a marker may keep that of a look under its own colour.
+Look LookOf(const forms::Label& marker);
+void Show(forms::Label& marker, Look look);
+
+/// The marker's own colour, which its Tag keeps as decimal text.
+forms::Color OwnColour(const forms::Label& marker);
+
+/// How a Tag's text begins. Both read as the same number.
+enum class TagForm { WithBlank, WithoutBlank };
+
+/// Gives a marker a colour of its own, as text colour and in the Tag. The background stays.
+void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm form);
+
+/// Gives a marker a colour of its own and the plain look.
+void PaintMarker(forms::Label& marker, forms::Color colour, TagForm form = TagForm::WithBlank);
+
+/// Gives an Area's marker the own colour of its Region's, Tag and all. The background stays.
+void TakeRegionColour(forms::Label& area, const forms::Label& region);
+
+/// Makes a corner of an Area's marker its fill point, and shows it in the caption. The marker must
+/// exist.
+void SetCorner(Form1& form, std::int16_t area, std::int16_t corner);
 
 }  // namespace terramark

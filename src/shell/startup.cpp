@@ -7,6 +7,7 @@
 #include "shell/colours.h"
 #include "shell/colourtarget.h"
 #include "shell/form1.h"
+#include "shell/markers.h"
 #include "shell/questions.h"
 
 namespace terramark {
@@ -16,13 +17,13 @@ namespace {
 constexpr char Banner[] = "Terramark 1 - Map Layout editor, by the Terramark developers";
 
 // The stored default of full intensity is 256, not 255.
-constexpr std::array<Components, 4> DefaultPlayerRGB{{
+constexpr auto DefaultPlayerRGB = std::to_array<Components>({
     // red green blue
     {0, 256, 0},      // Player1
     {256, 0, 0},      // Player2
     {256, 256, 0},    // Player3
     {125, 125, 125},  // Neutral
-}};
+});
 
 }  // namespace
 
@@ -41,14 +42,13 @@ void Form_Load(Form1& form) {
   form.PlColor(RegionButton).Enabled = false;
 
   form.ArmyAt(0).Visible = false;
-  form.ArmyAt(0).Height = 16;
-  form.ArmyAt(0).Width = 32;
+  form.ArmyAt(0).Height = AreaMarkerHeight;
+  form.ArmyAt(0).Width = AreaMarkerWidth;
   form.AreaName(0) = UnknownName;
 
-  form.Continent(0).Height = 16;
+  form.Continent(0).Height = RegionMarkerHeight;
   form.Continent(0).Visible = false;
-  form.Continent(0).ForeColor = ClrWhite;
-  form.Continent(0).Tag = NumberText(static_cast<std::int32_t>(form.Continent(0).ForeColor.Get()));
+  SetOwnColour(form.Continent(0), ClrWhite, TagForm::WithBlank);
   form.RegionName(0) = UnknownName;
 
   form.TwipsX = WholeNumber(form.Host.TwipsPerPixelX()).value_or(1);

@@ -1,6 +1,5 @@
 #include "validation/rules.h"
 
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -142,22 +141,14 @@ struct Rule {
 };
 
 // In the order of testing, which is not that of the numbers.
-constexpr std::array<Rule, 13> Rules{{
+constexpr Rule Rules[] = {
     // status  test
-    {15, Picture},
-    {1, EnoughAreas},
-    {2, EnoughRegions},
-    {10, WholeHands},
-    {11, AreasInRegions},
-    {3, AreasLinked},
-    {4, RegionSizes},
-    {5, RegionsLinkedOutward},
-    {6, RegionsLinkedInside},
-    {7, LinksMutual},
-    {12, LinksNumbered},
-    {8, AreasNamed},
+    {15, Picture},     {1, EnoughAreas},          {2, EnoughRegions},
+    {10, WholeHands},  {11, AreasInRegions},      {3, AreasLinked},
+    {4, RegionSizes},  {5, RegionsLinkedOutward}, {6, RegionsLinkedInside},
+    {7, LinksMutual},  {12, LinksNumbered},       {8, AreasNamed},
     {9, RegionsNamed},
-}};
+};
 
 }  // namespace
 

@@ -8,8 +8,6 @@ namespace terramark::window {
 struct HelpTopic {
   std::int32_t Number;
   const char* Subject;
-  /// The controls that open the topic, by the words on them.
-  const char* OpenedBy;
 };
 
 /// Null for a number that is no topic.

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "shell/form1controls.h"
 #include "window/helptopics.h"
 
 namespace terramark::window {
@@ -10,14 +11,25 @@ namespace {
 
 constexpr QSize FirstSize(420, 300);
 
+/// The words by which a user knows the controls that open a topic.
+QString OpenersOf(std::int32_t topic) {
+  QString list;
+  for (const ControlRow<Form1>& row : Form1Controls()) {
+    if (row.HelpTopic != topic) continue;
+    const QString words(*row.Caption != '\0' ? row.Caption : row.ToolTipText);
+    list += "<li>" + words.toHtmlEscaped() + "</li>";
+  }
+  return list;
+}
+
 QString PageOf(std::int32_t number) {
   const HelpTopic* topic = FindHelpTopic(number);
   if (topic == nullptr) {
     return QString("<h2>Topic %1</h2><p>There is no such help topic.</p>").arg(number);
   }
-  return QString("<h2>Topic %1: %2</h2><p>Opened by %3.</p>")
+  return QString("<h2>Topic %1: %2</h2><p>Opened with the Shift key from</p><ul>%3</ul>")
       .arg(number)
-      .arg(QString(topic->Subject).toHtmlEscaped(), QString(topic->OpenedBy).toHtmlEscaped());
+      .arg(QString(topic->Subject).toHtmlEscaped(), OpenersOf(number));
 }
 
 }  // namespace

@@ -11,18 +11,18 @@ namespace {
 class ControlsTest : public testing::Test {
  protected:
   ControlsTest() {
-    Window.Add(Box, Window, "Box", 0);
-    Window.Add(Bar, Window, "Bar", 0);
-    Window.Add(Labels.Design(0), Window, "Labels", 0);
+    Window.Add(Box, Window);
+    Window.Add(Bar, Window);
+    Window.Add(Labels.Design(0), Window);
     Window.Observe(&Seen);
   }
 
   ScriptedDesktop Screen;
   Watcher Seen;
-  Form Window{Screen};
-  TextBox Box;
-  VScrollBar Bar;
-  ControlArray<Label> Labels;
+  Form Window{Screen, "Window"};
+  TextBox Box{"Box"};
+  VScrollBar Bar{"Bar"};
+  ControlArray<Label> Labels{"Labels"};
 };
 
 TEST_F(ControlsTest, OnlyARealChangeIsToldAndItsEventRunsInsideTheAssignment) {

@@ -45,7 +45,7 @@ class PointerTest : public testing::Test {
     control.Move(left, top);
     control.Width = width;
     control.Height = height;
-    Window.Add(control, container, "", 0);
+    Window.Add(control, container);
   }
   /// Presses at one place and lets go at another; gives what the controls have heard by then.
   std::string Stroke(int x0, int y0, int x1, int y1, std::int16_t button = LeftButton,
@@ -57,12 +57,12 @@ class PointerTest : public testing::Test {
   }
 
   ScriptedDesktop Screen;
-  Form Window{Screen};
+  Form Window{Screen, "Window"};
   PointerRouter& Pointer = Window.Pointer;
-  PictureBox Box;
-  Label Under;
-  Label Over;
-  CommandButton Button;
+  PictureBox Box{"Box"};
+  Label Under{"Under"};
+  Label Over{"Over"};
+  CommandButton Button{"Button"};
   std::string Log;
 };
 
@@ -122,7 +122,7 @@ TEST_F(PointerTest, AButtonActsOnTheReleaseOfAnyButtonInsideIt) {
 
 TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
   {
-    Label passing;
+    Label passing{"passing"};
     Put(passing, Box, 100, 50, 20, 10);
     passing.MouseDown = [&](const MouseEvent&) { passing.Drag(DragAction::Begin); };
     Pointer.Press(115, 65, LeftButton, 0);

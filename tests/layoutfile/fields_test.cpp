@@ -10,13 +10,13 @@ namespace terramark {
 namespace {
 
 /// All fields of a type, each followed by a bar.
-template <typename Field>
+template <typename Type>
 std::string AllFields(const std::string& bytes) {
   FieldReader file(bytes);
   std::string all;
-  for (Field field{}; file.Fields(field);) {
-    if constexpr (std::is_arithmetic_v<Field>) all += std::to_string(field) + "|";
-    if constexpr (!std::is_arithmetic_v<Field>) all += std::string(field) + "|";
+  while (const auto field = file.Field<Type>()) {
+    if constexpr (std::is_arithmetic_v<Type>) all += std::to_string(*field) + "|";
+    if constexpr (!std::is_arithmetic_v<Type>) all += std::string(*field) + "|";
   }
   return all;
 }
@@ -44,13 +44,10 @@ TEST(FieldReader, NumbersRoundAndStopAtTheFirstOddCharacter) {
 
 TEST(FieldReader, ALineAfterTheLastFieldOfALineIsTheNextOne) {
   FieldReader file("1 \r\nHEAD, \"x\" \r\n\r\n");
-  std::int16_t number = 0;
-  std::string_view head;
-  std::string_view empty;
-  EXPECT_TRUE(file.Fields(number) && file.Line(head) && file.Line(empty));
-  EXPECT_EQ(head, "HEAD, \"x\" ");
-  EXPECT_EQ(empty, "");
-  EXPECT_FALSE(file.Line(empty));
+  EXPECT_EQ(file.Field<std::int16_t>(), 1);
+  EXPECT_EQ(file.Line(), "HEAD, \"x\" ");
+  EXPECT_EQ(file.Line(), "");
+  EXPECT_EQ(file.Line(), std::nullopt);
 }
 
 TEST(LayoutText, FloatsAreShortWithoutExponentAndWithinSevenDigits) {
@@ -66,7 +63,11 @@ TEST(LayoutText, FloatsAreShortWithoutExponentAndWithinSevenDigits) {
                                               {3e9F, "3000000000"},
                                               {160 / 3.0F, "53.33333"},
                                               {1.5e12F, "1500000000000"}};
-  for (const auto& [value, text] : cases) EXPECT_EQ(FloatText(value), text);
+  for (const auto& [value, text] : cases) {
+    LayoutText line;
+    line.Fields(value);
+    EXPECT_EQ(line.Text(), text + std::string("\r\n"));
+  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <string>
 
+#include "shell/colours.h"
 #include "shell/markers.h"
 
 namespace terramark {
@@ -13,7 +14,7 @@ namespace terramark {
 /// Caption, place, own colour as 0xBBGGRR and look. The colours of a look go together, but for a
 /// marker that keeps a look's background under its own colour: "own on white".
 inline std::string Marker(const forms::Label& marker) {
-  const forms::Color own = TagColour(marker);
+  const forms::Color own = OwnColour(marker);
   const forms::Color fore = marker.ForeColor;
   const char* look = marker.BackColor == ClrBlack   ? fore == own ? "plain" : "wrong"
                      : marker.BackColor == ClrWhite ? fore == ClrBlack ? "current" : "on white"

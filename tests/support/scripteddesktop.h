@@ -69,6 +69,11 @@ class ScriptedDesktop : public forms::Desktop {
   /// Paths whose folders became the current one.
   std::vector<std::string> Entered;
 
+  /// How often anything was asked or shown.
+  std::size_t Asked() const {
+    return Boxes.size() + Filters.size() + Topics.size() + static_cast<std::size_t>(ModalForms);
+  }
+
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
                        const std::string& title) override {
     Boxes.push_back(title + ": " + text);

@@ -167,7 +167,7 @@ TEST(Window, MovesReachWhateverLiesUnderThePointer) {
                           QPoint(105, 58 + 55), QPoint(20, 58 + 7), QPoint(153, 30)}) {
     window.Move(at);
   }
-  EXPECT_EQ(over, " 10500 Frame1 780 Countx 120 Text1 1500 ArmyAt 75 Picture1 20 Symb 150 ");
+  EXPECT_EQ(over, "Form1 10500 Frame1 780 Countx 120 Text1 1500 ArmyAt 75 Picture1 20 Symb 150 ");
 }
 
 }  // namespace

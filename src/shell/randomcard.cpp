@@ -1,4 +1,4 @@
-#include "shell/carddraw.h"
+#include "shell/randomcard.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,7 +7,7 @@
 
 namespace terramark {
 
-char DrawCardSymbol(Form1& form) {
+char RandomCardSymbol(Form1& form) {
   form.Host.Randomize(form.Host.Timer());
   // 1 to 4, a tie going to the even number; a 4 counts as 3, hence the uneven odds.
   const long drawn = std::lrint(form.Host.Rnd() * 3.0F + 1.0F);

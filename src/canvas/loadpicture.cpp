@@ -1,0 +1,31 @@
+#include "canvas/loadpicture.h"
+
+#include <string>
+
+#include "shell/backdrop.h"
+#include "shell/bars.h"
+#include "shell/filenames.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+void LoadMap_MouseUp(Form1& form) {
+  std::string path;
+  SelectAFile(form, "*.wmf;*.bmp", path);
+  if (path.empty()) return;
+  const forms::CommonDialog& chosen = form.CommonDialog1;
+  if (!chosen.FileNameFits && !chosen.FileTitleFits) {
+    ShowNameFault(form, path);
+    return;
+  }
+  if (!ShowPicture(form, path)) {
+    ShowPictureFault(form, path);
+    return;
+  }
+  form.Host.EnterFolderOf(path);
+  form.PictureFile = chosen.FileNameFits ? path : chosen.FileTitle;
+  form.LoadMap.Caption = form.PictureFile;
+  UpdateCounts(form);
+}
+
+}  // namespace terramark

@@ -1,0 +1,65 @@
+#include "shell/markers.h"
+
+#include "document/corner.h"
+#include "document/numbers.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+forms::Label* AreaMarker(Form1& form, std::int16_t area) {
+  return area < 1 ? nullptr : form.ArmyAt.Find(area);
+}
+
+forms::Label* RegionMarker(Form1& form, std::int16_t region) {
+  return region < 1 ? nullptr : form.Continent.Find(region);
+}
+
+Look LookOf(const forms::Label& marker) {
+  if (marker.BackColor == ClrBlack) return Look::Plain;
+  return marker.BackColor == ClrWhite ? Look::Current : Look::Marked;
+}
+
+void Show(forms::Label& marker, Look look) {
+  switch (look) {
+    case Look::Plain:
+      marker.BackColor = ClrBlack;
+      marker.ForeColor = OwnColour(marker);
+      break;
+    case Look::Current:
+      marker.BackColor = ClrWhite;
+      marker.ForeColor = ClrBlack;
+      break;
+    case Look::Marked:
+      marker.BackColor = ClrGrey;
+      marker.ForeColor = ClrWhite;
+      break;
+  }
+}
+
+forms::Color OwnColour(const forms::Label& marker) {
+  return static_cast<forms::Color>(static_cast<std::int64_t>(ReadNumber(marker.Tag.Get())));
+}
+
+void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm form) {
+  const auto number = static_cast<std::int32_t>(colour);
+  marker.ForeColor = colour;
+  marker.Tag = form == TagForm::WithBlank ? NumberText(number) : PlainNumber(number);
+}
+
+void PaintMarker(forms::Label& marker, forms::Color colour, TagForm form) {
+  SetOwnColour(marker, colour, form);
+  marker.BackColor = ClrBlack;
+}
+
+void TakeRegionColour(forms::Label& area, const forms::Label& region) {
+  area.ForeColor = OwnColour(region);
+  area.Tag = region.Tag;
+}
+
+void SetCorner(Form1& form, std::int16_t area, std::int16_t corner) {
+  form.AreaCorner(area) = corner;
+  form.ArmyAt(area).Caption = MarkerCaption(area, corner);
+}
+
+}  // namespace terramark
