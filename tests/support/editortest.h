@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 
 #include "editor/handlers.h"
@@ -38,13 +39,30 @@ class EditorTest : public testing::Test {
   void Release(forms::PixelPoint at, Bits shift = 0, Bits button = forms::LeftButton) {
     Form.Pointer.Release(at.X, at.Y, button, shift);
   }
-  /// Takes hold of a control in its middle and lets go so many pixels away.
+  static std::string NameOf(const forms::Control& control) {
+    return control.Name() + (control.Index() == 0 ? "" : std::to_string(control.Index()));
+  }
+  /// The middle of a control that the pointer can see, enabled or not; another one on top of it
+  /// ends the test.
+  forms::PixelPoint Grip(const forms::Control& control) const {
+    const forms::PixelPoint at = Middle(control);
+    const forms::Control& top = Form.Pointer.Hovered(at.X, at.Y);
+    if (&top == &control) return at;
+    throw std::logic_error(NameOf(control) +
+                           (control.Visible ? " is covered by " : " is hidden; on top is ") +
+                           NameOf(top));
+  }
+  /// Takes hold at a point, whatever is there, and lets go so many pixels away.
+  void DragFrom(forms::PixelPoint at, int dx, int dy, Bits shift = 0,
+                Bits button = forms::LeftButton) {
+    Press(at, shift, button);
+    Form.Pointer.Move(at.X + dx, at.Y + dy, shift);
+    Release({at.X + dx, at.Y + dy}, shift, button);
+  }
+  /// Takes hold of a control in its middle.
   void Drag(const forms::Control& control, int dx, int dy, Bits shift = 0,
             Bits button = forms::LeftButton) {
-    const forms::PixelPoint from = Middle(control);
-    Press(from, shift, button);
-    Form.Pointer.Move(from.X + dx, from.Y + dy, shift);
-    Release({from.X + dx, from.Y + dy}, shift, button);
+    DragFrom(Grip(control), dx, dy, shift, button);
   }
   /// Gives what the message bar says then.
   std::string Click(const forms::Control& control, Bits shift = 0,
@@ -56,8 +74,7 @@ class EditorTest : public testing::Test {
   /// A press and release so many pixels from where the inside of a container begins.
   void ClickInside(const forms::Control& container, int x, int y, Bits shift = 0) {
     const forms::PixelPoint origin = forms::InnerOrigin(container);
-    Press({origin.X + x, origin.Y + y}, shift);
-    Release({origin.X + x, origin.Y + y}, shift);
+    DragFrom({origin.X + x, origin.Y + y}, 0, 0, shift);
   }
   std::string ClickMap(int x, int y, Bits shift = 0) {
     ClickInside(Form.Picture1, x, y, shift);
@@ -110,9 +127,12 @@ class EditorTest : public testing::Test {
     ShiftClick(Form.ArmyAt(b));
     Click(Form.MakeNeibor);
   }
+  void Mark(std::initializer_list<std::int16_t> areas) {
+    for (const std::int16_t i : areas) ShiftClick(Form.ArmyAt(i));
+  }
   void SetRegion(std::int16_t region, std::initializer_list<std::int16_t> areas) {
     Click(Form.Continent(region));
-    for (const std::int16_t i : areas) ShiftClick(Form.ArmyAt(i));
+    Mark(areas);
     Click(Form.SetCont);
   }
   /// Six Areas in a chain, three in each of two Regions: a map that passes every rule.
@@ -169,6 +189,12 @@ class EditorTest : public testing::Test {
   std::string Message() const {
     return (Form.Message.BackColor == ClrRed ? "red: " : "") + Form.Message.Caption.Get();
   }
+};
+
+/// It begins with the map of MakeChain.
+class ChainTest : public EditorTest {
+ protected:
+  ChainTest() { MakeChain(); }
 };
 
 }  // namespace terramark
