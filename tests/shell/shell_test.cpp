@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "shell/aboutform.h"
 #include "shell/bars.h"
 #include "shell/clearmap.h"
 #include "shell/filenames.h"
@@ -9,7 +10,32 @@
 namespace terramark {
 namespace {
 
-class ShellTest : public EditorTest {};
+class ShellTest : public EditorTest {
+ protected:
+  /// What stands on what in the same container, and by how many pixels; the markers may.
+  static std::string Overlaps(const forms::Form& form) {
+    std::string all;
+    for (const forms::Control* high : form.Controls()) {
+      if (high->Container()->Kind() == forms::ControlKind::PictureBox) continue;
+      for (const forms::Control* low : high->Container()->Children()) {
+        if (low == high) break;
+        const forms::PixelRect a = forms::PixelBounds(*low);
+        const forms::PixelRect b = forms::PixelBounds(*high);
+        const int x = std::min(a.Left + a.Width, b.Left + b.Width) - std::max(a.Left, b.Left);
+        const int y = std::min(a.Top + a.Height, b.Top + b.Height) - std::max(a.Top, b.Top);
+        if (x <= 0 || y <= 0) continue;
+        all += NameOf(*high) + " on " + NameOf(*low) + " " + std::to_string(std::min(x, y)) + "\n";
+      }
+    }
+    return all;
+  }
+};
+
+TEST_F(ShellTest, NoControlStandsOnAnotherButForTheSeamsOfTheBoxesAtTheTop) {
+  EXPECT_EQ(Overlaps(Form),
+            "EditText on Text1 2\nSymb on Text1 2\nHelpbar on Text1 1\nArmypc on Text1 2\n");
+  EXPECT_EQ(Overlaps(AboutForm(Screen)), "");
+}
 
 TEST_F(ShellTest, ComesUpWithTheDefaultsOfTheEditor) {
   EXPECT_EQ(Message(), "Terramark 1 - Map Layout editor, by the Terramark developers");
