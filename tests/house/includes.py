@@ -6,45 +6,35 @@ import re
 import sys
 from pathlib import Path
 
+TOP, QT = (Path(folder).resolve() for folder in sys.argv[1:])
 ROOMS = {"pictures": {"QtCore", "QtGui"}, "window": {"QtCore", "QtGui", "QtWidgets"}}
+FLOORS = {name: links.split() for name, links in re.findall(
+    r"^terramark_floor\((\w+)([^)]*)\)", (TOP / "CMakeLists.txt").read_text(), re.M)}
 
 
-def linked(floors, name):
+def linked(name):
     """A floor and all that it links, directly or through others."""
-    return {name}.union(*(linked(floors, below) for below in floors.get(name, [])))
+    return {name}.union(*map(linked, FLOORS.get(name, [])))
 
 
-def included_room(source, header, top, qt):
+def room_of(header, source):
     """The floor or the module of Qt in which a header stands; None when it is neither's."""
-    for folder in (source.parent, top):
-        path = (folder / header).resolve()
-        if path.is_file() and path.is_relative_to(top):
-            return path.relative_to(top).parts[0]
-    modules = [path.relative_to(qt).parts[0] for path in (*qt.glob(f"Qt*/{header}"), qt / header)
-               if path.is_file()]
-    # A Qt header of a module that is not installed is a guest in every room.
-    return modules[0] if modules else "Qt" if re.match("[Qq]t?[A-Z]", header) else None
+    for path in ((folder / header).resolve() for folder in (source.parent, TOP)):
+        if path.is_file() and path.is_relative_to(TOP):
+            return path.relative_to(TOP).parts[0]
+    for path in (QT / header, *QT.glob(f"Qt*/{header}")):
+        if path.is_file():
+            return path.relative_to(QT).parts[0]
+    return "a module of Qt that is not here" if re.match("Qt?[A-Z]", header) else None
 
 
-def main():
-    top, qt = (Path(folder).resolve() for folder in sys.argv[1:])
-    lists = (top / "CMakeLists.txt").read_text()
-    floors = {name: [below for below in links.split() if "::" not in below]
-              for name, links in re.findall(r"^terramark_floor\((\w+)([^)]*)\)", lists, re.M)}
-    faults = [f"src/CMakeLists.txt: {name} links pictures, which only window may"
-              for name, links in floors.items() if "pictures" in links and name != "window"]
-    count = 0
-    for source in sorted([*top.rglob("*.h"), *top.rglob("*.cpp")]):
-        name = source.relative_to(top).parts[0]
-        allowed = linked(floors, name) | ROOMS.get(name, set())
-        for header in re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)', source.read_text(), re.M):
-            count += 1
-            room = included_room(source, header, top, qt)
-            if room is not None and room not in allowed:
-                faults.append(f"src/{source.relative_to(top)}: includes {header}, "
-                              f"which {name} does not link")
-    print(*faults, f"{count} includes of {len(floors)} floors", sep="\n")
-    return 1 if faults or not (floors and count) else 0
-
-
-sys.exit(main())
+faults = [f"src/CMakeLists.txt: {name} links pictures, which only window may"
+          for name in FLOORS if name not in ROOMS and "pictures" in linked(name)]
+for path in sorted([*TOP.rglob("*.h"), *TOP.rglob("*.cpp")]):
+    floor = path.relative_to(TOP).parts[0]
+    allowed = linked(floor) | ROOMS.get(floor, set()) | {None}
+    faults += [f"src/{path.relative_to(TOP)}: includes {header}, which {floor} does not link"
+               for header in re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)', path.read_text(), re.M)
+               if room_of(header, path) not in allowed]
+print(*faults, sep="\n")
+sys.exit(bool(faults) or not FLOORS)
