@@ -4,37 +4,38 @@
 namespace terramark {
 namespace {
 
-class SelectionTest : public EditorTest {
- protected:
-  SelectionTest() { MakeChain(); }
-};
+using SelectionTest = ChainTest;
 
 TEST_F(SelectionTest, AClickMakesAnAreaCurrentAndMarksItsNeighbours) {
   Form.AreaSymbol(3) = "2";
   Form.Text1.SetFocus();
-  Click(Form.ArmyAt(3));
+  EXPECT_EQ(Click(Form.ArmyAt(3)),
+            "Area Area 3, Region = Region 1, neighbours = 2, card symbol = HORSE");
   EXPECT_EQ(Selected(), "A3 R0 3 .o*o.. ..");
   EXPECT_EQ(Inspector(), "Area 3/H/-");
-  EXPECT_EQ(Message(), "Area Area 3, Region = Region 1, neighbours = 2, card symbol = HORSE");
   EXPECT_EQ(Form.EditText.ForeColor, ClrWhite);
   EXPECT_EQ(Form.ActiveControl(), &Form.EditText);
   ClickMap(400, 200, forms::CtrlKey);
   for (const char* symbol : {"9", " ", ""}) {
     Form.AreaSymbol(7) = symbol;
-    Click(Form.ArmyAt(7));
-    EXPECT_EQ(Message(), "Area Area 7, Region = *UNKNOWN*, neighbours = 0, card symbol = ");
+    EXPECT_EQ(Click(Form.ArmyAt(7)),
+              "Area Area 7, Region = *UNKNOWN*, neighbours = 0, card symbol = ");
     EXPECT_EQ(Inspector(), "Area 7//-");
   }
   EXPECT_EQ(Selected(), "A7 R0 1 ......* ..");
+  // A neighbour without a marker is counted and not marked, and neither is the template.
+  Form.AreaLinks(1) = "03000299";
+  EXPECT_NE(Click(Form.ArmyAt(1)).find("neighbours = 3,"), std::string::npos);
+  EXPECT_EQ(Selected(), "A1 R0 2 *o..... ..");
+  EXPECT_EQ(Form.ArmyAt(0).BackColor, ClrBlack);
 }
 
 TEST_F(SelectionTest, AClickMakesARegionCurrentAndMarksItsAreas) {
   Form.Continent(2).Tag = "255";
   Form.RegionArmies(2) = 12;
-  Click(Form.Continent(2));
+  EXPECT_EQ(Click(Form.Continent(2)), "Region Region 2, Areas = 3, armies = 12");
   EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*") << "the marks on its Areas are not counted";
   EXPECT_EQ(Inspector(), "Region 2/-/12");
-  EXPECT_EQ(Message(), "Region Region 2, Areas = 3, armies = 12");
   EXPECT_EQ(Form.EditText.ForeColor, 255U);
   EXPECT_EQ(Form.PlColor(4).BackColor, 255U);
   EXPECT_TRUE(Form.PlColor(4).Enabled);
@@ -42,8 +43,7 @@ TEST_F(SelectionTest, AClickMakesARegionCurrentAndMarksItsAreas) {
 
 TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
   Form.ArmyAt(1).Tag = " 8421631";
-  ShiftClick(Form.ArmyAt(1));
-  ShiftClick(Form.ArmyAt(2));
+  Mark({1, 2});
   EXPECT_EQ(Selected(), "A0 R0 2 oo.... ..") << "nothing need be current";
   EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff marked");
   Press(Middle(Form.ArmyAt(1)), forms::ShiftKey);
@@ -51,8 +51,7 @@ TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
   EXPECT_EQ(Selected(), "A0 R0 1 .o.... ..");
   EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff plain");
   Click(Form.Continent(1));
-  ShiftClick(Form.ArmyAt(1));
-  ShiftClick(Form.ArmyAt(2));
+  Mark({1, 2});
   EXPECT_EQ(Selected(), "A0 R1 -1 ..o... *.") << "the count may fall below 0";
   Click(Form.PlColor(1));
   ASSERT_TRUE(Form.RGBFrame.Enabled);
@@ -61,15 +60,7 @@ TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
   EXPECT_EQ(Form.RGBFrame.Tag.Get(), "-1");
 }
 
-TEST_F(SelectionTest, ANeighbourWithoutMarkerIsCountedAndNotMarked) {
-  Form.AreaLinks(1) = "03000299";
-  Click(Form.ArmyAt(1));
-  EXPECT_NE(Message().find("neighbours = 3,"), std::string::npos);
-  EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
-  EXPECT_EQ(Form.ArmyAt(0).BackColor, ClrBlack) << "the template is never marked";
-}
-
-TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
+TEST_F(SelectionTest, ArrowKeysWalkRoundTheEndsFromAMarkerThatIsMarked) {
   Click(Form.ArmyAt(6));
   Key(forms::KeyUpArrow);
   EXPECT_EQ(Selected(), "A1 R0 2 *o.... ..");
@@ -83,9 +74,6 @@ TEST_F(SelectionTest, ArrowKeysWalkRoundTheEnds) {
   EXPECT_EQ(Selected(), "A0 R2 1 ...ooo .*");
   Key(37);
   EXPECT_EQ(Form.CurRegion, 2);
-}
-
-TEST_F(SelectionTest, ArrowKeysNeedAMarkAndAMarker) {
   ClickMap(300, 200, forms::CtrlKey);
   Click(Form.ArmyAt(7));
   ShiftClick(Form.ArmyAt(7));
@@ -97,7 +85,7 @@ TEST_F(SelectionTest, ArrowKeysNeedAMarkAndAMarker) {
   EXPECT_EQ(Selected(), "A7 R0 1 ...... ..") << "its marker is gone";
 }
 
-class InspectorTest : public SelectionTest {};
+using InspectorTest = ChainTest;
 
 TEST_F(InspectorTest, NamesGoStraightIntoTheDocument) {
   Form.AreaSymbol(2) = "3";

@@ -3,7 +3,6 @@
 
 #include "shell/aboutform.h"
 #include "shell/bars.h"
-#include "shell/clearmap.h"
 #include "shell/filenames.h"
 #include "support/editortest.h"
 
@@ -43,12 +42,7 @@ TEST_F(ShellTest, ComesUpWithTheDefaultsOfTheEditor) {
   EXPECT_EQ(Form.PlayerRGB[0], (Components{0, 256, 0})) << "256 is the stored default";
   EXPECT_EQ(Form.PlColor(0).BackColor, 0x0000FF00U) << "and shows as 255";
   EXPECT_EQ(Form.ArmyAt(0).Width, 32);
-  EXPECT_EQ(Form.ArmyAt(0).Top, 60) << "twips of the design, pixels of the box";
-  EXPECT_EQ(Form.Continent(0).Top, 163);
-  EXPECT_EQ(Form.Continent(0).Tag.Get(), " 16777215");
-  EXPECT_EQ(Form.RegionName(0), "*UNKNOWN*");
   EXPECT_EQ(Form.Countx(0).Caption.Get(), "") << "an empty label already reads as 0";
-  EXPECT_EQ(Form.Helpbar.Caption.Get(), "Label2");
   EXPECT_EQ(Form.Message.ForeColor, ClrBlack);
   ShowMessage(Form, "fault", ClrRed);
   EXPECT_EQ(Form.Message.ForeColor, ClrWhite);
@@ -59,30 +53,6 @@ TEST_F(ShellTest, ComesUpWithTheDefaultsOfTheEditor) {
   EXPECT_EQ(Form.TwipsY, 12) << "the screen's own, in whole numbers";
 }
 
-TEST_F(ShellTest, ClearMapEmptiesTheDocumentAndNothingElse) {
-  MakeChain();
-  Form.Text1.Text = "header";
-  Click(Form.Continent(2));
-  Click(Form.PlColor(1));
-  ClearMap(Form);
-  EXPECT_EQ(Message(), "");
-  EXPECT_FALSE(Form.RGBFrame.Enabled);
-  EXPECT_EQ(Form.AreaSymbol(1) + Form.RegionName(1), "*UNKNOWN*");
-  EXPECT_EQ(Form.AreaCount + Form.RegionCount + Form.MarkCount, 0);
-  EXPECT_EQ(Form.ArmyAt.Find(1), nullptr);
-  EXPECT_EQ(Form.Continent.Find(1), nullptr);
-  EXPECT_EQ(Form.AreaLinks(99), " ");
-  EXPECT_EQ(Form.AreaName(1), "*UNKNOWN*");
-  EXPECT_EQ(Form.RegionArmies(99), 5);
-  EXPECT_EQ(Form.RegionRGB(0), (Components{256, 256, 256}));
-  EXPECT_EQ(Form.Text1.Text.Get(), "");
-  EXPECT_EQ(Form.Countx(0).Caption.Get(), " 0") << "not left empty once it has counted";
-  EXPECT_EQ(Form.CurRegion, 2);
-  EXPECT_EQ(Form.EditText.Text.Get(), "Region 2");
-  EXPECT_EQ(Form.PictureFile, "map.bmp");
-  EXPECT_EQ(Form.AreaCorner(6), 2);
-}
-
 TEST_F(ShellTest, ExitAsksAndClosingDoesNot) {
   Click(Form.Quit);
   EXPECT_EQ(Screen.Boxes, std::vector<std::string>{"Terramark: Exit Terramark"});
@@ -90,15 +60,6 @@ TEST_F(ShellTest, ExitAsksAndClosingDoesNot) {
   EXPECT_THROW(Click(Form.Quit), Ended);
   EXPECT_THROW(Form_Unload(Form), Ended);
   EXPECT_EQ(Screen.Boxes.size(), 2U);
-}
-
-TEST_F(ShellTest, AFileNameIsTakenAsTheDialogGivesIt) {
-  std::string name = "before";
-  SelectAFile(Form, "*.tml", name);
-  EXPECT_EQ(name, "") << "cancelled";
-  Screen.FileNames.push_back("/?/new map");
-  SelectAFile(Form, "*.tml", name);
-  EXPECT_EQ(name, "/?/new map");
 }
 
 TEST_F(ShellTest, OnlyARegularFileThatCanBeReadIsThere) {
