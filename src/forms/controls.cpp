@@ -4,6 +4,7 @@
 
 #include "forms/desktop.h"
 #include "forms/form.h"
+#include "forms/geometry.h"
 
 namespace terramark::forms {
 
@@ -16,11 +17,9 @@ void Label::FitCaption() {
   if (Owner() == nullptr) return;
   const TextExtent extent = Owner()->Host.MeasureText(Caption);
   const int border = BorderStyle == Border::FixedSingle ? 2 : 0;
-  const bool pixels = Container()->InnerScale == Scale::Pixels;
-  const float unitX = pixels ? 1.0F : Owner()->Host.TwipsPerPixelX();
-  const float unitY = pixels ? 1.0F : Owner()->Host.TwipsPerPixelY();
-  Width = static_cast<float>(extent.Width + border) * unitX;
-  Height = static_cast<float>(extent.Height + border) * unitY;
+  const ScalePoint size = SizeBeside(*this, extent.Width + border, extent.Height + border);
+  Width = size.X;
+  Height = size.Y;
 }
 
 void Label::CopyTemplate(const Label& from) {

@@ -1,10 +1,21 @@
-// From the scales of the controls to the pixels of the screen, in one place for the window and for
-// the pointer, so that both mean the same pixel.
+// From the scales of the controls to the pixels of the screen and back, scrolling included, in one
+// place for all, so that each means the same pixel.
 #pragma once
 
 namespace terramark::forms {
 
 class Control;
+class Desktop;
+class Form;
+class PictureBox;
+
+struct PixelPoint {
+  int X = 0;
+  int Y = 0;
+
+  friend PixelPoint operator+(PixelPoint a, PixelPoint b) { return {a.X + b.X, a.Y + b.Y}; }
+  friend PixelPoint operator-(PixelPoint a, PixelPoint b) { return {a.X - b.X, a.Y - b.Y}; }
+};
 
 struct PixelRect {
   int Left = 0;
@@ -12,22 +23,49 @@ struct PixelRect {
   int Width = 0;
   int Height = 0;
 
-  bool Contains(int x, int y) const {
-    return x >= Left && y >= Top && x < Left + Width && y < Top + Height;
+  bool Contains(PixelPoint at) const {
+    return at.X >= Left && at.Y >= Top && at.X < Left + Width && at.Y < Top + Height;
   }
 };
 
-struct PixelPoint {
-  int X = 0;
-  int Y = 0;
+/// A place, or a width and height, in the scale of some control's inside.
+struct ScalePoint {
+  float X = 0;
+  float Y = 0;
 };
 
-/// Where a control stands inside its container, each number rounded to whole pixels; of a form, its
-/// inside, from 0, 0.
+/// Where a control stands inside its container, in pixels of the screen: each number rounded by
+/// itself, halves away from 0, and held to 2^24 either way. Of a form, its inside, from 0, 0. A
+/// control that is on no form yet counts as placed in pixels.
 PixelRect PixelBounds(const Control& control);
 
-/// Where the origin of a control's inside stands in the form's inside. Inside a picture box that is
-/// the picture's corner, wherever it is scrolled to.
+/// Where the origin of a control's inside stands, in pixels of the form's inside; 0, 0 for the
+/// form. Inside a picture box that is the picture's corner, wherever it is scrolled to, so it may
+/// lie outside the box.
 PixelPoint InnerOrigin(const Control& control);
+
+/// The middle of a control, in pixels of the form's inside.
+PixelPoint Middle(const Control& control);
+
+/// A pixel of the form's inside in the scale of a control's own inside. The control must be on a
+/// form.
+ScalePoint PointInside(const Control& control, PixelPoint at);
+
+/// A size in pixels in the scale of a control's container. The control must be on a form.
+ScalePoint SizeBeside(const Control& control, int width, int height);
+
+/// A place or size that was designed in twips, in the scale of a container's inside on a form. The
+/// container need not be on the form yet.
+ScalePoint FromTwips(ScalePoint twips, const Control& container, const Form& form);
+
+/// A length down the screen, from twips to pixels, rounded as in PixelBounds.
+int PixelsDown(Desktop& host, float twips);
+
+/// Where a form's corner stands on the screen, in pixels, rounded as in PixelBounds.
+PixelPoint PlaceOnScreen(const Form& form);
+
+/// From pixels of the picture in a box to pixels of the box, and back. Either may lie outside.
+PixelPoint InBox(const PictureBox& box, PixelPoint onPicture);
+PixelPoint OnPicture(const PictureBox& box, PixelPoint inBox);
 
 }  // namespace terramark::forms

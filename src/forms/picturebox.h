@@ -42,6 +42,8 @@ class PictureBox : public Control {
   bool ScrollsDown() const;
   /// Scrolls as near to the place as the picture's edges allow.
   void ScrollTo(int left, int top);
+  /// Likewise, so many pixels further to the right and down.
+  void ScrollBy(int across, int down) { ScrollTo(ScrollLeft + across, ScrollTop + down); }
 
   /// Paints FillColor on the persistent image from a point of it outward up to pixels of the border
   /// colour. A point outside the image or on the border paints nothing. Refresh shows

@@ -13,55 +13,40 @@ constexpr int ScrollStrip = 24;
 constexpr int ScrollStep = 8;
 
 /// A picture box's own scroll bars are no part of what a pointer can reach.
-bool OnScrollBar(const Control& control, int x, int y) {
+bool OnScrollBar(const Control& control, PixelPoint inBox) {
   if (control.Kind() != ControlKind::PictureBox) return false;
   const auto& box = static_cast<const PictureBox&>(control);
-  return x >= box.ViewWidth() || y >= box.ViewHeight();
+  return inBox.X >= box.ViewWidth() || inBox.Y >= box.ViewHeight();
 }
 
 /// Whether a disabled control stops the pointer or lets it through.
 enum class Disabled { Stops, LetsThrough };
 
-Control* TopmostIn(Control& container, int x, int y, Disabled disabled) {
-  const PixelPoint origin = InnerOrigin(container);
+Control* TopmostIn(Control& container, PixelPoint at, Disabled disabled) {
+  const PixelPoint inside = at - InnerOrigin(container);
   const auto& stack = container.Children();
   for (std::size_t left = stack.size(); left > 0; --left) {
     Control* child = stack[left - 1];
     if (!child->Visible) continue;
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);
-    if (!bounds.Contains(x - origin.X, y - origin.Y)) continue;
-    if (OnScrollBar(*child, x - origin.X - bounds.Left, y - origin.Y - bounds.Top)) continue;
-    Control* deeper = TopmostIn(*child, x, y, disabled);
+    if (!bounds.Contains(inside)) continue;
+    if (OnScrollBar(*child, inside - PixelPoint{bounds.Left, bounds.Top})) continue;
+    Control* deeper = TopmostIn(*child, at, disabled);
     return deeper != nullptr ? deeper : child;
   }
   return nullptr;
 }
 
-/// The pointer in the scale of a control's own mouse events.
-struct EventPoint {
-  float X;
-  float Y;
-};
-
-EventPoint PointIn(const Control& control, PixelPoint at) {
-  const PixelPoint origin = InnerOrigin(control);
-  const bool pixels = control.InnerScale == Scale::Pixels;
-  Desktop& host = control.Owner()->Host;
-  return {static_cast<float>(at.X - origin.X) * (pixels ? 1.0F : host.TwipsPerPixelX()),
-          static_cast<float>(at.Y - origin.Y) * (pixels ? 1.0F : host.TwipsPerPixelY())};
-}
-
 MouseEvent EventFor(const Control& control, PixelPoint at, int button, int shift) {
-  const EventPoint point = PointIn(control, at);
+  const ScalePoint point = PointInside(control, at);
   return {control.Index(), static_cast<std::int16_t>(button), static_cast<std::int16_t>(shift),
           point.X, point.Y};
 }
 
 bool Inside(const Control& control, PixelPoint at) {
-  const PixelPoint origin = InnerOrigin(control);
   const PixelRect bounds = PixelBounds(control);
-  return PixelRect{0, 0, bounds.Width, bounds.Height}.Contains(at.X - origin.X, at.Y - origin.Y);
+  return PixelRect{0, 0, bounds.Width, bounds.Height}.Contains(at - InnerOrigin(control));
 }
 
 int StepNearEdge(int at, int extent) {
@@ -73,12 +58,12 @@ int StepNearEdge(int at, int extent) {
 }  // namespace
 
 Control& PointerRouter::Under(int x, int y) const {
-  Control* topmost = TopmostIn(form_, x, y, Disabled::LetsThrough);
+  Control* topmost = TopmostIn(form_, {x, y}, Disabled::LetsThrough);
   return topmost != nullptr ? *topmost : form_;
 }
 
 Control& PointerRouter::Hovered(int x, int y) const {
-  Control* topmost = TopmostIn(form_, x, y, Disabled::Stops);
+  Control* topmost = TopmostIn(form_, {x, y}, Disabled::Stops);
   return topmost != nullptr ? *topmost : form_;
 }
 
@@ -127,20 +112,17 @@ void PointerRouter::ReleaseOn(Control& target, std::int16_t button, std::int16_t
 }
 
 void PointerRouter::PressKey(CommandButton& button, std::int16_t shift) {
-  const PixelPoint origin = InnerOrigin(button);
-  const PixelRect bounds = PixelBounds(button);
   if (!button.Enabled || !button.Container()->Enabled || buttonsDown_ != 0) return;
-  at_ = {origin.X + bounds.Width / 2, origin.Y + bounds.Height / 2};
+  at_ = Middle(button);
   button.MouseDown.Raise(EventFor(button, at_, LeftButton, shift));
   ReleaseOn(button, LeftButton, shift);
 }
 
 void PointerRouter::BeginDrag(Control& source) {
   if (buttonsDown_ == 0) return;
-  const PixelPoint origin = InnerOrigin(source);
   dragged_ = &source;
   dragButton_ = lastButton_;
-  hold_ = {at_.X - origin.X, at_.Y - origin.Y};
+  hold_ = at_ - InnerOrigin(source);
   if (form_.observer_ != nullptr) form_.observer_->DragMoved();
 }
 
@@ -156,23 +138,20 @@ void PointerRouter::Drop() {
   Control& source = *dragged_;
   CancelDrag();
   Control& target = Under(at_.X, at_.Y);
-  const EventPoint point = PointIn(target, at_);
+  const ScalePoint point = PointInside(target, at_);
   target.DragDrop.Raise({target.Index(), source, point.X, point.Y});
 }
 
 void PointerRouter::ScrollByDrag() {
   if (dragged_ == nullptr || dragged_->Container()->Kind() != ControlKind::PictureBox) return;
   auto& box = static_cast<PictureBox&>(*dragged_->Container());
-  const PixelPoint picture = InnerOrigin(box);
-  const int across = StepNearEdge(at_.X - picture.X - box.ScrollLeft, box.ViewWidth());
-  const int down = StepNearEdge(at_.Y - picture.Y - box.ScrollTop, box.ViewHeight());
-  box.ScrollTo(box.ScrollLeft + across, box.ScrollTop + down);
+  const PixelPoint at = InBox(box, at_ - InnerOrigin(box));
+  box.ScrollBy(StepNearEdge(at.X, box.ViewWidth()), StepNearEdge(at.Y, box.ViewHeight()));
 }
 
 std::optional<PointerRouter::Flight> PointerRouter::InFlight() const {
   if (dragged_ == nullptr) return std::nullopt;
-  const PixelPoint origin = InnerOrigin(*dragged_->Container());
-  return Flight{*dragged_, {at_.X - hold_.X - origin.X, at_.Y - hold_.Y - origin.Y}};
+  return Flight{*dragged_, at_ - hold_ - InnerOrigin(*dragged_->Container())};
 }
 
 void PointerRouter::Forget(const Control& control) {

@@ -1,5 +1,7 @@
 #include "shell/controltable.h"
 
+#include "forms/geometry.h"
+
 namespace terramark {
 
 void SetCaption(forms::Control& control, const std::string& caption) {
@@ -20,12 +22,11 @@ void SetCaption(forms::Control& control, const std::string& caption) {
 
 void PlaceControl(forms::Form& form, forms::Control& control, forms::Control& container, float left,
                   float top, float width, float height) {
-  const bool pixels = container.InnerScale == forms::Scale::Pixels;
-  const float unitX = pixels ? form.Host.TwipsPerPixelX() : 1.0F;
-  const float unitY = pixels ? form.Host.TwipsPerPixelY() : 1.0F;
-  control.Move(left / unitX, top / unitY);
-  control.Width = width / unitX;
-  control.Height = height / unitY;
+  const forms::ScalePoint corner = forms::FromTwips({left, top}, container, form);
+  const forms::ScalePoint size = forms::FromTwips({width, height}, container, form);
+  control.Move(corner.X, corner.Y);
+  control.Width = size.X;
+  control.Height = size.Y;
   const bool field = control.Kind() == forms::ControlKind::TextBox ||
                      control.Kind() == forms::ControlKind::PictureBox;
   control.BackColor = field ? forms::SysWindow : forms::SysButtonFace;

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "forms/form.h"
+#include "forms/geometry.h"
 #include "window/labelview.h"
 #include "window/look.h"
 
@@ -63,24 +64,22 @@ void CanvasView::ShowOwn(forms::PropertyId /*id*/) {
 void CanvasView::LabelChanged(const forms::Control& label) {
   QRect& seen = seen_[&label];
   const QRect now = label.Visible ? BoundsOf(label) : QRect();
-  const QPoint corner(-box_.ScrollLeft, -box_.ScrollTop);
-  update(seen.translated(corner));
-  update(now.translated(corner));
+  update(InBox(seen));
+  update(InBox(now));
   seen = now;
 }
 
 void CanvasView::LabelGone(const forms::Control& label) {
   const auto seen = seen_.find(&label);
   if (seen == seen_.end()) return;
-  update(seen->second.translated(-box_.ScrollLeft, -box_.ScrollTop));
+  update(InBox(seen->second));
   seen_.erase(seen);
 }
 
 QRect CanvasView::Flight() const {
   const auto flight = box_.Owner()->Pointer.InFlight();
   if (!flight || flight->Source.Container() != &box_) return {};
-  return {QPoint(flight->Corner.X - box_.ScrollLeft, flight->Corner.Y - box_.ScrollTop),
-          BoundsOf(flight->Source).size()};
+  return InBox({QPoint(flight->Corner.X, flight->Corner.Y), BoundsOf(flight->Source).size()});
 }
 
 void CanvasView::DragMoved() {
@@ -89,8 +88,9 @@ void CanvasView::DragMoved() {
   update(flightSeen_);
 }
 
-QRect CanvasView::OnScreen(const forms::Control& label) const {
-  return BoundsOf(label).translated(-box_.ScrollLeft, -box_.ScrollTop);
+QRect CanvasView::InBox(const QRect& onPicture) const {
+  const forms::PixelPoint corner = forms::InBox(box_, {onPicture.x(), onPicture.y()});
+  return {QPoint(corner.X, corner.Y), onPicture.size()};
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
@@ -103,7 +103,7 @@ void CanvasView::paintEvent(QPaintEvent* event) {
   PaintImage(painter, event->rect() & view);
   for (const forms::Control* child : box_.Children()) {
     if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
-    const QRect area = OnScreen(*child);
+    const QRect area = InBox(BoundsOf(*child));
     if (!event->rect().intersects(area)) continue;
     painter.setClipRect(area & view);
     DrawLabel(painter, area, static_cast<const forms::Label&>(*child));
@@ -117,7 +117,8 @@ void CanvasView::PaintImage(QPainter& painter, const QRect& part) const {
   // Shares the raster's memory; nothing is copied but what goes on the screen.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
                      raster.Height, QImage::Format_RGB32);
-  painter.drawImage(part.topLeft(), image, part.translated(box_.ScrollLeft, box_.ScrollTop));
+  const forms::PixelPoint from = forms::OnPicture(box_, {part.x(), part.y()});
+  painter.drawImage(part.topLeft(), image, QRect(QPoint(from.X, from.Y), part.size()));
 }
 
 void CanvasView::PaintFlight(QPainter& painter) const {
@@ -133,7 +134,7 @@ void CanvasView::PaintFlight(QPainter& painter) const {
 
 void CanvasView::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta() * WheelStep / NotchAngle;
-  box_.ScrollTo(box_.ScrollLeft - turn.x(), box_.ScrollTop - turn.y());
+  box_.ScrollBy(-turn.x(), -turn.y());
 }
 
 }  // namespace terramark::window

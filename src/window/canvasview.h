@@ -29,7 +29,7 @@ class CanvasView : public QWidget, public ControlView {
 
  private:
   void LayBars();
-  QRect OnScreen(const forms::Control& label) const;
+  QRect InBox(const QRect& onPicture) const;
   void PaintImage(QPainter& painter, const QRect& part) const;
   void PaintFlight(QPainter& painter) const;
   /// Where the marker in the air stands; empty when there is none.

@@ -90,10 +90,11 @@ void FormView::FormChanged(forms::PropertyId id) {
       window()->setWindowTitle(FromCp1252(form_.Caption));
       break;
     case forms::PropertyId::Left:
-    case forms::PropertyId::Top:
-      window()->move(qRound(form_.Left / form_.Host.TwipsPerPixelX()),
-                     qRound(form_.Top / form_.Host.TwipsPerPixelY()));
+    case forms::PropertyId::Top: {
+      const forms::PixelPoint place = forms::PlaceOnScreen(form_);
+      window()->move(place.X, place.Y);
       break;
+    }
     case forms::PropertyId::BackColor: {
       QPalette colours = palette();
       colours.setColor(QPalette::Window, ScreenColour(form_.BackColor));

@@ -8,9 +8,9 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
-#include <cmath>
 #include <memory>
 
+#include "forms/geometry.h"
 #include "shell/icon.h"
 
 namespace terramark::window {
@@ -96,7 +96,7 @@ QColor ScreenColour(forms::Color colour) {
 QFont ControlFont(forms::Desktop& host) {
   QFont font = FamilyFont();
   font.setBold(true);
-  font.setPixelSize(static_cast<int>(std::lround(FontTwips / host.TwipsPerPixelY())));
+  font.setPixelSize(forms::PixelsDown(host, FontTwips));
   return font;
 }
 

@@ -27,10 +27,9 @@ struct TestWindow {
   T& Of(const forms::Control& control) {
     return *dynamic_cast<T*>(Window.Inside().WidgetOf(control));
   }
-  QPoint Centre(const forms::Control& control) const {
-    const forms::PixelPoint corner = forms::InnerOrigin(control);
-    const forms::PixelRect size = forms::PixelBounds(control);
-    return {corner.X + size.Width / 2, corner.Y + size.Height / 2};
+  static QPoint Centre(const forms::Control& control) {
+    const forms::PixelPoint middle = forms::Middle(control);
+    return {middle.X, middle.Y};
   }
 
   void Press(QPoint at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {}) {
