@@ -27,6 +27,10 @@ class PointerRouter {
   /// A button pressed by other means than the mouse: a left press and release in its middle.
   void PressKey(CommandButton& button, std::int16_t shift);
 
+  /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
+  /// cancelled leaves them down.
+  std::int16_t ButtonsDown() const { return buttonsDown_; }
+
   /// The control that a press at this place would reach; the form itself where there is none.
   Control& Under(int x, int y) const;
   /// The control that a move at this place describes, enabled or not.

@@ -64,6 +64,10 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
   return forHelp || !(widget.isEnabled() && widget.property(OwnMouse).toBool());
 }
 
+bool PointerFeed::IsDown(Qt::MouseButton button) const {
+  return (form_.Pointer.ButtonsDown() & CodeOf(button)) != 0;
+}
+
 QPoint PointerFeed::In(const QMouseEvent& event) const {
   return inside_.mapFromGlobal(event.globalPosition().toPoint());
 }
@@ -72,12 +76,11 @@ void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (CodeOf(event.button()) == 0) return;
   ReleaseLost(event);
   const QPoint at = In(event);
-  if (down_ == Qt::NoButton) {
+  if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
     heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
     asksHelp_ = heard_ && KeyMask(event.modifiers()) == forms::ShiftKey;
   }
-  down_ |= event.button();
   if (held_) held_->setDown(true);
   form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));
 }
@@ -90,15 +93,15 @@ void PointerFeed::Move(const QMouseEvent& event) {
 }
 
 void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
-  if (CodeOf(button) == 0) return;
-  down_.setFlag(button, false);
+  const std::int16_t code = CodeOf(button);
+  if (code == 0) return;
   if (held_) held_->setDown(false);
-  if (down_ == Qt::NoButton) {
+  if ((form_.Pointer.ButtonsDown() & ~code) == 0) {
     held_.clear();
     asksHelp_ = false;
   }
   if (form_.Pointer.InFlight() && !Shows(at)) at = Nowhere;
-  form_.Pointer.Release(at.x(), at.y(), CodeOf(button), KeyMask(keys));
+  form_.Pointer.Release(at.x(), at.y(), code, KeyMask(keys));
 }
 
 /// Whether the window shows a place of the form: it has not been made too small for it, and no
@@ -114,7 +117,7 @@ bool PointerFeed::Shows(QPoint at) const {
 void PointerFeed::ReleaseLost(const QMouseEvent& event) {
   for (const Qt::MouseButton button : Buttons) {
     const bool pressedNow = event.type() != QEvent::MouseMove && event.button() == button;
-    if (!down_.testFlag(button) || (event.buttons().testFlag(button) && !pressedNow)) continue;
+    if (!IsDown(button) || (event.buttons().testFlag(button) && !pressedNow)) continue;
     form_.Pointer.CancelDrag();
     Release(In(event), button, event.modifiers());
   }
@@ -126,7 +129,7 @@ bool PointerFeed::ContextMenu(QWidget& widget, const QContextMenuEvent& event) {
   if (event.modifiers().testFlag(Qt::ShiftModifier)) return true;
   if (!widget.property(OwnMouse).toBool()) return true;
   const QPoint at = inside_.mapFromGlobal(event.globalPos());
-  if (down_.testFlag(Qt::RightButton)) Release(at, Qt::RightButton, event.modifiers());
+  if (IsDown(Qt::RightButton)) Release(at, Qt::RightButton, event.modifiers());
   return false;
 }
 

@@ -32,12 +32,12 @@ class PointerFeed : public QObject {
   void Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys);
   bool ContextMenu(QWidget& widget, const QContextMenuEvent& event);
   void ReleaseLost(const QMouseEvent& event);
+  bool IsDown(Qt::MouseButton button) const;
   QPoint In(const QMouseEvent& event) const;
   bool Shows(QPoint at) const;
 
   forms::Form& form_;
   QWidget& inside_;
-  Qt::MouseButtons down_;
   QPointer<QPushButton> held_;
   /// Of the press that holds the pointer: what it is on hears its release, and it asks for help.
   bool heard_ = false;
