@@ -19,7 +19,7 @@ inline constexpr std::int16_t ShiftKey = 1;
 inline constexpr std::int16_t CtrlKey = 2;
 inline constexpr std::int16_t AltKey = 4;
 
-/// Key codes that the layer or a form looks at.
+/// Key codes; no other key has one.
 inline constexpr std::int16_t KeyUpArrow = 38;
 inline constexpr std::int16_t KeyDownArrow = 40;
 
@@ -41,6 +41,8 @@ struct DropEvent {
   float Y = 0;
 };
 
+/// KeyCode is KeyUpArrow, KeyDownArrow or, for any other key, 0; Shift is a sum of ShiftKey, CtrlKey
+/// and AltKey.
 struct KeyEvent {
   std::int16_t KeyCode = 0;
   std::int16_t Shift = 0;

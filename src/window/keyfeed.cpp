@@ -1,50 +1,18 @@
 #include "window/keyfeed.h"
 
-#include <algorithm>
-#include <array>
-
 namespace terramark::window {
 
 namespace {
 
-struct KeyRow {
-  int Key;
-  std::int16_t Code;
-};
-
-// clang-format off
-constexpr std::array<KeyRow, 19> KeyCodes{{
-    // key               code
-    {Qt::Key_Backspace,  8},
-    {Qt::Key_Tab,        9},
-    {Qt::Key_Return,    13},
-    {Qt::Key_Enter,     13},
-    {Qt::Key_Shift,     16},
-    {Qt::Key_Control,   17},
-    {Qt::Key_Alt,       18},
-    {Qt::Key_Escape,    27},
-    {Qt::Key_Space,     32},
-    {Qt::Key_PageUp,    33},
-    {Qt::Key_PageDown,  34},
-    {Qt::Key_End,       35},
-    {Qt::Key_Home,      36},
-    {Qt::Key_Left,      37},
-    {Qt::Key_Up,        forms::KeyUpArrow},
-    {Qt::Key_Right,     39},
-    {Qt::Key_Down,      forms::KeyDownArrow},
-    {Qt::Key_Insert,    45},
-    {Qt::Key_Delete,    46},
-}};
-// clang-format on
-
-/// Letters and digits have the codes of their capitals; 0 for a key without a code.
 std::int16_t CodeOf(int key) {
-  if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z)) {
-    return static_cast<std::int16_t>(key);
+  switch (key) {
+    case Qt::Key_Up:
+      return forms::KeyUpArrow;
+    case Qt::Key_Down:
+      return forms::KeyDownArrow;
+    default:
+      return 0;
   }
-  const auto* const row = std::find_if(KeyCodes.begin(), KeyCodes.end(),
-                                       [key](const KeyRow& entry) { return entry.Key == key; });
-  return row == KeyCodes.end() ? std::int16_t{0} : row->Code;
 }
 
 forms::KeyEvent EventOf(const QKeyEvent& key) {
