@@ -41,8 +41,8 @@ struct DropEvent {
   float Y = 0;
 };
 
-/// KeyCode is KeyUpArrow, KeyDownArrow or, for any other key, 0; Shift is a sum of ShiftKey, CtrlKey
-/// and AltKey.
+/// KeyCode is KeyUpArrow, KeyDownArrow or, for any other key, 0; Shift is a sum of ShiftKey,
+/// CtrlKey and AltKey.
 struct KeyEvent {
   std::int16_t KeyCode = 0;
   std::int16_t Shift = 0;

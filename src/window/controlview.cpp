@@ -29,6 +29,12 @@ QString NameOf(const forms::Control& control) {
   return InArray(control) ? QString("%1(%2)").arg(name).arg(control.Index()) : name;
 }
 
+QFont FontOf(const forms::Control& control) {
+  const bool formsOwn = control.Kind() == forms::ControlKind::CommandButton ||
+                        control.Kind() == forms::ControlKind::Frame;
+  return (formsOwn ? FormFont : TextFont)(control.Owner()->Host);
+}
+
 }  // namespace
 
 ControlView::ControlView(forms::Control& control, QWidget& widget)
@@ -37,7 +43,7 @@ ControlView::ControlView(forms::Control& control, QWidget& widget)
   widget.setObjectName(NameOf(control));
   widget.setToolTip(hint);
   widget.setAccessibleName(hint);
-  widget.setFont(ControlFont(control.Owner()->Host));
+  widget.setFont(FontOf(control));
   widget.setGeometry(BoundsOf(control));
   widget.setEnabled(control.Enabled);
   widget.setVisible(control.Visible);

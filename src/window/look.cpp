@@ -53,9 +53,16 @@ QPalette LightPalette() {
   return palette;
 }
 
-QFont FamilyFont() {
+QStringList TextFamilies() {
+  return {"Arial", "Liberation Sans"};
+}
+
+/// Bold, in the size of all controls.
+QFont SizedFont(const QStringList& families, forms::Desktop& host) {
   QFont font;
-  font.setFamilies({"Arial", "Liberation Sans"});
+  font.setFamilies(families);
+  font.setBold(true);
+  font.setPixelSize(forms::PixelsDown(host, FontTwips));
   return font;
 }
 
@@ -65,7 +72,8 @@ void SetUpLook(QApplication& application) {
   // The application takes the style over.
   QApplication::setStyle(std::make_unique<Style>().release());
   QApplication::setPalette(LightPalette());
-  QFont font = FamilyFont();
+  QFont font;
+  font.setFamilies(TextFamilies());
   font.setPointSizeF(DialogPoints);
   QApplication::setFont(font);
   application.setWindowIcon(WindowIcon());
@@ -93,11 +101,12 @@ QColor ScreenColour(forms::Color colour) {
   }
 }
 
-QFont ControlFont(forms::Desktop& host) {
-  QFont font = FamilyFont();
-  font.setBold(true);
-  font.setPixelSize(forms::PixelsDown(host, FontTwips));
-  return font;
+QFont TextFont(forms::Desktop& host) {
+  return SizedFont(TextFamilies(), host);
+}
+
+QFont FormFont(forms::Desktop& host) {
+  return SizedFont(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies(), host);
 }
 
 void DrawCaption(QPainter& painter, const QRect& area, const QString& text,

@@ -1,4 +1,4 @@
-// How the window looks whatever the desktop's theme: style, colours, the controls' font.
+// How the window looks whatever the desktop's theme: style, colours, the controls' fonts.
 #pragma once
 
 #include <QColor>
@@ -24,8 +24,12 @@ QIcon WindowIcon();
 /// A system colour or 0x00BBGGRR on the screen.
 QColor ScreenColour(forms::Color colour);
 
-/// Arial 8.25 pt bold or what has its measures, sized by the screen's twips.
-QFont ControlFont(forms::Desktop& host);
+/// Of labels and boxes: Arial 8.25 pt bold or what has its measures, sized by the screen's twips.
+QFont TextFont(forms::Desktop& host);
+
+/// The form's own, which shows on buttons and in the captions of frames: MS Sans Serif of the same
+/// size and weight, or else Arial.
+QFont FormFont(forms::Desktop& host);
 
 /// Draws one line of text into the rectangle: in the middle, or from the left with an ellipsis at
 /// the place told where it does not fit.

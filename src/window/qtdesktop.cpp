@@ -103,7 +103,7 @@ float QtDesktop::TwipsPerPixelY() {
 }
 
 forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
-  const QFontMetrics metrics(ControlFont(*this));
+  const QFontMetrics metrics(TextFont(*this));
   return {metrics.horizontalAdvance(ShownText(text)), metrics.height()};
 }
 

@@ -57,7 +57,7 @@ TEST(Window, NoCaptionIsCutOff) {
 
 TEST(Window, ATextDrawnInJustItsOwnWidthIsWhole) {
   ScriptedDesktop desktop;
-  const QFont font = ControlFont(desktop);
+  const QFont font = TextFont(desktop);
   for (const char* text : {"Scandinavia", "Latin West", "The Isles"}) {
     const int width = QFontMetrics(font).horizontalAdvance(text);
     QImage images[2];
