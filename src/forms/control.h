@@ -65,12 +65,14 @@ class Control : public PropertyOwner {
   /// Contained controls from the back to the front.
   const std::vector<Control*>& Children() const { return children_; }
 
-  /// Begins a drag of this control by the pointer that is down, or ends it with nothing moved.
+  /// Begins a drag of this control by the pointer that is down, or ends it with nothing moved. Does
+  /// nothing where no button is down, none is dragged, or the control is on no form.
   void Drag(DragAction action);
+  /// Sets Left and Top, in the container's scale. Any place will do; nothing is clamped.
   void Move(float left, float top);
-  /// Puts the control at one end of its container's stack.
+  /// Puts the control at one end of its container's stack; one on no form stays as it is.
   void ZOrder(StackEnd end);
-  /// Gives the control the keyboard.
+  /// Gives the control the keyboard, if Form::Focus does.
   void SetFocus();
   /// Asks that the screen shows the control as it is now.
   void Refresh();

@@ -30,15 +30,16 @@ class ControlArray {
   T* Find(std::int16_t index) { return At(index); }
 
   /// Creates an element at design time, with the defaults of its kind; not yet on a form. An
-  /// element that exists is given as it is.
+  /// element that exists is given as it is. An index out of range throws std::out_of_range, here
+  /// and in Load.
   T& Design(std::int16_t index) {
     auto& element = elements_.at(static_cast<std::size_t>(index));
     if (!element) element = std::make_unique<T>(name_, index);
     return *element;
   }
 
-  /// Creates an element as an invisible copy of element 0, in front of its container's stack.
-  /// An element that exists stays as it is.
+  /// Creates an element as an invisible copy of element 0, which must be on a form, in front of its
+  /// container's stack. An element that exists stays as it is.
   void Load(std::int16_t index) {
     if (Find(index) != nullptr) return;
     T& pattern = (*this)(0);
@@ -49,7 +50,7 @@ class ControlArray {
     element.CopyTemplate(pattern);
   }
 
-  /// Destroys an element; one that does not exist is passed over.
+  /// Destroys an element; one that does not exist is passed over, whatever the index.
   void Unload(std::int16_t index) {
     if (Find(index) != nullptr) elements_[static_cast<std::size_t>(index)].reset();
   }

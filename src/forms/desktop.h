@@ -57,15 +57,20 @@ class Desktop {
   /// Opens the help viewer on a topic. Nothing comes back, not even a failure.
   virtual void ShowHelp(const std::string& helpFile, std::int32_t topic) = 0;
 
+  /// Local time.
   virtual DateTime Now() = 0;
-  /// Seconds since midnight.
+  /// Seconds since the local midnight, 0 to 86400, with what part of one a float still holds.
   virtual float Timer() = 0;
+  /// Begins the random numbers anew. Any number is a seed; equal seeds give equal draws, and so
+  /// does each run that gives none.
   virtual void Randomize(float seed) = 0;
-  /// The next random number: 0 <= r < 1.
+  /// The next random number: 0 <= r < 1, in steps of 2^-24.
   virtual float Rnd() = 0;
 
+  /// Twips that a pixel of the screen measures across and down, above 0: 15 at 96 dots an inch.
   virtual float TwipsPerPixelX() = 0;
   virtual float TwipsPerPixelY() = 0;
+  /// The size of a text as one line, as far as a caption shows it. The empty text has a height too.
   virtual TextExtent MeasureText(const std::string& text) = 0;
 
   /// Reads a bitmap at its own size, or a metafile drawn into width x height pixels. The empty path

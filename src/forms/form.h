@@ -50,8 +50,8 @@ class Form : public Control {
   /// All controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }
 
-  /// Gives the keyboard to a control, or with null to none. One that is disabled or invisible, or
-  /// stands in something that is, does not take it.
+  /// Gives the keyboard to a control of this form, or with null to none. One that is disabled or
+  /// invisible, or stands in something that is, does not take it: it stays where it was.
   void Focus(Control* control);
   /// The control that has the keyboard; null when none has. One that is disabled or hidden loses
   /// it, and gets it back with its state unless another has taken it by then.

@@ -18,13 +18,15 @@ class PointerRouter {
  public:
   explicit PointerRouter(Form& form) : form_(form) {}
 
-  /// What the window feeds: the pointer in pixels of the form's inside, and the key mask.
-  /// The first button that goes down captures the pointer for the control under it until all are
-  /// up. A disabled control lets the pointer through to what lies under it.
+  /// What the window feeds: the pointer in pixels of the form's inside, on it or not, one of the
+  /// buttons of MouseEvent, and the key mask. A release of a button that is not down is passed
+  /// over. The first button that goes down captures the pointer for the control under it until all
+  /// are up. A disabled control lets the pointer through to what lies under it.
   void Press(int x, int y, std::int16_t button, std::int16_t shift);
   void Move(int x, int y, std::int16_t shift);
   void Release(int x, int y, std::int16_t button, std::int16_t shift);
   /// A button pressed by other means than the mouse: a left press and release in its middle.
+  /// Nothing happens while it or its container is disabled, or a button of the mouse is down.
   void PressKey(CommandButton& button, std::int16_t shift);
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
