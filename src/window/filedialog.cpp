@@ -47,11 +47,6 @@ class KindByName : public QFileIconProvider {
   }
 };
 
-bool Fits(const QString& name) {
-  // A line end in a name would end the line of the layout that holds it.
-  return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
-}
-
 /// The dialog would find its columns and folders again in the next run, and so would that of any
 /// other program; nothing but the layouts outlives a run here.
 void ForgetSettings() {
@@ -82,14 +77,6 @@ void ShowWholeColumns(QFileDialog& chooser) {
 }
 
 }  // namespace
-
-void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
-  const QString title = QFileInfo(path).fileName();
-  dialog.FileName = ToCp1252(path);
-  dialog.FileTitle = ToCp1252(title);
-  dialog.FileNameFits = Fits(path);
-  dialog.FileTitleFits = Fits(title);
-}
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
   ForgetSettings();

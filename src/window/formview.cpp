@@ -22,12 +22,12 @@ bool OnCanvas(const forms::Control& control) {
 
 }  // namespace
 
-FormView::FormView(forms::Form& form, QWidget* parent)
-    : QWidget(parent), form_(form), pointer_(form, *this), keys_(form) {
+FormView::FormView(forms::Form& form, QWidget& parent)
+    : QWidget(&parent), form_(form), pointer_(form, *this), keys_(form) {
   setObjectName("inside");
   pointer_.Watch(*this, false);
   keys_.Watch(*this, nullptr);
-  if (parent != nullptr) keys_.Watch(*parent, nullptr);
+  keys_.Watch(parent, nullptr);
   FormChanged(forms::PropertyId::BackColor);
   for (forms::Control* control : form.Controls()) ControlAdded(*control);
   LayTabOrder();

@@ -19,7 +19,7 @@ class ControlView;
 class FormView : public QWidget, private forms::FormObserver {
  public:
   /// The form must outlive the view. It has one view at a time.
-  FormView(forms::Form& form, QWidget* parent);
+  FormView(forms::Form& form, QWidget& parent);
   ~FormView() override;
 
   /// Size of the form's client area, in pixels.

@@ -2,11 +2,12 @@
 
 #include <QCloseEvent>
 
+#include "shell/form1.h"
 #include "shell/startup.h"
 
 namespace terramark::window {
 
-MainWindow::MainWindow(Form1& form) : form_(form), inside_(form, this) {
+MainWindow::MainWindow(Form1& form) : form_(form), inside_(form, *this) {
   setCentralWidget(&inside_);
   inside_.DressWindow();
   resize(inside_.DesignSize());

@@ -3,9 +3,11 @@
 
 #include <QMainWindow>
 
-#include "shell/form1.h"
 #include "window/formview.h"
-#include "window/keyrepeats.h"
+
+namespace terramark {
+struct Form1;
+}
 
 namespace terramark::window {
 
@@ -21,7 +23,6 @@ class MainWindow : public QMainWindow {
 
  private:
   Form1& form_;
-  KeyRepeats repeats_;
   FormView inside_;
 };
 

@@ -40,6 +40,20 @@ forms::Picture PictureOf(const QImage& image) {
   return raster;
 }
 
+bool Fits(const QString& name) {
+  // A line end in a name would end the line of the layout that holds it.
+  return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+}
+
+/// Puts a chosen path into the dialog's properties.
+void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
+  const QString title = QFileInfo(path).fileName();
+  dialog.FileName = ToCp1252(path);
+  dialog.FileTitle = ToCp1252(title);
+  dialog.FileNameFits = Fits(path);
+  dialog.FileTitleFits = Fits(title);
+}
+
 }  // namespace
 
 forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,

@@ -74,10 +74,10 @@ void TextView::NoteCaret() {
 
 void TextView::Edited(const QString& edited) {
   const QScopedValueRollback<bool> still(editing_, true);
-  const QString before = Showable();
+  const QString before = ShownPart();
   const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
   Take(before, edited);
-  if (const QString now = Showable(); now != text()) {
+  if (const QString now = ShownPart(); now != text()) {
     // Less may have come in than the line shows.
     const auto size = static_cast<qsizetype>(box_.Text.Get().size());
     const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
@@ -126,12 +126,12 @@ void TextView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::BackColor || id == forms::PropertyId::ForeColor) ShowColours();
 }
 
-QString TextView::Showable() const {
+QString TextView::ShownPart() const {
   return FromCp1252(box_.Text.Get().substr(0, MostShown));
 }
 
 void TextView::ShowText() {
-  const QString text = Showable();
+  const QString text = ShownPart();
   if (text == this->text()) return;
   Limit(text.size());
   setText(text);

@@ -24,7 +24,8 @@ class TextView : public QLineEdit, public ControlView {
   void Edited(const QString& edited);
   void Take(const QString& before, const QString& edited);
   void NoteCaret();
-  QString Showable() const;
+  /// The beginning of the control's text, as much of it as the box holds.
+  QString ShownPart() const;
   void Limit(qsizetype size);
   void ShowText();
   void ShowColours();

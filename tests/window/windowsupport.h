@@ -5,7 +5,9 @@
 #include <QWindow>
 
 #include "forms/geometry.h"
+#include "shell/form1.h"
 #include "support/scripteddesktop.h"
+#include "window/keyrepeats.h"
 #include "window/look.h"
 #include "window/mainwindow.h"
 
@@ -14,6 +16,7 @@ namespace terramark::window {
 struct TestWindow {
   ScriptedDesktop Desktop;
   Form1 Form{Desktop};
+  KeyRepeats Repeats;
   MainWindow Window{Form};
 
   TestWindow() {
