@@ -93,35 +93,43 @@ void CopyLines(benchmark::State& state) {
 
 /// All fields of the file, each read as what it is, and none kept.
 bool ReadAllFields(std::string_view text) {
+  using Whole = std::int16_t;
+  using Text = std::string_view;
   FieldReader file(text);
-  std::string_view line;
-  std::string_view letter;
-  std::string_view name;
-  std::string_view links;
-  std::int16_t number = 0;
-  std::int16_t areas = 0;
-  std::int16_t regions = 0;
-  std::int16_t count = 0;
-  float x = 0;
-  float y = 0;
-  Components rgb{};
-  bool read =
-      file.Line(line) && file.Line(line) && file.Fields(regions, areas, line, rgb, rgb, rgb, rgb);
-  for (int r = 0; r < regions && read; ++r) {
-    read = file.Fields(number, count, rgb, name, number);
-    while (count-- > 0) read = read && file.Fields(number, letter, name, links, number);
+  const bool headed = file.Line() && file.Line();
+  const auto head =
+      file.Fields<Whole, Whole, Text, Components, Components, Components, Components>();
+  if (!headed || !head) return false;
+  const Whole regions = std::get<0>(*head);
+  const Whole areas = std::get<1>(*head);
+  bool read = true;
+  for (Whole r = 0; r < regions && read; ++r) {
+    const auto region = file.Fields<Whole, Whole, Components, Text, Whole>();
+    read = region.has_value();
+    for (Whole i = 0; read && i < std::get<1>(*region); ++i) {
+      read = file.Fields<Whole, Text, Text, Text, Whole>().has_value();
+    }
   }
-  read = read && file.Line(line);
-  while (read && file.Fields(number, links) && number != 0) continue;
-  read = read && file.Line(line);
-  for (int i = 0; i < areas; ++i) read = read && file.Fields(number, links);
-  read = read && file.Line(line);
-  for (int r = 0; r < regions; ++r) read = read && file.Fields(number, links);
-  read = read && file.Line(line) && file.Fields(x, y);
-  for (int i = 0; i <= areas; ++i) read = read && file.Fields(number, x, y);
-  read = read && file.Line(line);
-  for (int r = 0; r < regions; ++r) read = read && file.Fields(number, x, y);
-  return read && file.Line(line);
+  const auto pairs = [&](Whole count) {
+    read = read && file.Line();
+    for (Whole i = 0; i < count; ++i) read = read && file.Fields<Whole, Text>();
+  };
+  const auto places = [&](Whole count) {
+    for (Whole i = 0; i < count; ++i) read = read && file.Fields<Whole, float, float>();
+  };
+  pairs(0);
+  while (read) {
+    const auto bridge = file.Fields<Whole, Text>();
+    read = bridge.has_value();
+    if (read && std::get<0>(*bridge) == 0) break;
+  }
+  pairs(areas);
+  pairs(regions);
+  read = read && file.Line() && file.Fields<float, float>();
+  places(static_cast<Whole>(areas + 1));
+  read = read && file.Line();
+  places(regions);
+  return read && file.Line();
 }
 
 void ReadFields(benchmark::State& state) {

@@ -30,10 +30,11 @@ class ControlArray {
   T* Find(std::int16_t index) { return At(index); }
 
   /// Creates an element at design time, with the defaults of its kind; not yet on a form. An
-  /// element that exists is given as it is. An index out of range throws std::out_of_range, here
-  /// and in Load.
+  /// element that exists is given as it is. An index out of range ends the program, here and in
+  /// Load.
   T& Design(std::int16_t index) {
-    auto& element = elements_.at(static_cast<std::size_t>(index));
+    if (!InRange(index)) Broken(NameOf(index) + " is out of range");
+    auto& element = elements_[static_cast<std::size_t>(index)];
     if (!element) element = std::make_unique<T>(name_, index);
     return *element;
   }
@@ -64,13 +65,16 @@ class ControlArray {
   }
 
  private:
+  static bool InRange(std::int16_t index) {
+    return index >= 0 && static_cast<std::size_t>(index) < MaxElements;
+  }
+  std::string NameOf(std::int16_t index) const { return name_ + "(" + std::to_string(index) + ")"; }
   T* At(std::int16_t index) const {
-    const auto place = static_cast<std::size_t>(index);
-    return index >= 0 && place < MaxElements ? elements_[place].get() : nullptr;
+    return InRange(index) ? elements_[static_cast<std::size_t>(index)].get() : nullptr;
   }
   T* Existing(std::int16_t index) const {
     T* element = At(index);
-    if (element == nullptr) Broken(name_ + "(" + std::to_string(index) + ") does not exist");
+    if (element == nullptr) Broken(NameOf(index) + " does not exist");
     return element;
   }
 
