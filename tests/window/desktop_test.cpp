@@ -40,19 +40,15 @@ void WhileModal(const std::function<void(QWidget&)>& act) {
   QTimer::singleShot(20, [act] { act(*QApplication::activeModalWidget()); });
 }
 
-TEST(Cp1252, EveryByteGoesRoundAndOnlyWhatItLacksIsLost) {
-  std::string all;
-  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
-  EXPECT_EQ(ToCp1252(FromCp1252(all)), all);
-  EXPECT_EQ(FromCp1252("\x80\x9F\xA0\x81"), QStringLiteral("\u20AC\u0178\u00A0\u0081"));
-  EXPECT_EQ(ToCp1252(QStringLiteral("\u0080\u0100\U0001F600")), "???");
-}
+struct DesktopTest : testing::Test {
+  QtDesktop Desktop;
+  Form1 Form{Desktop};
+};
 
-TEST(Desktop, BoxesAnswerByButtonAndNoWhenClosed) {
-  QtDesktop desktop;
+TEST_F(DesktopTest, BoxesAnswerByButtonAndNoWhenClosed) {
   const auto ask = [&](Qt::Key key) {
     WhileModal([key](QWidget& box) { QTest::keyClick(&box, key); });
-    return desktop.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark");
+    return Desktop.MsgBox("Exit Terramark", forms::Buttons::YesNo, "Terramark");
   };
   EXPECT_EQ(ask(Qt::Key_Return), forms::Answer::No);
   EXPECT_EQ(ask(Qt::Key_Escape), forms::Answer::No);
@@ -61,15 +57,13 @@ TEST(Desktop, BoxesAnswerByButtonAndNoWhenClosed) {
     auto* first = buttons[0]->x() < buttons[1]->x() ? buttons[0] : buttons[1];
     QTest::mouseClick(first, Qt::LeftButton);
   });
-  EXPECT_EQ(desktop.MsgBox("Clear whole map?", forms::Buttons::YesNo, "Terramark"),
+  EXPECT_EQ(Desktop.MsgBox("Clear whole map?", forms::Buttons::YesNo, "Terramark"),
             forms::Answer::Yes);
   WhileModal([](QWidget& box) { box.close(); });
-  EXPECT_EQ(desktop.MsgBox("Failed", forms::Buttons::Ok, "Terramark"), forms::Answer::Ok);
+  EXPECT_EQ(Desktop.MsgBox("Failed", forms::Buttons::Ok, "Terramark"), forms::Answer::Ok);
 }
 
-TEST(Desktop, TheAboutBoxEndsByItsButtonAndByEscape) {
-  QtDesktop desktop;
-  Form1 form(desktop);
+TEST_F(DesktopTest, TheAboutBoxEndsByItsButtonAndByEscape) {
   int shown = 0;
   for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
     WhileModal([&](QWidget& about) {
@@ -79,7 +73,7 @@ TEST(Desktop, TheAboutBoxEndsByItsButtonAndByEscape) {
       ++shown;
       QTest::keyClick(about.focusWidget(), key);
     });
-    DBPush1_MouseUp(form);
+    DBPush1_MouseUp(Form);
   }
   EXPECT_EQ(shown, 3);
 }
@@ -103,14 +97,13 @@ void ExpectOneFileInWholeColumns(QWidget& chooser) {
   EXPECT_FALSE(list.model()->index(1, 2, list.rootIndex()).data().toString().contains("BMP"));
 }
 
-TEST(Desktop, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
+TEST_F(DesktopTest, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   const QTemporaryDir folder;
   const QString before = QDir::currentPath();
   QDir::setCurrent(folder.path());
   const std::string here = QDir::currentPath().toStdString();
   EXPECT_TRUE(QFile::copy(SAMPLES "/europe.bmp", "A NAME THAT IS LONGER THAN MOST NAMES.BMP"));
   EXPECT_TRUE(QFile::copy(SAMPLES "/europe.bmp", "picture"));
-  QtDesktop desktop;
   forms::CommonDialog dialog{"*.wmf;*.bmp", "*.wmf;*.bmp", "", true, true};
   const auto choose = [&](const char* name, Qt::Key key) {
     WhileModal([&](QWidget& chooser) {
@@ -119,7 +112,7 @@ TEST(Desktop, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
       line->setText(name);
       QTest::keyClick(line, key);
     });
-    desktop.ShowOpen(dialog);
+    Desktop.ShowOpen(dialog);
     return dialog.FileName;
   };
   EXPECT_EQ(choose("no.tml", Qt::Key_Escape), "*.wmf;*.bmp");
@@ -132,14 +125,13 @@ TEST(Desktop, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   QFile::copy(SAMPLES "/europe.bmp", "\u4E2D/\u0141.bmp");
   EXPECT_EQ(choose("\u0141.bmp", Qt::Key_Return), here + "/?/?.bmp");
   EXPECT_FALSE(dialog.FileTitleFits);
-  EXPECT_NE(desktop.LoadPicture(dialog.FileName, 60, 40), nullptr);
-  desktop.EnterFolderOf(dialog.FileName);
+  EXPECT_NE(Desktop.LoadPicture(dialog.FileName, 60, 40), nullptr);
+  Desktop.EnterFolderOf(dialog.FileName);
   EXPECT_EQ(QDir::currentPath().toStdString(), here + "/\u4E2D");
   QDir::setCurrent(before);
 }
 
-TEST(Desktop, OneHelpWindowShowsTheTopicAskedFor) {
-  QtDesktop desktop;
+TEST_F(DesktopTest, OneHelpWindowShowsTheTopicAskedFor) {
   const auto pages = [] {
     QStringList texts;
     for (const QWidget* window : QApplication::topLevelWidgets()) {
@@ -148,63 +140,57 @@ TEST(Desktop, OneHelpWindowShowsTheTopicAskedFor) {
     }
     return texts.join("|").toStdString();
   };
-  desktop.ShowHelp("TMRK.HLP", 13);
-  desktop.ShowHelp("TMRK.HLP", 12);
+  Desktop.ShowHelp("TMRK.HLP", 13);
+  Desktop.ShowHelp("TMRK.HLP", 12);
   EXPECT_EQ(pages().substr(0, 22), "Topic 12: Card symbols");
   EXPECT_EQ(pages().find('|'), std::string::npos);
-  desktop.ShowHelp("TMRK.HLP", -3);
+  Desktop.ShowHelp("TMRK.HLP", -3);
   EXPECT_NE(pages().find("no such help topic"), std::string::npos);
 }
 
-TEST(Desktop, DrawsAreBelowOneAndRepeatWithTheirSeed) {
-  QtDesktop desktop;
-  desktop.Randomize(75907.5F);
-  const float first = desktop.Rnd();
+TEST_F(DesktopTest, DrawsAreBelowOneAndRepeatWithTheirSeed) {
+  Desktop.Randomize(75907.5F);
+  const float first = Desktop.Rnd();
   float highest = 0;
-  for (int i = 0; i < 100000; ++i) highest = std::max(highest, desktop.Rnd());
+  for (int i = 0; i < 100000; ++i) highest = std::max(highest, Desktop.Rnd());
   EXPECT_TRUE(highest > 0.99F && highest < 1.0F);
-  desktop.Randomize(75907.5F);
-  EXPECT_EQ(desktop.Rnd(), first);
+  Desktop.Randomize(75907.5F);
+  EXPECT_EQ(Desktop.Rnd(), first);
 }
 
-TEST(Desktop, PicturesComeRowByRowFromTheNamedFile) {
+TEST_F(DesktopTest, PicturesComeRowByRowFromTheNamedFile) {
   const QTemporaryDir folder;
   QImage image(3, 2, QImage::Format_RGB888);  // rows of a bitmap file are padded
   image.fill(Qt::white);
   image.setPixel(2, 1, 0xFF123456);
   const QString path = folder.filePath(QStringLiteral("\u00FC.bmp"));
   ASSERT_TRUE(image.save(path));
-  QtDesktop desktop;
-  const forms::Picture picture = desktop.LoadPicture(ToCp1252(path), 60, 40);
+  const forms::Picture picture = Desktop.LoadPicture(ToCp1252(path), 60, 40);
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Pixels, (std::vector<std::uint32_t>{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF,
                                                          0xFFFFFFFF, 0xFFFFFFFF, 0xFF123456}));
-  EXPECT_EQ(desktop.LoadPicture("", 60, 40)->Width, 0);
-  EXPECT_EQ(desktop.LoadPicture(ToCp1252(folder.path()), 60, 40), nullptr);
+  EXPECT_EQ(Desktop.LoadPicture("", 60, 40)->Width, 0);
+  EXPECT_EQ(Desktop.LoadPicture(ToCp1252(folder.path()), 60, 40), nullptr);
 }
 
-TEST(Desktop, APictureThatTheMemoryDoesNotHoldCannotBeRead) {
-  QtDesktop desktop;
-  Form1 form(desktop);
-  form.PictureFile = SAMPLES "/europe.bmp";
-  form.Picture1.FillToBorder(0, 0, 0);
-  const auto before = form.Picture1.Image().Pixels;
+TEST_F(DesktopTest, APictureThatTheMemoryDoesNotHoldCannotBeRead) {
+  Form.PictureFile = SAMPLES "/europe.bmp";
+  Form.Picture1.FillToBorder(0, 0, 0);
+  const auto before = Form.Picture1.Image().Pixels;
   int blocks = -1;
   do {
-    EXPECT_EQ(form.Picture1.Image().Pixels, before);
-    EXPECT_EQ(form.Picture1.Picture.Get(), nullptr);
+    EXPECT_EQ(Form.Picture1.Image().Pixels, before);
+    EXPECT_EQ(Form.Picture1.Picture.Get(), nullptr);
     LargeBlocksLeft = ++blocks;
-  } while (!RefreshMap(form) && blocks < 9);
+  } while (!RefreshMap(Form) && blocks < 9);
   LargeBlocksLeft = INT_MAX;
   EXPECT_GE(blocks, 2) << "one for the picture and one for the image";
-  EXPECT_NE(form.Picture1.Image().Pixels, before);
+  EXPECT_NE(Form.Picture1.Image().Pixels, before);
 }
 
-TEST(Desktop, AFailureAndTheClosedWindowEndTheProcess) {
-  QtDesktop desktop;
-  Form1 form(desktop);
-  EXPECT_EXIT(desktop.End(1), testing::ExitedWithCode(1), "");
-  EXPECT_EXIT(MainWindow(form).close(), testing::ExitedWithCode(0), "");
+TEST_F(DesktopTest, AFailureAndTheClosedWindowEndTheProcess) {
+  EXPECT_EXIT(Desktop.End(1), testing::ExitedWithCode(1), "");
+  EXPECT_EXIT(MainWindow(Form).close(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -37,20 +37,21 @@ struct MarkerWindow : TestWindow {
   QColor Pixel(int x, int y) { return PixelOn(Form.Picture1, {x, y}); }
 };
 
-TEST(WindowCanvas, DrawsMarkersInTheirOrderAndTakesThemAway) {
-  MarkerWindow window;
-  EXPECT_EQ(window.Pixel(110, 58), Blue);
-  EXPECT_EQ(window.Pixel(99, 58), White);
-  window.Form.ArmyAt.Load(2);
-  window.Form.ArmyAt(2).BackColor = 0x000000FF;
-  window.Form.ArmyAt(2).Move(105, 50);
-  window.Form.ArmyAt(2).Visible = true;
-  EXPECT_EQ(window.Pixel(112, 62), QColor(Qt::red));
-  window.Marker().ZOrder(forms::StackEnd::Front);
-  EXPECT_EQ(window.Pixel(110, 58), Blue);
-  window.Form.ArmyAt.Unload(1);
-  window.Form.ArmyAt.Unload(2);
-  EXPECT_EQ(window.Pixel(110, 58), White);
+struct MarkerTest : testing::Test, MarkerWindow {};
+
+TEST_F(MarkerTest, DrawsMarkersInTheirOrderAndTakesThemAway) {
+  EXPECT_EQ(Pixel(110, 58), Blue);
+  EXPECT_EQ(Pixel(99, 58), White);
+  Form.ArmyAt.Load(2);
+  Form.ArmyAt(2).BackColor = 0x000000FF;
+  Form.ArmyAt(2).Move(105, 50);
+  Form.ArmyAt(2).Visible = true;
+  EXPECT_EQ(Pixel(112, 62), QColor(Qt::red));
+  Marker().ZOrder(forms::StackEnd::Front);
+  EXPECT_EQ(Pixel(110, 58), Blue);
+  Form.ArmyAt.Unload(1);
+  Form.ArmyAt.Unload(2);
+  EXPECT_EQ(Pixel(110, 58), White);
 }
 
 /// Counts what a widget is asked to paint.
@@ -62,50 +63,47 @@ struct PaintWatch : QObject {
   }
 };
 
-TEST(WindowCanvas, PaintsOnlyWhereAMarkerWasAndIs) {
-  MarkerWindow window;
+TEST_F(MarkerTest, PaintsOnlyWhereAMarkerWasAndIs) {
   QTest::qWait(20);
   PaintWatch watch;
-  window.Of(window.Form.Picture1).installEventFilter(&watch);
-  window.Marker().Move(300, 200);
+  Of(Form.Picture1).installEventFilter(&watch);
+  Marker().Move(300, 200);
   QTest::qWait(20);
   EXPECT_TRUE(watch.Painted.intersects(QRect(100, 50, 1, 1)));
   EXPECT_TRUE(watch.Painted.intersects(QRect(331, 215, 1, 1)));
   EXPECT_FALSE(watch.Painted.intersects(QRect(200, 100, 50, 50)));
   watch.Painted = {};
-  window.Form.Picture1.Refresh();
+  Form.Picture1.Refresh();
   QTest::qWait(20);
   EXPECT_TRUE(watch.Painted.contains(QRect(0, 0, 546, 308)));
 }
 
-TEST(WindowCanvas, AMarkerFollowsThePointerOutOfTheBoxAndBack) {
-  MarkerWindow window;
-  window.Press(Canvas + QPoint(105, 55));
-  window.Move(Canvas + QPoint(205, 155));
-  EXPECT_NE(window.Pixel(210, 158), White);
-  EXPECT_EQ(window.Pixel(110, 58), Blue) << "it stays at its place until it is dropped";
-  window.Move({-40, -40});
-  EXPECT_EQ(window.Pixel(210, 158), White);
-  window.Move(Canvas + QPoint(25, 30));
-  window.Release(Canvas + QPoint(25, 30));
-  EXPECT_EQ(window.Drops, std::vector<QPoint>{QPoint(25, 30)});
+TEST_F(MarkerTest, AMarkerFollowsThePointerOutOfTheBoxAndBack) {
+  Press(Canvas + QPoint(105, 55));
+  Move(Canvas + QPoint(205, 155));
+  EXPECT_NE(Pixel(210, 158), White);
+  EXPECT_EQ(Pixel(110, 58), Blue) << "it stays at its place until it is dropped";
+  Move({-40, -40});
+  EXPECT_EQ(Pixel(210, 158), White);
+  Move(Canvas + QPoint(25, 30));
+  Release(Canvas + QPoint(25, 30));
+  EXPECT_EQ(Drops, std::vector<QPoint>{QPoint(25, 30)});
 }
 
-TEST(WindowCanvas, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
-  MarkerWindow window;
+TEST_F(MarkerTest, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
   const auto drop = [&](QPoint at) {
-    window.Press(Canvas + QPoint(105, 55));
-    window.Move(Canvas + at);
-    window.Release(Canvas + at);
-    return window.Drops.size();
+    Press(Canvas + QPoint(105, 55));
+    Move(Canvas + at);
+    Release(Canvas + at);
+    return Drops.size();
   };
   QWidget over(nullptr, Qt::ToolTip);
-  over.setGeometry(QRect(window.Window.mapToGlobal(Canvas + QPoint(300, 100)), QSize(80, 80)));
+  over.setGeometry(QRect(Window.mapToGlobal(Canvas + QPoint(300, 100)), QSize(80, 80)));
   over.show();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&over));
   EXPECT_EQ(drop({340, 140}), 0U) << "another window lies there";
   over.hide();
-  window.Window.resize(320, 400);
+  Window.resize(320, 400);
   EXPECT_EQ(drop({340, 140}), 0U) << "outside the window";
   EXPECT_EQ(drop({300, 140}), 1U);
 }
@@ -130,10 +128,9 @@ TEST(WindowCanvas, EscapeAndALostFocusEndADragWithNothingMoved) {
   }
 }
 
-TEST(WindowCanvas, ALargerPictureIsReachedByItsScrollBars) {
-  MarkerWindow window;
-  forms::PictureBox& box = window.Form.Picture1;
-  const auto bars = window.Of(box).findChildren<QScrollBar*>();
+TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
+  forms::PictureBox& box = Form.Picture1;
+  const auto bars = Of(box).findChildren<QScrollBar*>();
   ASSERT_EQ(bars.size(), 2);
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
   auto picture = std::make_shared<forms::Raster>(*BlankPicture(800, 600));
@@ -143,18 +140,18 @@ TEST(WindowCanvas, ALargerPictureIsReachedByItsScrollBars) {
   EXPECT_EQ(bars[0]->geometry(), QRect(0, 292, 530, 16));
   bars[0]->setValue(90);
   EXPECT_EQ(box.ScrollLeft, 90);
-  EXPECT_EQ(window.Pixel(510, 10), Blue);
-  EXPECT_EQ(window.Pixel(20, 58), Blue) << "the marker goes with the picture";
+  EXPECT_EQ(Pixel(510, 10), Blue);
+  EXPECT_EQ(Pixel(20, 58), Blue) << "the marker goes with the picture";
   box.ScrollTo(0, 80);
   EXPECT_EQ(bars[0]->value(), 0);
   EXPECT_EQ(bars[1]->value(), 80);
-  EXPECT_NE(window.Pixel(538, 300), White) << "the corner between the bars";
+  EXPECT_NE(Pixel(538, 300), White) << "the corner between the bars";
 
   box.ScrollTo(0, 0);
-  window.Press(Canvas + QPoint(105, 55));
-  window.Move(Canvas + QPoint(520, 100));
+  Press(Canvas + QPoint(105, 55));
+  Move(Canvas + QPoint(520, 100));
   EXPECT_TRUE(QTest::qWaitFor([&] { return box.ScrollLeft > 30; }));
-  window.Key(Qt::Key_Escape);
+  Key(Qt::Key_Escape);
   box.Picture = BlankPicture(0, 0);
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
 }

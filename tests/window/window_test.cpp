@@ -12,6 +12,8 @@
 namespace terramark::window {
 namespace {
 
+struct WindowTest : testing::Test, TestWindow {};
+
 struct PlaceCase {
   const char* Name;
   QRect At15;  // twips per pixel
@@ -46,9 +48,8 @@ TEST(Window, EveryControlStandsWhereTheTableSaysOnAnyScreen) {
   }
 }
 
-TEST(Window, NoCaptionIsCutOff) {
-  TestWindow window;
-  for (const QPushButton* button : window.Window.findChildren<QPushButton*>()) {
+TEST_F(WindowTest, NoCaptionIsCutOff) {
+  for (const QPushButton* button : Window.findChildren<QPushButton*>()) {
     const QFontMetrics metrics(button->font());
     EXPECT_LE(metrics.horizontalAdvance(button->text()), button->width() - 4);
     EXPECT_LE(metrics.height(), button->height() - 4) << button->objectName().toStdString();
@@ -72,100 +73,92 @@ TEST(Window, ATextDrawnInJustItsOwnWidthIsWhole) {
   }
 }
 
-TEST(Window, FollowsTheForm) {
-  TestWindow window;
-  Form1& form = window.Form;
-  form.Caption = "Caf\xE9";
-  form.Move(150, 300);
-  form.LoadMpa.Caption = "a&b";
-  form.LoadMpa.BackColor = 0x00FF8000;
-  form.Quit.Visible = false;
-  form.Frame1.Left = 15;
-  EXPECT_EQ(window.Window.windowTitle(), QStringLiteral("Caf\u00E9"));
-  EXPECT_EQ(window.Window.pos(), QPoint(10, 20));
-  EXPECT_EQ(window.Of<QPushButton>(form.LoadMpa).text(), "a&&b") << "a shortcut of its own";
-  EXPECT_EQ(window.PixelOn(form.LoadMpa, {4, 4}), QColor(0x00, 0x80, 0xFF));
-  EXPECT_FALSE(window.Of(form.Quit).isVisible());
-  EXPECT_EQ(window.Of(form.Frame1).x(), 1);
+TEST_F(WindowTest, FollowsTheForm) {
+  Form.Caption = "Caf\xE9";
+  Form.Move(150, 300);
+  Form.LoadMpa.Caption = "a&b";
+  Form.LoadMpa.BackColor = 0x00FF8000;
+  Form.Quit.Visible = false;
+  Form.Frame1.Left = 15;
+  EXPECT_EQ(Window.windowTitle(), QStringLiteral("Caf\u00E9"));
+  EXPECT_EQ(Window.pos(), QPoint(10, 20));
+  EXPECT_EQ(Of<QPushButton>(Form.LoadMpa).text(), "a&&b") << "a shortcut of its own";
+  EXPECT_EQ(PixelOn(Form.LoadMpa, {4, 4}), QColor(0x00, 0x80, 0xFF));
+  EXPECT_FALSE(Of(Form.Quit).isVisible());
+  EXPECT_EQ(Of(Form.Frame1).x(), 1);
 }
 
-TEST(Window, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpaceAndEnter) {
-  TestWindow window;
-  forms::CommandButton& button = window.Form.AddTer;
-  const auto& face = window.Of<QPushButton>(button);
+TEST_F(WindowTest, ButtonsActOnTheReleaseOfAnyMouseButtonAndOnSpaceAndEnter) {
+  forms::CommandButton& button = Form.AddTer;
+  const auto& face = Of<QPushButton>(button);
   std::string events;
   button.MouseUp = [&](const forms::MouseEvent& event) {
     events += std::to_string(event.Button) + std::to_string(event.Shift) + " ";
   };
   button.Click = [&](const forms::PlainEvent&) { events += "click "; };
-  window.Click(button);
-  window.Click(button, Qt::RightButton, Qt::ShiftModifier);
-  window.Click(button, Qt::MiddleButton, Qt::ControlModifier | Qt::AltModifier);
+  Click(button);
+  Click(button, Qt::RightButton, Qt::ShiftModifier);
+  Click(button, Qt::MiddleButton, Qt::ControlModifier | Qt::AltModifier);
   EXPECT_EQ(events, "10 click 21 46 ");
-  window.Press(window.Centre(button));
+  Press(Reach(button));
   EXPECT_TRUE(face.isDown());
-  window.Move({5, 5});
+  Move({5, 5});
   EXPECT_FALSE(face.isDown());
-  window.Release({5, 5});
+  Release({5, 5});
   EXPECT_EQ(events, "10 click 21 46 ") << "let go outside";
   button.SetFocus();
-  window.Key(Qt::Key_Space);
-  window.Key(Qt::Key_Down);
-  window.Key(Qt::Key_Return, Qt::ShiftModifier);
+  Key(Qt::Key_Space);
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Return, Qt::ShiftModifier);
   EXPECT_EQ(events, "10 click 21 46 10 click 11 click ");
 }
 
-TEST(Window, APressOnADisabledControlReachesWhatLiesUnderIt) {
-  TestWindow window;
-  Form1& form = window.Form;
+TEST_F(WindowTest, APressOnADisabledControlReachesWhatLiesUnderIt) {
   std::string events;
-  form.PlColor(4).MouseUp = [&](const forms::MouseEvent&) { events += "button "; };
-  form.Frame3D1.MouseUp = [&](const forms::MouseEvent&) { events += "frame "; };
-  form.ColBar(0).Change = [&](const forms::PlainEvent&) { events += "bar "; };
+  Form.PlColor(4).MouseUp = [&](const forms::MouseEvent&) { events += "button "; };
+  Form.Frame3D1.MouseUp = [&](const forms::MouseEvent&) { events += "frame "; };
+  Form.ColBar(0).Change = [&](const forms::PlainEvent&) { events += "bar "; };
   for (const bool enabled : {false, true}) {
-    form.PlColor(4).Enabled = enabled;
-    form.RGBFrame.Enabled = enabled;
-    EXPECT_EQ(window.Of(form.ColBar(0)).isEnabled(), enabled);
-    window.Click(form.PlColor(4));
-    window.Click(form.ColBar(0));
+    Form.PlColor(4).Enabled = enabled;
+    Form.RGBFrame.Enabled = enabled;
+    EXPECT_EQ(Of(Form.ColBar(0)).isEnabled(), enabled);
+    ClickAt(Centre(Form.PlColor(4)));
+    ClickAt(Centre(Form.ColBar(0)));
   }
   EXPECT_EQ(events, "frame button bar ");
 }
 
-TEST(Window, ScrollBarsTellTheirValueWhenTheThumbIsLetGoAndAtEachStep) {
-  TestWindow window;
-  forms::VScrollBar& bar = window.Form.ColBar(2);
+TEST_F(WindowTest, ScrollBarsTellTheirValueWhenTheThumbIsLetGoAndAtEachStep) {
+  forms::VScrollBar& bar = Form.ColBar(2);
   std::vector<int> values;
   bar.Change = [&](const forms::PlainEvent&) { values.push_back(bar.Value); };
-  const QPoint top = window.Centre(bar) - QPoint(0, 24);
-  window.Press(top);
-  for (int y = 0; y <= 100; y += 10) window.Move(top + QPoint(0, y));
+  const QPoint top = Reach(bar) - QPoint(0, 24);
+  Press(top);
+  for (int y = 0; y <= 100; y += 10) Move(top + QPoint(0, y));
   EXPECT_TRUE(values.empty()) << "still held";
-  window.Release(top + QPoint(0, 100));
+  Release(top + QPoint(0, 100));
   bar.Value = 100;
-  EXPECT_EQ(window.Of<QScrollBar>(bar).value(), 100);
-  window.Key(Qt::Key_Up);
+  EXPECT_EQ(Of<QScrollBar>(bar).value(), 100);
+  Key(Qt::Key_Up);
   EXPECT_EQ(values, (std::vector<int>{256, 100, 99}));
 }
 
-TEST(Window, MovesReachWhateverLiesUnderThePointer) {
-  TestWindow window;
-  Form1& form = window.Form;
+TEST_F(WindowTest, MovesReachWhateverLiesUnderThePointer) {
   std::string over;
-  form.ArmyAt.Load(1);
-  form.ArmyAt(1).Move(100, 50);
-  form.ArmyAt(1).Visible = true;
-  form.Symb.Enabled = false;
+  Form.ArmyAt.Load(1);
+  Form.ArmyAt(1).Move(100, 50);
+  Form.ArmyAt(1).Visible = true;
+  Form.Symb.Enabled = false;
   const auto listen = [&over](forms::Control& control) {
     control.MouseMove = [&](const forms::MouseEvent& event) {
       over += control.Name() + " " + std::to_string(static_cast<int>(event.X)) + " ";
     };
   };
-  listen(form);
-  for (forms::Control* control : form.Controls()) listen(*control);
+  listen(Form);
+  for (forms::Control* control : Form.Controls()) listen(*control);
   for (const QPoint at : {QPoint(700, 500), QPoint(600, 50), QPoint(560, 80), QPoint(100, 10),
                           QPoint(105, 58 + 55), QPoint(20, 58 + 7), QPoint(153, 30)}) {
-    window.Move(at);
+    Move(at);
   }
   EXPECT_EQ(over, "Form1 10500 Frame1 780 Countx 120 Text1 1500 ArmyAt 75 Picture1 20 Symb 150 ");
 }

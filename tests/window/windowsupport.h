@@ -34,6 +34,13 @@ struct TestWindow {
     const forms::PixelPoint middle = forms::Middle(control);
     return {middle.X, middle.Y};
   }
+  /// The centre of a control that a press there reaches, as it does on none that is disabled.
+  QPoint Reach(const forms::Control& control) const {
+    const QPoint at = Centre(control);
+    const forms::Control& hit = Form.Pointer.Under(at.x(), at.y());
+    EXPECT_EQ(&hit, &control) << control.Name() << " is covered by " << hit.Name();
+    return at;
+  }
 
   void Press(QPoint at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {}) {
     QTest::mousePress(Window.windowHandle(), button, keys, at);
@@ -43,10 +50,14 @@ struct TestWindow {
                Qt::KeyboardModifiers keys = {}) {
     QTest::mouseRelease(Window.windowHandle(), button, keys, at);
   }
+  void ClickAt(QPoint at, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers keys = {}) {
+    Press(at, button, keys);
+    Release(at, button, keys);
+  }
   void Click(const forms::Control& control, Qt::MouseButton button = Qt::LeftButton,
              Qt::KeyboardModifiers keys = {}) {
-    Press(Centre(control), button, keys);
-    Release(Centre(control), button, keys);
+    ClickAt(Reach(control), button, keys);
   }
   /// Half a stroke as the platform gives it to a window, so many milliseconds after the last.
   void Half(QWidget& to, QKeyEvent event, int wait = 40) {
