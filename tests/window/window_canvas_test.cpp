@@ -13,10 +13,10 @@ const QColor Blue(0x00, 0x00, 0xFF);
 const QColor White(0xFF, 0xFF, 0xFF);
 
 /// A window with one blue marker of 32 x 16 at 100, 50 that a press takes up.
-struct MarkerWindow : TestWindow {
+struct MarkerTest : testing::Test, TestWindow {
   std::vector<QPoint> Drops;
 
-  MarkerWindow() {
+  MarkerTest() {
     Form.ArmyAt.Load(1);
     forms::Label& marker = Marker();
     marker.Caption = "";
@@ -36,8 +36,6 @@ struct MarkerWindow : TestWindow {
   forms::Label& Marker() { return Form.ArmyAt(1); }
   QColor Pixel(int x, int y) { return PixelOn(Form.Picture1, {x, y}); }
 };
-
-struct MarkerTest : testing::Test, MarkerWindow {};
 
 TEST_F(MarkerTest, DrawsMarkersInTheirOrderAndTakesThemAway) {
   EXPECT_EQ(Pixel(110, 58), Blue);
@@ -108,23 +106,22 @@ TEST_F(MarkerTest, AMarkerLetGoWhereTheWindowDoesNotShowTheMapStays) {
   EXPECT_EQ(drop({300, 140}), 1U);
 }
 
-TEST(WindowCanvas, EscapeAndALostFocusEndADragWithNothingMoved) {
+TEST_F(MarkerTest, EscapeAndALostFocusEndADragWithNothingMoved) {
   for (const bool escape : {true, false}) {
-    MarkerWindow window;
-    window.Press(Canvas + QPoint(105, 55));
-    window.Move(Canvas + QPoint(205, 155));
+    Press(Canvas + QPoint(105, 55));
+    Move(Canvas + QPoint(205, 155));
     if (escape) {
-      window.Key(Qt::Key_Escape);
+      Key(Qt::Key_Escape);
     } else {
       QWidget other;
       other.show();
       other.activateWindow();
       EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     }
-    EXPECT_FALSE(window.Form.Pointer.InFlight().has_value());
-    EXPECT_EQ(window.Pixel(210, 158), White);
-    window.Release(Canvas + QPoint(205, 155));
-    EXPECT_TRUE(window.Drops.empty());
+    EXPECT_FALSE(Form.Pointer.InFlight().has_value());
+    EXPECT_EQ(Pixel(210, 158), White);
+    Release(Canvas + QPoint(205, 155));
+    EXPECT_TRUE(Drops.empty());
   }
 }
 

@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <QFontMetrics>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTimer>
 #include <string>
 #include <vector>
 
+#include "window/qtdesktop.h"
 #include "window/windowsupport.h"
 
 namespace terramark::window {
@@ -161,6 +165,31 @@ TEST_F(WindowTest, MovesReachWhateverLiesUnderThePointer) {
     Move(at);
   }
   EXPECT_EQ(over, "Form1 10500 Frame1 780 Countx 120 Text1 1500 ArmyAt 75 Picture1 20 Symb 150 ");
+}
+
+const std::string LongPath = "C:/" + std::string(3'000'000, 'W') + "/map.bmp";
+
+TEST_F(WindowTest, LongTextsAreShownInPart) {
+  Form.Message.Caption = Form.LoadMap.Caption = Form.Frame1.Caption = LongPath;
+  for (const QString& shown :
+       {Of<QPushButton>(Form.LoadMap).text(), Of<QLabel>(Form.Message).text()}) {
+    EXPECT_EQ(shown.size(), 500);
+    EXPECT_TRUE(shown.startsWith("C:/WW") && shown.contains(QChar(0x2026)));
+    EXPECT_TRUE(shown.endsWith("WW/map.bmp"));
+  }
+  EXPECT_EQ(Of<QGroupBox>(Form.Frame1).title().size(), 500);
+  EXPECT_LT(QtDesktop().MeasureText(LongPath).Width, 500 * 20);
+}
+
+TEST_F(WindowTest, LongTextsMakeNoBoxLargerThanAScreen) {
+  for (const std::string& text : {LongPath, std::string(3'000'000, '\n'), std::string(400, 'W')}) {
+    QTimer::singleShot(20, [] {
+      QWidget& box = *QApplication::activeModalWidget();
+      EXPECT_TRUE(box.width() < 800 && box.height() < 600) << box.width() << " x " << box.height();
+      box.close();
+    });
+    QtDesktop().MsgBox(text, forms::Buttons::Ok, "Terramark");
+  }
 }
 
 }  // namespace
