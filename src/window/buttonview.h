@@ -9,7 +9,7 @@
 
 namespace terramark::window {
 
-class ButtonView : public QPushButton, public ControlView {
+class ButtonView final : public QPushButton, public ControlView {
  public:
   ButtonView(forms::CommandButton& button, QWidget& container);
 

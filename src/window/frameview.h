@@ -9,7 +9,7 @@
 
 namespace terramark::window {
 
-class FrameView : public QGroupBox, public ControlView {
+class FrameView final : public QGroupBox, public ControlView {
  public:
   FrameView(forms::Frame& frame, QWidget& container);
 

@@ -11,7 +11,7 @@ namespace terramark::window {
 /// Draws a label with border, colours and caption into the rectangle, in the painter's font.
 void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label);
 
-class LabelView : public QLabel, public ControlView {
+class LabelView final : public QLabel, public ControlView {
  public:
   LabelView(forms::Label& label, QWidget& container);
 

@@ -69,8 +69,9 @@ QFont SizedFont(const QStringList& families, forms::Desktop& host) {
 }  // namespace
 
 void SetUpLook(QApplication& application) {
-  // The application takes the style over.
-  QApplication::setStyle(std::make_unique<Style>().release());
+  auto style = std::make_unique<Style>();
+  style->setParent(&application);
+  QApplication::setStyle(style.release());
   QApplication::setPalette(LightPalette());
   QFont font;
   font.setFamilies(TextFamilies());

@@ -8,7 +8,7 @@
 
 namespace terramark::window {
 
-class MemoView : public QPlainTextEdit, public ControlView {
+class MemoView final : public QPlainTextEdit, public ControlView {
  public:
   MemoView(forms::TextBox& box, QWidget& container);
 
