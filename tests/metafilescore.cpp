@@ -45,8 +45,13 @@ int main(int argc, char** argv) {
     const QString base = name.chopped(4);
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
-    const QImage drawn =
-        terramark::pictures::LoadPictureFile(folder.filePath(name).toStdString(), wanted.size());
+    const terramark::forms::Picture picture = terramark::pictures::LoadPictureFile(
+        folder.filePath(name).toStdString(), wanted.width(), wanted.height());
+    QImage drawn;
+    if (picture) {
+      drawn = QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,
+                     picture->Height, QImage::Format_RGB32);
+    }
     if (argc > 2) drawn.save(QDir(QString::fromLocal8Bit(argv[2])).filePath(base + ".png"));
     scores.push_back(PercentDifferent(drawn, wanted));
     std::printf("%7.2f %%  %s\n", scores.back(), qPrintable(base));

@@ -1,8 +1,7 @@
-#include <QtEndian>
-#include <algorithm>
-#include <cstdlib>
+#include <QImage>
 #include <optional>
 
+#include "pictures/blit.h"
 #include "pictures/dib.h"
 #include "pictures/newimage.h"
 #include "pictures/recordplayers.h"
@@ -10,129 +9,25 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr int StretchAnd = 1;
-constexpr int StretchOr = 2;
+// How a record carries its bitmap.
+enum class BitmapForm { TwoColours, Packed, PackedPaletteIndices };
 
-// One axis of a blit: which source pixels a destination pixel stands for.
-struct Axis {
-  int From = 0;    // first destination pixel
-  int Length = 0;  // destination pixels
-  int Source = 0;  // first source pixel
-  int Count = 0;   // source pixels
-  bool Mirrored = false;
-
-  int Index(int destination) const {
-    return Mirrored ? From + Length - 1 - destination : destination - From;
-  }
-  int Nearest(int destination) const {
-    return Source +
-           static_cast<int>((2 * std::int64_t{Index(destination)} + 1) * Count / (2 * Length));
-  }
-  int First(int destination) const {
-    return Source + static_cast<int>(std::int64_t{Index(destination)} * Count / Length);
-  }
-  int Last(int destination) const {
-    const auto end = (std::int64_t{Index(destination)} + 1) * Count / Length;
-    return std::max(First(destination), Source + static_cast<int>(end) - 1);
-  }
-};
-
-Axis MakeAxis(int from, int to, int source, int count) {
-  Axis axis{.From = std::min(from, to),
-            .Length = std::abs(to - from),
-            .Source = source,
-            .Count = std::abs(count),
-            .Mirrored = (to < from) != (count < 0)};
-  if (count < 0) axis.Source += count;
-  return axis;
+BitmapForm PackedForm(int colourUse) {
+  return colourUse == PaletteColours ? BitmapForm::PackedPaletteIndices : BitmapForm::Packed;
 }
 
-// A blit as the records give it: destination in logical units, source in pixels from the top left.
-struct Blit {
-  int Rop = 0xCC;
-  QPoint To;
-  QSize Size;
-  QRect From;  // may have negative sizes
-  QImage Source;
-  bool SizeInPixels = false;
-};
-
-// Where a bitmap shrinks, the classic default lays the pixels that fall together over each other,
-// so that no black line gets lost.
-QRgb SampleSource(const QImage& source, const Axis& x, const Axis& y, QPoint at, int mode) {
-  const bool shrinks = x.Count > x.Length || y.Count > y.Length;
-  if (!shrinks || (mode != StretchAnd && mode != StretchOr)) {
-    const QPoint from(x.Nearest(at.x()), y.Nearest(at.y()));
-    return source.valid(from) ? source.pixel(from) : 0xFF000000;
-  }
-  QRgb result = mode == StretchAnd ? 0xFFFFFFFF : 0xFF000000;
-  const int bottom = std::min(y.Last(at.y()), source.height() - 1);
-  const int right = std::min(x.Last(at.x()), source.width() - 1);
-  for (int row = std::max(0, y.First(at.y())); row <= bottom; ++row) {
-    for (int column = std::max(0, x.First(at.x())); column <= right; ++column) {
-      const QRgb pixel = source.pixel(column, row);
-      result = mode == StretchAnd ? result & pixel : result | pixel;
-    }
-  }
-  return result;
-}
-
-bool UsesPattern(int rop) {
-  return (rop >> 4 & 0xF) != (rop & 0xF);
-}
-bool UsesSource(int rop) {
-  return (rop >> 2 & 0x33) != (rop & 0x33);
-}
-
-void Draw(DeviceContext& context, const Blit& blit) {
-  Surface& target = context.Target();
-  const bool usesSource = UsesSource(blit.Rop);
-  if (usesSource && blit.Source.isNull()) return;
-  if (UsesPattern(blit.Rop) && !context.HasBrush()) return;
-  const QPoint start = context.ToDevice(QPointF(blit.To));
-  const QPoint size(blit.Size.width(), blit.Size.height());
-  const QPoint end = blit.SizeInPixels ? start + size : context.ToDevice(QPointF(blit.To + size));
-  const Axis x = MakeAxis(start.x(), end.x(), blit.From.left(), blit.From.width());
-  const Axis y = MakeAxis(start.y(), end.y(), blit.From.top(), blit.From.height());
-  const QRect box(x.From, y.From, x.Length, y.Length);
-  if (box.isEmpty() || !target.Touch(box)) return;
-  const QRect visible = box.intersected(target.Area());
-  const std::int64_t sourceWork = std::int64_t{blit.Source.width()} * blit.Source.height();
-  if (!target.Spend(2 * std::int64_t{visible.width()} * visible.height() + sourceWork)) return;
-
-  const Paint paint = context.BrushPaint(context.State.CurrentBrush);
-  for (int row = visible.top(); row <= visible.bottom(); ++row) {
-    for (int column = visible.left(); column <= visible.right(); ++column) {
-      const QPoint at(column, row);
-      const QRgb source =
-          usesSource ? SampleSource(blit.Source, x, y, at, context.State.StretchMode) : 0;
-      QRgb pattern = paint.Colour;
-      if (!paint.Pattern.isNull()) {
-        pattern = paint.Pattern.pixel(column % paint.Pattern.width(), row % paint.Pattern.height());
-        if (qAlpha(pattern) == 0) pattern = context.Resolve(context.State.BackColour);
-      }
-      target.Put(at, CombineTernary(blit.Rop, pattern, source, target.At(at)));
-    }
-  }
-}
-
-// A packed bitmap's source rows are counted from the first stored one.
-void FlipSource(Blit& blit, QByteArrayView dib) {
-  if (blit.Source.isNull() || !IsBottomUp(dib)) return;
-  blit.From.moveTop(blit.Source.height() - blit.From.top() - blit.From.height());
-}
-
-QImage Decode(DeviceContext& context, QByteArrayView dib, bool paletteIndices) {
+QImage DecodePacked(DeviceContext& context, QByteArrayView dib, BitmapForm form) {
   if (dib.isEmpty() || !context.Target().Spend(dib.size())) return {};
-  QImage image =
-      paletteIndices ? DecodeDib(dib, context.State.CurrentPalette) : DecodeDib(dib, std::nullopt);
+  QImage image = form == BitmapForm::PackedPaletteIndices
+                     ? DecodeDib(dib, context.State.CurrentPalette)
+                     : DecodeDib(dib, std::nullopt);
   return context.Target().Spend(std::int64_t{4} * image.width() * image.height()) ? image
                                                                                   : QImage();
 }
 
 // The older bitmap of two colours: clear bits show the text colour, set bits the background.
-QImage DecodeOldBitmap(const DeviceContext& context, const MetafileRecord& record, qsizetype at,
-                       qsizetype bitsAt) {
+QImage DecodeTwoColours(const DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                        qsizetype bitsAt) {
   const int width = record.Int(at + 1);
   const int height = record.Int(at + 2);
   const int rowBytes = record.Int(at + 3);
@@ -152,55 +47,64 @@ QImage DecodeOldBitmap(const DeviceContext& context, const MetafileRecord& recor
   return image;
 }
 
+// Draws the bitmap at the word `at` of the record.
+void DrawBitmap(DeviceContext& context, Blit blit, const MetafileRecord& record, qsizetype at,
+                BitmapForm form) {
+  if (form == BitmapForm::TwoColours) {
+    blit.Source = DecodeTwoColours(context, record, at, at + 5);
+  } else {
+    const QByteArrayView dib = record.From(at);
+    blit.Source = DecodePacked(context, dib, form);
+    // A packed bitmap's source rows are counted from the first stored one.
+    if (!blit.Source.isNull() && IsBottomUp(dib)) {
+      blit.From.moveTop(blit.Source.height() - blit.From.top() - blit.From.height());
+    }
+  }
+  DrawBlit(context, blit);
+}
+
 int RopOf(const MetafileRecord& record) {
   return record.Word(1) & 0xFF;
 }
 
-// DIBBitBlt and BitBlt: a record without a bitmap fills with the brush.
-void PlayBitBlt(DeviceContext& context, const MetafileRecord& record, bool old) {
+// A record without a bitmap fills with the brush.
+void PlayBitBlt(DeviceContext& context, const MetafileRecord& record, BitmapForm form) {
   constexpr qsizetype WordsWithout = 9;
-  Blit blit{.Rop = RopOf(record), .To = {}, .Size = {}, .From = {}, .Source = {}};
   const bool bare = record.Words() <= WordsWithout;
   const qsizetype at = bare ? 5 : 4;
-  blit.To = record.PointYX(at + 2);
-  blit.Size = {record.Int(at + 1), record.Int(at)};
-  blit.From = QRect(record.PointYX(2), blit.Size);
-  if (!bare && old) blit.Source = DecodeOldBitmap(context, record, 8, 13);
-  if (!bare && !old) {
-    blit.Source = Decode(context, record.From(8), false);
-    FlipSource(blit, record.From(8));
-  }
-  Draw(context, blit);
-}
-
-void PlayStretch(DeviceContext& context, const MetafileRecord& record, qsizetype at, bool old,
-                 bool paletteIndices) {
-  Blit blit{.Rop = RopOf(record),
-            .To = record.PointYX(at + 6),
-            .Size = {record.Int(at + 5), record.Int(at + 4)},
-            .From = QRect(record.PointYX(at + 2), QSize(record.Int(at + 1), record.Int(at))),
-            .Source = {}};
-  const QByteArrayView dib = record.From(at + 8);
-  if (old) {
-    blit.Source = DecodeOldBitmap(context, record, at + 8, at + 13);
+  const QSize size(record.Int(at + 1), record.Int(at));
+  const Blit blit{.Rop = RopOf(record),
+                  .To = record.PointYX(at + 2),
+                  .Size = size,
+                  .From = QRect(record.PointYX(2), size),
+                  .Source = {}};
+  if (bare) {
+    DrawBlit(context, blit);
   } else {
-    blit.Source = Decode(context, dib, paletteIndices);
-    FlipSource(blit, dib);
+    DrawBitmap(context, blit, record, 8, form);
   }
-  Draw(context, blit);
 }
 
-// SetDIBitsToDevice: the size is in pixels of the device, so the bitmap does not stretch.
+void PlayStretch(DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                 BitmapForm form) {
+  const Blit blit{.Rop = RopOf(record),
+                  .To = record.PointYX(at + 6),
+                  .Size = {record.Int(at + 5), record.Int(at + 4)},
+                  .From = QRect(record.PointYX(at + 2), QSize(record.Int(at + 1), record.Int(at))),
+                  .Source = {}};
+  DrawBitmap(context, blit, record, at + 8, form);
+}
+
+// The size is in pixels of the device, so the bitmap does not stretch.
 void PlaySetDib(DeviceContext& context, const MetafileRecord& record) {
-  Blit blit{.Rop = 0xCC,
-            .To = record.PointYX(7),
-            .Size = {record.Int(6), record.Int(5)},
-            .From = QRect(record.PointYX(3), QSize(record.Int(6), record.Int(5))),
-            .Source = {},
-            .SizeInPixels = true};
-  blit.Source = Decode(context, record.From(9), record.Word(0) == 1);
-  FlipSource(blit, record.From(9));
-  Draw(context, blit);
+  const QSize size(record.Int(6), record.Int(5));
+  const Blit blit{.Rop = SourceCopy,
+                  .To = record.PointYX(7),
+                  .Size = size,
+                  .From = QRect(record.PointYX(3), size),
+                  .Source = {},
+                  .SizeInPixels = true};
+  DrawBitmap(context, blit, record, 9, PackedForm(record.Word(0)));
 }
 
 void CreatePattern(DeviceContext& context, QImage tile) {
@@ -215,38 +119,38 @@ void CreatePattern(DeviceContext& context, QImage tile) {
 }  // namespace
 
 bool PlayBitmapRecord(DeviceContext& context, const MetafileRecord& record) {
-  switch (record.Function) {
-    case 0x061D: {  // PatBlt
-      Draw(context, {.Rop = RopOf(record),
-                     .To = record.PointYX(4),
-                     .Size = {record.Int(3), record.Int(2)},
-                     .From = QRect(0, 0, record.Int(3), record.Int(2)),
-                     .Source = {}});
+  switch (record.Kind) {
+    case RecordKind::PatBlt: {
+      DrawBlit(context, {.Rop = RopOf(record),
+                         .To = record.PointYX(4),
+                         .Size = {record.Int(3), record.Int(2)},
+                         .From = QRect(0, 0, record.Int(3), record.Int(2)),
+                         .Source = {}});
       return true;
     }
-    case 0x0922:
-      PlayBitBlt(context, record, true);
+    case RecordKind::BitBlt:
+      PlayBitBlt(context, record, BitmapForm::TwoColours);
       return true;
-    case 0x0940:
-      PlayBitBlt(context, record, false);
+    case RecordKind::DibBitBlt:
+      PlayBitBlt(context, record, BitmapForm::Packed);
       return true;
-    case 0x0B23:
-      PlayStretch(context, record, 2, true, false);
+    case RecordKind::StretchBlt:
+      PlayStretch(context, record, 2, BitmapForm::TwoColours);
       return true;
-    case 0x0B41:
-      PlayStretch(context, record, 2, false, false);
+    case RecordKind::DibStretchBlt:
+      PlayStretch(context, record, 2, BitmapForm::Packed);
       return true;
-    case 0x0F43:
-      PlayStretch(context, record, 3, false, record.Word(2) == 1);
+    case RecordKind::StretchDib:
+      PlayStretch(context, record, 3, PackedForm(record.Word(2)));
       return true;
-    case 0x0D33:
+    case RecordKind::SetDibToDevice:
       PlaySetDib(context, record);
       return true;
-    case 0x0142:  // DIBCreatePatternBrush
-      CreatePattern(context, Decode(context, record.From(2), record.Word(1) == 1));
+    case RecordKind::DibCreatePatternBrush:
+      CreatePattern(context, DecodePacked(context, record.From(2), PackedForm(record.Word(1))));
       return true;
-    case 0x01F9:  // CreatePatternBrush: the bitmap's head, then 20 unused words, then its bits
-      CreatePattern(context, DecodeOldBitmap(context, record, 0, 25));
+    case RecordKind::CreatePatternBrush:  // the bitmap's head, then 20 unused words, then its bits
+      CreatePattern(context, DecodeTwoColours(context, record, 0, 25));
       return true;
     default:
       return false;

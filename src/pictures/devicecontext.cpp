@@ -1,9 +1,9 @@
 #include "pictures/devicecontext.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 namespace terramark::pictures {
 namespace {
@@ -18,21 +18,21 @@ int Rounded(double value) {
 }
 
 // One row of bits a row of pixels, the leftmost in the highest bit.
-constexpr std::array<std::array<std::uint8_t, HatchSide>, 6> Hatches = {{
+constexpr std::uint8_t Hatches[][HatchSide] = {
     {0x00, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00},  // horizontal
     {0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08},  // vertical
     {0x80, 0x40, 0x20, 0x10, 0x08, 0x04, 0x02, 0x01},  // falling diagonal
     {0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80},  // rising diagonal
     {0x08, 0x08, 0x08, 0xFF, 0x08, 0x08, 0x08, 0x08},  // cross
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // diagonal cross
-}};
+};
 
 QImage HatchTile(int hatch, QRgb line, QRgb ground) {
   QImage tile(HatchSide, HatchSide, QImage::Format_ARGB32);
-  const auto& rows = Hatches[static_cast<std::size_t>(std::clamp(hatch, 0, 5))];
+  const auto& rows = Hatches[std::clamp<std::ptrdiff_t>(hatch, 0, std::ssize(Hatches) - 1)];
   for (int y = 0; y < HatchSide; ++y) {
     for (int x = 0; x < HatchSide; ++x) {
-      const bool on = (rows[static_cast<std::size_t>(y)] >> (HatchSide - 1 - x) & 1) != 0;
+      const bool on = (rows[y] >> (HatchSide - 1 - x) & 1) != 0;
       tile.setPixel(x, y, on ? line : ground);
     }
   }

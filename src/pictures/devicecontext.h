@@ -11,7 +11,8 @@
 
 namespace terramark::pictures {
 
-/// Where the picture lies before the file says anything: this much of the plane fills the box.
+/// Where the picture lies before the file says anything: this much of the plane, in logical units,
+/// fills the box. Its sides are not 0; a negative one runs backwards.
 struct Frame {
   QPoint Origin;
   QSize Extent{1, 1};
@@ -19,9 +20,9 @@ struct Frame {
 
 /// All that SaveDC keeps. The start values are those of a fresh drawing context.
 struct DeviceState {
-  QPointF WindowOrigin{0, 0};
+  QPointF WindowOrigin{0, 0};  // logical, as the next
   QPointF WindowExtent{1, 1};
-  QPointF ViewportOrigin{0, 0};
+  QPointF ViewportOrigin{0, 0};  // pixels, as the next; neither extent is ever 0
   QPointF ViewportExtent{1, 1};
   bool UpIsPositive = false;  // a metric mapping mode of a picture that names no window
   Pen CurrentPen;
@@ -30,16 +31,16 @@ struct DeviceState {
   Palette CurrentPalette;
   ColourRef TextColour = 0;
   ColourRef BackColour = WhiteRef;
-  bool Opaque = true;
-  int Operation = 13;
-  bool Winding = false;
-  int StretchMode = 1;
-  int TextAlign = 0;
-  int CharExtra = 0;
-  int BreakExtra = 0;  // logical units to add to each of BreakCount blanks
+  bool Opaque = true;             // gaps in lines, hatches and text show BackColour
+  int Operation = CopyOperation;  // FirstOperation to LastOperation
+  bool Winding = false;           // polygons fill by the non-zero rule
+  int StretchMode = StretchAnd;
+  int TextAlign = 0;   // bits of SetTextAlign
+  int CharExtra = 0;   // logical units to add to each letter
+  int BreakExtra = 0;  // logical units to share out among BreakCount blanks
   int BreakCount = 0;
   QPoint Position;  // logical
-  QImage Clip;
+  QImage Clip;      // as Surface::Clip; kept in a saved state only
 };
 
 class DeviceContext {
@@ -56,8 +57,10 @@ class DeviceContext {
 
   /// SaveDC; beyond 256 levels a save is dropped.
   void Save();
-  /// RestoreDC: a negative level counts back from the last save, a positive one from the first.
+  /// RestoreDC: a negative level counts back from the last save, a positive one from the first. A
+  /// level that was never saved changes nothing.
   void Restore(int level);
+  /// A region becomes the clip; a palette or monostate changes nothing.
   void Select(const GraphicsObject& object);
 
   /// Logical units to pixels, limited to about 16 million either way.
@@ -67,12 +70,15 @@ class DeviceContext {
   /// Pixels per logical unit; negative where the axis runs backwards.
   QPointF Scale() const;
 
+  /// Opaque; black for a number that the palette does not have.
   QRgb Resolve(ColourRef colour) const;
   bool HasPen() const { return State.CurrentPen.Style != PenStyle::None; }
   bool HasBrush() const { return State.CurrentBrush.Style != BrushStyle::None; }
   /// The pen's width in pixels, at least 1.
   int PenWidth() const;
   Paint PenPaint() const;
+  /// A hatch or pattern comes as the paint's Pattern. Of a brush that paints nothing it is its
+  /// colour: ask HasBrush first.
   Paint BrushPaint(const Brush& brush) const;
 
  private:

@@ -18,6 +18,7 @@ constexpr std::uint32_t InfoHeaderBytes = 40;
 // The longer headers begin with the usual one.
 constexpr std::uint32_t LongHeaderBytes[] = {64, 108, 124};
 constexpr qsizetype GreenMaskAt = 44;
+constexpr std::uint32_t Uncompressed = 0;
 constexpr std::uint32_t RunLength8 = 1;
 constexpr std::uint32_t RunLength4 = 2;
 constexpr std::uint32_t BitFields = 3;
@@ -81,7 +82,7 @@ bool IsSound(const DibHeader& header) {
   if (header.Width > MaxBitmapSide || height > MaxBitmapSide) return false;
   if (header.Width * height > MaxBitmapPixels) return false;
   switch (header.Compression) {
-    case 0:
+    case Uncompressed:
       return header.BitCount == 1 || header.BitCount == 4 || header.BitCount == 8 ||
              header.BitCount == 16 || header.BitCount == 24 || header.BitCount == 32;
     case RunLength8:
@@ -95,10 +96,10 @@ bool IsSound(const DibHeader& header) {
   }
 }
 
-void AppendLong(QByteArray& bytes, std::uint32_t value) {
-  char raw[4];
-  qToLittleEndian(value, raw);
-  bytes.append(raw, 4);
+QByteArray LongBytes(std::uint32_t value) {
+  QByteArray bytes(sizeof value, '\0');
+  qToLittleEndian(value, bytes.data());
+  return bytes;
 }
 
 // The reader leaves the low bits of five- and six-bit channels clear; full must come out as 0xFF.
@@ -115,9 +116,8 @@ QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bi
   if (header.RunLength() ? pixels / MaxPixelsPerByte > present : present < wanted / 2) return {};
 
   QByteArray file("BM");
-  AppendLong(file, 0);
-  AppendLong(file, 0);
-  AppendLong(file, static_cast<std::uint32_t>(FileHeaderBytes + head.size()));
+  file.append(LongBytes(0)).append(LongBytes(0));
+  file.append(LongBytes(static_cast<std::uint32_t>(FileHeaderBytes + head.size())));
   file.append(head);
   file.append(bits.first(present));
   if (!header.RunLength()) file.append(wanted - present, '\0');
@@ -171,7 +171,7 @@ QImage DecodeDib(QByteArrayView dib, const Palette& palette) {
   QByteArray head = dib.first(tableAt).toByteArray();
   for (qsizetype i = 0; i < header->Colours(); ++i) {
     const std::size_t entry = Word(dib, tableAt + 2 * i);
-    AppendLong(head, entry < palette.Entries.size() ? palette.Entries[entry] & 0xFFFFFF : 0);
+    head += LongBytes(entry < palette.Entries.size() ? palette.Entries[entry] & 0xFFFFFF : 0);
   }
   return Decode(*header, head, dib.sliced(bits));
 }

@@ -24,7 +24,7 @@ QImage DecodeDib(QByteArrayView dib, std::optional<qsizetype> bitsAt);
 /// The same with a colour table that holds two-byte numbers of `palette`'s entries.
 QImage DecodeDib(QByteArrayView dib, const Palette& palette);
 
-/// Whether the rows are stored from the bottom up, as is usual.
+/// Whether the rows are stored from the bottom up, as is usual and as is taken for a broken header.
 bool IsBottomUp(QByteArrayView dib);
 
 }  // namespace terramark::pictures

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <ranges>
 
 #include "pictures/recordplayers.h"
 #include "pictures/strokes.h"
@@ -30,6 +31,7 @@ void FillShapes(DeviceContext& context, const std::vector<std::vector<QPoint>>& 
                 bool winding) {
   if (!context.HasBrush()) return;
   std::vector<QPolygonF> polygons;
+  polygons.reserve(shapes.size());
   for (const auto& shape : shapes) polygons.push_back(PolygonOf(shape));
   context.Target().Polygons(polygons, winding, context.BrushPaint(context.State.CurrentBrush));
 }
@@ -46,7 +48,7 @@ void DrawPolyPolygon(DeviceContext& context, const MetafileRecord& record) {
   for (qsizetype i = 0; i < count && at < record.Words(); ++i) {
     const int points = record.Word(1 + i);
     shapes.push_back(ReadPoints(context, record, at, points));
-    at += 2 * points;
+    at += qsizetype{2} * points;
   }
   DrawPolygons(context, shapes);
 }
@@ -84,18 +86,12 @@ std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
   const int right = box.right() - corner.width() + 1;
   const int bottom = box.bottom() - corner.height() + 1;
   std::vector<QPoint> points;
-  for (auto p = quarter.begin(); p != quarter.end(); ++p) {
-    points.emplace_back(right + p->x(), bottom + p->y());
-  }
-  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) {
-    points.emplace_back(left - p->x(), bottom + p->y());
-  }
-  for (auto p = quarter.begin(); p != quarter.end(); ++p) {
-    points.emplace_back(left - p->x(), top - p->y());
-  }
-  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) {
-    points.emplace_back(right + p->x(), top - p->y());
-  }
+  for (const QPoint p : quarter) points.emplace_back(right + p.x(), bottom + p.y());
+  for (const QPoint p : std::views::reverse(quarter))
+    points.emplace_back(left - p.x(), bottom + p.y());
+  for (const QPoint p : quarter) points.emplace_back(left - p.x(), top - p.y());
+  for (const QPoint p : std::views::reverse(quarter))
+    points.emplace_back(right + p.x(), top - p.y());
   return points;
 }
 
@@ -181,47 +177,47 @@ bool PlayDrawingRecord(DeviceContext& context, const MetafileRecord& record) {
     return context.ToDevice(record.Int(at + 3), record.Int(at + 2), record.Int(at + 1),
                             record.Int(at));
   };
-  switch (record.Function) {
-    case 0x0213:
+  switch (record.Kind) {
+    case RecordKind::LineTo:
       DrawLineTo(context, record.PointYX(0));
       return true;
-    case 0x0214:
+    case RecordKind::MoveTo:
       context.State.Position = record.PointYX(0);
       return true;
-    case 0x0324:
+    case RecordKind::Polygon:
       DrawPolygons(context, {ReadPoints(context, record, 1, record.Word(0))});
       return true;
-    case 0x0325:
+    case RecordKind::Polyline:
       Stroke(context, ReadPoints(context, record, 1, record.Word(0)), false);
       return true;
-    case 0x0538:
+    case RecordKind::PolyPolygon:
       DrawPolyPolygon(context, record);
       return true;
-    case 0x041B:
+    case RecordKind::Rectangle:
       DrawRectangle(context, box(0));
       return true;
-    case 0x0418:
+    case RecordKind::Ellipse:
       DrawRound(context, box(0), box(0).size());
       return true;
-    case 0x061C:  // RoundRect
+    case RecordKind::RoundRect:
       DrawRound(context, box(2), context.ToDevice(0, 0, record.Int(1), record.Int(0)).size());
       return true;
-    case 0x0817:
+    case RecordKind::Arc:
       DrawArc(context, record, ArcKind::Open);
       return true;
-    case 0x0830:
+    case RecordKind::Chord:
       DrawArc(context, record, ArcKind::Chord);
       return true;
-    case 0x081A:
+    case RecordKind::Pie:
       DrawArc(context, record, ArcKind::Pie);
       return true;
-    case 0x0419:
+    case RecordKind::FloodFill:
       FloodFill(context, record, 0, true);
       return true;
-    case 0x0548:
-      FloodFill(context, record, 1, record.Word(0) == 0);
+    case RecordKind::ExtFloodFill:
+      FloodFill(context, record, 1, record.Word(0) == FloodToBorder);
       return true;
-    case 0x041F: {  // SetPixel
+    case RecordKind::SetPixel: {
       const QPoint at = context.ToDevice(QPointF(record.PointYX(2)));
       const QRgb colour = context.Resolve(record.Long(0));
       if (context.Target().Touch(QRect(at, QSize(1, 1)))) context.Target().Put(at, colour);

@@ -39,13 +39,13 @@ constexpr FaceRow Faces[] = {
 };
 
 bool IsInstalled(const QString& family) {
-  static const QStringList Installed = QFontDatabase::families();
-  return Installed.contains(family, Qt::CaseInsensitive);
+  static const QStringList installed = QFontDatabase::families();
+  return installed.contains(family, Qt::CaseInsensitive);
 }
 
 // A font of signs has no stand-in: without it, its letters are empty boxes.
 QString FamilyOf(const Font& font) {
-  const QString own = QString::fromLatin1(font.Face);
+  QString own = QString::fromLatin1(font.Face);
   if (HoldsSigns(font) && IsInstalled(own)) return own;
   const QByteArray face = font.Face.toLower();
   for (const FaceRow& row : Faces) {

@@ -18,6 +18,8 @@ struct MatchedFont {
   double Slant = 0;
 };
 
+/// The font for the selected one. One of the families that are expected is named even when it is
+/// not installed; the size is 1 to 4096 pixels.
 MatchedFont MatchFont(const DeviceContext& context);
 
 }  // namespace terramark::pictures

@@ -9,21 +9,23 @@ namespace {
 constexpr std::size_t MaxObjects = 65536;
 
 Pen ReadPen(const MetafileRecord& record) {
-  const int style = record.Word(0) & 0x0F;
-  return {.Style = style <= 6 ? static_cast<PenStyle>(style) : PenStyle::Solid,
+  constexpr int StyleBits = 0x0F;
+  const auto style = PenStyle{record.Word(0) & StyleBits};
+  return {.Style = style <= PenStyle::InsideFrame ? style : PenStyle::Solid,
           .Width = record.Int(1),
           .Colour = record.Long(3)};
 }
 
 Brush ReadBrush(const MetafileRecord& record) {
-  const int style = record.Word(0);
-  return {.Style = style <= 2 ? static_cast<BrushStyle>(style) : BrushStyle::None,
+  const auto style = BrushStyle{record.Word(0)};
+  return {.Style = style <= BrushStyle::Hatched ? style : BrushStyle::None,
           .Colour = record.Long(1),
           .Hatch = record.Word(3),
           .Tile = {}};
 }
 
 Font ReadFont(const MetafileRecord& record) {
+  constexpr qsizetype MaxFaceBytes = 32;
   const QByteArrayView face = record.From(9);
   const auto* end = std::find(face.begin(), face.end(), '\0');
   return {.Height = record.Int(0),
@@ -35,12 +37,14 @@ Font ReadFont(const MetafileRecord& record) {
           .StrikeOut = (record.Word(6) & 0xFF) != 0,
           .Charset = record.Word(6) >> 8,
           .PitchAndFamily = record.Word(8) >> 8,
-          .Face = QByteArray(face.data(), std::min<qsizetype>(end - face.begin(), 32))};
+          .Face = QByteArray(face.data(), std::min<qsizetype>(end - face.begin(), MaxFaceBytes))};
 }
 
 Palette ReadPalette(const MetafileRecord& record) {
+  constexpr qsizetype MaxEntries = 1024;
   Palette palette;
-  const qsizetype count = std::min<qsizetype>({record.Word(1), (record.Words() - 2) / 2, 1024});
+  const qsizetype count =
+      std::min<qsizetype>({record.Word(1), (record.Words() - 2) / 2, MaxEntries});
   for (qsizetype i = 0; i < count; ++i) {
     const std::uint32_t entry = record.Long(2 + 2 * i);
     palette.Entries.push_back(qRgb(entry & 0xFF, entry >> 8 & 0xFF, entry >> 16 & 0xFF));
@@ -66,16 +70,16 @@ Region ReadRegion(const MetafileRecord& record) {
 }  // namespace
 
 GraphicsObject ReadObject(const MetafileRecord& record) {
-  switch (record.Function) {
-    case 0x02FA:
+  switch (record.Kind) {
+    case RecordKind::CreatePenIndirect:
       return ReadPen(record);
-    case 0x02FC:
+    case RecordKind::CreateBrushIndirect:
       return ReadBrush(record);
-    case 0x02FB:
+    case RecordKind::CreateFontIndirect:
       return ReadFont(record);
-    case 0x00F7:
+    case RecordKind::CreatePalette:
       return ReadPalette(record);
-    case 0x06FF:
+    case RecordKind::CreateRegion:
       return ReadRegion(record);
     default:
       return std::monostate();
@@ -99,8 +103,8 @@ void ObjectTable::Delete(std::size_t number) {
 }
 
 const GraphicsObject& ObjectTable::At(std::size_t number) const {
-  static const GraphicsObject Nothing;
-  return number < slots_.size() ? slots_[number] : Nothing;
+  static const GraphicsObject nothing;
+  return number < slots_.size() ? slots_[number] : nothing;
 }
 
 }  // namespace terramark::pictures

@@ -38,27 +38,27 @@ struct Font {
   int Height = 0;      // logical units: of the cell, or of the letters alone when negative
   int Width = 0;       // logical units of an average letter; 0 keeps the font's own proportion
   int Escapement = 0;  // tenths of a degree against the clock
-  int Weight = 400;
+  int Weight = 400;    // 400 is normal, 700 bold
   bool Italic = false;
   bool Underline = false;
   bool StrikeOut = false;
-  int Charset = 0;
-  int PitchAndFamily = 0;
-  QByteArray Face;
+  int Charset = 0;         // the format's number, 0 to 255
+  int PitchAndFamily = 0;  // bits 0 and 1: fixed pitch is 1; bits 4 to 7: the family
+  QByteArray Face;         // at most 32 bytes
 };
 
 struct Palette {
-  std::vector<QRgb> Entries;
+  std::vector<QRgb> Entries;  // at most 1024, opaque
 };
 
 struct Region {
-  std::vector<QRect> Rects;
+  std::vector<QRect> Rects;  // logical where they are painted, pixels where they clip
 };
 
 using GraphicsObject = std::variant<std::monostate, Pen, Brush, Font, Palette, Region>;
 
-/// The object a creation record describes; monostate for any other record. Bitmap brushes are made
-/// elsewhere.
+/// The object a creation record describes, with 0 for what the record lacks; monostate for any
+/// other record. Bitmap brushes are made elsewhere.
 GraphicsObject ReadObject(const MetafileRecord& record);
 
 /// The objects by number; a new one takes the lowest number that is free.
@@ -67,6 +67,7 @@ class ObjectTable {
   /// Gives the slots that were passed on the search for a free one. Beyond 65,536 objects a new
   /// one is dropped.
   std::size_t Add(GraphicsObject object);
+  /// A number without an object is passed over.
   void Delete(std::size_t number);
   /// Monostate for a number without an object.
   const GraphicsObject& At(std::size_t number) const;

@@ -11,7 +11,6 @@ namespace {
 
 // Even a record that draws nothing takes some time.
 constexpr std::int64_t WorkPerRecord = 50;
-constexpr std::uint16_t SetWindowExt = 0x020C;
 
 void PlayRecords(DeviceContext& context, QByteArrayView bytes) {
   MetafileReader reader(bytes);
@@ -30,7 +29,8 @@ bool SetsWindow(QByteArrayView bytes) {
   for (int i = 0; i < MaxMetafileRecords; ++i) {
     const std::optional<MetafileRecord> record = reader.Next();
     if (!record) return false;
-    if (record->Function == SetWindowExt && record->Int(0) != 0 && record->Int(1) != 0) return true;
+    if (record->Kind == RecordKind::SetWindowExt && record->Int(0) != 0 && record->Int(1) != 0)
+      return true;
   }
   return false;
 }

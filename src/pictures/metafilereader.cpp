@@ -10,6 +10,10 @@ constexpr std::uint32_t PlaceableKey = 0x9AC6CDD7;
 constexpr qsizetype PlaceableBytes = 22;
 constexpr qsizetype HeaderBytes = 18;
 constexpr std::uint16_t HeaderWords = 9;
+constexpr std::uint16_t InMemory = 1;
+constexpr std::uint16_t OnDisk = 2;
+constexpr std::uint16_t Version1 = 0x100;
+constexpr std::uint16_t Version3 = 0x300;
 constexpr qsizetype RecordHeadBytes = 6;
 
 std::uint16_t WordAt(QByteArrayView bytes, qsizetype offset) {
@@ -24,8 +28,8 @@ std::uint32_t LongAt(QByteArrayView bytes, qsizetype offset) {
 bool IsFileHeader(QByteArrayView bytes) {
   const std::uint16_t type = WordAt(bytes, 0);
   const std::uint16_t version = WordAt(bytes, 4);
-  return bytes.size() >= HeaderBytes && (type == 1 || type == 2) &&
-         WordAt(bytes, 2) == HeaderWords && (version == 0x100 || version == 0x300);
+  return bytes.size() >= HeaderBytes && (type == InMemory || type == OnDisk) &&
+         WordAt(bytes, 2) == HeaderWords && (version == Version1 || version == Version3);
 }
 
 }  // namespace
@@ -64,8 +68,8 @@ std::optional<MetafileRecord> MetafileReader::Next() {
   if (bytes_.size() - position_ < RecordHeadBytes) return std::nullopt;
   const qsizetype claimed = static_cast<qsizetype>(LongAt(bytes_, position_)) * 2;
   MetafileRecord record;
-  record.Function = WordAt(bytes_, position_ + 4);
-  if (claimed < RecordHeadBytes || record.Function == 0) return std::nullopt;
+  record.Kind = RecordKind{WordAt(bytes_, position_ + 4)};
+  if (claimed < RecordHeadBytes || record.Kind == RecordKind::End) return std::nullopt;
   const qsizetype length = std::min(claimed, bytes_.size() - position_);
   record.Parameters = bytes_.sliced(position_ + RecordHeadBytes, length - RecordHeadBytes);
   position_ += length;

@@ -10,21 +10,26 @@
 #include <cstdint>
 #include <optional>
 
+#include "pictures/metafilerecords.h"
+
 namespace terramark::pictures {
 
-/// One record: its function number and its parameters. Whatever lies past its end reads as 0.
+/// One record: what it does and its parameters. Whatever lies past its end reads as 0.
 struct MetafileRecord {
-  std::uint16_t Function = 0;
+  RecordKind Kind = RecordKind::End;
   QByteArrayView Parameters;
 
+  /// How many parameter words there are.
   qsizetype Words() const { return Parameters.size() / 2; }
-  /// The parameter word at `index`, signed or not.
+  /// The parameter word at `index`, counted from 0, as a signed number.
   int Int(qsizetype index) const { return static_cast<std::int16_t>(Word(index)); }
+  /// The same without a sign.
   std::uint16_t Word(qsizetype index) const;
+  /// The two words from `index`, the low one first.
   std::uint32_t Long(qsizetype index) const;
   /// The bytes from the word `index` to the end; empty when it lies past the end.
   QByteArrayView From(qsizetype index) const;
-  /// Two words are stored y before x.
+  /// The point in the two words from `index`, stored y before x.
   QPoint PointYX(qsizetype index) const { return {Int(index + 1), Int(index)}; }
 };
 
@@ -38,8 +43,8 @@ class MetafileReader {
   /// `bytes` must outlive the reader and every record taken from it.
   explicit MetafileReader(QByteArrayView bytes);
 
-  /// The bounds of a placeable header: the corners as they stand, so a width or height may be
-  /// negative. None without such a header, or when it encloses nothing.
+  /// The bounds of a placeable header in logical units: the corners as they stand, so a width or
+  /// height may be negative. None without such a header, or when it encloses nothing.
   const std::optional<QRect>& Bounds() const { return bounds_; }
 
   /// The next record; none at the end record, at the end of the bytes, or when a record's length

@@ -2,11 +2,11 @@
 // box that will show it.
 #pragma once
 
-#include <QByteArrayView>
-#include <QImage>
-#include <QSize>
 #include <cstddef>
 #include <filesystem>
+#include <string_view>
+
+#include "forms/raster.h"
 
 namespace terramark::pictures {
 
@@ -16,14 +16,14 @@ constexpr std::size_t MaxPictureFileBytes = std::size_t{64} * 1024 * 1024;
 constexpr int MaxPictureBoxSide = 4096;
 
 /// The picture in the file at `path`, told by its content and never by its name. A bitmap has its
-/// own size, at most MaxBitmapSide pixels each way and MaxBitmapPixels in all (dib.h). A metafile
-/// has the size of `box` in pixels; it plays within MaxMetafileRecords (metafileplayer.h) and
-/// Surface::WorkLimit, and stops there with what is drawn. Always Format_RGB32, opaque. Null when
-/// the file cannot be read, is too large or holds neither kind, or Qt finds no memory for the
-/// image; std::bad_alloc when none is left for the rest.
-QImage LoadPictureFile(const std::filesystem::path& path, QSize box);
+/// own size, at most 16,384 pixels each way and 32 million in all, and takes no notice of the box.
+/// A metafile fills the box, in pixels; past a million records, or the work of some seconds, it
+/// stops with what is drawn. Null when the file cannot be read, is too large or holds neither kind,
+/// when the box of a metafile is empty, or when the library that decodes bitmaps finds no memory
+/// for one; std::bad_alloc when none is left for anything else.
+forms::Picture LoadPictureFile(const std::filesystem::path& path, int boxWidth, int boxHeight);
 
 /// The same from memory.
-QImage LoadPictureBytes(QByteArrayView bytes, QSize box);
+forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight);
 
 }  // namespace terramark::pictures

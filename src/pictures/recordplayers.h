@@ -1,5 +1,6 @@
 // The records of a metafile by kind. Each function plays the records it knows and is false for any
-// other.
+// other; a record that is cut short or makes no sense is true as well, and draws what it can.
+// std::bad_alloc when the memory does not reach.
 #pragma once
 
 #include "pictures/devicecontext.h"

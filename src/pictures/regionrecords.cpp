@@ -50,20 +50,19 @@ void PaintRegion(DeviceContext& context, const MetafileRecord& record, const Pai
 }  // namespace
 
 bool PlayRegionRecord(DeviceContext& context, const MetafileRecord& record) {
-  switch (record.Function) {
-    case 0x0228:
+  switch (record.Kind) {
+    case RecordKind::FillRegion:
       PaintRegion(context, record, NumberedBrush(context, record.Word(1)));
       return true;
-    case 0x0429:
+    case RecordKind::FrameRegion:
       FrameRegion(context, record);
       return true;
-    case 0x012B:
+    case RecordKind::PaintRegion:
       PaintRegion(context, record, context.BrushPaint(context.State.CurrentBrush));
       return true;
-    case 0x012A: {  // InvertRegion
-      constexpr int Invert = 6;
+    case RecordKind::InvertRegion: {
       Paint paint;
-      paint.Operation = Invert;
+      paint.Operation = InvertOperation;
       PaintRegion(context, record, paint);
       return true;
     }

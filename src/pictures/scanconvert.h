@@ -13,6 +13,8 @@ namespace terramark::pictures {
 /// Takes the pixels x0 <= x < x1 of row y.
 using SpanSink = std::function<void(int y, int x0, int x1)>;
 
+// All coordinates are pixels.
+
 /// The rows of `area` that the polygons' edges cross, summed: what ScanPolygons will work through.
 std::int64_t PolygonCrossings(const std::vector<QPolygonF>& polygons, const QRect& area);
 
@@ -30,7 +32,8 @@ void ScanLine(QPoint from, QPoint to, const QRect& area,
               const std::function<void(QPoint pixel, std::int64_t step)>& plot);
 
 /// The outline of the ellipse that touches all edges of a box of width x height pixels: the points
-/// of its lower right quarter from the right end of the middle to the bottom.
+/// of its lower right quarter from the right end of the middle to the bottom. Width and height are
+/// at least 1; it takes width + height steps.
 std::vector<QPoint> EllipseQuarter(int width, int height);
 
 }  // namespace terramark::pictures

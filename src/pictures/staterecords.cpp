@@ -5,58 +5,56 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr int ModeLoMetric = 2;
-constexpr int ModeTwips = 6;
-
-void Scale(QPointF& extent, const MetafileRecord& record) {
-  // Multiplier and divisor of y, then of x; a ratio of nothing is no ratio.
+// Multiplier and divisor of y, then of x; a ratio of nothing is no ratio.
+QPointF Scaled(QPointF extent, const MetafileRecord& record) {
   const int yDivisor = record.Int(0);
   const int yFactor = record.Int(1);
   const int xDivisor = record.Int(2);
   const int xFactor = record.Int(3);
-  if (yDivisor == 0 || yFactor == 0 || xDivisor == 0 || xFactor == 0) return;
+  if (yDivisor == 0 || yFactor == 0 || xDivisor == 0 || xFactor == 0) return extent;
   const QPointF scaled(extent.x() * xFactor / xDivisor, extent.y() * yFactor / yDivisor);
   constexpr double Limit = 1e9;
   const auto sane = [](double value) {
     return std::abs(value) > 1 / Limit && std::abs(value) < Limit;
   };
-  if (sane(scaled.x()) && sane(scaled.y())) extent = scaled;
+  return sane(scaled.x()) && sane(scaled.y()) ? scaled : extent;
 }
 
-void SetExtent(QPointF& extent, QPoint to) {
-  if (to.x() != 0 && to.y() != 0) extent = to;
+// An extent of nothing does not count.
+QPointF NewExtent(QPointF extent, QPoint wanted) {
+  return wanted.x() != 0 && wanted.y() != 0 ? QPointF(wanted) : extent;
 }
 
 bool PlayMapping(DeviceContext& context, const MetafileRecord& record) {
   DeviceState& state = context.State;
-  switch (record.Function) {
-    case 0x0103:  // SetMapMode
+  switch (record.Kind) {
+    case RecordKind::SetMapMode:
       state.UpIsPositive =
-          context.Measured() && record.Int(0) >= ModeLoMetric && record.Int(0) <= ModeTwips;
+          context.Measured() && record.Int(0) >= LoMetricMode && record.Int(0) <= TwipsMode;
       return true;
-    case 0x020B:
+    case RecordKind::SetWindowOrg:
       state.WindowOrigin = record.PointYX(0);
       return true;
-    case 0x020C:
-      SetExtent(state.WindowExtent, record.PointYX(0));
+    case RecordKind::SetWindowExt:
+      state.WindowExtent = NewExtent(state.WindowExtent, record.PointYX(0));
       return true;
-    case 0x020D:
+    case RecordKind::SetViewportOrg:
       state.ViewportOrigin = record.PointYX(0);
       return true;
-    case 0x020E:
-      SetExtent(state.ViewportExtent, record.PointYX(0));
+    case RecordKind::SetViewportExt:
+      state.ViewportExtent = NewExtent(state.ViewportExtent, record.PointYX(0));
       return true;
-    case 0x020F:
+    case RecordKind::OffsetWindowOrg:
       state.WindowOrigin += record.PointYX(0);
       return true;
-    case 0x0211:
+    case RecordKind::OffsetViewportOrg:
       state.ViewportOrigin += record.PointYX(0);
       return true;
-    case 0x0410:
-      Scale(state.WindowExtent, record);
+    case RecordKind::ScaleWindowExt:
+      state.WindowExtent = Scaled(state.WindowExtent, record);
       return true;
-    case 0x0412:
-      Scale(state.ViewportExtent, record);
+    case RecordKind::ScaleViewportExt:
+      state.ViewportExtent = Scaled(state.ViewportExtent, record);
       return true;
     default:
       return false;
@@ -64,37 +62,37 @@ bool PlayMapping(DeviceContext& context, const MetafileRecord& record) {
 }
 
 bool PlayObject(DeviceContext& context, const MetafileRecord& record) {
-  switch (record.Function) {
-    case 0x00F7:    // CreatePalette
-    case 0x02FA:    // CreatePenIndirect
-    case 0x02FB:    // CreateFontIndirect
-    case 0x02FC:    // CreateBrushIndirect
-    case 0x06FF: {  // CreateRegion
+  switch (record.Kind) {
+    case RecordKind::CreatePalette:
+    case RecordKind::CreatePenIndirect:
+    case RecordKind::CreateFontIndirect:
+    case RecordKind::CreateBrushIndirect:
+    case RecordKind::CreateRegion: {
       const std::size_t searched = context.Objects.Add(ReadObject(record));
       // What stays in memory weighs more than what is drawn.
       context.Target().Spend(static_cast<std::int64_t>(searched) + record.Words() * 32);
       return true;
     }
-    case 0x012D:  // SelectObject
+    case RecordKind::SelectObject:
       context.Select(context.Objects.At(record.Word(0)));
       return true;
-    case 0x012C:  // SelectClipRegion; without a region it opens the clip
+    case RecordKind::SelectClipRegion:  // without a region it opens the clip
       if (!std::holds_alternative<Region>(context.Objects.At(record.Word(0)))) {
         context.Target().SetClip(QImage());
       } else {
         context.Select(context.Objects.At(record.Word(0)));
       }
       return true;
-    case 0x01F0:
+    case RecordKind::DeleteObject:
       context.Objects.Delete(record.Word(0));
       return true;
-    case 0x0234:  // SelectPalette
+    case RecordKind::SelectPalette:
       if (const auto* palette = std::get_if<Palette>(&context.Objects.At(record.Word(0)))) {
         context.State.CurrentPalette = *palette;
       }
       return true;
-    case 0x0037:    // SetPaletteEntries
-    case 0x0436: {  // AnimatePalette
+    case RecordKind::SetPaletteEntries:
+    case RecordKind::AnimatePalette: {
       std::vector<QRgb>& entries = context.State.CurrentPalette.Entries;
       for (qsizetype i = 0; i < record.Word(1) && 3 + 2 * i < record.Words(); ++i) {
         const std::size_t index =
@@ -114,21 +112,21 @@ bool PlayClip(DeviceContext& context, const MetafileRecord& record) {
   const auto rect = [&] {
     return context.ToDevice(record.Int(3), record.Int(2), record.Int(1), record.Int(0));
   };
-  switch (record.Function) {
-    case 0x0415:
+  switch (record.Kind) {
+    case RecordKind::ExcludeClipRect:
       context.Target().ExcludeClip(rect());
       return true;
-    case 0x0416:
+    case RecordKind::IntersectClipRect:
       context.Target().IntersectClip(rect());
       return true;
-    case 0x0220:  // OffsetClipRgn
+    case RecordKind::OffsetClipRgn:
       context.Target().OffsetClip(context.ToDevice(QPointF(record.PointYX(0))) -
                                   context.ToDevice(QPointF(0, 0)));
       return true;
-    case 0x001E:
+    case RecordKind::SaveDC:
       context.Save();
       return true;
-    case 0x0127:
+    case RecordKind::RestoreDC:
       context.Restore(record.Int(0));
       return true;
     default:
@@ -140,32 +138,32 @@ bool PlayClip(DeviceContext& context, const MetafileRecord& record) {
 
 bool PlayStateRecord(DeviceContext& context, const MetafileRecord& record) {
   DeviceState& state = context.State;
-  switch (record.Function) {
-    case 0x0102:
-      state.Opaque = record.Int(0) != 1;
+  switch (record.Kind) {
+    case RecordKind::SetBkMode:
+      state.Opaque = record.Int(0) != TransparentGround;
       return true;
-    case 0x0104:
-      state.Operation = std::clamp(record.Int(0), 1, 16);
+    case RecordKind::SetRop2:
+      state.Operation = std::clamp(record.Int(0), FirstOperation, LastOperation);
       return true;
-    case 0x0106:
-      state.Winding = record.Int(0) == 2;
+    case RecordKind::SetPolyFillMode:
+      state.Winding = record.Int(0) == WindingFill;
       return true;
-    case 0x0107:
+    case RecordKind::SetStretchBltMode:
       state.StretchMode = record.Int(0);
       return true;
-    case 0x0108:
+    case RecordKind::SetTextCharExtra:
       state.CharExtra = record.Int(0);
       return true;
-    case 0x012E:
+    case RecordKind::SetTextAlign:
       state.TextAlign = record.Word(0);
       return true;
-    case 0x0201:
+    case RecordKind::SetBkColor:
       state.BackColour = record.Long(0);
       return true;
-    case 0x0209:
+    case RecordKind::SetTextColor:
       state.TextColour = record.Long(0);
       return true;
-    case 0x020A:  // SetTextJustification
+    case RecordKind::SetTextJustification:
       state.BreakCount = record.Int(0);
       state.BreakExtra = record.Int(1);
       return true;

@@ -1,32 +1,38 @@
 #include "pictures/strokes.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstring>
+#include <numeric>
+#include <span>
 
 #include "pictures/newimage.h"
 
 namespace terramark::pictures {
 namespace {
 
-// Pixels drawn and left out by turns; 0 ends a row.
-constexpr std::array<std::array<int, 6>, 5> Dashes = {{
-    {0, 0, 0, 0, 0, 0},   // solid
-    {18, 6, 0, 0, 0, 0},  // dash
-    {3, 3, 0, 0, 0, 0},   // dot
-    {9, 6, 3, 6, 0, 0},   // dash dot
-    {9, 3, 3, 3, 3, 3},   // dash dot dot
-}};
-
-bool IsDashed(PenStyle style) {
-  return style != PenStyle::Solid && style != PenStyle::None && style != PenStyle::InsideFrame;
+// Pixels drawn and left out by turns; none for an unbroken line.
+std::span<const int> DashesOf(PenStyle style) {
+  static constexpr int Dash[] = {18, 6};
+  static constexpr int Dot[] = {3, 3};
+  static constexpr int DashDot[] = {9, 6, 3, 6};
+  static constexpr int DashDotDot[] = {9, 3, 3, 3, 3, 3};
+  switch (style) {
+    case PenStyle::Dash:
+      return Dash;
+    case PenStyle::Dot:
+      return Dot;
+    case PenStyle::DashDot:
+      return DashDot;
+    case PenStyle::DashDotDot:
+      return DashDotDot;
+    default:
+      return {};
+  }
 }
 
-bool DashIsOn(PenStyle style, std::int64_t step) {
-  const auto& dashes = Dashes[static_cast<std::size_t>(style)];
-  std::int64_t length = 0;
-  for (const int part : dashes) length += part;
+bool IsOn(std::span<const int> dashes, std::int64_t step) {
+  const std::int64_t length = std::accumulate(dashes.begin(), dashes.end(), std::int64_t{0});
+  if (length == 0) return true;
   std::int64_t left = step % length;
   for (std::size_t i = 0; i < dashes.size(); ++i) {
     left -= dashes[i];
@@ -51,15 +57,14 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   const Paint paint = context.PenPaint();
   Paint gap = paint;
   gap.Colour = context.Resolve(context.State.BackColour);
-  const PenStyle style = context.State.CurrentPen.Style;
-  const bool dashed = IsDashed(style);
+  const std::span<const int> dashes = DashesOf(context.State.CurrentPen.Style);
   std::int64_t drawn = 0;
   for (std::size_t i = 0; i + 1 < points.size(); ++i) {
     const QPoint from = points[i];
     const QPoint to = points[i + 1];
     if (!target.Touch(BoundsOf(from, to))) continue;
     ScanLine(from, to, target.Area(), [&](QPoint pixel, std::int64_t step) {
-      if (!dashed || DashIsOn(style, drawn + step)) {
+      if (IsOn(dashes, drawn + step)) {
         target.Pixel(pixel, paint);
       } else if (context.State.Opaque) {
         target.Pixel(pixel, gap);
@@ -93,8 +98,7 @@ void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int w
   QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
   mask.fill(0);
   const auto mark = [&](int y, int x0, int x1) {
-    std::memset(mask.scanLine(y - area.top()) + (x0 - area.left()), 1,
-                static_cast<std::size_t>(x1 - x0));
+    std::fill_n(mask.scanLine(y - area.top()) + (x0 - area.left()), x1 - x0, uchar{1});
   };
   for (std::size_t i = 0; i < points.size(); ++i) {
     const QRect disc(points[i].x() - width / 2, points[i].y() - width / 2, width, width);

@@ -10,7 +10,8 @@
 namespace terramark::pictures {
 
 /// Draws through `points`, in pixels; a `closed` line returns to its start. A line one pixel wide
-/// leaves out its very last pixel.
+/// leaves out its very last pixel. Fewer than two points, or no pen, draw nothing. std::bad_alloc
+/// when the memory does not reach for a wide line.
 void Stroke(DeviceContext& context, const std::vector<QPoint>& points, bool closed);
 
 }  // namespace terramark::pictures

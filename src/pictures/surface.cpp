@@ -1,7 +1,6 @@
 #include "pictures/surface.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "pictures/newimage.h"
 
@@ -9,7 +8,6 @@ namespace terramark::pictures {
 namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
-constexpr int CopyOperation = 13;
 constexpr std::int64_t WorkPerCrossing = 4;
 constexpr std::int64_t WorkPerFloodPixel = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
@@ -27,16 +25,6 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
 }
 
 }  // namespace
-
-QRgb CombineTernary(int code, QRgb pattern, QRgb source, QRgb destination) {
-  QRgb result = 0;
-  for (int term = 0; term < 8; ++term) {
-    if ((code >> term & 1) == 0) continue;
-    result |= (term & 4 ? pattern : ~pattern) & (term & 2 ? source : ~source) &
-              (term & 1 ? destination : ~destination);
-  }
-  return result | OpaqueBlack;
-}
 
 Surface::Surface(QSize size, bool measuring)
     : image_(NewImage(measuring ? QSize(1, 1) : size, QImage::Format_RGB32)),
@@ -133,7 +121,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
     while (left > 0 && fills(left - 1, at.y())) --left;
     int right = at.x();
     while (right + 1 < Area().width() && fills(right + 1, at.y())) ++right;
-    std::memset(inside.scanLine(at.y()) + left, 1, static_cast<std::size_t>(right - left + 1));
+    std::fill_n(inside.scanLine(at.y()) + left, right - left + 1, uchar{1});
     for (const int y : {at.y() - 1, at.y() + 1}) {
       if (y < 0 || y >= Area().height()) continue;
       for (int x = left; x <= right; ++x) {
@@ -159,8 +147,7 @@ void Surface::FillClip(const QRect& rect, std::uint8_t value) {
   if (visible.isEmpty()) return;
   clip_ = OwnPixels(std::move(clip_));
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
-    std::memset(clip_.scanLine(y) + visible.left(), value,
-                static_cast<std::size_t>(visible.width()));
+    std::fill_n(clip_.scanLine(y) + visible.left(), visible.width(), value);
   }
 }
 

@@ -9,22 +9,20 @@
 #include <cstdint>
 #include <vector>
 
+#include "pictures/metafilerecords.h"
 #include "pictures/scanconvert.h"
 
 namespace terramark::pictures {
 
 /// What an area or a line is painted with.
 struct Paint {
-  /// Raster operation 1 to 16 as the metafile counts them; 13 lays the colour over what is there.
-  int Operation = 13;
+  /// FirstOperation to LastOperation; CopyOperation lays the colour over what is there.
+  int Operation = CopyOperation;
   QRgb Colour = 0xFF000000;
   /// When not null, tiled from the raster's top left corner in place of Colour; where its alpha is
   /// 0 nothing is painted.
   QImage Pattern;
 };
-
-/// The eight-bit code of a ternary raster operation applied to pattern, source and destination.
-QRgb CombineTernary(int code, QRgb pattern, QRgb source, QRgb destination);
 
 /// Starts white. In measuring mode nothing is painted; it only learns what would be.
 class Surface {
@@ -33,12 +31,16 @@ class Surface {
   /// box of the usual size, some seconds at worst.
   static constexpr std::int64_t WorkLimit = 300'000'000;
 
+  /// `size` is in pixels and not empty. std::bad_alloc when the memory does not reach, as in
+  /// whatever makes a clip or a mask.
   Surface(QSize size, bool measuring);
 
+  /// Format_RGB32.
   const QImage& Image() const { return image_; }
+  /// All coordinates are pixels of this, from its top left corner.
   QRect Area() const { return image_.rect(); }
 
-  /// Takes `work` from what is left. False when it is used up: draw nothing more.
+  /// Takes `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
   bool Spend(std::int64_t work);
 
   /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
@@ -49,24 +51,31 @@ class Surface {
 
   /// The pixels x0 <= x < x1 of row y, which must lie inside Area().
   void Span(int y, int x0, int x1, const Paint& paint);
+  /// The pixel must lie inside Area().
   void Pixel(QPoint at, const Paint& paint);
+  /// The part of `rect` that is inside Area().
   void Rectangle(const QRect& rect, const Paint& paint);
   /// The pixels that `mask`, one byte a pixel and laid at `at`, marks with anything but 0.
   void Mask(const QImage& mask, QPoint at, const Paint& paint);
+  /// The inside of the polygons as ScanPolygons has it.
   void Polygons(const std::vector<QPolygonF>& polygons, bool winding, const Paint& paint);
-  /// A pixel as a blit writes it, past the paint's operation but not past the clip.
+  /// A pixel as a blit writes it, past the paint's operation but not past the clip. It must lie
+  /// inside Area(), as that of At.
   void Put(QPoint at, QRgb colour);
   QRgb At(QPoint at) const { return image_.pixel(at); }
   /// Fills from `seed` over the pixels of `colour`, or, when `border`, up to those of `colour`.
+  /// A seed outside Area() fills nothing.
   void Flood(QPoint seed, QRgb colour, bool border, const Paint& paint);
 
   /// The clip: one byte a pixel, 0 where nothing may be painted; null lets everything through.
   /// It is shared until it changes, so keeping one aside costs nothing.
   const QImage& Clip() const { return clip_; }
   void SetClip(const QImage& clip) { clip_ = clip; }
+  /// The rectangles alone are open from now on.
   void ClipTo(const std::vector<QRect>& rects);
   void IntersectClip(const QRect& rect);
   void ExcludeClip(const QRect& rect);
+  /// Moves the clip; what comes in from outside is closed.
   void OffsetClip(QPoint by);
 
  private:

@@ -3,7 +3,8 @@
 #include <iconv.h>
 
 #include <array>
-#include <memory>
+#include <bit>
+#include <cstdint>
 
 namespace terramark::pictures {
 namespace {
@@ -13,30 +14,30 @@ constexpr int SymbolCharset = 2;
 constexpr char16_t PrivateArea = 0xF000;
 
 struct Charset {
-  int Number;
   const char* CodePage;
+  int Number;
   bool DoubleByte;
 };
 
 constexpr Charset Charsets[] = {
-    {77, "MACINTOSH", false},  //
-    {128, "CP932", true},      //
-    {129, "UHC", true},        //
-    {134, "GBK", true},        //
-    {136, "BIG5", true},       //
-    {161, "CP1253", false},    //
-    {162, "CP1254", false},    //
-    {163, "CP1258", false},    //
-    {177, "CP1255", false},    //
-    {178, "CP1256", false},    //
-    {186, "CP1257", false},    //
-    {204, "CP1251", false},    //
-    {222, "CP874", false},     //
-    {238, "CP1250", false},    //
-    {255, "CP437", false},     //
+    {"MACINTOSH", 77, false},  //
+    {"CP932", 128, true},      //
+    {"UHC", 129, true},        //
+    {"GBK", 134, true},        //
+    {"BIG5", 136, true},       //
+    {"CP1253", 161, false},    //
+    {"CP1254", 162, false},    //
+    {"CP1258", 163, false},    //
+    {"CP1255", 177, false},    //
+    {"CP1256", 178, false},    //
+    {"CP1257", 186, false},    //
+    {"CP1251", 204, false},    //
+    {"CP874", 222, false},     //
+    {"CP1250", 238, false},    //
+    {"CP437", 255, false},     //
 };
 
-constexpr Charset Western{0, "CP1252", false};
+constexpr Charset Western{"CP1252", 0, false};
 
 const Charset& CharsetOf(int number) {
   for (const Charset& charset : Charsets) {
@@ -77,7 +78,7 @@ class Converter {
   }
 
  private:
-  bool Open() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+  bool Open() const { return std::bit_cast<std::intptr_t>(handle_) != -1; }
   iconv_t handle_;
 };
 

@@ -18,7 +18,9 @@ struct Letter {
 /// Whether the font holds signs in place of letters, like the symbol font.
 bool HoldsSigns(const Font& font);
 
-/// Letters that the set does not have come out as U+FFFD.
+/// The letters of `bytes` in their order, their Bytes adding up to all of them. Those that the set
+/// does not have come out as U+FFFD; a set that is not known, and a code page that the system does
+/// not have, are read as Western.
 std::vector<Letter> DecodeText(QByteArrayView bytes, const Font& font);
 
 }  // namespace terramark::pictures

@@ -13,16 +13,6 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr int AlignUpdate = 1;
-constexpr int AlignSideways = 6;
-constexpr int AlignRight = 2;
-constexpr int AlignCentre = 6;
-constexpr int AlignUpright = 24;
-constexpr int AlignBottom = 8;
-constexpr int AlignBaseline = 24;
-constexpr int OptionOpaque = 2;
-constexpr int OptionClipped = 4;
-constexpr int OptionGlyphs = 0x10;
 constexpr qsizetype MaxLetters = 4096;
 constexpr std::int64_t WorkPerLetter = 4000;
 
@@ -106,7 +96,7 @@ QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransfo
 
 // Text is laid over what is there, whatever the raster operation.
 Paint Plain(const DeviceContext& context, ColourRef colour) {
-  return {.Operation = 13, .Colour = context.Resolve(colour), .Pattern = {}};
+  return {.Operation = CopyOperation, .Colour = context.Resolve(colour), .Pattern = {}};
 }
 
 void DrawRun(DeviceContext& context, const TextRun& run, bool ground) {
@@ -162,13 +152,13 @@ void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
   Surface& target = context.Target();
   const qsizetype count = record.Word(2);
   const int options = record.Word(3);
-  const bool hasRect = (options & (OptionOpaque | OptionClipped)) != 0;
+  const bool hasRect = (options & (TextOpaque | TextClipped)) != 0;
   const qsizetype textAt = hasRect ? 8 : 4;
   const QRect rect = context.ToDevice(record.Int(4), record.Int(5), record.Int(6), record.Int(7));
-  if ((options & OptionOpaque) != 0) {
+  if ((options & TextOpaque) != 0) {
     target.Rectangle(rect, Plain(context, context.State.BackColour));
   }
-  if (count == 0 || (options & OptionGlyphs) != 0) return;
+  if (count == 0 || (options & TextGlyphs) != 0) return;
   const QByteArrayView text = record.From(textAt);
   TextRun run{.Bytes = text.first(std::min({count, text.size(), MaxLetters})),
               .At = record.PointYX(0),
@@ -178,19 +168,19 @@ void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
     for (qsizetype i = 0; i < count; ++i) run.Advance.push_back(record.Int(advanceAt + i));
   }
   const QImage clip = target.Clip();
-  if ((options & OptionClipped) != 0) target.IntersectClip(rect);
-  DrawRun(context, run, context.State.Opaque && (options & OptionOpaque) == 0);
+  if ((options & TextClipped) != 0) target.IntersectClip(rect);
+  DrawRun(context, run, context.State.Opaque && (options & TextOpaque) == 0);
   target.SetClip(clip);
 }
 
 }  // namespace
 
 bool PlayTextRecord(DeviceContext& context, const MetafileRecord& record) {
-  switch (record.Function) {
-    case 0x0521:
+  switch (record.Kind) {
+    case RecordKind::TextOut:
       PlayTextOut(context, record);
       return true;
-    case 0x0A32:
+    case RecordKind::ExtTextOut:
       PlayExtTextOut(context, record);
       return true;
     default:

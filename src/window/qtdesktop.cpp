@@ -28,18 +28,6 @@ constexpr float MillisecondsPerSecond = 1000;
 /// Bits that a float holds exactly.
 constexpr unsigned FractionBits = 24;
 
-forms::Picture PictureOf(const QImage& image) {
-  auto raster = std::make_shared<forms::Raster>();
-  raster->Width = image.width();
-  raster->Height = image.height();
-  raster->Pixels.reserve(raster->At(0, raster->Height));
-  for (int y = 0; y < image.height(); ++y) {
-    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    raster->Pixels.insert(raster->Pixels.end(), row, row + image.width());
-  }
-  return raster;
-}
-
 bool Fits(const QString& name) {
   // A line end in a name would end the line of the layout that holds it.
   return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
@@ -123,8 +111,7 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
 
 forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
   if (path.empty()) return std::make_shared<forms::Raster>();
-  const QImage image = pictures::LoadPictureFile(NativePath(path), QSize(width, height));
-  return image.isNull() ? nullptr : PictureOf(image);
+  return pictures::LoadPictureFile(NativePath(path), width, height);
 }
 
 std::filesystem::path QtDesktop::NativePath(const std::string& path) {

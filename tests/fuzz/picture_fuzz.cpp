@@ -12,7 +12,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static char* argv[] = {name, nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static const QGuiApplication application(argc, argv);
-  terramark::pictures::LoadPictureBytes(QByteArrayView(data, static_cast<qsizetype>(size)),
-                                        {120, 80});
+  terramark::pictures::LoadPictureBytes({reinterpret_cast<const char*>(data), size}, 120, 80);
   return 0;
 }

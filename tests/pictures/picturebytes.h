@@ -6,7 +6,15 @@
 #include <initializer_list>
 #include <vector>
 
+#include "pictures/metafilerecords.h"
+
 namespace terramark::pictures {
+
+constexpr std::uint32_t White = 0xFFFFFFFF;
+constexpr std::uint32_t Black = 0xFF000000;
+constexpr std::uint32_t Red = 0xFFFF0000;
+constexpr std::uint32_t Green = 0xFF00FF00;
+constexpr std::uint32_t Blue = 0xFF0000FF;
 
 inline QByteArray Words(std::initializer_list<int> values) {
   QByteArray bytes;
@@ -46,11 +54,11 @@ struct DibBytes {
 /// Collects the records of a metafile.
 class MetafileBytes {
  public:
-  MetafileBytes& Record(int function, std::initializer_list<int> words,
+  MetafileBytes& Record(RecordKind kind, std::initializer_list<int> words,
                         const QByteArray& tail = {}) {
     QByteArray body = Words(words) + tail;
     if (body.size() % 2 != 0) body.append('\0');
-    return Raw(Long(3 + body.size() / 2) + Words({function}) + body);
+    return Raw(Long(3 + body.size() / 2) + Words({static_cast<int>(kind)}) + body);
   }
   /// Bytes as they are, for records that lie.
   MetafileBytes& Raw(const QByteArray& bytes) {
@@ -59,22 +67,22 @@ class MetafileBytes {
   }
 
   /// Creates and selects; the objects' numbers count up from 0.
-  MetafileBytes& Object(int function, std::initializer_list<int> words,
+  MetafileBytes& Object(RecordKind kind, std::initializer_list<int> words,
                         const QByteArray& tail = {}) {
-    return Record(function, words, tail).Record(0x012D, {objects_++});
+    return Record(kind, words, tail).Record(RecordKind::SelectObject, {objects_++});
   }
   MetafileBytes& Pen(int style, int width, int colour) {
-    return Object(0x02FA, {style, width, 0, colour & 0xFFFF, colour >> 16});
+    return Object(RecordKind::CreatePenIndirect, {style, width, 0, colour & 0xFFFF, colour >> 16});
   }
   MetafileBytes& Brush(int style, int colour, int hatch = 0) {
-    return Object(0x02FC, {style, colour & 0xFFFF, colour >> 16, hatch});
+    return Object(RecordKind::CreateBrushIndirect, {style, colour & 0xFFFF, colour >> 16, hatch});
   }
   MetafileBytes& Rectangle(int left, int top, int right, int bottom) {
-    return Record(0x041B, {bottom, right, top, left});
+    return Record(RecordKind::Rectangle, {bottom, right, top, left});
   }
   MetafileBytes& Whole() { return Rectangle(0, 0, 101, 101); }
   MetafileBytes& Line(int x0, int y0, int x1, int y1) {
-    return Record(0x0214, {y0, x0}).Record(0x0213, {y1, x1});
+    return Record(RecordKind::MoveTo, {y0, x0}).Record(RecordKind::LineTo, {y1, x1});
   }
 
   QByteArray Plain() const {
@@ -82,6 +90,8 @@ class MetafileBytes {
            records_ + Words({3, 0, 0});
   }
 
+  /// The usual file: 100 units each way.
+  operator QByteArray() const { return Placeable(0, 0, 100, 100); }
   QByteArray Placeable(int left, int top, int right, int bottom) const {
     return Long(0x9AC6CDD7) + Words({0, left, top, right, bottom, 1440, 0, 0, 0}) + Plain();
   }

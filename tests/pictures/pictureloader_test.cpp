@@ -5,16 +5,16 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "pictures/dib.h"
 #include "pictures/picturebytes.h"
 
 namespace terramark::pictures {
 namespace {
 
-constexpr QSize Box(60, 40);
-constexpr QRgb White = 0xFFFFFFFF;
-constexpr QRgb Red = 0xFFFF0000;
-constexpr QRgb Blue = 0xFF0000FF;
+using Pixels = std::vector<std::uint32_t>;
+
+forms::Picture Load(const QByteArray& bytes) {
+  return LoadPictureBytes({bytes.data(), static_cast<std::size_t>(bytes.size())}, 60, 40);
+}
 
 QByteArray Bytes(std::initializer_list<int> values) {
   QByteArray bytes;
@@ -22,7 +22,7 @@ QByteArray Bytes(std::initializer_list<int> values) {
   return bytes;
 }
 
-const std::vector<std::uint32_t> RedBlueWhite{0xFF0000, 0x0000FF, 0xFFFFFF};
+const Pixels RedBlueWhite{0xFF0000, 0x0000FF, 0xFFFFFF};
 
 // Each shows two rows of two pixels: red and blue above, white and red below. Of one bit there is
 // no white to be had.
@@ -38,61 +38,56 @@ const DibBytes Bitmaps[]{
 
 TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
   for (const DibBytes& bitmap : Bitmaps) {
-    const QImage image = LoadPictureBytes(bitmap.File(), Box);
-    ASSERT_EQ(image.size(), QSize(2, 2)) << bitmap.Bits;
-    EXPECT_EQ(image.format(), QImage::Format_RGB32) << bitmap.Bits;
-    EXPECT_EQ(image.pixel(0, 0), Red) << bitmap.Bits;
-    EXPECT_EQ(image.pixel(1, 0), Blue) << bitmap.Bits;
-    EXPECT_EQ(image.pixel(0, 1), bitmap.Bits > 1 ? White : Red) << bitmap.Bits;
+    const forms::Picture picture = Load(bitmap.File());
+    ASSERT_TRUE(picture && picture->Width == 2 && picture->Height == 2) << bitmap.Bits;
+    const std::uint32_t last = bitmap.Bits > 1 ? White : Red;
+    EXPECT_EQ(picture->Pixels, (Pixels{Red, Blue, last, Red})) << bitmap.Bits;
   }
 }
 
 // Grey all over.
 const DibBytes Sound{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
 
-TEST(PictureLoader, RefusesBitmapsThatLie) {
-  const int sizes[][2]{
-      {0, 4},  {-4, 4}, {4, 0}, {30000, 30000}, {16384, 16384}, {4, INT_MIN}, {INT_MAX, INT_MAX},
-      {4, 400}};
-  for (const auto& [width, height] : sizes) {
-    const DibBytes dib{width, height, 24, 0, {}, Sound.Rows};
-    EXPECT_TRUE(LoadPictureBytes(dib.File(), Box).isNull()) << width << " x " << height;
-  }
+TEST(PictureLoader, RefusesBitmapsThatLieAndReadsWhatIsLeftOfACutOne) {
   QByteArray farBits = Sound.File();
   farBits[12] = '\x7F';
-  const std::pair<const char*, QByteArray> lies[]{
+  std::vector<std::pair<const char*, QByteArray>> lies{
       {"odd bits", DibBytes{4, 4, 7, 0, {}, Sound.Rows}.File()},
       {"run lengths need 8 bits", DibBytes{4, 4, 24, 1, {}, Sound.Rows}.File()},
       {"half a header", Sound.File().first(30)},
       {"rows past the end of the file", farBits}};
-  for (const auto& [what, bytes] : lies) {
-    EXPECT_TRUE(LoadPictureBytes(bytes, Box).isNull()) << what;
+  const int sizes[][2]{
+      {0, 4},  {-4, 4}, {4, 0}, {30000, 30000}, {16384, 16384}, {4, INT_MIN}, {INT_MAX, INT_MAX},
+      {4, 400}};
+  for (const auto& [width, height] : sizes) {
+    lies.emplace_back("size", DibBytes{width, height, 24, 0, {}, Sound.Rows}.File());
   }
-}
-
-TEST(PictureLoader, ReadsWhatIsLeftOfACutBitmap) {
-  const QImage image = LoadPictureBytes(Sound.File().chopped(15), Box);
-  ASSERT_EQ(image.size(), QSize(4, 4));
-  EXPECT_EQ(image.pixel(0, 3), 0xFF404040);
+  for (const auto& [what, bytes] : lies) {
+    EXPECT_EQ(Load(bytes), nullptr) << what << " " << bytes.mid(18, 8).toHex().data();
+  }
+  EXPECT_EQ(Load(Sound.File().chopped(15))->Pixels.at(12), 0xFF404040);
 }
 
 TEST(PictureLoader, TellsTheKindByContentAndNotByName) {
   const QTemporaryDir folder;
-  const auto sizeOf = [&](const char* name, const QByteArray& bytes) {
-    QFile file(folder.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    return LoadPictureFile(file.fileName().toStdString(), Box).size();
+  const auto load = [&](const char* name) {
+    return LoadPictureFile(folder.filePath(name).toStdString(), 60, 40);
   };
-  EXPECT_EQ(sizeOf("map.wmf", Sound.File()), QSize(4, 4));
-  EXPECT_EQ(sizeOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), Box);
-  EXPECT_TRUE(sizeOf("text.wmf", "Some text, no picture").isEmpty());
-  EXPECT_TRUE(sizeOf("empty.bmp", "").isEmpty());
-  EXPECT_TRUE(LoadPictureFile("missing.bmp", Box).isNull());
-  EXPECT_TRUE(LoadPictureFile(folder.path().toStdString(), Box).isNull());
+  const auto widthOf = [&](const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    const forms::Picture picture = load(name);
+    return picture ? picture->Width : 0;
+  };
+  EXPECT_EQ(widthOf("map.wmf", Sound.File()), 4);
+  EXPECT_EQ(widthOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), 60);
+  EXPECT_EQ(widthOf("text.wmf", "Some text, no picture"), 0);
+  EXPECT_EQ(widthOf("empty.bmp", ""), 0);
+  EXPECT_EQ(load("missing.bmp"), nullptr);
+  EXPECT_EQ(load("."), nullptr);
   ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), qint64{MaxPictureFileBytes} + 1));
-  EXPECT_TRUE(LoadPictureFile(folder.filePath("map.wmf").toStdString(), Box).isNull());
+  EXPECT_EQ(load("map.wmf"), nullptr);
 }
 
 }  // namespace
