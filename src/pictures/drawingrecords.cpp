@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <ranges>
 
 #include "pictures/recordplayers.h"
 #include "pictures/strokes.h"
@@ -81,17 +80,16 @@ void DrawRectangle(DeviceContext& context, const QRect& box) {
 // fill the box. The points stand one pixel from the next along the corners.
 std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
   const std::vector<QPoint> quarter = EllipseQuarter(corner.width(), corner.height());
+  const std::vector<QPoint> backwards(quarter.rbegin(), quarter.rend());
   const int left = box.left() + corner.width() - 1;
   const int top = box.top() + corner.height() - 1;
   const int right = box.right() - corner.width() + 1;
   const int bottom = box.bottom() - corner.height() + 1;
   std::vector<QPoint> points;
   for (const QPoint p : quarter) points.emplace_back(right + p.x(), bottom + p.y());
-  for (const QPoint p : std::views::reverse(quarter))
-    points.emplace_back(left - p.x(), bottom + p.y());
+  for (const QPoint p : backwards) points.emplace_back(left - p.x(), bottom + p.y());
   for (const QPoint p : quarter) points.emplace_back(left - p.x(), top - p.y());
-  for (const QPoint p : std::views::reverse(quarter))
-    points.emplace_back(right + p.x(), top - p.y());
+  for (const QPoint p : backwards) points.emplace_back(right + p.x(), top - p.y());
   return points;
 }
 

@@ -141,6 +141,9 @@ TEST(Metafile, RecordsPaintTheirPixels) {
                                2, 10, 20, 10, 50, 2, 2, 20, 40, 10, 30, 2})
         .Record(kind, words);
   };
+  const auto replaced = [] {
+    return Filled().Record(DeleteObject, {1}).Record(CreateBrushIndirect, {0, 0xFF00, 0, 0});
+  };
   const auto whole = [] { return Filled().Whole(); };
   // A flood from outside comes through any gap in the line.
   const auto border = [](int width) {
@@ -182,10 +185,9 @@ TEST(Metafile, RecordsPaintTheirPixels) {
       {"a clip", Red, {40 * 40 - 20 * 20, {10, 10, 40, 40}}, clipped()},
       {"no clip any more", Red, everywhere, clipped().Record(RestoreDC, {-1}).Whole()},
       {"a deleted brush that stays selected", Red, {49 * 99, {0, 0, 49, 99}},
-       Filled().Record(DeleteObject, {1}).Record(CreateBrushIndirect, {0, 0xFF00, 0, 0}).Rectangle(0, 0, 50, 100)},
+       replaced().Rectangle(0, 0, 50, 100)},
       {"its number used again", Green, {49 * 99, {50, 0, 49, 99}},
-       Filled().Record(DeleteObject, {1}).Record(CreateBrushIndirect, {0, 0xFF00, 0, 0}).Record(SelectObject, {1})
-           .Rectangle(50, 0, 100, 100)},
+       replaced().Record(SelectObject, {1}).Rectangle(50, 0, 100, 100)},
       {"a hatch has one line in eight rows", Red, {80 * 10, {0, 3, 80, 73}},
        MetafileBytes().Pen(NullPen, 0, 0).Brush(2, RedRef).Record(SetBkMode, {1})
            .Rectangle(0, 0, 81, 81)},
@@ -218,13 +220,15 @@ TEST(Metafile, RecordsPaintTheirPixels) {
       {"dots", Black, {36, {0, 10, 69, 1}}, dashes(2, 1)},
       {"no line at all", White, everywhere, dashes(NullPen, 2)},
       {"a viewport", Red, {2500, {20, 30, 50, 50}},
-       Filled().Record(SetViewportOrg, {30, 20}).Record(SetViewportExt, {50, 50}).Rectangle(0, 0, 102, 102)},
+       Filled().Record(SetViewportOrg, {30, 20}).Record(SetViewportExt, {50, 50})
+           .Rectangle(0, 0, 102, 102)},
       {"a palette entry looked up when it paints", Red, everywhere,
        MetafileBytes().Object(CreateBrushIndirect, {0, 1, 0x0100, 0}).Pen(NullPen, 0, 0)
            .Record(CreatePalette, {0x300, 2, 0, 0, 0x00FF, 0}).Record(SelectPalette, {2}).Whole()},
       {"a region filled", Red, scans, region(PaintRegion, {2})},
       {"a region inverted", Black, scans, region(InvertRegion, {2})},
-      {"no frame where its scans meet", Red, {310, {10, 10, 40, 30}}, region(FrameRegion, {2, 1, 2, 3})},
+      {"no frame where its scans meet", Red, {310, {10, 10, 40, 30}},
+       region(FrameRegion, {2, 1, 2, 3})},
       {"a region as clip", Red, scans, region(SelectClipRegion, {2}).Whole()},
       {"number 0 is a pen: the clip is off", Red, everywhere,
        region(SelectClipRegion, {2}).Record(SelectClipRegion, {0}).Whole()},
