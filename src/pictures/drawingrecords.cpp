@@ -86,6 +86,7 @@ std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
   const int right = box.right() - corner.width() + 1;
   const int bottom = box.bottom() - corner.height() + 1;
   std::vector<QPoint> points;
+  points.reserve(4 * quarter.size());
   for (const QPoint p : quarter) points.emplace_back(right + p.x(), bottom + p.y());
   for (const QPoint p : backwards) points.emplace_back(left - p.x(), bottom + p.y());
   for (const QPoint p : quarter) points.emplace_back(left - p.x(), top - p.y());
