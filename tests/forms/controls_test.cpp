@@ -84,6 +84,7 @@ TEST_F(ControlsTest, AnElementIsAnInvisibleCopyOfTheTemplate) {
   EXPECT_EQ(Labels.Find(5), nullptr);
   EXPECT_EQ(Labels.Find(-1), nullptr);
   EXPECT_EQ(Labels.Find(100), nullptr);
+  EXPECT_DEATH(Labels(3), "Labels.3. does not exist");
   EXPECT_EQ(Seen.Added, 1);
   EXPECT_EQ(Seen.Removed, 1);
   EXPECT_EQ(Window.Controls().size(), 3U);

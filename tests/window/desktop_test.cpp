@@ -144,6 +144,11 @@ TEST_F(DesktopTest, OneHelpWindowShowsTheTopicAskedFor) {
   Desktop.ShowHelp("TMRK.HLP", 12);
   EXPECT_EQ(pages().substr(0, 22), "Topic 12: Card symbols");
   EXPECT_EQ(pages().find('|'), std::string::npos);
+  for (const forms::Control* control : Form.Controls()) {
+    if (control->HelpTopic == 0) continue;
+    Desktop.ShowHelp("TMRK.HLP", control->HelpTopic);
+    EXPECT_EQ(pages().find("no such help topic"), std::string::npos) << control->Name();
+  }
   Desktop.ShowHelp("TMRK.HLP", -3);
   EXPECT_NE(pages().find("no such help topic"), std::string::npos);
 }
