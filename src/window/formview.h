@@ -16,7 +16,7 @@ namespace terramark::window {
 
 class ControlView;
 
-class FormView : public QWidget, private forms::FormObserver {
+class FormView final : public QWidget, private forms::FormObserver {
  public:
   /// The form must outlive the view. It has one view at a time.
   FormView(forms::Form& form, QWidget& parent);
