@@ -95,10 +95,10 @@ class EditorTest : public testing::Test {
   void Type(forms::TextBox& box, const std::string& text) {
     Form.Focus(&box);
     for (std::size_t length = text.empty() ? 0 : 1; length <= text.size(); ++length) {
-      Form.KeyPressed({65, 0});
+      Form.KeyPressed({0, 0});
       Form.CharacterTyped();
       Replace(box, text.substr(0, length));
-      Form.KeyReleased({65, 0});
+      Form.KeyReleased({0, 0});
     }
   }
 

@@ -4,7 +4,7 @@ from pathlib import Path
 
 from screen import Rect
 
-FORM = Path(__file__).resolve().parents[2] / "src/shell/form1.cpp"
+FORM = Path(__file__).resolve().parents[2] / "src/shell/form1controls.cpp"
 TITLE = "TERRAMARK 1"
 FILE_DIALOG = "Choose a File"
 QUESTION = "Terramark"
@@ -26,10 +26,10 @@ BARE_FORM = Rect(700, 500, 1, 1)  # a place of the window where nothing stands
 # From the editor's own table, by name, and in an array by name and index: the frame that a control
 # stands in, and its left, top, width and height in pixels.
 CONTROLS = {
-    name + index * (kind == "Element"): (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
-    for kind, name, index, frame, *at in re.findall(
-        r'{(The|Element)<.*"(\w+)", +(\d), ".*", +(?:Itself|The<&Form1::(\w+)>),'
-        r" +(\d+), +(\d+), +(\d+), +(\d+)}", FORM.read_text("utf-8"))}
+    name + index: (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
+    for name, index, frame, *at in re.findall(
+        r'{(?:The|Make)<&Form1::(\w+)(?:, (\d))?>, +".*?", +\d+, (?:Itself|The<&Form1::(\w+)>),'
+        r" +(\d+), +(\d+), +(\d+), +(\d+)", FORM.read_text("utf-8"))}
 
 
 class Editor:
