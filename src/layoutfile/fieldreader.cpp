@@ -26,89 +26,93 @@ std::optional<Number> ReadDigits(std::string_view text) {
 }  // namespace
 
 std::optional<std::string_view> FieldReader::Line() {
-  if (AtEnd()) return std::nullopt;
+  failed_ = failed_ || AtEnd();
+  if (failed_) return std::nullopt;
   const std::size_t start = place_;
-  while (!AtEnd() && !EndsLine(Next())) ++place_;
+  while (!AtEnd() && !EndsLine(At())) ++place_;
   const std::string_view line = bytes_.substr(start, place_ - start);
   PassLineEnd();
   return line;
 }
 
 template <>
-std::optional<std::string_view> FieldReader::Field() {
-  if (!BeginField()) return std::nullopt;
-  if (Next() == '"') return Quoted();
+std::string_view FieldReader::Next() {
+  if (!BeginField()) return {};
+  if (At() == '"') return Quoted();
   const std::string_view text = Until(false);
   PassSeparator();
   return text;
 }
 
 template <>
-std::optional<std::int16_t> FieldReader::Field() {
-  const auto text = Number();
-  if (!text) return std::nullopt;
-  const auto digits = ReadDigits<std::int16_t>(*text);
-  return digits ? digits : WholeNumber(ReadNumber(*text));
+std::int16_t FieldReader::Next() {
+  const std::string_view text = Number();
+  if (const auto digits = ReadDigits<std::int16_t>(text)) return *digits;
+  const auto whole = WholeNumber(ReadNumber(text));
+  failed_ = failed_ || !whole;
+  return whole.value_or(0);
 }
 
 template <>
-std::optional<float> FieldReader::Field() {
-  const auto text = Number();
-  if (!text) return std::nullopt;
-  const auto digits = ReadDigits<std::int32_t>(*text);
-  const double value = digits ? *digits : ReadNumber(*text);
-  if (std::abs(value) > std::numeric_limits<float>::max()) return std::nullopt;
-  return static_cast<float>(value);
+float FieldReader::Next() {
+  const std::string_view text = Number();
+  const auto digits = ReadDigits<std::int32_t>(text);
+  const double value = digits ? *digits : ReadNumber(text);
+  if (std::abs(value) <= std::numeric_limits<float>::max()) return static_cast<float>(value);
+  failed_ = true;
+  return 0;
 }
 
 template <>
-std::optional<Components> FieldReader::Field() {
+Components FieldReader::Next() {
   Components numbers{};
-  for (std::int16_t& number : numbers) {
-    if (!Take(number)) return std::nullopt;
-  }
+  for (std::int16_t& number : numbers) number = Next<std::int16_t>();
   return numbers;
 }
 
 /// The text of a number field; blanks behind it belong to its separator and may be all of it.
-std::optional<std::string_view> FieldReader::Number() {
-  if (!BeginField()) return std::nullopt;
-  if (Next() == '"') return Quoted();
+std::string_view FieldReader::Number() {
+  if (!BeginField()) return {};
+  if (At() == '"') return Quoted();
   const std::string_view number = Until(true);
   PassBlanks();
   PassSeparator();
   return number;
 }
 
-bool FieldReader::BeginField() {
-  PassBlanks();
-  return !AtEnd();
-}
-
-/// What stands in the quotes, over line ends too; the rest up to the separator is dropped. Nothing
+/// What stands in the quotes, over line ends too; the rest up to the separator is dropped. Fails
 /// when nothing closes them.
-std::optional<std::string_view> FieldReader::Quoted() {
+std::string_view FieldReader::Quoted() {
   const std::size_t start = place_ + 1;
   const std::size_t close = bytes_.find('"', start);
-  if (close == std::string_view::npos) return std::nullopt;
+  if (close == std::string_view::npos) {
+    failed_ = true;
+    return {};
+  }
   place_ = close + 1;
   Until(false);
   PassSeparator();
   return bytes_.substr(start, close - start);
 }
 
+bool FieldReader::BeginField() {
+  PassBlanks();
+  failed_ = failed_ || AtEnd();
+  return !AtEnd();
+}
+
 std::string_view FieldReader::Until(bool blankEnds) {
   const std::size_t start = place_;
-  while (!AtEnd() && Next() != ',' && !EndsLine(Next()) && !(blankEnds && Next() == ' ')) ++place_;
+  while (!AtEnd() && At() != ',' && !EndsLine(At()) && !(blankEnds && At() == ' ')) ++place_;
   return bytes_.substr(start, place_ - start);
 }
 
 void FieldReader::PassBlanks() {
-  while (!AtEnd() && Next() == ' ') ++place_;
+  while (!AtEnd() && At() == ' ') ++place_;
 }
 
 void FieldReader::PassSeparator() {
-  if (!AtEnd() && Next() == ',') {
+  if (!AtEnd() && At() == ',') {
     ++place_;
   } else {
     PassLineEnd();
@@ -116,7 +120,7 @@ void FieldReader::PassSeparator() {
 }
 
 void FieldReader::PassLineEnd() {
-  if (AtEnd() || !EndsLine(Next())) return;
+  if (AtEnd() || !EndsLine(At())) return;
   if (bytes_.substr(place_, 2) == "\r\n") ++place_;
   ++place_;
 }

@@ -22,48 +22,50 @@ class FieldReader {
   /// What is left of the present line, its line end used up.
   std::optional<std::string_view> Line();
 
-  /// The next field, by its type: a text; a whole number, rounded, a tie to the even one; a float;
-  /// three whole numbers. A number without digits is 0.
-  template <typename Type>
-  std::optional<Type> Field();
-
-  /// The next fields; nothing when one of them gives nothing.
+  /// The next fields, each by its type: a text; a whole number, rounded, a tie to the even one; a
+  /// float; three whole numbers. A number without digits is 0. Nothing when one of them fails.
   template <typename... Types>
   std::optional<std::tuple<Types...>> Fields() {
-    std::tuple<Types...> fields;
-    const bool all = std::apply([this](auto&... field) { return (Take(field) && ...); }, fields);
-    return all ? std::optional(fields) : std::nullopt;
+    // In braces they are read in this order.
+    std::optional<std::tuple<Types...>> fields(std::tuple<Types...>{Next<Types>()...});
+    if (failed_) fields.reset();
+    return fields;
+  }
+
+  /// The next field alone.
+  template <typename Type>
+  std::optional<Type> Field() {
+    const Type field = Next<Type>();
+    return failed_ ? std::nullopt : std::optional(field);
   }
 
  private:
+  /// Any value after a failure.
   template <typename Type>
-  bool Take(Type& field) {
-    const std::optional<Type> read = Field<Type>();
-    if (read) field = *read;
-    return read.has_value();
-  }
+  Type Next();
 
-  std::optional<std::string_view> Number();
-  std::optional<std::string_view> Quoted();
-  bool BeginField();
+  std::string_view Number();
+  std::string_view Quoted();
   std::string_view Until(bool blankEnds);
+  bool BeginField();
   void PassBlanks();
   void PassSeparator();
   void PassLineEnd();
   bool AtEnd() const { return place_ == bytes_.size(); }
-  char Next() const { return bytes_[place_]; }
+  char At() const { return bytes_[place_]; }
 
   std::string_view bytes_;
   std::size_t place_ = 0;
+  bool failed_ = false;
 };
 
 template <>
-std::optional<std::string_view> FieldReader::Field();
+std::string_view FieldReader::Next();
 template <>
-std::optional<std::int16_t> FieldReader::Field();
+std::int16_t FieldReader::Next();
 template <>
-std::optional<float> FieldReader::Field();
+float FieldReader::Next();
 template <>
-std::optional<Components> FieldReader::Field();
+Components FieldReader::Next();
 
 }  // namespace terramark
