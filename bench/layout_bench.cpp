@@ -26,7 +26,7 @@ constexpr int Rows = 8;
 
 /// The neighbours to all sides and along one diagonal, six inside the map, as on a real one.
 std::string GridLinks(int column, int row) {
-  constexpr int Steps[6][2]{{0, -1}, {1, -1}, {1, 0}, {0, 1}, {-1, 1}, {-1, 0}};
+  constexpr int Steps[][2] = {{0, -1}, {1, -1}, {1, 0}, {0, 1}, {-1, 1}, {-1, 0}};
   std::string pairs;
   for (const auto& step : Steps) {
     const int x = column + step[0];

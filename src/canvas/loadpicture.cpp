@@ -11,7 +11,7 @@ namespace terramark {
 
 void LoadMap_MouseUp(Form1& form) {
   std::string path;
-  SelectAFile(form, "*.wmf;*.bmp", path);
+  SelectAFile(form, PictureFiles, path);
   if (path.empty()) return;
   const forms::CommonDialog& chosen = form.CommonDialog1;
   if (!chosen.FileNameFits && !chosen.FileTitleFits) {

@@ -50,11 +50,9 @@ void AddCont_MouseUp(Form1& form) {
   const std::int16_t r = ++form.RegionCount;
   form.Continent.Load(r);
   forms::Label& marker = form.Continent(r);
-  PaintMarker(marker, ClrWhite);
-  form.RegionRGB(r).fill(UnsetComponent);
-  marker.Caption = "Region" + NumberText(r);
+  WhitenRegion(form, r);
+  NameAnew(form, r);
   BringUp(marker);
-  form.RegionName(r) = marker.Caption;
   UpdateRegionCount(form);
   form.CurRegion = r;
   form.RegionArmies(r) = NewArmies;

@@ -20,23 +20,6 @@ void ShowCleared(Form1& form, const std::string& name) {
   ShowMessage(form, "all links to " + name + " removed", ClrGreen);
 }
 
-/// A link string without its entries for an Area; unchanged when no pair spells that Area.
-std::string WithoutEntry(const std::string& links, std::int16_t area) {
-  const Neighbours entries(links);
-  std::string kept;
-  bool found = false;
-  std::size_t at = 2;
-  for (const std::int16_t entry : entries) {
-    const std::string pair = at < links.size() ? links.substr(at, 2) : std::string();
-    if (pair == TwoDigit(area)) found = true;
-    if (entry != area) kept += pair;
-    at += 2;
-  }
-  if (!found) return links;
-  if (entries.Count() == 1) return EmptyLinks;
-  return TwoDigit(static_cast<std::int16_t>(entries.Count() - 1)) + kept;
-}
-
 void ClearArea(Form1& form) {
   const std::int16_t a = form.CurArea;
   std::int16_t count = 0;
@@ -50,8 +33,7 @@ void ClearArea(Form1& form) {
     form.AreaLinks(i) = WithoutEntry(form.AreaLinks(i), a);
   }
   form.AreaLinks(a) = ClearedLinks;
-  form.AreaRegion(a) = 0;
-  PaintMarker(form.ArmyAt(a), ClrWhite);
+  LeaveRegion(form, a);
   ClearSelection(form);
   ShowCleared(form, form.AreaName(a));
 }
@@ -64,14 +46,10 @@ void ClearRegion(Form1& form) {
     ShowMessage(form, NothingToClear, ClrGreen);
     return;
   }
-  PaintMarker(form.Continent(r), ClrWhite);
-  form.RegionRGB(r).fill(UnsetComponent);
-  form.Continent(r).Caption = "Region" + NumberText(r);
-  form.RegionName(r) = form.Continent(r).Caption;
+  WhitenRegion(form, r);
+  NameAnew(form, r);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.AreaRegion(i) != r) continue;
-    PaintMarker(form.ArmyAt(i), ClrWhite);
-    form.AreaRegion(i) = 0;
+    if (form.AreaRegion(i) == r) LeaveRegion(form, i);
   }
   ClearSelection(form);
   ShowCleared(form, form.RegionName(r));

@@ -1,5 +1,7 @@
 #include "commands/setregion.h"
 
+#include <vector>
+
 #include "commands/markedareas.h"
 #include "document/numbers.h"
 #include "selection/selection.h"
@@ -14,12 +16,10 @@ void SetCont_MouseUp(Form1& form) {
   const std::int16_t r = form.CurRegion;
   forms::Label* region = RegionMarker(form, r);
   if (region == nullptr) return;
-  PaintMarker(*region, ClrWhite);
-  form.RegionRGB(r).fill(UnsetComponent);
+  WhitenRegion(form, r);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) != r || LookOf(form.ArmyAt(i)) == Look::Marked) continue;
-    PaintMarker(form.ArmyAt(i), ClrWhite);
-    form.AreaRegion(i) = 0;
+    LeaveRegion(form, i);
   }
   const std::vector<std::int16_t> members = GreyAreas(form);
   for (const std::int16_t i : members) {

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/tables.h"
 
@@ -30,6 +32,13 @@ class Neighbours {
 /// that is new or has lost its last neighbour.
 inline constexpr char ClearedLinks[] = " ";
 inline constexpr char EmptyLinks[] = "  ";
+
+/// The string of these neighbours, in their order.
+std::string LinksTo(const std::vector<std::int16_t>& areas);
+/// With an entry for an Area, 0 to 99, behind those it has; unchanged when it lists that Area.
+std::string WithEntry(std::string links, std::int16_t area);
+/// Without the entries for an Area; unchanged when no pair spells that Area.
+std::string WithoutEntry(const std::string& links, std::int16_t area);
 
 /// The number of neighbours that a link string declares, 0 to 99.
 std::int16_t LinkCount(std::string_view links);

@@ -11,7 +11,7 @@ namespace terramark {
 /// Elements of every table, 0 to 99; two decimal digits name each of them.
 inline constexpr std::size_t TableSize = 100;
 /// The highest number that the tables hold.
-inline constexpr std::int16_t LastNumber = 99;
+inline constexpr std::int16_t LastNumber = TableSize - 1;
 /// The commands add no Area and no Region from this count on.
 inline constexpr std::int16_t CountLimit = 96;
 /// A colour component that was never set; shows as full intensity.
@@ -64,5 +64,14 @@ struct Tables {
   /// Path of the backdrop as the file dialog or the layout gave it; empty for none.
   std::string PictureFile;
 };
+
+/// The number of a Region's Areas.
+inline std::int16_t MembersOf(const Tables& tables, std::int16_t region) {
+  std::int16_t members = 0;
+  for (std::int16_t i = 1; i <= tables.AreaCount; ++i) {
+    if (tables.AreaRegion(i) == region) ++members;
+  }
+  return members;
+}
 
 }  // namespace terramark

@@ -35,6 +35,7 @@ void TMHelp_MouseUp(Form1& form) {
   ShowHelpTopic(form, form.TMHelp.HelpTopic);
 }
 
+/// Exit and the colours act on their clicks instead.
 struct CommandRow {
   Finder<Form1, forms::CommandButton> Of;
   Handler Command;
@@ -65,7 +66,7 @@ void Nothing(Form1&, const forms::MouseEvent&) {
 
 void Join(Form1& form, forms::Control& control, Handler command) {
   control.MouseUp = [&form, &control, command](const forms::MouseEvent& event) {
-    if (control.HelpTopic != 0 && event.Shift == forms::ShiftKey) {
+    if (control.HelpTopic != 0 && forms::AsksForHelp(event.Shift)) {
       ShowHelpTopic(form, control.HelpTopic);
     } else {
       command(form, event);

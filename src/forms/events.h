@@ -19,6 +19,11 @@ inline constexpr std::int16_t ShiftKey = 1;
 inline constexpr std::int16_t CtrlKey = 2;
 inline constexpr std::int16_t AltKey = 4;
 
+/// Whether a press or a release asks for the help on what it is on: with the Shift key alone.
+inline bool AsksForHelp(std::int16_t shift) {
+  return shift == ShiftKey;
+}
+
 /// Key codes; no other key has one.
 inline constexpr std::int16_t KeyUpArrow = 38;
 inline constexpr std::int16_t KeyDownArrow = 40;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/broken.h"
+
 namespace terramark::forms {
 
 namespace {
@@ -27,6 +29,7 @@ Form::~Form() {
 }
 
 void Form::Add(Control& control, Control& container) {
+  if (control.form_ != nullptr) Broken(control.name_ + " is on a form already");
   control.form_ = this;
   control.container_ = &container;
   container.children_.push_back(&control);

@@ -45,7 +45,7 @@ class Form : public Control {
   PointerRouter Pointer{*this};
 
   /// Puts a control on the form inside a container, in front of what stands there already. The
-  /// order of adding is the tab order.
+  /// order of adding is the tab order. A control that is on a form already ends the program.
   void Add(Control& control, Control& container);
   /// All controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }

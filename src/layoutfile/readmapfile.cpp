@@ -8,6 +8,7 @@
 #include "shell/backdrop.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
+#include "shell/colourtarget.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
 #include "shell/markers.h"
@@ -61,9 +62,7 @@ bool ReadPlayerColours(Form1& form, FieldReader& file) {
     if (!read) return false;
     rgb = *read;
   }
-  for (std::int16_t i = 0; i < PlayerColours; ++i) {
-    form.PlColor(i).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(i)]);
-  }
+  ShowPlayerColours(form);
   return true;
 }
 

@@ -31,7 +31,7 @@ void ShowWriteFault(Form1& form, const std::string& name, const SafeFile& file) 
 void SaveCFG_MouseUp(Form1& form) {
   if (!MapIsValid(form)) return;
   std::string name;
-  SelectAFile(form, "*.tml", name);
+  SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
 
   const bool pictureRead = RefreshMap(form);

@@ -44,14 +44,6 @@ char CardLetter(Form1& form, std::int16_t area) {
   return found == nullptr ? 'G' : found->Letter;
 }
 
-std::int16_t MembersOf(const Tables& tables, std::int16_t region) {
-  std::int16_t members = 0;
-  for (std::int16_t i = 1; i <= tables.AreaCount; ++i) {
-    if (tables.AreaRegion(i) == region) ++members;
-  }
-  return members;
-}
-
 void WriteRegionGroups(Form1& form, LayoutText& file) {
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     file.Fields(r, MembersOf(form, r), form.RegionRGB(r), form.RegionName(r), form.RegionArmies(r));

@@ -1,5 +1,6 @@
 #include "shell/aboutform.h"
 
+#include "shell/colours.h"
 #include "shell/controltable.h"
 #include "shell/form1.h"
 #include "shell/icon.h"
@@ -26,18 +27,18 @@ constexpr ControlRow<AboutForm> AboutControls[] = {
 
 AboutForm::AboutForm(forms::Desktop& host) : Form(host, "AboutForm") {
   Caption = "About Terramark";
-  BackColor = 0x00808080;
+  BackColor = ClrGrey;
   Move(2790, 2925);
   Width = 5055;
   Height = 1455;
   BuildControls<AboutForm>(*this, AboutControls);
-  Picture1.BackColor = 0x00808080;
+  Picture1.BackColor = ClrGrey;
   Picture1.Picture = ProgramIcon();
   AboutText.MultiLine = true;
   AboutText.BackColor = 0x00FFFF00;
   AboutText.Text = AboutSentence;
   Label1.BackColor = 0x000000FF;
-  Label1.ForeColor = 0x00FFFFFF;
+  Label1.ForeColor = ClrWhite;
   Label1.Alignment = forms::Alignment::Centred;
   AboutOk.Click = [this](const forms::PlainEvent&) { AboutOk_Click(*this); };
 }

@@ -17,7 +17,7 @@ void UpdateCount(forms::Label& label, std::int16_t count) {
 void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.BackColor = colour;
   form.Message.ForeColor = ClrBlack;
-  if (form.Message.BackColor == ClrRed) form.Message.ForeColor = ClrWhite;
+  if (colour == ClrRed) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/colourtarget.h"
 
 #include "document/numbers.h"
+#include "shell/colours.h"
 #include "shell/form1.h"
 
 namespace terramark {
@@ -16,6 +17,12 @@ std::int16_t NumberIn(const std::string& text) {
 
 }  // namespace
 
+void ShowPlayerColours(Form1& form) {
+  for (std::int16_t row = 0; row < PlayerColours; ++row) {
+    form.PlColor(row).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(row)]);
+  }
+}
+
 ColourTarget TargetOf(const Form1& form) {
   const std::string& tag = form.RGBFrame.Tag;
   if (tag.empty() || tag == NoTarget) return {};
@@ -29,7 +36,7 @@ void SetColourTarget(Form1& form, ColourTarget target) {
   form.RGBFrame.Tag = target.Of == ColourTarget::Kind::Region ? RegionMark + number : number;
 }
 
-void DropColourTarget(Form1& form) {
+void ForgetColourTarget(Form1& form) {
   form.RGBFrame.Enabled = false;
   form.RGBFrame.Tag = NoTarget;
 }

@@ -1,4 +1,5 @@
-// What the scroll bars of the colour panel edit. RGBFrame.Tag holds it, as a text.
+// The colour panel: the buttons of its colours, and what its scroll bars edit, which RGBFrame.Tag
+// holds as a text.
 #pragma once
 
 #include <cstdint>
@@ -23,10 +24,13 @@ struct ColourTarget {
 /// and a number for a Region.
 ColourTarget TargetOf(const Form1& form);
 
+/// Gives the buttons of PlayerRGB their colours.
+void ShowPlayerColours(Form1& form);
+
 /// Lets the bars move, for a target that is not none.
 void SetColourTarget(Form1& form, ColourTarget target);
 
 /// Holds the bars still and leaves them no target.
-void DropColourTarget(Form1& form);
+void ForgetColourTarget(Form1& form);
 
 }  // namespace terramark

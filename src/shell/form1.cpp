@@ -49,6 +49,9 @@ constexpr LimitRow Limits[] = {
 
 }  // namespace
 
+// The markers are numbered like the tables.
+static_assert(forms::ControlArray<forms::Label>::MaxElements == TableSize);
+
 Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
   Caption = "TERRAMARK 1";
   BackColor = LightGrey;

@@ -12,7 +12,6 @@
 
 namespace terramark {
 
-/// Behind a control stands its caption, or the word that a user knows it by.
 struct Form1 : forms::Form, Tables {
   /// Builds the controls from the control table. Form_Load then brings the editor up.
   explicit Form1(forms::Desktop& host);
@@ -26,8 +25,8 @@ struct Form1 : forms::Form, Tables {
   std::string LayoutFile;
   std::string HelpFile;
 
-  // Of the mouse on the markers (canvas/markermouse). Twips per screen pixel in whole numbers; from
-  // a place inside a marker to pixels. And where a drag took hold, in pixels from its corner.
+  // Of the mouse on the markers (canvas/markermouse): twips per screen pixel in whole numbers, and
+  // where a drag took hold, in pixels from the marker's corner.
   std::int16_t TwipsX = 0;
   std::int16_t TwipsY = 0;
   std::int16_t DragOffX = 0;
@@ -44,6 +43,8 @@ struct Form1 : forms::Form, Tables {
   static constexpr std::int16_t LockOff = 0;
   // Of the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
+
+  // Behind each control its caption, or the word that a user knows it by.
 
   // Above the picture
   forms::TextBox Text1{"Text1"};        // the header line of the layout

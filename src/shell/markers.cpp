@@ -41,20 +41,35 @@ forms::Color OwnColour(const forms::Label& marker) {
   return static_cast<forms::Color>(static_cast<std::int64_t>(ReadNumber(marker.Tag.Get())));
 }
 
-void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm form) {
+void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm text) {
   const auto number = static_cast<std::int32_t>(colour);
   marker.ForeColor = colour;
-  marker.Tag = form == TagForm::WithBlank ? NumberText(number) : PlainNumber(number);
+  marker.Tag = text == TagForm::WithBlank ? NumberText(number) : PlainNumber(number);
 }
 
-void PaintMarker(forms::Label& marker, forms::Color colour, TagForm form) {
-  SetOwnColour(marker, colour, form);
+void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text) {
+  SetOwnColour(marker, colour, text);
   marker.BackColor = ClrBlack;
 }
 
 void TakeRegionColour(forms::Label& area, const forms::Label& region) {
   area.ForeColor = OwnColour(region);
   area.Tag = region.Tag;
+}
+
+void WhitenRegion(Form1& form, std::int16_t region) {
+  PaintMarker(form.Continent(region), ClrWhite);
+  form.RegionRGB(region).fill(UnsetComponent);
+}
+
+void NameAnew(Form1& form, std::int16_t region) {
+  form.RegionName(region) = "Region" + NumberText(region);
+  form.Continent(region).Caption = form.RegionName(region);
+}
+
+void LeaveRegion(Form1& form, std::int16_t area) {
+  PaintMarker(form.ArmyAt(area), ClrWhite);
+  form.AreaRegion(area) = 0;
 }
 
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner) {

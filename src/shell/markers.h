@@ -32,23 +32,30 @@ enum class Look {
 Look LookOf(const forms::Label& marker);
 void Show(forms::Label& marker, Look look);
 
-/// The marker's own colour, which its Tag keeps as decimal text.
+/// The marker's own colour, which its Tag keeps as decimal text; black for a Tag without a number.
 forms::Color OwnColour(const forms::Label& marker);
 
 /// How a Tag's text begins. Both read as the same number.
 enum class TagForm { WithBlank, WithoutBlank };
 
 /// Gives a marker a colour of its own, as text colour and in the Tag. The background stays.
-void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm form);
+void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm text);
 
 /// Gives a marker a colour of its own and the plain look.
-void PaintMarker(forms::Label& marker, forms::Color colour, TagForm form = TagForm::WithBlank);
+void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagForm::WithBlank);
 
 /// Gives an Area's marker the own colour of its Region's, Tag and all. The background stays.
 void TakeRegionColour(forms::Label& area, const forms::Label& region);
 
-/// Makes a corner of an Area's marker its fill point, and shows it in the caption. The marker must
-/// exist.
+/// Takes a Region's colour away: its marker is white and plain, its components unset. The marker
+/// must exist, here and below.
+void WhitenRegion(Form1& form, std::int16_t region);
+/// Gives a Region the name of a new one, on its marker too.
+void NameAnew(Form1& form, std::int16_t region);
+/// Takes an Area out of its Region and makes its marker white and plain.
+void LeaveRegion(Form1& form, std::int16_t area);
+
+/// Makes a corner of an Area's marker its fill point, and shows it in the caption.
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner);
 
 }  // namespace terramark

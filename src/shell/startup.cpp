@@ -36,9 +36,7 @@ void Form_Load(Form1& form) {
   form.Move(0, 0);
   form.RGBFrame.Enabled = false;
   form.PlayerRGB = DefaultPlayerRGB;
-  for (std::int16_t i = 0; i < RegionButton; ++i) {
-    form.PlColor(i).BackColor = ColourOf(form.PlayerRGB[static_cast<std::size_t>(i)]);
-  }
+  ShowPlayerColours(form);
   form.PlColor(RegionButton).Enabled = false;
 
   form.ArmyAt(0).Visible = false;

@@ -71,9 +71,7 @@ Fault AreasLinked(const Tables& t) {
 
 Fault RegionSizes(const Tables& t) {
   return FirstOf(t.RegionCount, [&](std::int16_t r) -> Fault {
-    int members = 0;
-    for (std::int16_t i = 1; i <= t.AreaCount; ++i) members += t.AreaRegion(i) == r ? 1 : 0;
-    if (members >= 2) return std::nullopt;
+    if (MembersOf(t, r) >= 2) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " has <2 Areas";
   });
 }
@@ -141,14 +139,24 @@ struct Rule {
 };
 
 // In the order of testing, which is not that of the numbers.
+// clang-format off
 constexpr Rule Rules[] = {
     // status  test
-    {15, Picture},     {1, EnoughAreas},          {2, EnoughRegions},
-    {10, WholeHands},  {11, AreasInRegions},      {3, AreasLinked},
-    {4, RegionSizes},  {5, RegionsLinkedOutward}, {6, RegionsLinkedInside},
-    {7, LinksMutual},  {12, LinksNumbered},       {8, AreasNamed},
+    {15, Picture},
+    {1, EnoughAreas},
+    {2, EnoughRegions},
+    {10, WholeHands},
+    {11, AreasInRegions},
+    {3, AreasLinked},
+    {4, RegionSizes},
+    {5, RegionsLinkedOutward},
+    {6, RegionsLinkedInside},
+    {7, LinksMutual},
+    {12, LinksNumbered},
+    {8, AreasNamed},
     {9, RegionsNamed},
 };
+// clang-format on
 
 }  // namespace
 

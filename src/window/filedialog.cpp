@@ -10,6 +10,7 @@
 #include <QTreeView>
 #include <algorithm>
 
+#include "shell/filenames.h"
 #include "window/cp1252.h"
 
 namespace terramark::window {
@@ -24,7 +25,7 @@ struct FileKind {
   const char* Name;
 };
 
-constexpr FileKind Kinds[] = {{"*.tml", "Map Layouts"}, {"*.wmf;*.bmp", "Pictures"}};
+constexpr FileKind Kinds[] = {{LayoutFiles, "Map Layouts"}, {PictureFiles, "Pictures"}};
 
 QString Worded(const std::string& filter) {
   // Patterns stand between semicolons here and between blanks there.

@@ -52,7 +52,7 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
-      forHelp = forHelp || (heard_ && KeyMask(mouse.modifiers()) == forms::ShiftKey);
+      forHelp = forHelp || (heard_ && forms::AsksForHelp(KeyMask(mouse.modifiers())));
       Release(In(mouse), mouse.button(), mouse.modifiers());
       break;
     }
@@ -79,7 +79,7 @@ void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
     heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
-    asksHelp_ = heard_ && KeyMask(event.modifiers()) == forms::ShiftKey;
+    asksHelp_ = heard_ && forms::AsksForHelp(KeyMask(event.modifiers()));
   }
   if (held_) held_->setDown(true);
   form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));

@@ -49,10 +49,8 @@ TEST_F(EditorTablesTest, EveryButtonDoesSomething) {
       ShiftClick(Form.ArmyAt(2));
       Hover(*control);
       const std::size_t before = Screen.Asked();
-      Watcher seen;
-      Form.Observe(&seen);
+      const Watcher seen(Form);
       Click(*control);
-      Form.Observe(nullptr);
       acts = acts || seen.Changes > 0 || Screen.Asked() > before;
     }
     EXPECT_TRUE(acts) << control->Name() << " does nothing";

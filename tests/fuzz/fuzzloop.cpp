@@ -44,8 +44,8 @@ class Mutator {
 
  private:
   void MutateOnce(std::string& bytes) {
-    static constexpr std::array<const char*, 12> Pieces{
-        "\"", ",", "\r\n", "\n", " ", "-1", "99", "100", "32768", ".5", "0000", "\xFF\x7F"};
+    static constexpr auto Pieces = std::to_array<const char*>(
+        {"\"", ",", "\r\n", "\n", " ", "-1", "99", "100", "32768", ".5", "0000", "\xFF\x7F"});
     const std::size_t at = Below(bytes.size() + 1);
     const std::size_t length = Below(std::min<std::size_t>(bytes.size() - at, 64) + 1);
     const std::string& other = AnySeed();

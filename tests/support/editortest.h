@@ -26,12 +26,6 @@ class EditorTest : public testing::Test {
   ScriptedDesktop Screen;
   Form1 Form{Screen};
 
-  static forms::PixelPoint Middle(const forms::Control& control) {
-    const forms::PixelPoint origin = forms::InnerOrigin(control);
-    const forms::PixelRect bounds = forms::PixelBounds(control);
-    return {origin.X + bounds.Width / 2, origin.Y + bounds.Height / 2};
-  }
-
   using Bits = std::int16_t;
   void Press(forms::PixelPoint at, Bits shift = 0, Bits button = forms::LeftButton) {
     Form.Pointer.Press(at.X, at.Y, button, shift);
@@ -159,7 +153,7 @@ class EditorTest : public testing::Test {
     std::string all = "A" + std::to_string(Form.CurArea) + " R" + std::to_string(Form.CurRegion) +
                       " " + std::to_string(Form.MarkCount) + " ";
     const auto look = [&](const forms::Label& marker) {
-      all += marker.BackColor == ClrBlack ? '.' : marker.BackColor == ClrWhite ? '*' : 'o';
+      all += ".*o"[static_cast<int>(LookOf(marker))];
     };
     for (std::int16_t i = 1; i <= Form.AreaCount; ++i) look(Form.ArmyAt(i));
     all += ' ';

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,9 @@
 namespace terramark {
 
 /// Thrown where the process would end.
-struct Ended {
+struct Ended : std::runtime_error {
+  explicit Ended(int status)
+      : std::runtime_error("ended with " + std::to_string(status)), Status(status) {}
   int Status;
 };
 
@@ -26,8 +29,11 @@ inline forms::Picture BlankPicture(int width, int height, std::uint32_t pixel = 
   return raster;
 }
 
-/// Watches a form and keeps what most tests ask of a window.
+/// Watches a form as long as it lives, and keeps what most tests ask of a window.
 struct Watcher : forms::FormObserver {
+  explicit Watcher(forms::Form& form) : form_(form) { form.Observe(this); }
+  ~Watcher() { form_.Observe(nullptr); }
+
   int Changes = 0;
   int Added = 0;
   int Removed = 0;
@@ -40,6 +46,9 @@ struct Watcher : forms::FormObserver {
   void Refreshed(forms::Control&) override {}
   void DragMoved() override {}
   void Unloaded() override {}
+
+ private:
+  forms::Form& form_;
 };
 
 class ScriptedDesktop : public forms::Desktop {
@@ -107,7 +116,7 @@ class ScriptedDesktop : public forms::Desktop {
   }
   std::filesystem::path NativePath(const std::string& path) override { return path; }
   void EnterFolderOf(const std::string& path) override { Entered.push_back(path); }
-  [[noreturn]] void End(int status) override { throw Ended{status}; }
+  [[noreturn]] void End(int status) override { throw Ended(status); }
 
  private:
   template <typename T>

@@ -55,8 +55,9 @@ TEST(Window, EveryControlStandsWhereTheTableSaysOnAnyScreen) {
 TEST_F(WindowTest, NoCaptionIsCutOff) {
   for (const QPushButton* button : Window.findChildren<QPushButton*>()) {
     const QFontMetrics metrics(button->font());
-    EXPECT_LE(metrics.horizontalAdvance(button->text()), button->width() - 4);
-    EXPECT_LE(metrics.height(), button->height() - 4) << button->objectName().toStdString();
+    const std::string name = button->objectName().toStdString();
+    EXPECT_LE(metrics.horizontalAdvance(button->text()), button->width() - 4) << name;
+    EXPECT_LE(metrics.height(), button->height() - 4) << name;
   }
 }
 
