@@ -26,9 +26,13 @@ void Grab(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
 
 void TurnCorner(Form1& form, std::int16_t area) {
   const std::int16_t old = form.AreaCorner(area);
-  SetCorner(form, area, NextCorner(old));
+  if (IsCorner(old)) {
+    SetCorner(form, area, NextCorner(old));
+    return;
+  }
   // A code that names no corner shows none until the next turn.
-  if (!IsCorner(old)) form.ArmyAt(area).Caption = MarkerCaption(area, old);
+  form.AreaCorner(area) = NextCorner(old);
+  form.ArmyAt(area).Caption = MarkerCaption(area, old);
 }
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.

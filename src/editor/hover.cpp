@@ -25,6 +25,7 @@ bool BlanksHelpbar(const Form1& form, const forms::Control& control) {
   return false;
 }
 
+/// Blank is what their Tags say, since none has been given one.
 void JoinBlank(Form1& form, forms::Control& control) {
   if (!BlanksHelpbar(form, control)) return;
   control.MouseMove = [&form](const forms::MouseEvent&) { ShowHelpbar(form, ""); };
