@@ -10,8 +10,8 @@ struct Form1;
 /// The right button turns the fill corner clockwise; any other takes hold of the marker for a drag,
 /// unless the Shift key alone is down.
 void ArmyAt_MouseDown(Form1& form, const forms::MouseEvent& event);
-/// The release of a press that began no drag: flips the mark, or selects when
-/// no key is down by then.
+/// The release of a press that began no drag: flips the mark, or selects when no key is
+/// down by then.
 void ArmyAt_MouseUp(Form1& form, const forms::MouseEvent& event);
 void ArmyAt_MouseMove(Form1& form, const forms::MouseEvent& event);
 /// A drop on the dragged marker itself moves it by the travel, and without travel selects it. A

@@ -1,5 +1,6 @@
 #include "commands/addmarkers.h"
 
+#include "commands/regionstate.h"
 #include "document/links.h"
 #include "document/numbers.h"
 #include "selection/selection.h"

@@ -2,13 +2,12 @@
 
 #include <string>
 
+#include "commands/regionstate.h"
 #include "document/links.h"
-#include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
-#include "shell/markers.h"
 
 namespace terramark {
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "commands/markedareas.h"
+#include "commands/regionstate.h"
 #include "document/numbers.h"
 #include "selection/selection.h"
 #include "shell/bars.h"

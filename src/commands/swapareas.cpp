@@ -49,7 +49,7 @@ void SwapPlaces(forms::Label& first, forms::Label& second) {
 /// Shows an Area by its new Region and corner.
 void Repaint(Form1& form, std::int16_t area) {
   forms::Label& marker = form.ArmyAt(area);
-  // As the Region looks: of the current one that is black.
+  // The colour that the Region shows: while it is current that is black.
   PaintMarker(marker, form.Continent(form.AreaRegion(area)).ForeColor, TagForm::WithoutBlank);
   SetCorner(form, area, form.AreaCorner(area));
   marker.Refresh();

@@ -27,7 +27,9 @@ class ControlArray {
   const T& operator()(std::int16_t index) const { return *Existing(index); }
 
   /// The element, or null when there is none of that index, whatever the index.
-  T* Find(std::int16_t index) { return At(index); }
+  T* Find(std::int16_t index) const {
+    return InRange(index) ? elements_[static_cast<std::size_t>(index)].get() : nullptr;
+  }
 
   /// Creates an element at design time, with the defaults of its kind; not yet on a form. An
   /// element that exists is given as it is. An index out of range ends the program, here and in
@@ -69,11 +71,8 @@ class ControlArray {
     return index >= 0 && static_cast<std::size_t>(index) < MaxElements;
   }
   std::string NameOf(std::int16_t index) const { return name_ + "(" + std::to_string(index) + ")"; }
-  T* At(std::int16_t index) const {
-    return InRange(index) ? elements_[static_cast<std::size_t>(index)].get() : nullptr;
-  }
   T* Existing(std::int16_t index) const {
-    T* element = At(index);
+    T* element = Find(index);
     if (element == nullptr) Broken(NameOf(index) + " does not exist");
     return element;
   }

@@ -46,8 +46,7 @@ class PictureBox : public Control {
   void ScrollBy(int across, int down) { ScrollTo(ScrollLeft + across, ScrollTop + down); }
 
   /// Paints FillColor on the persistent image from a point of it outward up to pixels of the border
-  /// colour. A point outside the image or on the border paints nothing. Refresh shows
-  /// it.
+  /// colour. A point outside the image or on the border paints nothing. Refresh shows it.
   void FillToBorder(int x, int y, Color border);
 
   void PropertyChanged(PropertyId id) override;

@@ -25,7 +25,7 @@ void FlipMark(Form1& form, forms::Label& marker) {
     Show(marker, Look::Marked);
     ++form.MarkCount;
   }
-  if (form.RGBFrame.Enabled) ForgetColourTarget(form);
+  if (form.RGBFrame.Enabled) SetColourTarget(form, {});
 }
 
 void ShowName(Form1& form, const std::string& name, forms::Color colour) {
@@ -76,7 +76,7 @@ void ClearSelection(Form1& form) {
   form.MarkCount = 0;
   form.CurArea = 0;
   form.CurRegion = 0;
-  ForgetColourTarget(form);
+  SetColourTarget(form, {});
   form.PlColor(RegionButton).Enabled = false;
   ShowMessage(form, "", ClrGreen);
   form.EditText.Text = "";

@@ -1,5 +1,7 @@
 #include "shell/colourtarget.h"
 
+#include <string>
+
 #include "document/numbers.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
@@ -13,6 +15,18 @@ constexpr char RegionMark = 'R';
 
 std::int16_t NumberIn(const std::string& text) {
   return WholeNumber(ReadNumber(text)).value_or(0);
+}
+
+std::string TagOf(ColourTarget target) {
+  switch (target.Of) {
+    case ColourTarget::Kind::Player:
+      return PlainNumber(target.Number);
+    case ColourTarget::Kind::Region:
+      return RegionMark + PlainNumber(target.Number);
+    case ColourTarget::Kind::None:
+      break;
+  }
+  return NoTarget;
 }
 
 }  // namespace
@@ -31,14 +45,8 @@ ColourTarget TargetOf(const Form1& form) {
 }
 
 void SetColourTarget(Form1& form, ColourTarget target) {
-  const std::string number = PlainNumber(target.Number);
-  form.RGBFrame.Enabled = true;
-  form.RGBFrame.Tag = target.Of == ColourTarget::Kind::Region ? RegionMark + number : number;
-}
-
-void ForgetColourTarget(Form1& form) {
-  form.RGBFrame.Enabled = false;
-  form.RGBFrame.Tag = NoTarget;
+  form.RGBFrame.Enabled = target.Of != ColourTarget::Kind::None;
+  form.RGBFrame.Tag = TagOf(target);
 }
 
 }  // namespace terramark

@@ -27,10 +27,7 @@ ColourTarget TargetOf(const Form1& form);
 /// Gives the buttons of PlayerRGB their colours.
 void ShowPlayerColours(Form1& form);
 
-/// Lets the bars move, for a target that is not none.
+/// Lets the bars move for a target, and holds them still for none.
 void SetColourTarget(Form1& form, ColourTarget target);
-
-/// Holds the bars still and leaves them no target.
-void ForgetColourTarget(Form1& form);
 
 }  // namespace terramark

@@ -57,21 +57,6 @@ void TakeRegionColour(forms::Label& area, const forms::Label& region) {
   area.Tag = region.Tag;
 }
 
-void WhitenRegion(Form1& form, std::int16_t region) {
-  PaintMarker(form.Continent(region), ClrWhite);
-  form.RegionRGB(region).fill(UnsetComponent);
-}
-
-void NameAnew(Form1& form, std::int16_t region) {
-  form.RegionName(region) = "Region" + NumberText(region);
-  form.Continent(region).Caption = form.RegionName(region);
-}
-
-void LeaveRegion(Form1& form, std::int16_t area) {
-  PaintMarker(form.ArmyAt(area), ClrWhite);
-  form.AreaRegion(area) = 0;
-}
-
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner) {
   form.AreaCorner(area) = corner;
   form.ArmyAt(area).Caption = MarkerCaption(area, corner);

@@ -47,15 +47,8 @@ void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagFo
 /// Gives an Area's marker the own colour of its Region's, Tag and all. The background stays.
 void TakeRegionColour(forms::Label& area, const forms::Label& region);
 
-/// Takes a Region's colour away: its marker is white and plain, its components unset. The marker
-/// must exist, here and below.
-void WhitenRegion(Form1& form, std::int16_t region);
-/// Gives a Region the name of a new one, on its marker too.
-void NameAnew(Form1& form, std::int16_t region);
-/// Takes an Area out of its Region and makes its marker white and plain.
-void LeaveRegion(Form1& form, std::int16_t area);
-
-/// Makes a corner of an Area's marker its fill point, and shows it in the caption.
+/// Makes a corner of an Area's marker its fill point, and shows it in the caption. The marker
+/// must exist.
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner);
 
 }  // namespace terramark
