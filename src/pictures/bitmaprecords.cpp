@@ -1,13 +1,18 @@
-#include <QImage>
+#include <memory>
 #include <optional>
+#include <utility>
 
 #include "pictures/blit.h"
 #include "pictures/dib.h"
-#include "pictures/newimage.h"
+#include "pictures/limits.h"
 #include "pictures/recordplayers.h"
 
 namespace terramark::pictures {
 namespace {
+
+constexpr int TwoColourPlanes = 0x0101;  // one plane of one bit a pixel
+constexpr std::int64_t WorkPerBitmapPixel = 1;
+constexpr std::int64_t WorkPerKeptPixel = 12;
 
 // How a record carries its bitmap.
 enum class BitmapForm { TwoColours, Packed, PackedPaletteIndices };
@@ -16,49 +21,67 @@ BitmapForm PackedForm(int colourUse) {
   return colourUse == PaletteColours ? BitmapForm::PackedPaletteIndices : BitmapForm::Packed;
 }
 
-QImage DecodePacked(DeviceContext& context, QByteArrayView dib, BitmapForm form) {
-  if (dib.isEmpty() || !context.Target().Spend(dib.size())) return {};
-  QImage image = form == BitmapForm::PackedPaletteIndices
-                     ? DecodeDib(dib, context.State.CurrentPalette)
-                     : DecodeDib(dib, std::nullopt);
-  return context.Target().Spend(std::int64_t{4} * image.width() * image.height()) ? image
-                                                                                  : QImage();
+// The size of the bitmap in a record; none when it is broken or too large.
+std::optional<DibShape> ShapeOf(const MetafileRecord& record, qsizetype at, BitmapForm form) {
+  if (form != BitmapForm::TwoColours) return ShapeOfDib(record.From(at));
+  const DibShape shape{.Width = record.Int(at + 1), .Height = record.Int(at + 2)};
+  const bool mono = record.Word(at + 4) == TwoColourPlanes;
+  if (!mono || shape.Width < 1 || shape.Height < 1 || shape.Pixels() > MaxBitmapPixels ||
+      record.Int(at + 3) < (shape.Width + 7) / 8) {
+    return std::nullopt;
+  }
+  return shape;
 }
 
 // The older bitmap of two colours: clear bits show the text colour, set bits the background.
-QImage DecodeTwoColours(const DeviceContext& context, const MetafileRecord& record, qsizetype at,
-                        qsizetype bitsAt) {
-  const int width = record.Int(at + 1);
-  const int height = record.Int(at + 2);
-  const int rowBytes = record.Int(at + 3);
+forms::Picture DecodeTwoColours(const DeviceContext& context, const MetafileRecord& record,
+                                qsizetype at, qsizetype bitsAt) {
+  const DibShape shape{.Width = record.Int(at + 1), .Height = record.Int(at + 2)};
+  const qsizetype rowBytes = record.Int(at + 3);
   const QByteArrayView bits = record.From(bitsAt);
-  const bool mono = record.Word(at + 4) == 0x0101;
-  if (!mono || width < 1 || height < 1 || rowBytes < (width + 7) / 8) return {};
-  if (bits.size() < qsizetype{rowBytes} * height) return {};
+  if (bits.size() < rowBytes * shape.Height) return nullptr;
   const QRgb clear = context.Resolve(context.State.TextColour);
   const QRgb set = context.Resolve(context.State.BackColour);
-  QImage image = NewImage({width, height}, QImage::Format_RGB32);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const int byte = static_cast<unsigned char>(bits[qsizetype{y} * rowBytes + x / 8]);
-      image.setPixel(x, y, (byte >> (7 - x % 8) & 1) != 0 ? set : clear);
+  auto image = std::make_shared<forms::Raster>();
+  image->Width = shape.Width;
+  image->Height = shape.Height;
+  image->Pixels.reserve(image->At(0, shape.Height));
+  for (int y = 0; y < shape.Height; ++y) {
+    for (int x = 0; x < shape.Width; ++x) {
+      const int byte = static_cast<unsigned char>(bits[y * rowBytes + x / 8]);
+      image->Pixels.push_back((byte >> (7 - x % 8) & 1) != 0 ? set : clear);
     }
   }
   return image;
 }
 
+// The bitmap at the word `at` of the record; null when it is broken, or when the work that is left
+// does not reach for it.
+forms::Picture Decode(DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                      BitmapForm form, qsizetype twoColourBitsAt) {
+  const std::optional<DibShape> shape = ShapeOf(record, at, form);
+  if (!shape || !context.Target().Spend(WorkPerBitmapPixel * shape->Pixels() + record.Words())) {
+    return nullptr;
+  }
+  switch (form) {
+    case BitmapForm::TwoColours:
+      return DecodeTwoColours(context, record, at, twoColourBitsAt);
+    case BitmapForm::PackedPaletteIndices:
+      return DecodeDib(record.From(at), context.State.CurrentPalette);
+    case BitmapForm::Packed:
+      return DecodeDib(record.From(at), std::nullopt);
+  }
+  return nullptr;
+}
+
 // Draws the bitmap at the word `at` of the record.
 void DrawBitmap(DeviceContext& context, Blit blit, const MetafileRecord& record, qsizetype at,
                 BitmapForm form) {
-  if (form == BitmapForm::TwoColours) {
-    blit.Source = DecodeTwoColours(context, record, at, at + 5);
-  } else {
-    const QByteArrayView dib = record.From(at);
-    blit.Source = DecodePacked(context, dib, form);
-    // A packed bitmap's source rows are counted from the first stored one.
-    if (!blit.Source.isNull() && IsBottomUp(dib)) {
-      blit.From.moveTop(blit.Source.height() - blit.From.top() - blit.From.height());
-    }
+  if (!ShapeOf(record, at, form) || !BlitTouches(context, blit)) return;
+  blit.Source = Decode(context, record, at, form, at + 5);
+  // A packed bitmap's source rows are counted from the first stored one.
+  if (blit.Source && form != BitmapForm::TwoColours && ShapeOfDib(record.From(at))->BottomUp) {
+    blit.From.moveTop(blit.Source->Height - blit.From.top() - blit.From.height());
   }
   DrawBlit(context, blit);
 }
@@ -107,13 +130,16 @@ void PlaySetDib(DeviceContext& context, const MetafileRecord& record) {
   DrawBitmap(context, blit, record, 9, PackedForm(record.Word(0)));
 }
 
-void CreatePattern(DeviceContext& context, QImage tile) {
-  // A brush may be kept, so its memory weighs more than pixels that are painted.
-  context.Target().Spend(std::int64_t{12} * tile.width() * tile.height());
-  Brush brush;
-  brush.Style = tile.isNull() ? BrushStyle::None : BrushStyle::Pattern;
-  brush.Tile = std::move(tile);
-  context.Target().Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(brush))));
+// A brush that fails keeps its number all the same: the file counts on it.
+void CreatePattern(DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                   BitmapForm form, qsizetype twoColourBitsAt) {
+  GraphicsObject object = Unusable();
+  if (forms::Picture tile = Decode(context, record, at, form, twoColourBitsAt)) {
+    // It may be kept, so its memory weighs more than pixels that are painted.
+    context.Target().Spend(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
+    object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};
+  }
+  context.Target().Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
 }
 
 }  // namespace
@@ -147,10 +173,10 @@ bool PlayBitmapRecord(DeviceContext& context, const MetafileRecord& record) {
       PlaySetDib(context, record);
       return true;
     case RecordKind::DibCreatePatternBrush:
-      CreatePattern(context, DecodePacked(context, record.From(2), PackedForm(record.Word(1))));
+      CreatePattern(context, record, 2, PackedForm(record.Word(1)), 0);
       return true;
     case RecordKind::CreatePatternBrush:  // the bitmap's head, then 20 unused words, then its bits
-      CreatePattern(context, DecodeTwoColours(context, record, 0, 25));
+      CreatePattern(context, record, 0, BitmapForm::TwoColours, 25);
       return true;
     default:
       return false;

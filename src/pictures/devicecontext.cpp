@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "pictures/limits.h"
+
 namespace terramark::pictures {
 namespace {
 
-constexpr std::size_t MaxSaves = 256;
-constexpr double MaxDevice = 1 << 24;
 constexpr int HatchSide = 8;
 
 int Rounded(double value) {
@@ -27,13 +27,15 @@ constexpr std::uint8_t Hatches[][HatchSide] = {
     {0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81},  // diagonal cross
 };
 
-QImage HatchTile(int hatch, QRgb line, QRgb ground) {
-  QImage tile(HatchSide, HatchSide, QImage::Format_ARGB32);
+forms::Picture HatchTile(int hatch, QRgb line, QRgb ground) {
+  auto tile = std::make_shared<forms::Raster>();
+  tile->Width = HatchSide;
+  tile->Height = HatchSide;
   const auto& rows = Hatches[std::clamp<std::ptrdiff_t>(hatch, 0, std::ssize(Hatches) - 1)];
   for (int y = 0; y < HatchSide; ++y) {
     for (int x = 0; x < HatchSide; ++x) {
       const bool on = (rows[y] >> (HatchSide - 1 - x) & 1) != 0;
-      tile.setPixel(x, y, on ? line : ground);
+      tile->Pixels.push_back(on ? line : ground);
     }
   }
   return tile;

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "pictures/limits.h"
 #include "pictures/newimage.h"
 
 namespace terramark::pictures {
@@ -22,8 +23,6 @@ constexpr std::uint32_t Uncompressed = 0;
 constexpr std::uint32_t RunLength8 = 1;
 constexpr std::uint32_t RunLength4 = 2;
 constexpr std::uint32_t BitFields = 3;
-// No real run-length coded picture packs more pixels into a byte.
-constexpr qint64 MaxPixelsPerByte = 1024;
 
 struct DibHeader {
   std::uint32_t Bytes = 0;
@@ -113,7 +112,8 @@ QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bi
   const qint64 pixels = header.Width * std::abs(header.Height);
   const qint64 wanted = header.RowBytes() * std::abs(header.Height);
   const qint64 present = std::min<qint64>(bits.size(), header.RunLength() ? bits.size() : wanted);
-  if (header.RunLength() ? pixels / MaxPixelsPerByte > present : present < wanted / 2) return {};
+  if (header.RunLength() ? pixels / MaxPixelsPerCodedByte > present : present < wanted / 2)
+    return {};
 
   QByteArray file("BM");
   file.append(LongBytes(0)).append(LongBytes(0));
@@ -147,38 +147,53 @@ QImage Decode(const DibHeader& header, const QByteArray& head, QByteArrayView bi
 
 }  // namespace
 
-QImage DecodeDib(QByteArrayView dib, std::optional<qsizetype> bitsAt) {
+forms::Picture PictureOf(const QImage& image) {
+  if (image.isNull()) return nullptr;
+  auto raster = std::make_shared<forms::Raster>();
+  raster->Width = image.width();
+  raster->Height = image.height();
+  raster->Pixels.reserve(raster->At(0, raster->Height));
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    raster->Pixels.insert(raster->Pixels.end(), row, row + image.width());
+  }
+  return raster;
+}
+
+forms::Picture DecodeDib(QByteArrayView dib, std::optional<qsizetype> bitsAt) {
   const std::optional<DibHeader> header = ReadHeader(dib);
-  if (!header || !IsSound(*header)) return {};
+  if (!header || !IsSound(*header)) return nullptr;
   const qsizetype tableAt = qsizetype{header->Bytes} + header->MaskBytes();
   const qsizetype tableEnd = tableAt + header->Colours() * (header->Core() ? 3 : 4);
   // Some files keep fewer colours than they claim: their rows then start inside the table.
   const qsizetype bits = bitsAt.value_or(tableEnd);
-  if (bits < tableAt || bits > dib.size()) return {};
+  if (bits < tableAt || bits > dib.size()) return nullptr;
   QByteArray head = dib.first(std::min(bits, tableEnd)).toByteArray();
   head.append(tableEnd - head.size(), '\0');
-  return Decode(*header, head, dib.sliced(bits));
+  return PictureOf(Decode(*header, head, dib.sliced(bits)));
 }
 
-QImage DecodeDib(QByteArrayView dib, const Palette& palette) {
+forms::Picture DecodeDib(QByteArrayView dib, const Palette& palette) {
   const std::optional<DibHeader> header = ReadHeader(dib);
   if (!header || !IsSound(*header) || header->Core() || header->BitCount > 8) {
     return DecodeDib(dib, std::nullopt);
   }
   const qsizetype tableAt = qsizetype{header->Bytes};
   const qsizetype bits = tableAt + header->Colours() * 2;
-  if (bits > dib.size()) return {};
+  if (bits > dib.size()) return nullptr;
   QByteArray head = dib.first(tableAt).toByteArray();
   for (qsizetype i = 0; i < header->Colours(); ++i) {
     const std::size_t entry = Word(dib, tableAt + 2 * i);
     head += LongBytes(entry < palette.Entries.size() ? palette.Entries[entry] & 0xFFFFFF : 0);
   }
-  return Decode(*header, head, dib.sliced(bits));
+  return PictureOf(Decode(*header, head, dib.sliced(bits)));
 }
 
-bool IsBottomUp(QByteArrayView dib) {
+std::optional<DibShape> ShapeOfDib(QByteArrayView dib) {
   const std::optional<DibHeader> header = ReadHeader(dib);
-  return !header || header->Height > 0;
+  if (!header || !IsSound(*header)) return std::nullopt;
+  return DibShape{static_cast<int>(header->Width), static_cast<int>(std::abs(header->Height)),
+                  header->Height > 0};
 }
 
 }  // namespace terramark::pictures

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "pictures/limits.h"
+
 namespace terramark::pictures {
 namespace {
-
-constexpr std::size_t MaxObjects = 65536;
 
 Pen ReadPen(const MetafileRecord& record) {
   constexpr int StyleBits = 0x0F;
@@ -41,10 +41,9 @@ Font ReadFont(const MetafileRecord& record) {
 }
 
 Palette ReadPalette(const MetafileRecord& record) {
-  constexpr qsizetype MaxEntries = 1024;
   Palette palette;
   const qsizetype count =
-      std::min<qsizetype>({record.Word(1), (record.Words() - 2) / 2, MaxEntries});
+      std::min<qsizetype>({record.Word(1), (record.Words() - 2) / 2, MaxPaletteEntries});
   for (qsizetype i = 0; i < count; ++i) {
     const std::uint32_t entry = record.Long(2 + 2 * i);
     palette.Entries.push_back(qRgb(entry & 0xFF, entry >> 8 & 0xFF, entry >> 16 & 0xFF));
@@ -53,12 +52,14 @@ Palette ReadPalette(const MetafileRecord& record) {
 }
 
 // Scans: how many edges, top, bottom, the edges in pairs, and how many once more.
-Region ReadRegion(const MetafileRecord& record) {
+GraphicsObject ReadRegion(const MetafileRecord& record) {
   Region region;
   qsizetype at = 11;
-  for (int scan = 0; scan < record.Word(5) && at < record.Words(); ++scan) {
+  for (int scan = 0; scan < record.Word(5); ++scan) {
     const int edges = record.Word(at);
-    for (int i = 0; i + 1 < edges && at + 4 + i < record.Words(); i += 2) {
+    const bool whole = at + edges + 4 <= record.Words() && record.Word(at + edges + 3) == edges;
+    if (!whole || edges % 2 != 0) return Unusable();
+    for (int i = 0; i < edges; i += 2) {
       region.Rects.emplace_back(QPoint(record.Int(at + 3 + i), record.Int(at + 1)),
                                 QPoint(record.Int(at + 4 + i) - 1, record.Int(at + 2) - 1));
     }

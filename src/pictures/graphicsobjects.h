@@ -3,12 +3,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QRect>
 #include <cstdint>
 #include <variant>
 #include <vector>
 
+#include "forms/raster.h"
 #include "pictures/metafilereader.h"
 
 namespace terramark::pictures {
@@ -30,8 +30,8 @@ enum class BrushStyle { Solid = 0, None = 1, Hatched = 2, Pattern = 3 };
 struct Brush {
   BrushStyle Style = BrushStyle::Solid;
   ColourRef Colour = WhiteRef;
-  int Hatch = 0;  // 0 to 5: horizontal, vertical, the two diagonals, cross, diagonal cross
-  QImage Tile;    // of a pattern, 32 bit
+  int Hatch = 0;        // 0 to 5: horizontal, vertical, the two diagonals, cross, diagonal cross
+  forms::Picture Tile;  // of a pattern
 };
 
 struct Font {
@@ -55,10 +55,14 @@ struct Region {
   std::vector<QRect> Rects;  // logical where they are painted, pixels where they clip
 };
 
-using GraphicsObject = std::variant<std::monostate, Pen, Brush, Font, Palette, Region>;
+/// An object whose creation failed. It keeps its number; to select it changes nothing.
+struct Unusable {};
 
-/// The object a creation record describes, with 0 for what the record lacks; monostate for any
-/// other record. Bitmap brushes are made elsewhere.
+using GraphicsObject = std::variant<std::monostate, Pen, Brush, Font, Palette, Region, Unusable>;
+
+/// The object a creation record describes, with 0 for what the record lacks; Unusable for a region
+/// whose scans do not fit the record, monostate for any other record. Bitmap brushes are made
+/// elsewhere.
 GraphicsObject ReadObject(const MetafileRecord& record);
 
 /// The objects by number; a new one takes the lowest number that is free.

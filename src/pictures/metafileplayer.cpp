@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "pictures/devicecontext.h"
+#include "pictures/limits.h"
 #include "pictures/metafilereader.h"
 #include "pictures/recordplayers.h"
 
@@ -44,7 +45,7 @@ QRect MeasureDrawing(QByteArrayView bytes) {
 
 }  // namespace
 
-QImage PlayMetafile(QByteArrayView bytes, QSize size) {
+forms::Picture PlayMetafile(QByteArrayView bytes, QSize size) {
   if (!MetafileReader::Recognises(bytes) || size.isEmpty()) return {};
   Frame frame;
   bool measured = false;
@@ -61,7 +62,7 @@ QImage PlayMetafile(QByteArrayView bytes, QSize size) {
   Surface surface(size, false);
   DeviceContext context(surface, frame, size, measured);
   PlayRecords(context, bytes);
-  return surface.Image();
+  return surface.TakeImage();
 }
 
 }  // namespace terramark::pictures

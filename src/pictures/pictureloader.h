@@ -2,7 +2,6 @@
 // box that will show it.
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
 #include <string_view>
 
@@ -10,15 +9,9 @@
 
 namespace terramark::pictures {
 
-/// Larger files are not read.
-constexpr std::size_t MaxPictureFileBytes = std::size_t{64} * 1024 * 1024;
-/// The box is cut down to this, in pixels each way.
-constexpr int MaxPictureBoxSide = 4096;
-
 /// The picture in the file at `path`, told by its content and never by its name. A bitmap has its
-/// own size, at most 16,384 pixels each way and 32 million in all, and takes no notice of the box.
-/// A metafile fills the box, in pixels; past a million records, or the work of some seconds, it
-/// stops with what is drawn. Null when the file cannot be read, is too large or holds neither kind,
+/// own size and takes no notice of the box. A metafile fills the box, in pixels. Limits stand in
+/// limits.h. Null when the file cannot be read, is too large or holds neither kind,
 /// when the box of a metafile is empty, or when the library that decodes bitmaps finds no memory
 /// for one; std::bad_alloc when none is left for anything else.
 forms::Picture LoadPictureFile(const std::filesystem::path& path, int boxWidth, int boxHeight);

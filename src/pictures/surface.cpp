@@ -8,6 +8,7 @@ namespace terramark::pictures {
 namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
+constexpr QRgb White = 0xFFFFFFFF;
 constexpr std::int64_t WorkPerCrossing = 4;
 constexpr std::int64_t WorkPerFloodPixel = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
@@ -26,10 +27,10 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
 
 }  // namespace
 
-Surface::Surface(QSize size, bool measuring)
-    : image_(NewImage(measuring ? QSize(1, 1) : size, QImage::Format_RGB32)),
-      measuring_(measuring) {
-  image_.fill(Qt::white);
+Surface::Surface(QSize size, bool measuring) : measuring_(measuring) {
+  image_.Width = measuring ? 1 : size.width();
+  image_.Height = measuring ? 1 : size.height();
+  image_.Pixels.assign(image_.At(0, image_.Height), White);
 }
 
 bool Surface::Spend(std::int64_t work) {
@@ -49,16 +50,14 @@ bool Surface::Touch(const QRect& bounds) {
 
 void Surface::Span(int y, int x0, int x1, const Paint& paint) {
   if (!Spend(x1 - x0)) return;
-  auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
-  const QImage& pattern = paint.Pattern;
+  QRgb* row = Row(y);
+  const forms::Raster* pattern = paint.Pattern.get();
   const QRgb* tile = nullptr;
-  if (!pattern.isNull()) {
-    tile = reinterpret_cast<const QRgb*>(pattern.constScanLine(y % pattern.height()));
-  }
+  if (pattern != nullptr) tile = pattern->Pixels.data() + pattern->At(0, y % pattern->Height);
   const uchar* open = clip_.isNull() ? nullptr : clip_.constScanLine(y);
   for (int x = x0; x < x1; ++x) {
     if (open != nullptr && open[x] == 0) continue;
-    const QRgb colour = tile == nullptr ? paint.Colour : tile[x % pattern.width()];
+    const QRgb colour = tile == nullptr ? paint.Colour : tile[x % pattern->Width];
     if (qAlpha(colour) == 0) continue;
     row[x] =
         paint.Operation == CopyOperation ? colour : CombineBinary(paint.Operation, colour, row[x]);
@@ -99,7 +98,7 @@ void Surface::Polygons(const std::vector<QPolygonF>& polygons, bool winding, con
 
 void Surface::Put(QPoint at, QRgb colour) {
   if (Clipped(at.x(), at.y())) return;
-  reinterpret_cast<QRgb*>(image_.scanLine(at.y()))[at.x()] = colour;
+  Row(at.y())[at.x()] = colour;
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
@@ -109,7 +108,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
   QImage inside = NewImage(Area().size(), QImage::Format_Grayscale8);
   inside.fill(0);
   const auto fills = [&](int x, int y) {
-    const bool same = (image_.pixel(x, y) & 0xFFFFFF) == (colour & 0xFFFFFF);
+    const bool same = (At({x, y}) & 0xFFFFFF) == (colour & 0xFFFFFF);
     return same != border && inside.constScanLine(y)[x] == 0 && !Clipped(x, y);
   };
   std::vector<QPoint> pending{seed};
@@ -137,7 +136,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
 }
 
 QImage Surface::NewClip(std::uint8_t value) const {
-  QImage clip = NewImage(image_.size(), QImage::Format_Grayscale8);
+  QImage clip = NewImage(Area().size(), QImage::Format_Grayscale8);
   clip.fill(value);
   return clip;
 }

@@ -7,8 +7,12 @@
 #include <QRect>
 #include <QRgb>
 #include <cstdint>
+#include <memory>
+#include <utility>
 #include <vector>
 
+#include "forms/raster.h"
+#include "pictures/limits.h"
 #include "pictures/metafilerecords.h"
 #include "pictures/scanconvert.h"
 
@@ -21,24 +25,20 @@ struct Paint {
   QRgb Colour = 0xFF000000;
   /// When not null, tiled from the raster's top left corner in place of Colour; where its alpha is
   /// 0 nothing is painted.
-  QImage Pattern;
+  forms::Picture Pattern;
 };
 
 /// Starts white. In measuring mode nothing is painted; it only learns what would be.
 class Surface {
  public:
-  /// The work one picture may cost, counted in pixels touched or the like: about 2,000 fills of a
-  /// box of the usual size, some seconds at worst.
-  static constexpr std::int64_t WorkLimit = 300'000'000;
-
   /// `size` is in pixels and not empty. std::bad_alloc when the memory does not reach, as in
   /// whatever makes a clip or a mask.
   Surface(QSize size, bool measuring);
 
-  /// Format_RGB32.
-  const QImage& Image() const { return image_; }
+  /// What has been drawn; the surface is of no use afterwards.
+  forms::Picture TakeImage() { return std::make_shared<forms::Raster>(std::move(image_)); }
   /// All coordinates are pixels of this, from its top left corner.
-  QRect Area() const { return image_.rect(); }
+  QRect Area() const { return {0, 0, image_.Width, image_.Height}; }
 
   /// Takes `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
   bool Spend(std::int64_t work);
@@ -62,7 +62,7 @@ class Surface {
   /// A pixel as a blit writes it, past the paint's operation but not past the clip. It must lie
   /// inside Area(), as that of At.
   void Put(QPoint at, QRgb colour);
-  QRgb At(QPoint at) const { return image_.pixel(at); }
+  QRgb At(QPoint at) const { return image_.Pixels[image_.At(at.x(), at.y())]; }
   /// Fills from `seed` over the pixels of `colour`, or, when `border`, up to those of `colour`.
   /// A seed outside Area() fills nothing.
   void Flood(QPoint seed, QRgb colour, bool border, const Paint& paint);
@@ -83,7 +83,9 @@ class Surface {
   void FillClip(const QRect& rect, std::uint8_t value);
   QImage NewClip(std::uint8_t value) const;
 
-  QImage image_;
+  QRgb* Row(int y) { return image_.Pixels.data() + image_.At(0, y); }
+
+  forms::Raster image_;
   QImage clip_;
   bool measuring_;
   QRect measured_;

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "pictures/limits.h"
 #include "pictures/picturebytes.h"
 
 namespace terramark::pictures {
@@ -86,7 +87,7 @@ TEST(PictureLoader, TellsTheKindByContentAndNotByName) {
   EXPECT_EQ(widthOf("empty.bmp", ""), 0);
   EXPECT_EQ(load("missing.bmp"), nullptr);
   EXPECT_EQ(load("."), nullptr);
-  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), qint64{MaxPictureFileBytes} + 1));
+  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), qint64{MaxMetafileBytes} + 1));
   EXPECT_EQ(load("map.wmf"), nullptr);
 }
 
