@@ -9,6 +9,7 @@ namespace terramark::pictures {
 namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
+constexpr std::int64_t WorkPerBlit = 200;
 constexpr std::int64_t WorkPerBlitPixel = 8;
 
 // One axis of a blit: which source pixels a destination pixel stands for.
@@ -164,7 +165,7 @@ void DrawBlit(DeviceContext& context, const Blit& blit) {
   Surface& target = context.Target();
   if (UsesPattern(blit.Rop) && !context.HasBrush()) return;
   if (UsesSource(blit.Rop) && !blit.Source) return;
-  if (!BlitTouches(context, blit)) return;
+  if (!BlitTouches(context, blit) || !target.Spend(WorkPerBlit)) return;
   const Axes axes = AxesOf(context, blit);
   const QRect visible = axes.Box().intersected(target.Area());
   if (!target.Spend(WorkPerBlitPixel * visible.width() * visible.height())) return;

@@ -31,7 +31,7 @@ forms::Picture HatchTile(int hatch, QRgb line, QRgb ground) {
   auto tile = std::make_shared<forms::Raster>();
   tile->Width = HatchSide;
   tile->Height = HatchSide;
-  const auto& rows = Hatches[std::clamp<std::ptrdiff_t>(hatch, 0, std::ssize(Hatches) - 1)];
+  const auto& rows = Hatches[hatch];
   for (int y = 0; y < HatchSide; ++y) {
     for (int x = 0; x < HatchSide; ++x) {
       const bool on = (rows[y] >> (HatchSide - 1 - x) & 1) != 0;
@@ -114,7 +114,8 @@ QRgb DeviceContext::Resolve(ColourRef colour) const {
 }
 
 int DeviceContext::PenWidth() const {
-  return std::max(1, std::abs(Rounded(State.CurrentPen.Width * Scale().x())));
+  const QPoint start = ToDevice(QPointF(0, 0));
+  return std::max(1, std::abs(ToDevice(QPointF(State.CurrentPen.Width, 0)).x() - start.x()));
 }
 
 Paint DeviceContext::PenPaint() const {

@@ -9,11 +9,16 @@
 namespace terramark::pictures {
 namespace {
 
+constexpr std::int64_t WorkPerPoint = 16;
+
 // A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
-std::vector<QPoint> ReadPoints(const DeviceContext& context, const MetafileRecord& record,
-                               qsizetype at, int count) {
+std::vector<QPoint> ReadPoints(DeviceContext& context, const MetafileRecord& record, qsizetype at,
+                               int count) {
+  const qsizetype present = std::clamp<qsizetype>((record.Words() - at) / 2, 0, count);
+  if (!context.Target().Spend(WorkPerPoint * present)) return {};
   std::vector<QPoint> points;
-  for (qsizetype i = 0; i < count && at + 2 * i + 1 < record.Words(); ++i) {
+  points.reserve(static_cast<std::size_t>(present));
+  for (qsizetype i = 0; i < present; ++i) {
     points.push_back(context.ToDevice(QPointF(record.Int(at + 2 * i), record.Int(at + 2 * i + 1))));
   }
   return points;

@@ -17,7 +17,9 @@ Pen ReadPen(const MetafileRecord& record) {
 }
 
 Brush ReadBrush(const MetafileRecord& record) {
-  const auto style = BrushStyle{record.Word(0)};
+  auto style = BrushStyle{record.Word(0)};
+  // The numbers behind the hatches stand for plain colours.
+  if (style == BrushStyle::Hatched && record.Word(3) > LastHatch) style = BrushStyle::Solid;
   return {.Style = style <= BrushStyle::Hatched ? style : BrushStyle::None,
           .Colour = record.Long(1),
           .Hatch = record.Word(3),

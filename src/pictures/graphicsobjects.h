@@ -25,6 +25,8 @@ struct Pen {
   ColourRef Colour = 0;
 };
 
+constexpr int LastHatch = 5;
+
 enum class BrushStyle { Solid = 0, None = 1, Hatched = 2, Pattern = 3 };
 
 struct Brush {

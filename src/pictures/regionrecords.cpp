@@ -1,50 +1,93 @@
-#include <QRegion>
+#include <QImage>
 #include <algorithm>
 #include <cmath>
 
+#include "pictures/newimage.h"
 #include "pictures/recordplayers.h"
 
 namespace terramark::pictures {
 namespace {
 
-// Regions are painted in logical units, unlike the clip that is made of them.
-std::vector<QRect> RegionRects(const DeviceContext& context, std::size_t number) {
+constexpr std::int64_t WorkPerRect = 10;
+constexpr std::int64_t WorkPerFramePixel = 5;
+
+// Regions are painted in logical units, unlike the clip that is made of them. None for a number
+// that is no region's.
+std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   std::vector<QRect> rects;
   const auto* region = std::get_if<Region>(&context.Objects.At(number));
-  if (region == nullptr) return rects;
+  if (region == nullptr || !context.Target().Spend(WorkPerRect * std::ssize(region->Rects))) {
+    return rects;
+  }
   for (const QRect& rect : region->Rects) {
     rects.push_back(context.ToDevice(rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1));
   }
   return rects;
 }
 
-Paint NumberedBrush(const DeviceContext& context, std::size_t number) {
+Brush NumberedBrush(const DeviceContext& context, std::size_t number) {
   const auto* brush = std::get_if<Brush>(&context.Objects.At(number));
-  return context.BrushPaint(brush == nullptr ? context.State.CurrentBrush : *brush);
+  return brush == nullptr ? context.State.CurrentBrush : *brush;
 }
 
 void PaintRects(DeviceContext& context, const std::vector<QRect>& rects, const Paint& paint) {
   for (const QRect& rect : rects) context.Target().Rectangle(rect, paint);
 }
 
+void FillRegion(DeviceContext& context, const MetafileRecord& record, const Brush& brush) {
+  if (brush.Style == BrushStyle::None) return;
+  PaintRects(context, RegionRects(context, record.Word(0)), context.BrushPaint(brush));
+}
+
+// What of the surface the rectangles cover when they are moved, one byte a pixel.
+QImage Covered(Surface& target, const std::vector<QRect>& rects, QPoint by) {
+  QImage mask = NewImage(target.Area().size(), QImage::Format_Grayscale8);
+  mask.fill(0);
+  for (const QRect& rect : rects) {
+    const QRect visible = rect.translated(by).intersected(target.Area());
+    if (!target.Spend(std::int64_t{visible.height()} * (2 + visible.width() / 8))) break;
+    for (int y = visible.top(); y <= visible.bottom(); ++y) {
+      std::fill_n(mask.scanLine(y) + visible.left(), visible.width(), uchar{1});
+    }
+  }
+  return mask;
+}
+
+// Takes from a mask what another of its size does not have, or what it has.
+void Keep(QImage& mask, const QImage& other, bool shared) {
+  const uchar flip = shared ? 0 : 1;
+  for (int y = 0; y < mask.height(); ++y) {
+    uchar* row = mask.scanLine(y);
+    const uchar* with = other.constScanLine(y);
+    for (int x = 0; x < mask.width(); ++x) row[x] &= with[x] ^ flip;
+  }
+}
+
+// The frame is what the region loses when it is laid over itself, moved by the frame's width to
+// either side and by its height up and down.
+QImage FrameMask(Surface& target, const std::vector<QRect>& rects, int width, int height) {
+  QImage inside = Covered(target, rects, {width, 0});
+  for (const QPoint by : {QPoint(-width, 0), QPoint(0, height), QPoint(0, -height)}) {
+    Keep(inside, Covered(target, rects, by), true);
+  }
+  QImage frame = Covered(target, rects, {0, 0});
+  Keep(frame, inside, false);
+  return frame;
+}
+
 void FrameRegion(DeviceContext& context, const MetafileRecord& record) {
-  constexpr std::size_t MaxRects = 1000;
+  Surface& target = context.Target();
+  const Brush brush = NumberedBrush(context, record.Word(1));
   const std::vector<QRect> rects = RegionRects(context, record.Word(0));
-  if (rects.size() > MaxRects) return;
-  if (!context.Target().Spend(static_cast<std::int64_t>(rects.size() * rects.size()))) return;
-  QRegion whole;
-  for (const QRect& rect : rects) whole += rect;
+  if (brush.Style == BrushStyle::None) return;
+  QRect bounds;
+  for (const QRect& rect : rects) bounds = bounds.united(rect);
+  if (bounds.isEmpty() || !target.Touch(bounds)) return;
+  if (!target.Spend(WorkPerFramePixel * target.Area().width() * target.Area().height())) return;
   const QPointF scale = context.Scale();
   const int width = static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, 1e6));
   const int height = static_cast<int>(std::clamp(std::abs(record.Int(2) * scale.y()), 1.0, 1e6));
-  const QRegion inside = whole & whole.translated(width, 0) & whole.translated(-width, 0) &
-                         whole.translated(0, height) & whole.translated(0, -height);
-  const QRegion frame = whole - inside;
-  PaintRects(context, {frame.begin(), frame.end()}, NumberedBrush(context, record.Word(1)));
-}
-
-void PaintRegion(DeviceContext& context, const MetafileRecord& record, const Paint& paint) {
-  PaintRects(context, RegionRects(context, record.Word(0)), paint);
+  target.Mask(FrameMask(target, rects, width, height), {0, 0}, context.BrushPaint(brush));
 }
 
 }  // namespace
@@ -52,20 +95,18 @@ void PaintRegion(DeviceContext& context, const MetafileRecord& record, const Pai
 bool PlayRegionRecord(DeviceContext& context, const MetafileRecord& record) {
   switch (record.Kind) {
     case RecordKind::FillRegion:
-      PaintRegion(context, record, NumberedBrush(context, record.Word(1)));
+      FillRegion(context, record, NumberedBrush(context, record.Word(1)));
       return true;
     case RecordKind::FrameRegion:
       FrameRegion(context, record);
       return true;
     case RecordKind::PaintRegion:
-      PaintRegion(context, record, context.BrushPaint(context.State.CurrentBrush));
+      FillRegion(context, record, context.State.CurrentBrush);
       return true;
-    case RecordKind::InvertRegion: {
-      Paint paint;
-      paint.Operation = InvertOperation;
-      PaintRegion(context, record, paint);
+    case RecordKind::InvertRegion:
+      PaintRects(context, RegionRects(context, record.Word(0)),
+                 {.Operation = InvertOperation, .Pattern = {}});
       return true;
-    }
     default:
       return false;
   }

@@ -4,12 +4,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
+#include <span>
 
 namespace terramark::pictures {
 namespace {
 
+// Where an edge crosses a row: the first pixel to its right.
 struct Crossing {
-  double X;
+  int X;
   int Direction;
 };
 
@@ -39,6 +42,48 @@ void ForEachEdge(const std::vector<QPolygonF>& polygons, const Visit& visit) {
   }
 }
 
+// The edges' crossings with the rows of an area, row after row in one block of memory.
+class CrossingRows {
+ public:
+  CrossingRows(const std::vector<QPolygonF>& polygons, const QRect& area)
+      : top_(area.top()), ends_(static_cast<std::size_t>(area.height()) + 1) {
+    ForEachEdge(polygons, [&](QPointF a, QPointF b) {
+      const RowRange rows = RowsOf(a.y(), b.y(), area);
+      for (int y = rows.First; y < rows.Last; ++y) ++ends_[Number(y) + 1];
+    });
+    std::partial_sum(ends_.begin(), ends_.end(), ends_.begin());
+    crossings_.resize(ends_.back());
+    // From here on an entry is where its row's next crossing goes, and at last where the row ends.
+    ends_.pop_back();
+    const int right = area.right() + 1;
+    ForEachEdge(polygons, [&](QPointF a, QPointF b) {
+      const RowRange rows = RowsOf(a.y(), b.y(), area);
+      const int direction = a.y() < b.y() ? 1 : -1;
+      if (direction < 0) std::swap(a, b);
+      for (int y = rows.First; y < rows.Last; ++y) {
+        const double x = a.x() + (y - a.y()) * (b.x() - a.x()) / (b.y() - a.y());
+        crossings_[ends_[Number(y)]++] = {ClampedCeil(x, area.left(), right), direction};
+      }
+    });
+  }
+
+  std::span<const Crossing> Sorted(int y) {
+    const std::size_t row = Number(y);
+    const std::size_t begin = row == 0 ? 0 : ends_[row - 1];
+    const std::span<Crossing> crossings = std::span(crossings_).subspan(begin, ends_[row] - begin);
+    std::sort(crossings.begin(), crossings.end(),
+              [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
+    return crossings;
+  }
+
+ private:
+  std::size_t Number(int y) const { return static_cast<std::size_t>(y - top_); }
+
+  int top_;
+  std::vector<std::size_t> ends_;
+  std::vector<Crossing> crossings_;
+};
+
 std::int64_t CeilDiv(std::int64_t value, std::int64_t divisor) {
   return value >= 0 ? (value + divisor - 1) / divisor : -(-value / divisor);
 }
@@ -64,30 +109,14 @@ std::int64_t PolygonCrossings(const std::vector<QPolygonF>& polygons, const QRec
 void ScanPolygons(const std::vector<QPolygonF>& polygons, bool winding, const QRect& area,
                   const SpanSink& sink) {
   if (area.isEmpty()) return;
-  std::vector<std::vector<Crossing>> rows(static_cast<std::size_t>(area.height()));
-  ForEachEdge(polygons, [&](QPointF a, QPointF b) {
-    const RowRange range = RowsOf(a.y(), b.y(), area);
-    const int direction = a.y() < b.y() ? 1 : -1;
-    if (direction < 0) std::swap(a, b);
-    for (int y = range.First; y < range.Last; ++y) {
-      const double x = a.x() + (y - a.y()) * (b.x() - a.x()) / (b.y() - a.y());
-      rows[static_cast<std::size_t>(y - area.top())].push_back({x, direction});
-    }
-  });
-  const int left = area.left();
-  const int right = area.right() + 1;
+  CrossingRows rows(polygons, area);
   for (int y = area.top(); y <= area.bottom(); ++y) {
-    std::vector<Crossing>& row = rows[static_cast<std::size_t>(y - area.top())];
-    std::sort(row.begin(), row.end(),
-              [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
+    const std::span<const Crossing> row = rows.Sorted(y);
     int depth = 0;
     for (std::size_t i = 0; i + 1 < row.size(); ++i) {
       depth += winding ? row[i].Direction : 1;
       const bool inside = winding ? depth != 0 : depth % 2 != 0;
-      if (!inside) continue;
-      const int x0 = ClampedCeil(row[i].X, left, right);
-      const int x1 = ClampedCeil(row[i + 1].X, left, right);
-      if (x0 < x1) sink(y, x0, x1);
+      if (inside && row[i].X < row[i + 1].X) sink(y, row[i].X, row[i + 1].X);
     }
   }
 }

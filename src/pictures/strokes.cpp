@@ -10,6 +10,9 @@
 namespace terramark::pictures {
 namespace {
 
+// Past what is painted.
+constexpr std::int64_t WorkPerLinePixel = 2;
+
 // Pixels drawn and left out by turns; none for an unbroken line.
 std::span<const int> DashesOf(PenStyle style) {
   static constexpr int Dash[] = {18, 6};
@@ -62,7 +65,10 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   for (std::size_t i = 0; i + 1 < points.size(); ++i) {
     const QPoint from = points[i];
     const QPoint to = points[i + 1];
-    if (!target.Touch(BoundsOf(from, to))) continue;
+    const QRect bounds = BoundsOf(from, to);
+    if (!target.Touch(bounds)) continue;
+    const QRect visible = bounds.intersected(target.Area());
+    if (!target.Spend(WorkPerLinePixel * std::max(visible.width(), visible.height()))) return;
     ScanLine(from, to, target.Area(), [&](QPoint pixel, std::int64_t step) {
       if (IsOn(dashes, drawn + step)) {
         target.Pixel(pixel, paint);

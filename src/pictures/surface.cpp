@@ -9,7 +9,7 @@ namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
-constexpr std::int64_t WorkPerCrossing = 4;
+constexpr std::int64_t WorkPerCrossing = 16;
 constexpr std::int64_t WorkPerFloodPixel = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
@@ -51,6 +51,10 @@ bool Surface::Touch(const QRect& bounds) {
 void Surface::Span(int y, int x0, int x1, const Paint& paint) {
   if (!Spend(x1 - x0)) return;
   QRgb* row = Row(y);
+  if (paint.Operation == CopyOperation && !paint.Pattern && clip_.isNull()) {
+    std::fill(row + x0, row + x1, paint.Colour);
+    return;
+  }
   const forms::Raster* pattern = paint.Pattern.get();
   const QRgb* tile = nullptr;
   if (pattern != nullptr) tile = pattern->Pixels.data() + pattern->At(0, y % pattern->Height);
@@ -81,9 +85,13 @@ void Surface::Mask(const QImage& mask, QPoint at, const Paint& paint) {
   if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     const uchar* row = mask.constScanLine(y - at.y());
-    for (int x = visible.left(); x <= visible.right(); ++x) {
-      if (row[x - at.x()] != 0) Pixel({x, y}, paint);
+    int from = visible.left();
+    for (int x = from; x <= visible.right(); ++x) {
+      if (row[x - at.x()] != 0) continue;
+      if (from < x) Span(y, from, x, paint);
+      from = x + 1;
     }
+    if (from <= visible.right()) Span(y, from, visible.right() + 1, paint);
   }
 }
 
