@@ -115,7 +115,8 @@ QRgb DeviceContext::Resolve(ColourRef colour) const {
 
 int DeviceContext::PenWidth() const {
   const QPoint start = ToDevice(QPointF(0, 0));
-  return std::max(1, std::abs(ToDevice(QPointF(State.CurrentPen.Width, 0)).x() - start.x()));
+  const int width = std::abs(ToDevice(QPointF(State.CurrentPen.Width, 0)).x() - start.x());
+  return std::clamp(width, 1, MaxPenWidth);
 }
 
 Paint DeviceContext::PenPaint() const {

@@ -74,7 +74,7 @@ class DeviceContext {
   QRgb Resolve(ColourRef colour) const;
   bool HasPen() const { return State.CurrentPen.Style != PenStyle::None; }
   bool HasBrush() const { return State.CurrentBrush.Style != BrushStyle::None; }
-  /// The pen's width in pixels, at least 1.
+  /// The pen's width in pixels, 1 to MaxPenWidth.
   int PenWidth() const;
   Paint PenPaint() const;
   /// A hatch or pattern comes as the paint's Pattern. Of a brush that paints nothing it is its

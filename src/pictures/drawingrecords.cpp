@@ -107,16 +107,8 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   if (outline.isEmpty() || outline.width() > 1 << 16 || outline.height() > 1 << 16) return;
   const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
   if (!context.Target().Spend(std::int64_t{8} * (size.width() + size.height()))) return;
-  std::vector<QPoint> points = RoundOutline(outline, size);
-  if (context.HasBrush()) {
-    FillShapes(context, {points}, true);
-  }
-  if (context.HasPen() && context.PenWidth() > 1 && points.size() > 64) {
-    // A wide pen hides the steps between pixels; every third point is enough.
-    std::vector<QPoint> fewer;
-    for (std::size_t i = 0; i < points.size(); i += 3) fewer.push_back(points[i]);
-    points = std::move(fewer);
-  }
+  const std::vector<QPoint> points = RoundOutline(outline, size);
+  if (context.HasBrush()) FillShapes(context, {points}, true);
   Stroke(context, points, true);
 }
 

@@ -33,6 +33,7 @@ constexpr std::size_t MaxSaves = 256;
 constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
 /// Letters of one text; the rest is not drawn.
 constexpr std::ptrdiff_t MaxLetters = 4096;
+constexpr int MaxPenWidth = 65536;  // pixels
 /// Pixels either way to which mapped points are limited.
 constexpr double MaxDevice = 1 << 24;
 

@@ -121,21 +121,6 @@ void ScanPolygons(const std::vector<QPolygonF>& polygons, bool winding, const QR
   }
 }
 
-void ScanEllipse(const QRect& box, const QRect& area, const SpanSink& sink) {
-  const QRect rows = box.intersected(area);
-  const double radiusX = box.width() / 2.0;
-  const double radiusY = box.height() / 2.0;
-  const double centreX = box.left() + radiusX - 0.5;
-  const double centreY = box.top() + radiusY - 0.5;
-  for (int y = rows.top(); y <= rows.bottom(); ++y) {
-    const double offset = (y - centreY) / radiusY;
-    const double half = radiusX * std::sqrt(std::max(0.0, 1.0 - offset * offset));
-    const int x0 = ClampedCeil(centreX - half, rows.left(), rows.right() + 1);
-    const int x1 = ClampedCeil(centreX + half, rows.left(), rows.right() + 1);
-    if (x0 < x1) sink(y, x0, x1);
-  }
-}
-
 void ScanLine(QPoint from, QPoint to, const QRect& area,
               const std::function<void(QPoint, std::int64_t)>& plot) {
   const std::int64_t dx = std::int64_t{to.x()} - from.x();

@@ -23,9 +23,6 @@ std::int64_t PolygonCrossings(const std::vector<QPolygonF>& polygons, const QRec
 void ScanPolygons(const std::vector<QPolygonF>& polygons, bool winding, const QRect& area,
                   const SpanSink& sink);
 
-/// The filled ellipse inscribed in `box`, which excludes its right and bottom edge.
-void ScanEllipse(const QRect& box, const QRect& area, const SpanSink& sink);
-
 /// The pixels of a line one pixel wide without its last one. Calls `plot` with the pixels inside
 /// `area` and the number of each along the whole line.
 void ScanLine(QPoint from, QPoint to, const QRect& area,

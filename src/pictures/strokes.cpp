@@ -12,6 +12,9 @@ namespace {
 
 // Past what is painted.
 constexpr std::int64_t WorkPerLinePixel = 2;
+constexpr std::int64_t WorkPerDiscRow = 8;
+constexpr std::int64_t WorkPerPoint = 8;
+constexpr std::int64_t WorkPerBand = 100;
 
 // Pixels drawn and left out by turns; none for an unbroken line.
 std::span<const int> DashesOf(PenStyle style) {
@@ -80,6 +83,8 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   }
 }
 
+// The line's rectangle. Its corners stand on whole pixels, the odd one to the right and above, and
+// it is never thinner than the pen, so that no border gets a hole.
 QPolygonF Band(QPoint from, QPoint to, int width) {
   const double dx = to.x() - from.x();
   const double dy = to.y() - from.y();
@@ -90,16 +95,53 @@ QPolygonF Band(QPoint from, QPoint to, int width) {
     return dx == 0 ? QPolygonF(QRectF(from.x() - before, along.top(), width, along.height() - 1))
                    : QPolygonF(QRectF(along.left(), from.y() - before, along.width() - 1, width));
   }
-  const QPointF side(width * dy / length / 2, -width * dx / length / 2);
-  return QPolygonF({from + side, to + side, to - side, from - side});
+  const int across = static_cast<int>(width * std::abs(dy) / length) + 1;
+  const int down = static_cast<int>(width * std::abs(dx) / length) + 1;
+  const bool falls = (dx > 0) == (dy > 0);
+  const QPointF left(-(across / 2), falls ? down / 2 : -(down / 2));
+  const QPointF right = left + QPointF(across, falls ? -down : down);
+  return QPolygonF({from + left, to + left, to + right, from + right});
 }
+
+// The end of a wide line: a filled circle.
+class Disc {
+ public:
+  explicit Disc(int side) : side_(side), reach_(static_cast<std::size_t>(side)) {
+    for (const QPoint& point : EllipseQuarter(side, side)) {
+      for (const int y : {point.y(), side - 1 - point.y()}) {
+        int& row = reach_[static_cast<std::size_t>(y)];
+        row = std::max(row, point.x());
+      }
+    }
+  }
+
+  QRect BoxAt(QPoint centre) const {
+    return {centre.x() - side_ / 2, centre.y() - side_ / 2, side_, side_};
+  }
+
+  void Scan(QPoint centre, const QRect& area, const SpanSink& sink) const {
+    const QRect box = BoxAt(centre);
+    const QRect visible = box.intersected(area);
+    for (int y = visible.top(); y <= visible.bottom(); ++y) {
+      const int reach = reach_[static_cast<std::size_t>(y - box.top())];
+      const int x0 = std::max(visible.left(), box.right() - reach);
+      const int x1 = std::min(visible.right(), box.left() + reach) + 1;
+      if (x0 < x1) sink(y, x0, x1);
+    }
+  }
+
+ private:
+  int side_;
+  std::vector<int> reach_;  // how far each row goes to the right, from the box's left edge
+};
 
 // The whole shape is collected before it is painted: where a line crosses itself an operation that
 // inverts must not act twice.
 void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int width) {
   Surface& target = context.Target();
   const QRect bounds = BoundsOf(points).adjusted(-width, -width, width, width);
-  if (!target.Touch(bounds)) return;
+  if (!target.Touch(bounds) || !target.Spend(WorkPerDiscRow * width)) return;
+  const Disc disc(width);
   const QRect area = bounds.intersected(target.Area());
   QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
   mask.fill(0);
@@ -107,17 +149,15 @@ void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int w
     std::fill_n(mask.scanLine(y - area.top()) + (x0 - area.left()), x1 - x0, uchar{1});
   };
   for (std::size_t i = 0; i < points.size(); ++i) {
-    const QRect disc(points[i].x() - width / 2, points[i].y() - width / 2, width, width);
-    const QRect seen = disc.intersected(area);
-    if (!seen.isEmpty()) {
-      if (!target.Spend(std::int64_t{seen.width()} * seen.height() / 4)) return;
-      ScanEllipse(disc, area, mark);
-    }
+    const QRect seen = disc.BoxAt(points[i]).intersected(area);
+    if (!target.Spend(WorkPerPoint + std::int64_t{seen.height()} * (2 + seen.width() / 8))) return;
+    disc.Scan(points[i], area, mark);
     if (i + 1 == points.size() || points[i] == points[i + 1]) continue;
     const std::vector<QPolygonF> band{Band(points[i], points[i + 1], width)};
     const QRect around = band.front().boundingRect().toAlignedRect().intersected(area);
     if (around.isEmpty()) continue;
-    if (!target.Spend(std::int64_t{around.height()} * (8 + around.width() / 8))) return;
+    if (!target.Spend(WorkPerBand + std::int64_t{around.height()} * (8 + around.width() / 8)))
+      return;
     ScanPolygons(band, true, around, mark);
   }
   target.Mask(mask, area.topLeft(), context.PenPaint());

@@ -182,13 +182,16 @@ TEST(Metafile, RecordsPaintTheirPixels) {
        MetafileBytes().Line(10, 10, 20, 10)},
       {"an ellipse is filled", Red, {4792, {11, 11, 78, 78}},
        MetafileBytes().Brush(0, RedRef).Record(Ellipse, {90, 90, 10, 10})},
-      {"a wide pen by the scale across", Black, {2716, {30, 40, 140, 20}},
+      {"a wide pen by the scale across", Black, {2708, {30, 40, 140, 20}},
        MetafileBytes().Pen(0, 10, 0).Line(20, 50, 80, 50), {200, 100}},
+      {"a pen as wide as two mapped points are apart", Black, {62 * 2, {19, 49, 62, 2}},
+       MetafileBytes().Pen(0, 14, 0).Record(SetWindowOrg, {0, -4}).Line(196, 500, 796, 500)
+           .Placeable(0, 0, 1000, 1000)},
       {"alternate polygons", Red, {80 * 80 - 40 * 40, {10, 10, 80, 80}}, nested(1)},
       {"winding polygons", Red, {80 * 80, {10, 10, 80, 80}}, nested(2)},
       {"inverted", Black, {49 * 49, {0, 0, 49, 49}}, inverted()},
       {"inverted twice", Black, {}, inverted().Rectangle(0, 0, 50, 50)},
-      {"a wide line that crosses itself", Black, {1992, {5, 5, 90, 90}},
+      {"a wide line that crosses itself", Black, {1977, {5, 5, 90, 90}},
        MetafileBytes().Pen(0, 10, 0xFFFFFF).Record(SetRop2, {7})
            .Record(Polyline, {4, 10, 50, 90, 50, 90, 10, 50, 90})},
       {"a clip", Red, {40 * 40 - 20 * 20, {10, 10, 40, 40}}, clipped()},
@@ -200,6 +203,11 @@ TEST(Metafile, RecordsPaintTheirPixels) {
       {"a hatch has one line in eight rows", Red, {80 * 10, {0, 3, 80, 73}},
        MetafileBytes().Pen(NullPen, 0, 0).Brush(2, RedRef).Record(SetBkMode, {1})
            .Rectangle(0, 0, 81, 81)},
+      {"numbers behind the hatches are plain", Red, everywhere,
+       MetafileBytes().Pen(NullPen, 0, 0).Brush(2, RedRef, 6).Whole()},
+      {"a pattern that fails leaves the brush and takes a number", Red, everywhere,
+       Filled().Object(DibCreatePatternBrush, {5, 0}, dib.first(44)).Whole().Brush(0, GreenRef)
+           .Rectangle(0, 0, 50, 50).Record(SelectObject, {1}).Rectangle(0, 0, 50, 50)},
       {"a pattern of a bitmap", Red, {100 * 50, {0, 0, 100, 99}},
        MetafileBytes().Pen(NullPen, 0, 0).Object(DibCreatePatternBrush, {5, 0}, dib).Whole()},
       {"stretched, the first stored row lowest", Red, {60 * 30, {20, 20, 60, 30}},
@@ -208,6 +216,8 @@ TEST(Metafile, RecordsPaintTheirPixels) {
        MetafileBytes().Record(DibStretchBlt, {0x20, 0xCC, 2, 2, 0, 0, -60, 60, 80, 20}, dib)},
       {"laid over each other where they fall together", Black, {1, {20, 20, 1, 1}},
        MetafileBytes().Record(StretchDib, {0x20, 0xCC, 0, 2, 2, 0, 0, 1, 1, 20, 20}, dib)},
+      {"what is there beyond a bitmap's edge", Black, {9996, {0, 0, 100, 100}},
+       MetafileBytes().Brush(0, 0).Whole().Record(DibBitBlt, {0x20, 0xCC, 0, 0, 9, 9, 10, 10}, dib)},
       {"its size in pixels", Red, {2, {80, 60, 2, 1}},
        MetafileBytes().Record(SetDibToDevice, {0, 2, 0, 0, 0, 2, 2, 30, 40}, dib), {200, 200}},
       {"white and the picture", Red, {2, {10, 10, 2, 1}},
@@ -236,6 +246,9 @@ TEST(Metafile, RecordsPaintTheirPixels) {
            .Record(CreatePalette, {0x300, 2, 0, 0, 0x00FF, 0}).Record(SelectPalette, {2}).Whole()},
       {"a region filled", Red, scans, region(PaintRegion, {2})},
       {"a region inverted", Black, scans, region(InvertRegion, {2})},
+      {"a region that lies about its edges", Red, {},
+       Filled().Record(CreateRegion, {0, 6, 0, 0, 0, 1, 2, 0, 0, 0, 0, 2, 10, 20, 10, 50, 3})
+           .Record(PaintRegion, {2})},
       {"no frame where its scans meet", Red, {310, {10, 10, 40, 30}},
        region(FrameRegion, {2, 1, 2, 3})},
       {"a region as clip", Red, scans, region(SelectClipRegion, {2}).Whole()},
@@ -262,7 +275,7 @@ TEST(Metafile, RecordsPaintTheirPixels) {
        Filled().Record(SetMapMode, {2}).Rectangle(0, 0, 200, 100).Brush(0, GreenRef)
            .Rectangle(0, 100, 200, 200).Plain(), {50, 50}},
       {"an unbroken border", Red, {86269, {17, 13, 514, 280}}, border(0), {546, 308}},
-      {"of a wide pen", Red, {83123, {19, 15, 505, 275}}, border(40), {546, 308}},
+      {"of a wide pen", Red, {82848, {20, 15, 502, 275}}, border(40), {546, 308}},
       // clang-format on
   };
   for (const auto& c : cases) {
