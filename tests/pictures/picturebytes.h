@@ -85,6 +85,8 @@ class MetafileBytes {
     return Record(RecordKind::MoveTo, {y0, x0}).Record(RecordKind::LineTo, {y1, x1});
   }
 
+  /// To be put into another file.
+  const QByteArray& Records() const { return records_; }
   QByteArray Plain() const {
     return Words({1, 9, 0x300}) + Long(9 + records_.size() / 2) + Words({objects_, 0, 0, 0}) +
            records_ + Words({3, 0, 0});

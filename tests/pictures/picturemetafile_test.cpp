@@ -296,21 +296,5 @@ TEST(Metafile, EllipsesAreSymmetric) {
   EXPECT_EQ(image, image.mirrored(true, true));
 }
 
-TEST(Metafile, HostileRecordsCostNoHours) {
-  EXPECT_EQ(PlayMetafile(MetafileBytes().Plain(), {10, 10}), nullptr) << "no bounds";
-  MetafileBytes objects;
-  MetafileBytes saves;
-  MetafileBytes fills;
-  objects.Rectangle(0, 0, 9, 9);
-  for (int i = 0; i < 70000; ++i) objects.Record(CreateBrushIndirect, {0, 0, 0, 0});
-  for (int i = 0; i < 70000; ++i)
-    objects.Record(DeleteObject, {0}).Record(CreateBrushIndirect, {0, 0, 0, 0});
-  for (int i = 0; i < 5000; ++i) saves.Record(SaveDC, {}).Record(ExcludeClipRect, {i, i, 0, 0});
-  for (int i = 0; i < 50000; ++i) fills.Record(Ellipse, {32000, 32000, -32000, -32000});
-  for (const MetafileBytes* file : {&objects, &saves, &fills}) {
-    EXPECT_NE(PlayMetafile(QByteArray(*file), {400, 400}), nullptr);
-  }
-}
-
 }  // namespace
 }  // namespace terramark::pictures
