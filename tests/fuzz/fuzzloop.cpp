@@ -1,11 +1,15 @@
 // Runs a fuzz target without a fuzzing compiler: on the seed files as they are, then on mutations
 // of them. A run depends on its number alone, so that a run that failed can be repeated.
 //
+// A run that takes longer than its limit of time is ended and told like one that broke.
+//
 // By hand, for an hour:  layout_fuzz 3600 samples/*.tml
 // Run 1234 once more:    layout_fuzz @1234 samples/*.tml
 // With clang and coverage, configure with -DCMAKE_CXX_COMPILER=clang++ -DTERRAMARK_LIBFUZZER=ON
 // -DTERRAMARK_SANITIZE=ON -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link, and give the target a folder
 // with the seeds.
+#include <sys/resource.h>
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -25,6 +29,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" [[gnu::weak]] void __sanitizer_set_death_callback(void (*callback)());
 
 namespace {
+
+/// Processor seconds that one run may take under the sanitizers.
+constexpr rlim_t MaxRunSeconds = 15;
 
 unsigned long currentRun = 0;
 
@@ -50,16 +57,25 @@ class Mutator {
     const std::size_t length = Below(std::min<std::size_t>(bytes.size() - at, 64) + 1);
     const std::string& other = AnySeed();
     // clang-format off
-    switch (Below(7)) {
+    switch (Below(8)) {
       case 0: if (at < bytes.size()) bytes[at] = static_cast<char>(bytes[at] ^ (1 << Below(8))); break;
       case 1: if (at < bytes.size()) bytes[at] = static_cast<char>(Below(256)); break;
       case 2: bytes.erase(at, length); break;
       case 3: bytes.insert(Below(bytes.size() + 1), bytes.substr(at, length)); break;
       case 4: bytes.replace(at, std::min<std::size_t>(length, 2), Pieces.at(Below(Pieces.size()))); break;
       case 5: bytes.replace(at, length, other, std::min(at, other.size()), length); break;
+      case 6: Repeat(bytes, at, length); break;
       default: if (Below(8) == 0) bytes.resize(at);
     }
     // clang-format on
+  }
+
+  // Many times over, since what is cheap once may be dear a thousand times.
+  void Repeat(std::string& bytes, std::size_t at, std::size_t length) {
+    const std::string piece = bytes.substr(at, length);
+    std::string many;
+    for (std::size_t left = Below(Below(8) == 0 ? 2000 : 20); left > 0; --left) many += piece;
+    bytes.insert(at, many);
   }
 
   const std::string& AnySeed() { return seeds_[Below(seeds_.size())]; }
@@ -69,7 +85,17 @@ class Mutator {
   const std::vector<std::string>& seeds_;
 };
 
+/// Ends the process when it uses so much more of the processor.
+void LimitTime(rlim_t seconds) {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto spent = static_cast<rlim_t>(used.ru_utime.tv_sec + used.ru_stime.tv_sec);
+  const rlimit limit{spent + 1 + seconds, RLIM_INFINITY};
+  setrlimit(RLIMIT_CPU, &limit);
+}
+
 void Run(const std::string& bytes) {
+  LimitTime(MaxRunSeconds);
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
 }
 
@@ -87,6 +113,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::signal(SIGABRT, [](int) { TellRun(); });
+  std::signal(SIGXCPU, [](int) {
+    std::fputs("too slow\n", stderr);
+    std::abort();
+  });
   if (__sanitizer_set_death_callback != nullptr) __sanitizer_set_death_callback(TellRun);
   const bool one = argv[1][0] == '@';
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(std::atoi(argv[1]));
