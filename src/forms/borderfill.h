@@ -1,14 +1,18 @@
 // Flood fill up to a border colour.
 #pragma once
 
+#include <span>
+
 #include "forms/color.h"
+#include "forms/geometry.h"
 #include "forms/raster.h"
 
 namespace terramark::forms {
 
-/// Paints brush over the 4-connected region round the seed that pixels of the border colour bound;
-/// no other colour stops it. A seed outside the raster or on the border paints nothing. Works row
-/// run by row run without recursion; each painted pixel is looked at a fixed number of times.
-void BorderFill(Raster& raster, int seedX, int seedY, Color brush, Color border);
+/// Paints brush over the 4-connected regions round the seeds that pixels of the border colour
+/// bound; no other colour stops it. Seeds outside the raster or on the border paint nothing. The
+/// picture is that of filling from seed after seed, and each pixel is painted once. Throws
+/// std::bad_alloc, with nothing painted, when the memory does not reach.
+void BorderFill(Raster& raster, std::span<const PixelPoint> seeds, Color brush, Color border);
 
 }  // namespace terramark::forms

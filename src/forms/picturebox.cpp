@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 
 #include "forms/borderfill.h"
 #include "forms/form.h"
@@ -12,9 +13,8 @@ namespace terramark::forms {
 
 namespace {
 
-/// The picture in the top left corner of a raster of at least its size.
+/// The picture in the top left corner of a larger raster.
 Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t background) {
-  if (picture.Width == width && picture.Height == height) return picture;
   Raster image;
   image.Width = width;
   image.Height = height;
@@ -39,15 +39,15 @@ int PictureBox::BoxHeight() const {
 
 // A bar for one way takes room from the other, which can call for the second bar.
 bool PictureBox::ScrollsAcross() const {
-  const bool tall = image_.Height > BoxHeight();
-  return image_.Width > BoxWidth() - (tall ? ScrollBarExtent : 0) && image_.Width > 0 &&
-         (image_.Width > BoxWidth() || tall);
+  const bool tall = Image().Height > BoxHeight();
+  return Image().Width > BoxWidth() - (tall ? ScrollBarExtent : 0) && Image().Width > 0 &&
+         (Image().Width > BoxWidth() || tall);
 }
 
 bool PictureBox::ScrollsDown() const {
-  const bool wide = image_.Width > BoxWidth();
-  return image_.Height > BoxHeight() - (wide ? ScrollBarExtent : 0) && image_.Height > 0 &&
-         (image_.Height > BoxHeight() || wide);
+  const bool wide = Image().Width > BoxWidth();
+  return Image().Height > BoxHeight() - (wide ? ScrollBarExtent : 0) && Image().Height > 0 &&
+         (Image().Height > BoxHeight() || wide);
 }
 
 int PictureBox::ViewWidth() const {
@@ -59,12 +59,24 @@ int PictureBox::ViewHeight() const {
 }
 
 void PictureBox::ScrollTo(int left, int top) {
-  ScrollLeft = std::clamp(left, 0, std::max(0, image_.Width - ViewWidth()));
-  ScrollTop = std::clamp(top, 0, std::max(0, image_.Height - ViewHeight()));
+  ScrollLeft = std::clamp(left, 0, std::max(0, Image().Width - ViewWidth()));
+  ScrollTop = std::clamp(top, 0, std::max(0, Image().Height - ViewHeight()));
 }
 
-void PictureBox::FillToBorder(int x, int y, Color border) {
-  BorderFill(image_, x, y, FillColor, border);
+void PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
+  const Raster& image = Image();
+  const auto opens = [&](PixelPoint at) {
+    return PixelRect{0, 0, image.Width, image.Height}.Contains(at) &&
+           image.Pixels[image.At(at.X, at.Y)] != PixelOf(border);
+  };
+  if (std::ranges::none_of(seeds, opens)) return;
+  try {
+    if (own_) return BorderFill(*own_, seeds, FillColor, border);
+    Raster painted = *Picture.Get();
+    BorderFill(painted, seeds, FillColor, border);
+    own_ = std::move(painted);
+  } catch (const std::bad_alloc&) {
+  }
 }
 
 void PictureBox::PropertyChanged(PropertyId id) {
@@ -78,9 +90,13 @@ void PictureBox::PropertyChanged(PropertyId id) {
 void PictureBox::RebuildImage() {
   const Raster empty;
   const Raster& picture = Picture.Get() ? *Picture.Get() : empty;
+  if (Picture.Get() && picture.Width >= BoxWidth() && picture.Height >= BoxHeight()) {
+    own_.reset();
+    return;
+  }
   // Built aside: when the memory does not reach for it, the old one stays whole.
-  image_ = Enlarged(picture, std::max(picture.Width, BoxWidth()),
-                    std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
+  own_ = Enlarged(picture, std::max(picture.Width, BoxWidth()),
+                  std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
 }
 
 }  // namespace terramark::forms

@@ -2,10 +2,13 @@
 // painted on. A picture larger than the box is reached by scrolling.
 #pragma once
 
+#include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
 #include "forms/control.h"
+#include "forms/geometry.h"
 #include "forms/raster.h"
 
 namespace terramark::forms {
@@ -20,8 +23,8 @@ class PictureBox : public Control {
   }
 
   /// Assigning replaces the persistent image, paint included, also by the picture that stands
-  /// already. The empty picture empties the box. Throws std::bad_alloc, with nothing changed, when
-  /// the memory does not reach for the image.
+  /// already. The empty picture empties the box. A picture that covers the box is not copied; for a
+  /// smaller one it throws std::bad_alloc, with nothing changed, when the memory does not reach.
   Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
@@ -29,8 +32,9 @@ class PictureBox : public Control {
   Property<int> ScrollLeft{*this, PropertyId::ScrollLeft, 0};
   Property<int> ScrollTop{*this, PropertyId::ScrollTop, 0};
 
-  /// The persistent image: as large as the picture and never smaller than the box.
-  const Raster& Image() const { return image_; }
+  /// The persistent image: as large as the picture and never smaller than the box. It is the
+  /// picture itself until it is painted on.
+  const Raster& Image() const { return own_ ? *own_ : *Picture.Get(); }
 
   /// Inside of the box in whole pixels.
   int BoxWidth() const;
@@ -45,16 +49,18 @@ class PictureBox : public Control {
   /// Likewise, so many pixels further to the right and down.
   void ScrollBy(int across, int down) { ScrollTo(ScrollLeft + across, ScrollTop + down); }
 
-  /// Paints FillColor on the persistent image from a point of it outward up to pixels of the border
-  /// colour. A point outside the image or on the border paints nothing. Refresh shows it.
-  void FillToBorder(int x, int y, Color border);
+  /// Paints FillColor on the persistent image from points of it outward up to pixels of the border
+  /// colour. A point outside the image or on the border paints nothing. When the memory does not
+  /// reach, nothing is painted. Refresh shows it.
+  void FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
 
  private:
   void RebuildImage();
 
-  Raster image_;
+  /// The image where it is not the picture itself: larger, or painted on.
+  std::optional<Raster> own_ = Raster{};
 };
 
 }  // namespace terramark::forms

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "document/corner.h"
 #include "shell/colours.h"
@@ -18,20 +19,21 @@ int PixelAt(float place) {
   return static_cast<int>(std::lrint(std::clamp(place, -OutOfReach, OutOfReach)));
 }
 
-void FloodFrom(Form1& form, std::int16_t area) {
+forms::PixelPoint FillPoint(Form1& form, std::int16_t area) {
   const forms::Label& marker = form.ArmyAt(area);
   const std::int16_t corner = form.AreaCorner(area);
-  const float x = marker.Left + (AtRight(corner) ? marker.Width : 0.0F);
-  const float y = marker.Top + (AtBottom(corner) ? marker.Height : 0.0F);
-  form.Picture1.FillColor = ClrRed;
-  form.Picture1.FillToBorder(PixelAt(x), PixelAt(y), ClrBlack);
+  return {PixelAt(marker.Left + (AtRight(corner) ? marker.Width : 0.0F)),
+          PixelAt(marker.Top + (AtBottom(corner) ? marker.Height : 0.0F))};
 }
 
 }  // namespace
 
 void Cvalid_MouseUp(Form1& form) {
   if (!MapIsValid(form)) return;
-  for (std::int16_t i = 1; i <= form.AreaCount; ++i) FloodFrom(form, i);
+  std::vector<forms::PixelPoint> points;
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) points.push_back(FillPoint(form, i));
+  form.Picture1.FillColor = ClrRed;
+  form.Picture1.FillToBorder(points, ClrBlack);
   form.Picture1.Refresh();
 }
 

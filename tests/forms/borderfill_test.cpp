@@ -2,56 +2,81 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <memory>
+#include <random>
 #include <vector>
+
+#include "forms/picturebox.h"
 
 namespace terramark::forms {
 namespace {
 
-constexpr Color Brush = 0x00000080;  // dark red
-constexpr std::uint32_t Painted = 0xFF800000;
+constexpr Color Red = 0x000000FF;
+constexpr Color Black = 0;
+constexpr std::uint32_t Shades[] = {0xFF000000, 0xFF010000, 0xFFFF0000, 0xFFFFFFFF};
 
-using Rows = std::vector<std::string>;
-
-/// '#' pure black, 'd' almost black, '.' white; painted pixels come back as 'r'.
-Rows Filled(Rows rows, int x, int y) {
-  Raster raster{static_cast<int>(rows[0].size()), static_cast<int>(rows.size()), {}};
-  for (const std::string& row : rows) {
-    for (const char c : row) {
-      raster.Pixels.push_back(c == '#' ? 0xFF000000 : c == 'd' ? 0xFF010000 : 0xFFFFFFFF);
+/// From one seed, pixel by pixel.
+void SlowFill(Raster& raster, PixelPoint seed, Color brush) {
+  std::vector<bool> seen(raster.Pixels.size());
+  for (std::vector<PixelPoint> next{seed}; !next.empty();) {
+    const PixelPoint at = next.back();
+    next.pop_back();
+    if (!PixelRect{0, 0, raster.Width, raster.Height}.Contains(at)) continue;
+    const std::size_t pixel = raster.At(at.X, at.Y);
+    if (seen[pixel] || raster.Pixels[pixel] == PixelOf(Black)) continue;
+    seen[pixel] = true;
+    raster.Pixels[pixel] = PixelOf(brush);
+    for (const PixelPoint step : {PixelPoint{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
+      next.push_back(at + step);
     }
   }
-  BorderFill(raster, x, y, Brush, 0);
-  auto pixel = raster.Pixels.begin();
-  for (std::string& row : rows) {
-    for (char& c : row) c = *pixel++ == Painted ? 'r' : c;
-  }
-  return rows;
 }
 
-TEST(BorderFill, StopsAtPureBlackOnlyAndFindsEveryGapButCorners) {
-  EXPECT_EQ(Filled({"..#..", ".d#..", "##...", "....."}, 0, 0),
-            (Rows{"rr#..", "rr#..", "##...", "....."}));
-  EXPECT_EQ(Filled({".....", ".###.", ".#.#.", ".#.#.", "....."}, 2, 2),
-            (Rows{"rrrrr", "r###r", "r#r#r", "r#r#r", "rrrrr"}));
-  // From the border or from outside it paints nothing.
-  const Rows rows{".#.", "...", "..."};
-  for (const auto& [x, y] : {std::pair{1, 0}, {-1, 0}, {3, 0}, {0, 3}, {0, -1}}) {
-    EXPECT_EQ(Filled(rows, x, y), rows) << x << ' ' << y;
+TEST(BorderFill, PaintsWhatFillingPixelByPixelFromSeedAfterSeedDoes) {
+  std::mt19937 random(1);
+  const auto below = [&](int limit) { return static_cast<int>(random() % unsigned(limit)); };
+  for (int round = 0; round < 3000; ++round) {
+    constexpr int Widths[] = {1, 63, 64, 65, 128, 130, 200};
+    Raster raster{Widths[below(7)], 1 + below(12), {}};
+    const int blackInThousand = below(8) * below(80);
+    raster.Pixels.resize(raster.At(0, raster.Height));
+    for (std::uint32_t& pixel : raster.Pixels) {
+      pixel = Shades[below(1000) < blackInThousand ? 0 : 1 + below(3)];
+    }
+    std::vector<PixelPoint> seeds;
+    for (int i = below(5); i > 0; --i) {
+      seeds.push_back({below(raster.Width + 2) - 1, below(raster.Height + 2) - 1});
+      if (below(2) == 0) seeds.push_back(seeds[0]);
+    }
+    const Color brush = below(2) == 0 ? Black : Red;
+    Raster slow = raster;
+    for (const PixelPoint seed : seeds) SlowFill(slow, seed, brush);
+    BorderFill(raster, seeds, brush, Black);
+    ASSERT_EQ(raster.Pixels, slow.Pixels) << round << ", " << raster.Width << " wide";
   }
 }
 
-// A comb makes a recursive fill overflow and a careless one look at pixels again and again.
-TEST(BorderFill, FillsLargeCombsAndPaintedGround) {
-  Raster raster{2000, 2000, std::vector<std::uint32_t>(2000 * 2000, 0xFFFFFFFF)};
-  for (int y = 1; y < 2000; ++y) {
-    for (int x = 1; x < 2000; x += 2) raster.Pixels[raster.At(x, y)] = 0xFF000000;
+TEST(PictureBoxImage, IsThePictureUntilItIsPaintedOnOrHasToBeLarger) {
+  PictureBox box("Box");
+  box.Width = 40;
+  box.Height = 1;
+  const Picture wall = std::make_shared<Raster>(Raster{40, 1, std::vector(40, Shades[3])});
+  const Raster before = *wall;
+  const PixelPoint outside[] = {{40, 0}};
+  const PixelPoint corner[] = {{0, 0}};
+  for (int time = 0; time < 2; ++time) {
+    box.Picture = wall;
+    box.FillToBorder(outside, Black);
+    EXPECT_EQ(&box.Image(), wall.get());
+    box.FillToBorder(corner, Black);
+    EXPECT_EQ(box.Image().Pixels, std::vector(40, PixelOf(box.FillColor)));
+    EXPECT_EQ(wall->Pixels, before.Pixels);
   }
-  BorderFill(raster, 0, 1999, Brush, 0);
-  EXPECT_EQ(raster.Pixels[raster.At(1998, 1999)], Painted);
-  const std::vector<std::uint32_t> once = raster.Pixels;
-  BorderFill(raster, 1998, 5, Brush, 0);
-  EXPECT_EQ(raster.Pixels, once) << "a second fill over the same ground ends, and changes nothing";
+  box.Width = 41;
+  EXPECT_EQ(box.Image().Pixels[39], Shades[3]);
+  EXPECT_EQ(box.Image().Pixels[40], PixelOf(box.BackColor));
+  box.Picture = nullptr;
+  EXPECT_EQ(box.Image().Width, 41);
 }
 
 }  // namespace
