@@ -11,6 +11,7 @@
 #include <QTextBrowser>
 #include <QTimer>
 #include <QTreeView>
+#include <array>
 #include <climits>
 #include <functional>
 #include <new>
@@ -29,7 +30,7 @@ static int LargeBlocksLeft = INT_MAX;
 extern "C" void* RealNew(std::size_t size) asm("__real__Znwm");
 extern "C" void* RationedNew(std::size_t size) asm("__wrap__Znwm");
 void* RationedNew(std::size_t size) {
-  if (size > 65536 && LargeBlocksLeft-- == 0) throw std::bad_alloc();
+  if (size > 16384 && LargeBlocksLeft-- == 0) throw std::bad_alloc();
   return RealNew(size);
 }
 
@@ -178,19 +179,35 @@ TEST_F(DesktopTest, PicturesComeRowByRowFromTheNamedFile) {
   EXPECT_EQ(Desktop.LoadPicture(ToCp1252(folder.path()), 60, 40), nullptr);
 }
 
-TEST_F(DesktopTest, APictureThatTheMemoryDoesNotHoldCannotBeRead) {
+TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {
+  forms::PictureBox& box = Form.Picture1;
   Form.PictureFile = SAMPLES "/europe.bmp";
-  Form.Picture1.FillToBorder(0, 0, 0);
-  const auto before = Form.Picture1.Image().Pixels;
-  int blocks = -1;
-  do {
-    EXPECT_EQ(Form.Picture1.Image().Pixels, before);
-    EXPECT_EQ(Form.Picture1.Picture.Get(), nullptr);
-    LargeBlocksLeft = ++blocks;
-  } while (!RefreshMap(Form) && blocks < 9);
-  LargeBlocksLeft = INT_MAX;
-  EXPECT_GE(blocks, 2) << "one for the picture and one for the image";
-  EXPECT_NE(Form.Picture1.Image().Pixels, before);
+  const auto load = [&] { RefreshMap(Form); };
+  const auto fill = [&] { box.FillToBorder(std::array{forms::PixelPoint{}}, 0); };
+  const auto grow = [&] {
+    try {
+      box.Height = box.Height + 300;
+    } catch (const std::bad_alloc&) {
+    }
+  };
+  // How many blocks it takes to change the image.
+  const auto blocks = [&](const std::function<void()>& act) {
+    const auto before = box.Image().Pixels;
+    const auto height = box.Height.Get();
+    const forms::Picture picture = box.Picture;
+    for (int count = 0; count < 20; ++count) {
+      LargeBlocksLeft = count;
+      act();
+      LargeBlocksLeft = INT_MAX;
+      if (box.Image().Pixels != before) return count;
+      EXPECT_TRUE(box.Picture.Get() == picture && box.Height == height);
+    }
+    return -1;
+  };
+  EXPECT_GE(blocks(load), 1);
+  EXPECT_EQ(&box.Image(), box.Picture.Get().get()) << "the image takes none";
+  EXPECT_EQ(blocks(fill), 3) << "the image, and two bits a pixel";
+  EXPECT_EQ(blocks(grow), 1);
 }
 
 TEST_F(DesktopTest, AFailureAndTheClosedWindowEndTheProcess) {
