@@ -7,17 +7,24 @@
 
 namespace terramark::forms {
 
-std::optional<std::string> ReadBytes(int file, std::size_t most) {
-  std::string bytes(most, '\0');
+std::optional<std::size_t> ReadInto(int file, std::uintmax_t offset, std::span<char> room) {
   std::size_t done = 0;
-  while (done < most) {
-    const ssize_t got = Uninterrupted(
-        [&] { return ::pread(file, bytes.data() + done, most - done, static_cast<off_t>(done)); });
+  while (done < room.size()) {
+    const auto at = static_cast<off_t>(offset + done);
+    const ssize_t got =
+        Uninterrupted([&] { return ::pread(file, room.data() + done, room.size() - done, at); });
     if (got < 0) return std::nullopt;
     if (got == 0) break;
     done += static_cast<std::size_t>(got);
   }
-  bytes.resize(done);
+  return done;
+}
+
+std::optional<std::string> ReadBytes(int file, std::size_t most) {
+  std::string bytes(most, '\0');
+  const auto got = ReadInto(file, 0, bytes);
+  if (!got) return std::nullopt;
+  bytes.resize(*got);
   return bytes;
 }
 

@@ -2,10 +2,16 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 
 namespace terramark::forms {
+
+/// Fills the room with the file's bytes from so many bytes after its start; how many there were,
+/// fewer than the room where the file ends. Nothing when a read fails.
+std::optional<std::size_t> ReadInto(int file, std::uintmax_t offset, std::span<char> room);
 
 /// The file's bytes from its start on, at most so many, and fewer where it ends. Nothing when a
 /// read fails: a disk's fault does not look like a short file.

@@ -42,4 +42,8 @@ std::optional<std::string> RegularFile::Read(std::size_t most) const {
   return ReadBytes(file_.Number(), static_cast<std::size_t>(std::min<std::uintmax_t>(size_, most)));
 }
 
+bool RegularFile::ReadAt(std::uintmax_t offset, std::span<char> room) const {
+  return IsOpen() && ReadInto(file_.Number(), offset, room) == room.size();
+}
+
 }  // namespace terramark::forms

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "forms/descriptor.h"
@@ -25,6 +26,9 @@ class RegularFile {
   /// From the beginning up to the size, and at most so many bytes. Nothing when it is not open or a
   /// read fails: a disk's fault does not look like a short file.
   std::optional<std::string> Read(std::size_t most) const;
+  /// Fills the room with the bytes from so many after the beginning. False when the file ends
+  /// before the room is full, is not open or a read fails; the room may be half filled then.
+  bool ReadAt(std::uintmax_t offset, std::span<char> room) const;
 
  private:
   /// False for what only looks like a plain file.
