@@ -9,6 +9,7 @@
 #include <string>
 
 #include "forms/descriptor.h"
+#include "forms/fileversion.h"
 
 namespace terramark::forms {
 
@@ -22,6 +23,9 @@ class RegularFile {
   bool IsOpen() const { return file_.IsOpen(); }
   /// Bytes at the time of opening; 0 when it is not open.
   std::uintmax_t Size() const { return size_; }
+
+  /// The file as it is now; nothing when it is not open.
+  std::optional<FileVersion> Version() const { return VersionOf(file_.Number()); }
 
   /// From the beginning up to the size, and at most so many bytes. Nothing when it is not open or a
   /// read fails: a disk's fault does not look like a short file.

@@ -12,7 +12,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "pictures/pictureloader.h"
 #include "window/cp1252.h"
 #include "window/filedialog.h"
 #include "window/look.h"
@@ -111,7 +110,7 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
 
 forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
   if (path.empty()) return std::make_shared<forms::Raster>();
-  return pictures::LoadPictureFile(NativePath(path), width, height);
+  return picture_.Load(NativePath(path), width, height);
 }
 
 std::filesystem::path QtDesktop::NativePath(const std::string& path) {

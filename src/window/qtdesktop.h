@@ -9,6 +9,7 @@
 #include <string>
 
 #include "forms/desktop.h"
+#include "pictures/lastpicture.h"
 #include "window/helpwindow.h"
 
 namespace terramark::window {
@@ -45,6 +46,7 @@ class QtDesktop : public forms::Desktop {
   std::unique_ptr<HelpWindow> help_;
   /// The file chosen last in the file dialog; empty before the first.
   QString chosen_;
+  pictures::LastPicture picture_;
   std::mt19937 random_;
 };
 

@@ -1,0 +1,37 @@
+#include "forms/regularfile.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace terramark::forms {
+namespace {
+
+TEST(RegularFile, GivesStretchesThatLieWhollyInIt) {
+  const RegularFile file(SAMPLES "/europe.bmp");
+  const std::string whole = file.Read(SIZE_MAX).value();
+  std::array<char, 4> room{};
+  EXPECT_TRUE(file.ReadAt(whole.size() - 4, room));
+  EXPECT_EQ(std::string(room.data(), 4), whole.substr(whole.size() - 4));
+  for (const std::uintmax_t offset : {std::uintmax_t{whole.size() - 3}, UINTMAX_MAX - 1}) {
+    EXPECT_FALSE(file.ReadAt(offset, room)) << offset;
+  }
+}
+
+TEST(FileVersion, SettlesOnceItsTimesMustMoveWithAnyChange) {
+  const Moment now{1000, 10'000'000};
+  const struct {
+    Moment Modified, Changed;
+    bool Settled;
+  } cases[]{{{999, 989'999'999}, {5, 5}, true},  {{999, 990'000'000}, {5, 5}, false},
+            {{5, 5}, {999, 990'000'000}, false}, {{5, 0}, {999, 1}, true},
+            {{998, 0}, {998, 0}, true},          {{999, 0}, {5, 0}, false},
+            {{INT64_MAX, 0}, {5, 5}, false}};
+  for (const auto& [modified, changed, settled] : cases) {
+    EXPECT_EQ((FileVersion{1, 1, 1, modified, changed}.SettledBy(now)), settled)
+        << modified.Seconds << " " << changed.Seconds;
+  }
+}
+
+}  // namespace
+}  // namespace terramark::forms
