@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
@@ -53,8 +54,26 @@ QPalette LightPalette() {
   return palette;
 }
 
-QStringList TextFamilies() {
-  return {"Arial", "Liberation Sans"};
+/// Those of the families that are installed, or all when none is. For one that is not, Qt has the
+/// system look for stand-ins at every start, though another of them follows.
+QStringList Installed(const QStringList& families) {
+  const QStringList all = QFontDatabase::families();
+  QStringList installed;
+  for (const QString& family : families) {
+    if (all.contains(family, Qt::CaseInsensitive)) installed += family;
+  }
+  return installed.isEmpty() ? families : installed;
+}
+
+const QStringList& TextFamilies() {
+  static const QStringList families = Installed({"Arial", "Liberation Sans"});
+  return families;
+}
+
+const QStringList& FormFamilies() {
+  static const QStringList families =
+      Installed(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies());
+  return families;
 }
 
 /// Bold, in the size of all controls.
@@ -107,7 +126,7 @@ QFont TextFont(forms::Desktop& host) {
 }
 
 QFont FormFont(forms::Desktop& host) {
-  return SizedFont(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies(), host);
+  return SizedFont(FormFamilies(), host);
 }
 
 void DrawCaption(QPainter& painter, const QRect& area, const QString& text,
