@@ -9,7 +9,7 @@ namespace terramark::pictures {
 
 // Of any picture.
 
-/// Longer metafiles are not read; a bitmap is held to its pixels instead.
+/// Longer metafiles are not read; a bitmap's file may have any length.
 constexpr std::size_t MaxMetafileBytes = std::size_t{64} * 1024 * 1024;
 /// The box that a metafile is drawn for is cut down to this, in pixels each way.
 constexpr int MaxPictureBoxSide = 4096;
@@ -22,6 +22,8 @@ constexpr int MaxBitmapSide = 16384;
 constexpr std::int64_t MaxBitmapPixels = 67'108'864;
 /// No real run-length coded picture packs more pixels into a byte.
 constexpr std::int64_t MaxPixelsPerCodedByte = 1024;
+/// Run-length codes are read so far; the largest bitmap takes no more even at two bytes a pixel.
+constexpr std::int64_t MaxCodedBytes = 4 * MaxBitmapPixels;
 
 // Of a metafile.
 

@@ -3,7 +3,8 @@
 #include <QByteArrayView>
 #include <QSize>
 #include <QtEndian>
-#include <memory>
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 
@@ -16,40 +17,47 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr qsizetype BitmapHeaderBytes = 14;
+// What a file puts before a bitmap's own header.
+constexpr qint64 FileHeaderBytes = 14;
 constexpr qsizetype BitsOffsetAt = 10;
 
-forms::Picture LoadBitmap(QByteArrayView bytes) {
-  if (bytes.size() < BitmapHeaderBytes) return nullptr;
-  const auto offset = qFromLittleEndian<std::uint32_t>(bytes.data() + BitsOffsetAt);
-  // Some writers leave the offset empty: the rows then follow the colour table.
-  std::optional<qsizetype> bitsAt;
-  if (offset != 0) bitsAt = static_cast<qsizetype>(offset) - BitmapHeaderBytes;
-  return DecodeDib(bytes.sliced(BitmapHeaderBytes), bitsAt);
+bool IsBitmap(QByteArrayView fileHeader) {
+  return fileHeader.size() == FileHeaderBytes && fileHeader.startsWith("BM");
 }
 
-forms::Picture LoadImage(QByteArrayView bytes, QSize box) {
-  if (bytes.startsWith("BM")) return LoadBitmap(bytes);
+forms::Picture LoadBitmap(QByteArrayView fileHeader, ByteSource& dib) {
+  const auto offset = qFromLittleEndian<std::uint32_t>(fileHeader.data() + BitsOffsetAt);
+  // Some writers leave the offset empty: the rows then follow the colour table.
+  std::optional<qint64> bitsAt;
+  if (offset != 0) bitsAt = offset - FileHeaderBytes;
+  return DecodeDib(dib, bitsAt);
+}
+
+forms::Picture LoadMetafile(QByteArrayView bytes, QSize box) {
   if (!MetafileReader::Recognises(bytes)) return nullptr;
   return PlayMetafile(bytes, box.boundedTo(QSize(MaxPictureBoxSide, MaxPictureBoxSide)));
-}
-
-// The file's bytes are gone before the pixels are copied.
-forms::Picture LoadImageFile(const std::filesystem::path& path, QSize box) {
-  const forms::RegularFile file(path);
-  if (file.Size() > MaxMetafileBytes) return nullptr;
-  const std::optional<std::string> bytes = file.Read(MaxMetafileBytes);
-  return bytes ? LoadImage(*bytes, box) : nullptr;
 }
 
 }  // namespace
 
 forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight) {
-  return LoadImage(bytes, QSize(boxWidth, boxHeight));
+  const QByteArrayView all(bytes.data(), std::ssize(bytes));
+  const QByteArrayView fileHeader = all.first(std::min(all.size(), FileHeaderBytes));
+  if (!IsBitmap(fileHeader)) return LoadMetafile(all, QSize(boxWidth, boxHeight));
+  MemoryBytes dib(all.sliced(FileHeaderBytes));
+  return LoadBitmap(fileHeader, dib);
 }
 
 forms::Picture LoadPictureFile(const std::filesystem::path& path, int boxWidth, int boxHeight) {
-  return LoadImageFile(path, QSize(boxWidth, boxHeight));
+  const forms::RegularFile file(path);
+  std::array<char, FileHeaderBytes> fileHeader{};
+  if (file.ReadAt(0, fileHeader) && IsBitmap(fileHeader)) {
+    FileBytes dib(file, FileHeaderBytes);
+    return LoadBitmap(fileHeader, dib);
+  }
+  if (file.Size() > MaxMetafileBytes) return nullptr;
+  const std::optional<std::string> bytes = file.Read(MaxMetafileBytes);
+  return bytes ? LoadMetafile(*bytes, QSize(boxWidth, boxHeight)) : nullptr;
 }
 
 }  // namespace terramark::pictures

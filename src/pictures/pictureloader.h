@@ -10,10 +10,10 @@
 namespace terramark::pictures {
 
 /// The picture in the file at `path`, told by its content and never by its name. A bitmap has its
-/// own size and takes no notice of the box. A metafile fills the box, in pixels. Limits stand in
-/// limits.h. Null when the file cannot be read, is too large or holds neither kind,
-/// when the box of a metafile is empty, or when the library that decodes bitmaps finds no memory
-/// for one; std::bad_alloc when none is left for anything else.
+/// own size and takes no notice of the box; its file is read in pieces. A metafile fills the box,
+/// in pixels. Limits stand in limits.h. Null when the file cannot be read, is cut short meanwhile,
+/// is too large or holds neither kind, or when the box of a metafile is empty; std::bad_alloc when
+/// the memory does not reach.
 forms::Picture LoadPictureFile(const std::filesystem::path& path, int boxWidth, int boxHeight);
 
 /// The same from memory.
