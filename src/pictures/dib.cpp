@@ -21,15 +21,14 @@ DibColours AllBlack() {
 // Some files keep fewer colours than they claim: their rows then start inside the table, at
 // `bits`, and the rest of the colours is black.
 std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, qint64 bits) {
-  const qint64 entryBytes = header.Core ? 3 : 4;
-  const qint64 wanted = header.UsedColours() * entryBytes;
+  const qint64 wanted = header.UsedColours() * header.EntryBytes();
   const auto table = dib.At(header.TableAt, std::min(wanted, bits - header.TableAt));
   if (!table) return std::nullopt;
   QByteArray bytes = table->toByteArray();
   bytes.append(wanted - bytes.size(), '\0');
   DibColours colours = AllBlack();
   for (int i = 0; i < header.UsedColours(); ++i) {
-    const auto* entry = reinterpret_cast<const uchar*>(bytes.constData() + i * entryBytes);
+    const auto* entry = reinterpret_cast<const uchar*>(bytes.constData() + i * header.EntryBytes());
     colours[static_cast<std::size_t>(i)] = Black | entry[2] << 16U | entry[1] << 8U | entry[0];
   }
   return colours;
@@ -78,7 +77,7 @@ forms::Picture Decode(ByteSource& dib, const DibHeader& header, const DibColours
 forms::Picture DecodeDib(ByteSource& dib, std::optional<qint64> bitsAt) {
   const std::optional<DibHeader> header = ReadDibHeader(dib);
   if (!header) return nullptr;
-  const qint64 bits = bitsAt.value_or(header->TableEnd(header->Core ? 3 : 4));
+  const qint64 bits = bitsAt.value_or(header->TableEnd(header->EntryBytes()));
   if (bits < header->TableAt || bits > dib.Size()) return nullptr;
   const std::optional<DibColours> colours = ReadColours(dib, *header, bits);
   return colours ? Decode(dib, *header, *colours, bits) : nullptr;

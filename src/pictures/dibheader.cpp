@@ -1,6 +1,5 @@
 #include "pictures/dibheader.h"
 
-#include <QByteArray>
 #include <QtEndian>
 #include <algorithm>
 #include <cstdlib>
@@ -74,6 +73,11 @@ bool IsUncompressedDepth(int bits) {
   return bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
 }
 
+// As many as the pixels can name; deep pixels name none.
+int AllColours(int bits) {
+  return bits <= 8 ? 1 << bits : 0;
+}
+
 std::optional<DibHeader> ReadCore(const Fields& fields) {
   DibHeader header;
   header.Core = true;
@@ -82,7 +86,7 @@ std::optional<DibHeader> ReadCore(const Fields& fields) {
   if (!SetSize(header, fields.Word(4), fields.Word(6))) return std::nullopt;
   if (!IsUncompressedDepth(header.BitCount)) return std::nullopt;
   header.Masks = ChannelMasks::Usual(header.BitCount);
-  header.Colours = header.UsedColours();
+  header.Colours = AllColours(header.BitCount);
   return header;
 }
 
@@ -114,9 +118,7 @@ bool SetCoding(DibHeader& header, std::uint32_t bytes, const Fields& fields) {
 }  // namespace
 
 int DibHeader::UsedColours() const {
-  if (BitCount > 8) return 0;
-  const int named = 1 << BitCount;
-  return Core ? named : static_cast<int>(std::min<qint64>(Colours, named));
+  return static_cast<int>(std::min<qint64>(Colours, AllColours(BitCount)));
 }
 
 std::optional<DibHeader> ReadDibHeader(ByteSource& dib) {
@@ -135,7 +137,7 @@ std::optional<DibHeader> ReadDibHeader(ByteSource& dib) {
   if (!SetSize(header, fields.Signed(4), fields.Signed(8))) return std::nullopt;
   if (!SetCoding(header, bytes, fields)) return std::nullopt;
   header.Colours = fields.Long(32);
-  if (header.Colours == 0 && header.BitCount <= 8) header.Colours = 1 << header.BitCount;
+  if (header.Colours == 0) header.Colours = AllColours(header.BitCount);
   return header;
 }
 

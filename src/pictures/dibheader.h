@@ -21,8 +21,9 @@ struct DibHeader {
   qint64 TableAt = 0;
   qint64 Colours = 0;  // in the table, which may hold more than the pixels can name
 
-  /// Of the colours that the pixels can name.
+  /// Those that the pixels can name, 256 at most.
   int UsedColours() const;
+  qint64 EntryBytes() const { return Core ? 3 : 4; }
   /// Where the table ends when its entries take so many bytes.
   qint64 TableEnd(qint64 entryBytes) const { return TableAt + Colours * entryBytes; }
   qint64 RowBytes() const { return (qint64{Width} * BitCount + 31) / 32 * 4; }

@@ -28,7 +28,8 @@ inline QByteArray Long(qint64 value) {
   return Words({static_cast<int>(value & 0xFFFF), static_cast<int>(value >> 16 & 0xFFFF)});
 }
 
-/// The bitmap header of 40 bytes, the colours and the rows, as blit records carry them.
+/// A bitmap's header, of 40 bytes if nothing else is said, the colours and the rows, as blit
+/// records carry them.
 struct DibBytes {
   int Width = 0;
   int Height = 0;
@@ -36,11 +37,21 @@ struct DibBytes {
   std::uint32_t Compression = 0;
   std::vector<std::uint32_t> Colours;
   QByteArray Rows;
+  int HeaderBytes = 40;
+  std::vector<std::uint32_t> Masks{};
 
   QByteArray Packed() const {
-    QByteArray bytes = Long(40) + Long(Width) + Long(Height) + Words({1, Bits}) +
-                       Long(Compression) + QByteArray(12, 0) + Long(std::ssize(Colours)) + Long(0);
-    for (const std::uint32_t colour : Colours) bytes += Long(colour);
+    QByteArray bytes = Long(HeaderBytes);
+    if (HeaderBytes == 12) {
+      bytes += Words({Width, Height, 1, Bits});
+    } else {
+      bytes += Long(Width) + Long(Height) + Words({1, Bits}) + Long(Compression) +
+               QByteArray(12, 0) + Long(std::ssize(Colours)) + Long(0);
+      for (const std::uint32_t mask : Masks) bytes += Long(mask);
+      if (HeaderBytes != 40) bytes = bytes.leftJustified(HeaderBytes, '\0', true);
+    }
+    for (const std::uint32_t colour : Colours)
+      bytes += Long(colour).first(HeaderBytes == 12 ? 3 : 4);
     return bytes + Rows;
   }
 

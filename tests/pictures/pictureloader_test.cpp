@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "forms/regularfile.h"
+#include "pictures/dib.h"
 #include "pictures/limits.h"
 #include "pictures/picturebytes.h"
 
@@ -25,24 +27,96 @@ QByteArray Bytes(std::initializer_list<int> values) {
 
 const Pixels RedBlueWhite{0xFF0000, 0x0000FF, 0xFFFFFF};
 
+Pixels Padded(Pixels colours, std::size_t size) {
+  colours.resize(size);
+  return colours;
+}
+
+const QByteArray RowsOf8 = Bytes({2, 0, 0, 0, 0, 1, 0, 0});
+const QByteArray RowsOf24 = Bytes({255, 255, 255, 0, 0, 255, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0});
+
 // Each shows two rows of two pixels: red and blue above, white and red below. Of one bit there is
 // no white to be had.
 const DibBytes Bitmaps[]{
     {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0})},
+    {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0}), 12},
+    {2, 2, 2, 0, RedBlueWhite, Bytes({0x80, 0, 0, 0, 0x10, 0, 0, 0})},
     {2, 2, 4, 0, RedBlueWhite, Bytes({0x20, 0, 0, 0, 0x01, 0, 0, 0})},
-    {2, 2, 8, 0, RedBlueWhite, Bytes({2, 0, 0, 0, 0, 1, 0, 0})},
-    {2, -2, 8, 0, RedBlueWhite, Bytes({0, 1, 0, 0, 2, 0, 0, 0})},             // top row first
+    {2, 2, 8, 0, RedBlueWhite, RowsOf8},
+    {2, 2, 8, 0, Padded(RedBlueWhite, 300), RowsOf8, 64},
+    {2, -2, 8, 0, RedBlueWhite, Bytes({0, 1, 0, 0, 2, 0, 0, 0}), 124},        // top row first
     {2, 2, 8, 1, RedBlueWhite, Bytes({1, 2, 1, 0, 0, 0, 1, 0, 1, 1, 0, 1})},  // run lengths
+    {2, 2, 4, 2, RedBlueWhite, Bytes({2, 0x20, 0, 0, 2, 0x01, 0, 1}), 108},
     {2, 2, 16, 0, {}, Bytes({0xFF, 0x7F, 0x00, 0x7C, 0x00, 0x7C, 0x1F, 0x00})},
-    {2, 2, 24, 0, {}, Bytes({255, 255, 255, 0, 0, 255, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0})},
+    {2, 2, 24, 0, {}, RowsOf24, 16},
+    {2, 2, 24, 0, Padded({}, 257), RowsOf24},
     {2, 2, 32, 0, {}, Bytes({255, 255, 255, 0, 0, 0, 255, 0, 0, 0, 255, 0, 255, 0, 0, 0})}};
 
 TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
   for (const DibBytes& bitmap : Bitmaps) {
-    const forms::Picture picture = Load(bitmap.File());
-    ASSERT_TRUE(picture && picture->Width == 2 && picture->Height == 2) << bitmap.Bits;
-    const std::uint32_t last = bitmap.Bits > 1 ? White : Red;
-    EXPECT_EQ(picture->Pixels, (Pixels{Red, Blue, last, Red})) << bitmap.Bits;
+    QByteArray file = bitmap.File();
+    for (const char* offset : {"", " left empty"}) {
+      const forms::Picture picture = Load(file);
+      ASSERT_TRUE(picture && picture->Width == 2 && picture->Height == 2) << bitmap.Bits << offset;
+      const std::uint32_t last = bitmap.Bits > 1 ? White : Red;
+      EXPECT_EQ(picture->Pixels, (Pixels{Red, Blue, last, Red})) << bitmap.Bits << offset;
+      file.replace(10, 4, Long(0));
+    }
+  }
+}
+
+TEST(PictureLoader, MasksMayHaveAnyWidthAndPlaceButMustMakeSense) {
+  constexpr std::uint32_t Refused = 0;
+  const struct {
+    int Bits, HeaderBytes;
+    std::uint32_t Compression;
+    Pixels Masks;
+    std::uint32_t Stored, Pixel;
+  } cases[]{{16, 40, 3, {0x7C00, 0x03E0, 0x001F}, 0xFC63, 0xFFFF1919},
+            {16, 52, 3, {0xF800, 0x07E0, 0x001F}, 0x07FF, 0xFF00FFFF},
+            {16, 40, 6, {0x0F00, 0x00F0, 0x000F, 0xF000}, 0x0F81, 0xFFFF8811},
+            {16, 56, 6, {0x0001, 0x7FFE, 0x8000, 0}, 0x8001, 0xFFFF00FF},
+            {32, 56, 3, {0x000003FF, 0x000FFC00, 0x3FF00000, 0xC0000000}, 0xFFF80001, 0xFF0080FF},
+            {32, 108, 3, {0xFE000000, 0x01FFFF80, 0x0000007F}, 0xFEFFFF80, 0xFFFF7F00},
+            {32, 124, 3, {0xFFFFFFFF, 0, 0}, 0x80808080, 0xFF800000},
+            {32, 40, 3, {0, 0, 0}, 0x808080, Refused},
+            {32, 40, 3, {0xFF0000, 0x01FF00, 0xFF}, 0x808080, Refused},
+            {32, 40, 3, {0xFF0000, 0x00FD00, 0xFF}, 0x808080, Refused},
+            {16, 40, 3, {0x1F000, 0x0FE0, 0x1F}, 0x8080, Refused},
+            {24, 40, 3, {0xFF0000, 0xFF00, 0xFF}, 0x808080, Refused},
+            {32, 64, 3, {0xFF0000, 0xFF00, 0xFF}, 0x808080, Refused}};
+  for (const auto& [bits, headerBytes, compression, masks, stored, pixel] : cases) {
+    const forms::Picture picture =
+        Load(DibBytes{1, 1, bits, compression, {}, Long(stored), headerBytes, masks}.File());
+    EXPECT_EQ(picture ? picture->Pixels.at(0) : Refused, pixel) << std::hex << pixel << masks[1];
+  }
+}
+
+// Pixels that the codes skip have the first colour.
+TEST(PictureLoader, RunLengthsSkipClipAndBreakOff) {
+  const struct {
+    int Bits;
+    QByteArray Codes;
+    const char* Shown;  // digits of colours, the upper row first
+  } cases[]{{8, Bytes({1, 1, 0, 2, 1, 1, 9, 2, 9, 1, 0, 1}), "0022 1000"},
+            {8, Bytes({1, 1, 0, 5, 2, 1, 2, 1, 2, 0, 0, 0, 1, 2, 0, 1}), "2000 1212"},
+            {8, Bytes({0, 3, 1, 2, 1, 0, 0, 2, 9, 0, 2, 2}), "0000 1210"},
+            {8, Bytes({4, 1, 0, 2, 0, 200, 2, 2}), "0000 1111"},
+            {8, Bytes({2, 1, 0, 1, 2, 2}), "0000 1100"},
+            {8, Bytes({2, 1, 0, 3, 2}), "0000 1120"},
+            {4, Bytes({3, 0x12, 0, 0, 0, 3, 0x12, 0x20, 0, 1}), "1220 1210"},
+            {4, Bytes({0, 5, 0x12, 0x12, 0x10, 0, 0, 0, 9, 0x21}), "2121 1212"}};
+  for (const auto& [bits, codes, shown] : cases) {
+    const auto compression = bits == 8 ? 1U : 2U;
+    const forms::Picture picture =
+        Load(DibBytes{4, 2, bits, compression, RedBlueWhite, codes}.File());
+    ASSERT_TRUE(picture) << shown;
+    std::string digits;
+    for (const std::uint32_t pixel : picture->Pixels) {
+      if (digits.size() == 4) digits += ' ';
+      digits += pixel == Red ? '0' : pixel == Blue ? '1' : '2';
+    }
+    EXPECT_EQ(digits, shown);
   }
 }
 
@@ -50,13 +124,18 @@ TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
 const DibBytes Sound{4, 4, 24, 0, {}, QByteArray(48, '\x40')};
 
 TEST(PictureLoader, RefusesBitmapsThatLieAndReadsWhatIsLeftOfACutOne) {
-  QByteArray farBits = Sound.File();
-  farBits[12] = '\x7F';
+  const auto patched = [](qsizetype at, qint64 value) {
+    return Sound.File().replace(10, 4, Long(0)).replace(at, 4, Long(value));
+  };
   std::vector<std::pair<const char*, QByteArray>> lies{
       {"odd bits", DibBytes{4, 4, 7, 0, {}, Sound.Rows}.File()},
       {"run lengths need 8 bits", DibBytes{4, 4, 24, 1, {}, Sound.Rows}.File()},
+      {"run lengths need the lowest row first", DibBytes{4, -4, 8, 1, {}, Sound.Rows}.File()},
+      {"another kind of picture inside", DibBytes{4, 4, 24, 4, {}, Sound.Rows}.File()},
+      {"a header too short to have a depth", DibBytes{4, 4, 24, 0, {}, Sound.Rows, 14}.File()},
+      {"more colours than bytes", patched(46, -1)},
       {"half a header", Sound.File().first(30)},
-      {"rows past the end of the file", farBits}};
+      {"rows past the end of the file", patched(10, 0x7F0000)}};
   const int sizes[][2]{
       {0, 4},  {-4, 4}, {4, 0}, {30000, 30000}, {16384, 16384}, {4, INT_MIN}, {INT_MAX, INT_MAX},
       {4, 400}};
@@ -67,28 +146,76 @@ TEST(PictureLoader, RefusesBitmapsThatLieAndReadsWhatIsLeftOfACutOne) {
     EXPECT_EQ(Load(bytes), nullptr) << what << " " << bytes.mid(18, 8).toHex().data();
   }
   EXPECT_EQ(Load(Sound.File().chopped(15))->Pixels.at(12), 0xFF404040);
+  // Fewer colours than claimed; the number beyond them is black.
+  const forms::Picture few =
+      Load(DibBytes{2, 1, 8, 0, RedBlueWhite, Bytes({2, 3, 0, 0}), 12}.File());
+  EXPECT_EQ(few->Pixels, (Pixels{White, Black}));
 }
 
-TEST(PictureLoader, TellsTheKindByContentAndNotByName) {
-  const QTemporaryDir folder;
-  const auto load = [&](const char* name) {
-    return LoadPictureFile(folder.filePath(name).toStdString(), 60, 40);
-  };
-  const auto widthOf = [&](const char* name, const QByteArray& bytes) {
-    QFile file(folder.filePath(name));
+struct PictureFile : testing::Test {
+  QTemporaryDir Folder;
+
+  std::filesystem::path Path(const char* name) const { return Folder.filePath(name).toStdString(); }
+  forms::Picture LoadFile(const char* name) const { return LoadPictureFile(Path(name), 60, 40); }
+  void Write(const char* name, const QByteArray& bytes) const {
+    QFile file(Folder.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    const forms::Picture picture = load(name);
+  }
+};
+
+TEST_F(PictureFile, IsToldByContentAndNotByName) {
+  const auto widthOf = [&](const char* name, const QByteArray& bytes) {
+    Write(name, bytes);
+    const forms::Picture picture = LoadFile(name);
     return picture ? picture->Width : 0;
   };
   EXPECT_EQ(widthOf("map.wmf", Sound.File()), 4);
   EXPECT_EQ(widthOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), 60);
   EXPECT_EQ(widthOf("text.wmf", "Some text, no picture"), 0);
+  EXPECT_EQ(widthOf("start.bmp", "BM"), 0);
   EXPECT_EQ(widthOf("empty.bmp", ""), 0);
-  EXPECT_EQ(load("missing.bmp"), nullptr);
-  EXPECT_EQ(load("."), nullptr);
-  ASSERT_TRUE(QFile::resize(folder.filePath("map.wmf"), qint64{MaxMetafileBytes} + 1));
-  EXPECT_EQ(load("map.wmf"), nullptr);
+  EXPECT_EQ(LoadFile("missing.bmp"), nullptr);
+  EXPECT_EQ(LoadFile("."), nullptr);
+  for (const char* name : {"map.wmf", "map.bmp"}) {
+    ASSERT_TRUE(QFile::resize(Folder.filePath(name), qint64{MaxMetafileBytes} + 1));
+  }
+  EXPECT_NE(LoadFile("map.wmf"), nullptr) << "a bitmap";
+  EXPECT_EQ(LoadFile("map.bmp"), nullptr);
+}
+
+TEST_F(PictureFile, IsReadInBandsThatMeet) {
+  constexpr int Width = 170;
+  constexpr int Height = 4001;
+  QByteArray rows;
+  for (int y = 0; y < Height; ++y) {
+    rows += Long(y) + QByteArray(Width * 4 - 8, '\x40') + Long(y);
+  }
+  for (const int height : {Height, -Height}) {
+    for (const int cut : {0, Height / 3}) {
+      Write("map.bmp", DibBytes{Width, height, 32, 0, {}, rows}.File().chopped(cut * Width * 4));
+      const forms::Picture picture = LoadFile("map.bmp");
+      ASSERT_TRUE(picture);
+      for (int y = 0; y < Height; ++y) {
+        const int stored = height < 0 ? y : Height - 1 - y;
+        const std::uint32_t ends =
+            Black + static_cast<std::uint32_t>(stored < Height - cut ? stored : 0);
+        ASSERT_EQ(picture->Pixels[picture->At(0, y)], ends) << y;
+        ASSERT_EQ(picture->Pixels[picture->At(Width - 1, y)], ends) << y;
+      }
+    }
+  }
+}
+
+TEST_F(PictureFile, CannotBeReadWhenItIsCutShortMeanwhile) {
+  for (const DibBytes& bitmap : Bitmaps) {
+    const QByteArray bytes = bitmap.File();
+    Write("map.bmp", bytes);
+    const forms::RegularFile file(Path("map.bmp"));
+    FileBytes dib(file, 14);
+    EXPECT_NE(DecodeDib(dib, std::nullopt), nullptr);
+    ASSERT_TRUE(QFile::resize(Folder.filePath("map.bmp"), bytes.size() - 1));
+    EXPECT_EQ(DecodeDib(dib, std::nullopt), nullptr) << bitmap.Bits;
+  }
 }
 
 }  // namespace
