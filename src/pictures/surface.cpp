@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "forms/flood.h"
+#include "forms/openbits.h"
 #include "pictures/newimage.h"
 
 namespace terramark::pictures {
@@ -10,7 +12,7 @@ namespace {
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
 constexpr std::int64_t WorkPerCrossing = 16;
-constexpr std::int64_t WorkPerFloodPixel = 10;
+constexpr std::int64_t WorkPerFloodRun = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
 
@@ -110,36 +112,27 @@ void Surface::Put(QPoint at, QRgb colour) {
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
-  const std::int64_t work = std::int64_t{Area().width()} * Area().height() * WorkPerFloodPixel;
-  if (!Area().contains(seed) || !Spend(work)) return;
-  // Painting changes the colours that are asked for, so the filled shape is found first.
-  QImage inside = NewImage(Area().size(), QImage::Format_Grayscale8);
-  inside.fill(0);
-  const auto fills = [&](int x, int y) {
-    const bool same = (At({x, y}) & 0xFFFFFF) == (colour & 0xFFFFFF);
-    return same != border && inside.constScanLine(y)[x] == 0 && !Clipped(x, y);
+  const std::int64_t bits = std::int64_t{Area().width()} * Area().height() * 2;
+  if (!Area().contains(seed) || !Spend(bits / 64)) return;
+  const auto stops = border ? forms::FloodStops::AtColour : forms::FloodStops::AtOtherColours;
+  const auto width = static_cast<std::size_t>(Area().width());
+  // Rows without open pixels end the flood when the work is used up.
+  const auto open = [&](int y, std::span<std::uint64_t> row) {
+    if (!Spend(Area().width())) return;
+    forms::SetOpenBits({Row(y), width}, colour, stops, row);
+    if (!clip_.isNull()) CloseClipped(y, row);
   };
-  std::vector<QPoint> pending{seed};
-  while (!pending.empty()) {
-    const QPoint at = pending.back();
-    pending.pop_back();
-    if (!fills(at.x(), at.y())) continue;
-    int left = at.x();
-    while (left > 0 && fills(left - 1, at.y())) --left;
-    int right = at.x();
-    while (right + 1 < Area().width() && fills(right + 1, at.y())) ++right;
-    std::fill_n(inside.scanLine(at.y()) + left, right - left + 1, uchar{1});
-    for (const int y : {at.y() - 1, at.y() + 1}) {
-      if (y < 0 || y >= Area().height()) continue;
-      for (int x = left; x <= right; ++x) {
-        if (fills(x, y) && (x == left || !fills(x - 1, y))) pending.emplace_back(x, y);
-      }
-    }
-  }
-  for (int y = 0; y < Area().height(); ++y) {
-    for (int x = 0; x < Area().width(); ++x) {
-      if (inside.constScanLine(y)[x] != 0) Pixel({x, y}, paint);
-    }
+  const auto fill = [&](int y, int x0, int x1) {
+    if (Spend(WorkPerFloodRun)) Span(y, x0, x1, paint);
+  };
+  const forms::PixelPoint from{seed.x(), seed.y()};
+  forms::Flooder(Area().width(), Area().height(), open, fill).From({&from, 1});
+}
+
+void Surface::CloseClipped(int y, std::span<std::uint64_t> row) const {
+  const uchar* clip = clip_.constScanLine(y);
+  for (std::size_t x = 0; x < static_cast<std::size_t>(clip_.width()); ++x) {
+    if (clip[x] == 0) row[x / 64] &= ~(std::uint64_t{1} << x % 64);
   }
 }
 

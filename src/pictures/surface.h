@@ -8,6 +8,7 @@
 #include <QRgb>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -80,6 +81,8 @@ class Surface {
 
  private:
   bool Clipped(int x, int y) const { return !clip_.isNull() && clip_.constScanLine(y)[x] == 0; }
+  /// Takes the bits of clipped pixels from a row of 64 pixels a word.
+  void CloseClipped(int y, std::span<std::uint64_t> row) const;
   void FillClip(const QRect& rect, std::uint8_t value);
   QImage NewClip(std::uint8_t value) const;
 
