@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "pictures/graphicsobjects.h"
+#include "pictures/matchedfonts.h"
 #include "pictures/surface.h"
 
 namespace terramark::pictures {
@@ -52,6 +53,7 @@ class DeviceContext {
   Surface& Target() { return surface_; }
   DeviceState State;
   ObjectTable Objects;
+  MatchedFonts Fonts;
 
   bool Measured() const { return measured_; }
 

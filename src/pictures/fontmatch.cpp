@@ -15,6 +15,10 @@ constexpr int DefaultPixelSize = 16;
 constexpr double MadeItalicSlant = 0.287;  // 16 degrees
 constexpr int BoldFrom = 600;
 
+double Limited(double size) {
+  return std::clamp(size, 1.0, double{MaxPixelSize});
+}
+
 struct FaceRow {
   const char* Face;  // how the name begins
   const char* Family;
@@ -38,19 +42,22 @@ constexpr FaceRow Faces[] = {
     {"terminal", "Liberation Mono"},
 };
 
-bool IsInstalled(const QString& family) {
-  static const QStringList installed = QFontDatabase::families();
-  return installed.contains(family, Qt::CaseInsensitive);
+// What the symbol font says of itself, for each pixel of its size.
+constexpr double SymbolAscent = 1.005;
+constexpr double SymbolDescent = 0.220;
+constexpr double SymbolWidth = 0.5755;
+
+const QStringList& Installed() {
+  static const QStringList families = QFontDatabase::families();
+  return families;
 }
 
-// A font of signs has no stand-in: without it, its letters are empty boxes.
+bool IsInstalled(const QString& family) {
+  return Installed().contains(family, Qt::CaseInsensitive);
+}
+
 QString FamilyOf(const Font& font) {
-  QString own = QString::fromLatin1(font.Face);
-  if (HoldsSigns(font) && IsInstalled(own)) return own;
-  const QByteArray face = font.Face.toLower();
-  for (const FaceRow& row : Faces) {
-    if (face.startsWith(row.Face)) return QString::fromLatin1(row.Family);
-  }
+  if (const char* family = StandInFor(font.Face.toLower())) return QString::fromLatin1(family);
   constexpr int FixedPitch = 1;
   constexpr int Roman = 1;
   constexpr int Modern = 3;
@@ -59,26 +66,79 @@ QString FamilyOf(const Font& font) {
   return kind == Roman ? "Liberation Serif" : "Liberation Sans";
 }
 
-// The font's cell for letters of 1000 pixels, from which the letters' size for a cell follows.
-double CellOf(QFont font) {
+// The wanted font itself or, for symbols, a free one of the same encoding that is read as Western.
+std::optional<SignFont> SignsOf(const Font& wanted, QFont face) {
+  const FontContents contents = ContentsOf(wanted);
+  if (contents == FontContents::Letters) return std::nullopt;
+  face.setStyleStrategy(QFont::StyleStrategy(QFont::NoAntialias | QFont::NoFontMerging));
+  const QString own = QString::fromLatin1(wanted.Face);
+  if (IsInstalled(own)) {
+    face.setFamily(own);
+    return SignFont{.Face = face, .From = OwnSignsFrom};
+  }
+  if (contents == FontContents::OwnSigns) return std::nullopt;
+  for (const QString& family : Installed()) {
+    if (!family.startsWith("Standard Symbols")) continue;
+    face.setFamily(family);
+    return SignFont{.Face = face, .From = 0};
+  }
+  return std::nullopt;
+}
+
+// What an ascent, a descent and a mean width are for letters of `size` pixels.
+struct Measures {
+  int Ascent = 0;
+  int Descent = 0;
+  double Width = 0;
+};
+
+Measures MeasuresOf(QFont face, bool symbols, double size) {
+  if (symbols) {
+    return {.Ascent = static_cast<int>(std::lround(SymbolAscent * size)),
+            .Descent = static_cast<int>(std::lround(SymbolDescent * size)),
+            .Width = SymbolWidth * size};
+  }
+  face.setPixelSize(static_cast<int>(size));
+  const QFontMetricsF metrics(face);
+  return {.Ascent = static_cast<int>(std::lround(metrics.ascent())),
+          .Descent = static_cast<int>(std::lround(metrics.descent())),
+          .Width = metrics.averageCharWidth()};
+}
+
+// The font's cell for each pixel of its letters' size.
+double CellOf(QFont face, bool symbols) {
+  if (symbols) return SymbolAscent + SymbolDescent;
   constexpr int Sample = 1000;
-  font.setPixelSize(Sample);
-  const QFontMetricsF metrics(font);
+  face.setPixelSize(Sample);
+  const QFontMetricsF metrics(face);
   return (metrics.ascent() + metrics.descent()) / Sample;
+}
+
+// The nearest size, or one less where its own cell, rounded, would be too high.
+double SizeOfCell(double height, double cell) {
+  const double size = std::floor(height / cell + 0.5);
+  return std::floor(size * cell + 0.5) > height ? size - 1 : size;
 }
 
 }  // namespace
 
-MatchedFont MatchFont(const DeviceContext& context) {
-  const Font& wanted = context.State.CurrentFont;
-  const QPointF scale = context.Scale();
+const char* StandInFor(const QByteArray& face) {
+  for (const FaceRow& row : Faces) {
+    if (face.startsWith(row.Face)) return row.Family;
+  }
+  return nullptr;
+}
+
+MatchedFont MatchFont(const Font& wanted, QPointF scale) {
+  const bool letters = ContentsOf(wanted) == FontContents::Letters;
+  const bool symbols = ContentsOf(wanted) == FontContents::Symbols;
   MatchedFont matched;
   QFont& face = matched.Face;
   face.setFamily(FamilyOf(wanted));
   face.setStyleStrategy(QFont::NoAntialias);
   face.setHintingPreference(QFont::PreferFullHinting);
   face.setBold(wanted.Weight >= BoldFrom);
-  if (wanted.Italic && HoldsSigns(wanted)) {
+  if (wanted.Italic && !letters) {
     matched.Slant = MadeItalicSlant;
   } else {
     face.setItalic(wanted.Italic);
@@ -88,16 +148,18 @@ MatchedFont MatchFont(const DeviceContext& context) {
   face.setKerning(false);
 
   const double height = std::floor(std::abs(wanted.Height * scale.y()) + 0.5);
-  double size = wanted.Height > 0 ? std::floor(height / CellOf(face) + 0.5) : height;
+  double size = wanted.Height > 0 ? SizeOfCell(height, CellOf(face, symbols)) : height;
   if (wanted.Height == 0) size = DefaultPixelSize;
-  face.setPixelSize(static_cast<int>(std::clamp(size, 1.0, double{MaxPixelSize})));
+  size = Limited(size);
+  face.setPixelSize(static_cast<int>(size));
+  matched.Signs = SignsOf(wanted, face);
 
-  const QFontMetricsF metrics(face);
-  matched.Ascent = static_cast<int>(std::lround(metrics.ascent()));
-  matched.Descent = static_cast<int>(std::lround(metrics.descent()));
-  if (wanted.Width != 0 && metrics.averageCharWidth() > 0) {
+  const Measures measures = MeasuresOf(face, symbols, size);
+  matched.Ascent = measures.Ascent;
+  matched.Descent = measures.Descent;
+  if (wanted.Width != 0 && measures.Width > 0) {
     const double width = std::abs(wanted.Width * scale.x());
-    matched.Stretch = std::clamp(width / metrics.averageCharWidth(), 0.05, 50.0);
+    matched.Stretch = std::clamp(width / measures.Width, 0.05, 50.0);
   }
   return matched;
 }

@@ -3,13 +3,23 @@
 #pragma once
 
 #include <QFont>
+#include <QPointF>
+#include <optional>
 
-#include "pictures/devicecontext.h"
+#include "pictures/graphicsobjects.h"
 
 namespace terramark::pictures {
 
+/// A font that keeps its signs by their byte.
+struct SignFont {
+  QFont Face;
+  char16_t From = 0;  // where byte 0 is
+};
+
 struct MatchedFont {
   QFont Face;
+  /// For a font of signs: the one to try first.
+  std::optional<SignFont> Signs;
   int Ascent = 0;   // pixels
   int Descent = 0;  // pixels
   /// How much wider than its own proportion the font is to be drawn.
@@ -18,8 +28,11 @@ struct MatchedFont {
   double Slant = 0;
 };
 
-/// The font for the selected one. One of the families that are expected is named even when it is
-/// not installed; the size is 1 to 4096 pixels.
-MatchedFont MatchFont(const DeviceContext& context);
+/// The family that stands in for a usual face of letters, named in lower case; null for any other.
+const char* StandInFor(const QByteArray& face);
+
+/// The font for `wanted` at so many pixels per logical unit. One of the families that are expected
+/// is named even when it is not installed; the size is 1 to 4096 pixels.
+MatchedFont MatchFont(const Font& wanted, QPointF scale);
 
 }  // namespace terramark::pictures

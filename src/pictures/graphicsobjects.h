@@ -47,6 +47,8 @@ struct Font {
   int Charset = 0;         // the format's number, 0 to 255
   int PitchAndFamily = 0;  // bits 0 and 1: fixed pitch is 1; bits 4 to 7: the family
   QByteArray Face;         // at most 32 bytes
+
+  bool operator==(const Font&) const = default;
 };
 
 struct Palette {

@@ -6,12 +6,13 @@
 #include <bit>
 #include <cstdint>
 
+#include "pictures/fontmatch.h"
+#include "pictures/symbolencoding.h"
+
 namespace terramark::pictures {
 namespace {
 
 constexpr int SymbolCharset = 2;
-// Fonts of signs keep their letters here; a font without them shows its empty box.
-constexpr char16_t PrivateArea = 0xF000;
 
 struct Charset {
   const char* CodePage;
@@ -84,28 +85,33 @@ class Converter {
 
 }  // namespace
 
-bool HoldsSigns(const Font& font) {
-  return font.Charset == SymbolCharset || font.Face.toLower().startsWith("symbol");
+FontContents ContentsOf(const Font& font) {
+  const QByteArray face = font.Face.toLower();
+  if (face.startsWith("symbol")) return FontContents::Symbols;
+  if (font.Charset != SymbolCharset) return FontContents::Letters;
+  // A face for letters has no signs: the symbol font steps in.
+  const bool symbols = face.isEmpty() || face.contains("symbol") || StandInFor(face) != nullptr;
+  return symbols ? FontContents::Symbols : FontContents::OwnSigns;
 }
 
-std::vector<Letter> DecodeText(QByteArrayView bytes, const Font& font) {
-  std::vector<Letter> letters;
-  const bool signs = HoldsSigns(font);
-  const Charset& charset = CharsetOf(font.Charset);
-  Converter converter(charset.CodePage);
-  for (qsizetype at = 0; at < bytes.size();) {
-    const auto byte = static_cast<unsigned char>(bytes[at]);
-    if (signs) {
-      letters.push_back({QString(QChar(static_cast<char16_t>(PrivateArea + byte))), 1});
-      ++at;
-      continue;
-    }
-    const bool pair = charset.DoubleByte && IsLeadByte(font.Charset, byte) && at + 1 < bytes.size();
-    const int length = pair ? 2 : 1;
-    letters.push_back({converter.Convert(bytes.sliced(at, length)), length});
-    at += length;
+int FirstLetterBytes(QByteArrayView text, const Font& font) {
+  if (text.size() < 2 || !CharsetOf(font.Charset).DoubleByte) return 1;
+  const bool pair = IsLeadByte(font.Charset, static_cast<unsigned char>(text[0])) &&
+                    ContentsOf(font) == FontContents::Letters;
+  return pair ? 2 : 1;
+}
+
+QString DecodeLetter(QByteArrayView letter, const Font& font) {
+  const auto byte = static_cast<unsigned char>(letter[0]);
+  switch (ContentsOf(font)) {
+    case FontContents::Symbols:
+      return QString(QChar(SymbolLetter(byte)));
+    case FontContents::OwnSigns:
+      return QString(QChar(static_cast<char16_t>(OwnSignsFrom + byte)));
+    case FontContents::Letters:
+      break;
   }
-  return letters;
+  return Converter(CharsetOf(font.Charset).CodePage).Convert(letter);
 }
 
 }  // namespace terramark::pictures

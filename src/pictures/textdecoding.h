@@ -3,24 +3,25 @@
 
 #include <QByteArrayView>
 #include <QString>
-#include <vector>
 
 #include "pictures/graphicsobjects.h"
 
 namespace terramark::pictures {
 
-/// One letter and how many of the record's bytes it takes.
-struct Letter {
-  QString Text;
-  int Bytes = 1;
-};
+/// What a font holds: letters; the signs of the symbol font; or signs of its own, known by nothing
+/// but its name.
+enum class FontContents { Letters, Symbols, OwnSigns };
+FontContents ContentsOf(const Font& font);
 
-/// Whether the font holds signs in place of letters, like the symbol font.
-bool HoldsSigns(const Font& font);
+/// Fonts of signs keep them from here on.
+constexpr char16_t OwnSignsFrom = 0xF000;
 
-/// The letters of `bytes` in their order, their Bytes adding up to all of them. Those that the set
-/// does not have come out as U+FFFD; a set that is not known, and a code page that the system does
-/// not have, are read as Western.
-std::vector<Letter> DecodeText(QByteArrayView bytes, const Font& font);
+/// How many bytes the first letter of `text`, which is not empty, takes: 1 or 2.
+int FirstLetterBytes(QByteArrayView text, const Font& font);
+
+/// The letter that so many bytes stand for. U+FFFD for one that the
+/// set does not have; a set that is not known, and a code page that the system does not have, are
+/// read as Western. A font's own sign is U+F000 and its byte.
+QString DecodeLetter(QByteArrayView letter, const Font& font);
 
 }  // namespace terramark::pictures

@@ -1,11 +1,12 @@
-#include <QFontMetrics>
+#include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-#include "pictures/fontmatch.h"
+#include "pictures/matchedfonts.h"
 #include "pictures/newimage.h"
 #include "pictures/recordplayers.h"
 #include "pictures/textdecoding.h"
@@ -14,7 +15,15 @@ namespace terramark::pictures {
 namespace {
 
 constexpr qsizetype MaxLetters = 4096;
-constexpr std::int64_t WorkPerLetter = 4000;
+constexpr std::int64_t WorkPerLetter = 40;  // to lay it out
+// To draw one: from what the font keeps ready, which is less for letters that are turned or
+// stretched, or its outline, at so much for each column.
+constexpr std::int64_t WorkPerImage = 300;
+constexpr std::int64_t WorkPerTurnedImage = 5000;
+constexpr std::int64_t WorkPerImageRow = 5;
+constexpr std::int64_t WorkPerOutline = 5000;
+constexpr std::int64_t WorkPerOutlineColumn = 100;
+constexpr double LargestImage = 64;
 
 struct TextRun {
   QByteArrayView Bytes;
@@ -24,34 +33,35 @@ struct TextRun {
 
 // Letters laid along the baseline, in pixels from its start.
 struct TextLine {
-  std::vector<Letter> Letters;
+  std::vector<const LetterShape*> Letters;
   std::vector<int> Offsets;
   int Width = 0;
 };
 
-TextLine LayOut(const DeviceContext& context, const TextRun& run, const MatchedFont& font) {
+// Breaks off when the work is used up.
+TextLine LayOut(DeviceContext& context, const TextRun& run, LetteredFont& font) {
   const DeviceState& state = context.State;
   const double scale = std::abs(context.Scale().x());
-  const QFontMetrics metrics(font.Face);
   const auto toPixels = [scale](double logical) {
     return static_cast<int>(std::clamp(std::floor(logical * scale + 0.5), -1e7, 1e7));
   };
-  TextLine line{.Letters = DecodeText(run.Bytes, state.CurrentFont), .Offsets = {}};
+  TextLine line;
   std::int64_t logical = 0;
   double own = 0;
-  std::size_t byte = 0;
-  for (const Letter& letter : line.Letters) {
+  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().Spend(WorkPerLetter);) {
+    const int bytes = FirstLetterBytes(run.Bytes.sliced(at), state.CurrentFont);
+    const LetterShape& shape = font.ShapeOf(run.Bytes.sliced(at, bytes), context.Target());
+    line.Letters.push_back(&shape);
     line.Offsets.push_back(line.Width);
     if (run.Advance.empty()) {
-      own += std::floor(metrics.horizontalAdvance(letter.Text) * font.Stretch + 0.5);
+      own += std::floor(shape.Advance * font.Match.Stretch + 0.5);
     } else {
-      for (int i = 0; i < letter.Bytes && byte < run.Advance.size(); ++i) {
-        logical += run.Advance[byte++];
-      }
+      for (int i = 0; i < bytes; ++i) logical += run.Advance[static_cast<std::size_t>(at + i)];
     }
     logical += state.CharExtra;
-    if (letter.Text == u" " && state.BreakCount > 0) logical += state.BreakExtra / state.BreakCount;
+    if (shape.Blank && state.BreakCount > 0) logical += state.BreakExtra / state.BreakCount;
     line.Width = static_cast<int>(own) + toPixels(static_cast<double>(logical));
+    at += bytes;
   }
   return line;
 }
@@ -69,21 +79,55 @@ QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   return start;
 }
 
-QImage DrawLetters(const TextLine& line, const MatchedFont& font, const QTransform& place,
-                   const QRect& area) {
+// What a letter may paint, with what hangs over its cell.
+QRectF InkOf(const LetterShape& letter, const MatchedFont& font) {
+  const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
+  const QRectF cell(0, -font.Ascent, letter.Advance * font.Stretch, font.Ascent + font.Descent);
+  return cell.adjusted(-overhang, -overhang, overhang, overhang);
+}
+
+std::int64_t WorkOfLetter(const MatchedFont& font, const QTransform& shape, const QRect& seen) {
+  const int size = font.Face.pixelSize();
+  if (size * size * font.Stretch >= LargestImage * LargestImage) {
+    return WorkPerOutline + WorkPerOutlineColumn * seen.width();
+  }
+  return (shape.isIdentity() ? WorkPerImage : WorkPerTurnedImage) + WorkPerImageRow * size;
+}
+
+// Lines along the whole text, under its blanks as well.
+void DrawRules(QPainter& painter, double width, const QFont& font) {
+  if (!font.underline() && !font.strikeOut()) return;
+  const QFontMetricsF metrics(font);
+  painter.setPen(QPen(Qt::black, metrics.lineWidth(), Qt::SolidLine, Qt::FlatCap));
+  const double under = std::min(std::ceil(metrics.underlinePos()), metrics.descent() - 1) + 0.5;
+  const double through = -metrics.strikeOutPos();
+  if (font.underline()) painter.drawLine(QLineF(0, under, width, under));
+  if (font.strikeOut()) painter.drawLine(QLineF(0, through, width, through));
+}
+
+// Letters that lie outside the area cost nothing but the look at them.
+QImage DrawLetters(Surface& target, const TextLine& line, const MatchedFont& font,
+                   const QTransform& place, const QRect& area) {
   QImage image = NewImage(area.size(), QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  painter.setFont(font.Face);
   painter.setPen(Qt::black);
+  const QTransform turn(place.m11(), place.m12(), place.m21(), place.m22(), 0, 0);
+  const QTransform shape = QTransform(font.Stretch, 0, -font.Slant, 1, 0, 0) * turn;
   for (std::size_t i = 0; i < line.Letters.size(); ++i) {
+    const LetterShape& letter = *line.Letters[i];
     const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
     const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-    const QTransform shape(font.Stretch, 0, -font.Slant, 1, 0, 0);
-    const QTransform turn(place.m11(), place.m12(), place.m21(), place.m22(), whole.x(), whole.y());
-    painter.setTransform(shape * turn);
-    painter.drawText(QPointF(0, 0), line.Letters[i].Text);
+    const QRectF ink = turn.mapRect(InkOf(letter, font)).translated(whole);
+    const QRect seen = ink.toAlignedRect().intersected(image.rect());
+    if (letter.Runs.isEmpty() || seen.isEmpty()) continue;
+    if (!target.Spend(WorkOfLetter(font, shape, seen))) break;
+    painter.setTransform(shape * QTransform::fromTranslate(whole.x(), whole.y()));
+    for (const QGlyphRun& run : letter.Runs) painter.drawGlyphRun(QPointF(0, 0), run);
   }
+  const QPointF start = place.map(QPointF(0, 0)) - area.topLeft();
+  painter.setTransform(turn * QTransform::fromTranslate(start.x(), start.y()));
+  DrawRules(painter, line.Width, font.Face);
   painter.end();
   QImage mask = NewImage(area.size(), QImage::Format_Grayscale8);
   for (int y = 0; y < mask.height(); ++y) {
@@ -102,11 +146,12 @@ Paint Plain(const DeviceContext& context, ColourRef colour) {
 void DrawRun(DeviceContext& context, const TextRun& run, bool ground) {
   Surface& target = context.Target();
   DeviceState& state = context.State;
-  if (!target.Spend(run.Bytes.size() * WorkPerLetter)) return;
+  if (run.Bytes.isEmpty()) return;
   const bool update = (state.TextAlign & AlignUpdate) != 0;
   const QPoint reference = update ? state.Position : run.At;
-  const MatchedFont font = MatchFont(context);
-  const TextLine line = LayOut(context, run, font);
+  LetteredFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target);
+  const MatchedFont& font = lettered.Match;
+  const TextLine line = LayOut(context, run, lettered);
 
   const QPoint origin = context.ToDevice(QPointF(reference));
   const QPoint start = BaselineStart(state.TextAlign, line, font);
@@ -125,7 +170,7 @@ void DrawRun(DeviceContext& context, const TextRun& run, bool ground) {
   const QRect area = bounds.intersected(target.Area());
   if (target.Touch(context.Measured() ? inner : bounds) &&
       target.Spend(std::int64_t{2} * area.width() * area.height())) {
-    target.Mask(DrawLetters(line, font, place, area), area.topLeft(),
+    target.Mask(DrawLetters(target, line, font, place, area), area.topLeft(),
                 Plain(context, state.TextColour));
   }
   const double scale = std::abs(context.Scale().x());

@@ -1,0 +1,83 @@
+#include "pictures/matchedfonts.h"
+
+#include <QFontMetrics>
+#include <QTextLayout>
+#include <algorithm>
+
+#include "pictures/symbolencoding.h"
+#include "pictures/textdecoding.h"
+
+namespace terramark::pictures {
+namespace {
+
+constexpr std::size_t MaxKept = 64;
+constexpr std::int64_t WorkPerFont = 100'000;
+constexpr std::int64_t WorkPerSearch = 500;
+constexpr std::int64_t WorkPerShape = 20'000;
+
+// Nothing where a font would draw the box it has for letters that it lacks.
+QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
+  QTextLayout layout(text, font);
+  layout.beginLayout();
+  const QTextLine line = layout.createLine();
+  layout.endLayout();
+  QList<QGlyphRun> runs = layout.glyphRuns();
+  for (QGlyphRun& run : runs) {
+    if (run.glyphIndexes().contains(0)) return {};
+    QList<QPointF> positions = run.positions();
+    for (QPointF& position : positions) position.ry() -= line.ascent();
+    run.setPositions(positions);
+  }
+  return runs;
+}
+
+}  // namespace
+
+const LetterShape& LetteredFont::ShapeOf(QByteArrayView letter, Surface& target) {
+  unsigned bytes = 0;
+  for (const char byte : letter) bytes = bytes << 8 | static_cast<unsigned char>(byte);
+  const auto known = letters_.find(bytes);
+  if (known != letters_.end()) return known->second;
+  target.Spend(WorkPerShape);
+  return letters_.emplace(bytes, NewShape(letter)).first->second;
+}
+
+LetterShape LetteredFont::NewShape(QByteArrayView letter) const {
+  const QString text = DecodeLetter(letter, Wanted);
+  LetterShape shape{.Runs = {}, .Advance = 0, .Blank = text == u" "};
+  const auto take = [&shape](const QFont& face, const QString& as) {
+    shape.Runs = RunsOf(face, as);
+    shape.Advance = QFontMetrics(face).horizontalAdvance(as);
+    return !shape.Runs.isEmpty();
+  };
+  if (Match.Signs) {
+    const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
+    if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
+  }
+  const FontContents contents = ContentsOf(Wanted);
+  if (text == QString(QChar::ReplacementCharacter) || contents == FontContents::OwnSigns) {
+    shape.Advance = QFontMetrics(Match.Face).horizontalAdvance(text);
+    return shape;
+  }
+  if (take(Match.Face, text)) return shape;
+  const char16_t plainer =
+      contents == FontContents::Symbols ? PlainerLetter(text[0].unicode()) : u'\0';
+  if (plainer != 0 && take(Match.Face, QString(QChar(plainer)))) return shape;
+  // Letters of two bytes are as wide as they are high.
+  if (letter.size() > 1) shape.Advance = Match.Face.pixelSize();
+  return shape;
+}
+
+LetteredFont& MatchedFonts::Find(Font wanted, QPointF scale, Surface& target) {
+  wanted.Escapement = 0;  // the letters are turned when they are drawn
+  target.Spend(WorkPerSearch);
+  const auto kept = std::find_if(fonts_.begin(), fonts_.end(), [&](const LetteredFont& font) {
+    return font.Scale == scale && font.Wanted == wanted;
+  });
+  if (kept != fonts_.end()) return *kept;
+  target.Spend(WorkPerFont);
+  if (fonts_.size() == MaxKept) fonts_.clear();
+  return fonts_.emplace_back(wanted, scale);
+}
+
+}  // namespace terramark::pictures
