@@ -25,21 +25,13 @@ struct FaceRow {
 };
 
 constexpr FaceRow Faces[] = {
-    {"times", "Liberation Serif"},
-    {"tms rmn", "Liberation Serif"},
-    {"roman", "Liberation Serif"},
-    {"symbol", "Liberation Serif"},
-    {"georgia", "Liberation Serif"},
-    {"garamond", "Liberation Serif"},
-    {"arial narrow", "Liberation Sans Narrow"},
-    {"arial", "Liberation Sans"},
-    {"helv", "Liberation Sans"},
-    {"swiss", "Liberation Sans"},
-    {"ms sans serif", "Liberation Sans"},
-    {"system", "Liberation Sans"},
-    {"courier", "Liberation Mono"},
-    {"fixedsys", "Liberation Mono"},
-    {"terminal", "Liberation Mono"},
+    {"times", "Liberation Serif"},    {"tms rmn", "Liberation Serif"},
+    {"roman", "Liberation Serif"},    {"georgia", "Liberation Serif"},
+    {"garamond", "Liberation Serif"}, {"arial narrow", "Liberation Sans Narrow"},
+    {"arial", "Liberation Sans"},     {"helv", "Liberation Sans"},
+    {"swiss", "Liberation Sans"},     {"ms sans serif", "Liberation Sans"},
+    {"system", "Liberation Sans"},    {"courier", "Liberation Mono"},
+    {"fixedsys", "Liberation Mono"},  {"terminal", "Liberation Mono"},
 };
 
 // What the symbol font says of itself, for each pixel of its size.
@@ -57,6 +49,7 @@ bool IsInstalled(const QString& family) {
 }
 
 QString FamilyOf(const Font& font) {
+  if (ContentsOf(font) == FontContents::Symbols) return "Liberation Serif";
   if (const char* family = StandInFor(font.Face.toLower())) return QString::fromLatin1(family);
   constexpr int FixedPitch = 1;
   constexpr int Roman = 1;

@@ -44,27 +44,27 @@ const LetterShape& LetteredFont::ShapeOf(QByteArrayView letter, Surface& target)
 
 LetterShape LetteredFont::NewShape(QByteArrayView letter) const {
   const QString text = DecodeLetter(letter, Wanted);
-  LetterShape shape{.Runs = {}, .Advance = 0, .Blank = text == u" "};
+  LetterShape shape{.Runs = {}, .Advance = 0, .Blank = letter == QByteArrayView(" ")};
   const auto take = [&shape](const QFont& face, const QString& as) {
     shape.Runs = RunsOf(face, as);
     shape.Advance = QFontMetrics(face).horizontalAdvance(as);
     return !shape.Runs.isEmpty();
   };
-  if (Match.Signs) {
-    const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
-    if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
+  if (text != QString(QChar::ReplacementCharacter)) {
+    const FontContents contents = ContentsOf(Wanted);
+    if (Match.Signs) {
+      const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
+      if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
+    }
+    if (contents != FontContents::OwnSigns && take(Match.Face, text)) return shape;
+    if (contents == FontContents::Symbols) {
+      const char16_t plainer = PlainerLetter(text[0].unicode());
+      if (plainer != 0 && take(Match.Face, QString(QChar(plainer)))) return shape;
+    }
   }
-  const FontContents contents = ContentsOf(Wanted);
-  if (text == QString(QChar::ReplacementCharacter) || contents == FontContents::OwnSigns) {
-    shape.Advance = QFontMetrics(Match.Face).horizontalAdvance(text);
-    return shape;
-  }
-  if (take(Match.Face, text)) return shape;
-  const char16_t plainer =
-      contents == FontContents::Symbols ? PlainerLetter(text[0].unicode()) : u'\0';
-  if (plainer != 0 && take(Match.Face, QString(QChar(plainer)))) return shape;
   // Letters of two bytes are as wide as they are high.
-  if (letter.size() > 1) shape.Advance = Match.Face.pixelSize();
+  shape.Advance =
+      letter.size() > 1 ? Match.Face.pixelSize() : QFontMetrics(Match.Face).horizontalAdvance(text);
   return shape;
 }
 

@@ -19,9 +19,9 @@ constexpr char16_t OwnSignsFrom = 0xF000;
 /// How many bytes the first letter of `text`, which is not empty, takes: 1 or 2.
 int FirstLetterBytes(QByteArrayView text, const Font& font);
 
-/// The letter that so many bytes stand for. U+FFFD for one that the
-/// set does not have; a set that is not known, and a code page that the system does not have, are
-/// read as Western. A font's own sign is U+F000 and its byte.
+/// What the one or two bytes of a letter stand for. U+FFFD for one that the set does not have; a
+/// set that is not known, and a code page that the system does not have, are read as Western. A
+/// font's own sign is OwnSignsFrom and its byte.
 QString DecodeLetter(QByteArrayView letter, const Font& font);
 
 }  // namespace terramark::pictures
