@@ -122,6 +122,10 @@ const char* StandInFor(const QByteArray& face) {
   return nullptr;
 }
 
+qsizetype InstalledFamilies() {
+  return Installed().size();
+}
+
 MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   const bool letters = ContentsOf(wanted) == FontContents::Letters;
   const bool symbols = ContentsOf(wanted) == FontContents::Symbols;

@@ -31,6 +31,9 @@ struct MatchedFont {
 /// The family that stands in for a usual face of letters, named in lower case; null for any other.
 const char* StandInFor(const QByteArray& face);
 
+/// How many families of fonts the system has.
+qsizetype InstalledFamilies();
+
 /// The font for `wanted` at so many pixels per logical unit. One of the families that are expected
 /// is named even when it is not installed; the size is 1 to 4096 pixels.
 MatchedFont MatchFont(const Font& wanted, QPointF scale);

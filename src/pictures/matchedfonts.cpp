@@ -1,6 +1,7 @@
 #include "pictures/matchedfonts.h"
 
 #include <QFontMetrics>
+#include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -12,8 +13,16 @@ namespace {
 
 constexpr std::size_t MaxKept = 64;
 constexpr std::int64_t WorkPerFont = 100'000;
+// The first letter that a font lacks has the system look through all that are installed.
+constexpr std::int64_t WorkPerOtherFamily = 10'000;
 constexpr std::int64_t WorkPerSearch = 500;
 constexpr std::int64_t WorkPerShape = 20'000;
+
+bool HasAll(const QFont& font, const QString& text) {
+  const QRawFont raw = QRawFont::fromFont(font);
+  return std::all_of(text.begin(), text.end(),
+                     [&raw](QChar letter) { return raw.supportsCharacter(letter); });
+}
 
 // Nothing where a font would draw the box it has for letters that it lacks.
 QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
@@ -39,10 +48,10 @@ const LetterShape& LetteredFont::ShapeOf(QByteArrayView letter, Surface& target)
   const auto known = letters_.find(bytes);
   if (known != letters_.end()) return known->second;
   target.Spend(WorkPerShape);
-  return letters_.emplace(bytes, NewShape(letter)).first->second;
+  return letters_.emplace(bytes, NewShape(letter, target)).first->second;
 }
 
-LetterShape LetteredFont::NewShape(QByteArrayView letter) const {
+LetterShape LetteredFont::NewShape(QByteArrayView letter, Surface& target) {
   const QString text = DecodeLetter(letter, Wanted);
   LetterShape shape{.Runs = {}, .Advance = 0, .Blank = letter == QByteArrayView(" ")};
   const auto take = [&shape](const QFont& face, const QString& as) {
@@ -55,6 +64,11 @@ LetterShape LetteredFont::NewShape(QByteArrayView letter) const {
     if (Match.Signs) {
       const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
       if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
+    }
+    const bool others = contents != FontContents::OwnSigns && !HasAll(Match.Face, text);
+    if (others && !searched_) {
+      target.Spend(WorkPerOtherFamily * InstalledFamilies());
+      searched_ = true;
     }
     if (contents != FontContents::OwnSigns && take(Match.Face, text)) return shape;
     if (contents == FontContents::Symbols) {

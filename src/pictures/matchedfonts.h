@@ -35,8 +35,9 @@ class LetteredFont {
   const LetterShape& ShapeOf(QByteArrayView letter, Surface& target);
 
  private:
-  LetterShape NewShape(QByteArrayView letter) const;
+  LetterShape NewShape(QByteArrayView letter, Surface& target);
 
+  bool searched_ = false;  // whether other fonts were looked through
   std::unordered_map<unsigned, LetterShape> letters_;
 };
 
