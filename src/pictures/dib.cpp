@@ -37,7 +37,7 @@ std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, 
 DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header, const Palette& palette) {
   DibColours colours = AllBlack();
   for (int i = 0; i < header.UsedColours(); ++i) {
-    const std::size_t entry = qFromLittleEndian<std::uint16_t>(numbers.data() + 2 * i);
+    const std::size_t entry = qFromLittleEndian<std::uint16_t>(numbers.data() + qsizetype{2} * i);
     if (entry < palette.Entries.size()) {
       colours[static_cast<std::size_t>(i)] = Black | palette.Entries[entry];
     }

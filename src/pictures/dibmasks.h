@@ -31,7 +31,8 @@ class ChannelMasks {
     double Scale = 0;
 
     std::uint32_t Value(std::uint32_t stored) const {
-      return static_cast<std::uint32_t>(static_cast<std::int64_t>(stored & Mask) * Scale + 0.5);
+      constexpr double Half = 0.5;
+      return static_cast<std::uint32_t>(static_cast<std::int64_t>(stored & Mask) * Scale + Half);
     }
   };
   static Channel ChannelOf(std::uint32_t mask) { return {mask, mask == 0 ? 0 : 255.0 / mask}; }

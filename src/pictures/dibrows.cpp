@@ -75,8 +75,8 @@ void TurnRow(const DibHeader& header, const DibColours& colours, const char* row
       for (int x = 0; x < width; ++x) to[x] = colours[ByteAt(row + x)];
       return;
     case 16:
-      for (int x = 0; x < width; ++x) {
-        to[x] = header.Masks.Pixel(qFromLittleEndian<std::uint16_t>(row + 2 * x));
+      for (int x = 0; x < width; ++x, row += 2) {
+        to[x] = header.Masks.Pixel(qFromLittleEndian<std::uint16_t>(row));
       }
       return;
     case 24:
@@ -84,9 +84,9 @@ void TurnRow(const DibHeader& header, const DibColours& colours, const char* row
       return;
     case 32:
       if (header.Masks.PlainBytes()) {
-        for (int x = 0; x < width; ++x) to[x] = Opaque | LongAt(row + 4 * x);
+        for (int x = 0; x < width; ++x, row += 4) to[x] = Opaque | LongAt(row);
       } else {
-        for (int x = 0; x < width; ++x) to[x] = header.Masks.Pixel(LongAt(row + 4 * x));
+        for (int x = 0; x < width; ++x, row += 4) to[x] = header.Masks.Pixel(LongAt(row));
       }
       return;
     default:
