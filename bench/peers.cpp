@@ -2,12 +2,14 @@
 
 #ifdef TERRAMARK_PEER_GD
 #include <gd.h>
-#include <pthread.h>
 #endif
 #ifdef TERRAMARK_PEER_OPENCV
 #include <opencv2/imgproc.hpp>
 #endif
 
+#include <pthread.h>
+
+#include <cstddef>
 #include <cstdlib>
 #include <memory>
 
@@ -16,24 +18,6 @@ namespace terramark {
 #ifdef TERRAMARK_PEER_GD
 
 namespace {
-
-/// Runs it on a stack that holds a recursion over a winding corridor.
-void OnDeepStack(std::function<void()> act) {
-  constexpr std::size_t StackBytes = std::size_t{2} << 30U;
-  pthread_attr_t attributes;
-  pthread_t thread;
-  const auto run = [](void* given) -> void* {
-    (*static_cast<std::function<void()>*>(given))();
-    return nullptr;
-  };
-  if (pthread_attr_init(&attributes) != 0 ||
-      pthread_attr_setstacksize(&attributes, StackBytes) != 0 ||
-      pthread_create(&thread, &attributes, run, &act) != 0) {
-    std::abort();
-  }
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-}
 
 std::function<void()> PrepareGd(const FloodMap& map, std::uint32_t brush) {
   const forms::Raster& picture = map.Picture;
@@ -45,11 +29,9 @@ std::function<void()> PrepareGd(const FloodMap& map, std::uint32_t brush) {
     }
   }
   return [image, &map, colour = static_cast<int>(brush & 0xFFFFFFU)] {
-    OnDeepStack([&] {
-      for (const forms::PixelPoint seed : map.Seeds) {
-        gdImageFillToBorder(image.get(), seed.X, seed.Y, 0, colour);
-      }
-    });
+    for (const forms::PixelPoint seed : map.Seeds) {
+      gdImageFillToBorder(image.get(), seed.X, seed.Y, 0, colour);
+    }
   };
 }
 
@@ -66,6 +48,7 @@ std::function<void()> PrepareOpenCv(const FloodMap& map, std::uint32_t brush) {
   return [raster, &map, brush] {
     cv::Mat image(raster->Height, raster->Width, CV_32SC1, raster->Pixels.data());
     for (const forms::PixelPoint seed : map.Seeds) {
+      if (raster->Pixels[raster->At(seed.X, seed.Y)] == brush) continue;
       cv::floodFill(image, {seed.X, seed.Y}, cv::Scalar(static_cast<std::int32_t>(brush)), nullptr,
                     {}, {}, 4);
     }
@@ -85,6 +68,23 @@ std::vector<Peer> Peers() {
       {"opencv", PrepareOpenCv},
 #endif
   };
+}
+
+void OnDeepStack(std::function<void()> act) {
+  constexpr std::size_t StackBytes = std::size_t{2} << 30U;
+  pthread_attr_t attributes;
+  pthread_t thread;
+  const auto run = [](void* given) -> void* {
+    (*static_cast<std::function<void()>*>(given))();
+    return nullptr;
+  };
+  if (pthread_attr_init(&attributes) != 0 ||
+      pthread_attr_setstacksize(&attributes, StackBytes) != 0 ||
+      pthread_create(&thread, &attributes, run, &act) != 0) {
+    std::abort();
+  }
+  pthread_join(thread, nullptr);
+  pthread_attr_destroy(&attributes);
 }
 
 }  // namespace terramark

@@ -18,4 +18,7 @@ struct Peer {
 
 std::vector<Peer> Peers();
 
+/// Runs it on a stack that holds a recursion along a winding corridor, which a peer makes.
+void OnDeepStack(std::function<void()> act);
+
 }  // namespace terramark

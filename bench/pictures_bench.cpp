@@ -25,6 +25,7 @@ constexpr forms::Color Black = 0;
 struct Least {
   double Seconds = std::numeric_limits<double>::max();
 
+  /// Gives the seconds that it took this time.
   double Time(const std::function<void()>& act) {
     const auto begin = std::chrono::steady_clock::now();
     act();
@@ -78,7 +79,7 @@ void Row(const std::string& name, FloodMap (*make)(int width, int height), int w
   const int pixels = width * height;
   benchmark::RegisterBenchmark(name.c_str(), FloodRow, make)
       ->Args({width, height})
-      ->Iterations(std::clamp(100'000'000 / pixels, 3, 200))
+      ->Iterations(std::clamp(100'000'000 / pixels, 5, 200))
       ->UseManualTime()
       ->Unit(benchmark::kMillisecond);
 }
@@ -102,6 +103,9 @@ void RegisterRows() {
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   terramark::RegisterRows();
-  benchmark::RunSpecifiedBenchmarks();
+  terramark::OnDeepStack([] {
+    benchmark::ConsoleReporter table(benchmark::ConsoleReporter::OO_Tabular);
+    benchmark::RunSpecifiedBenchmarks(&table);
+  });
   return 0;
 }
