@@ -1,12 +1,12 @@
 // What it costs to flood pictures. A row is a picture; its columns give the cost as a multiple of a
 // pass, which reads and writes each pixel of the picture once, by the editor and by libraries that
-// flood too, where they are installed. All of a row are timed in turn, and the least time counts.
+// flood too, where they are installed. All of a row are timed in turn, and the medians count: what
+// else the machine does slows them alike.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <chrono>
 #include <functional>
-#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,18 +21,26 @@ namespace {
 constexpr forms::Color Brush = 0x00000080;
 constexpr forms::Color Black = 0;
 
-/// The shortest of the times of one thing.
-struct Least {
-  double Seconds = std::numeric_limits<double>::max();
-
+/// The times that one thing took.
+class Times {
+ public:
   /// Gives the seconds that it took this time.
-  double Time(const std::function<void()>& act) {
+  double Take(const std::function<void()>& act) {
     const auto begin = std::chrono::steady_clock::now();
     act();
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    Seconds = std::min(Seconds, took.count());
+    seconds_.push_back(took.count());
     return took.count();
   }
+
+  double Median() const {
+    std::vector<double> sorted = seconds_;
+    std::ranges::sort(sorted);
+    return sorted.at(sorted.size() / 2);
+  }
+
+ private:
+  std::vector<double> seconds_;
 };
 
 void Pass(forms::Raster& raster) {
@@ -46,25 +54,25 @@ void FloodRow(benchmark::State& state, FloodMap (*make)(int width, int height)) 
   const auto height = static_cast<int>(state.range(1));
   const FloodMap map = make(width, height);
   forms::Raster raster = map.Picture;
-  std::vector<std::pair<std::string, Least>> peers;
+  std::vector<std::pair<std::string, Times>> peers;
   const auto fresh = [&] { std::ranges::copy(map.Picture.Pixels, raster.Pixels.begin()); };
-  Least pass;
-  Least own;
+  Times pass;
+  Times own;
   for (auto _ : state) {
     fresh();
-    pass.Time([&] { Pass(raster); });
+    pass.Take([&] { Pass(raster); });
     fresh();
-    state.SetIterationTime(own.Time([&] { forms::BorderFill(raster, map.Seeds, Brush, Black); }));
+    state.SetIterationTime(own.Take([&] { forms::BorderFill(raster, map.Seeds, Brush, Black); }));
     std::size_t column = 0;
     for (const Peer& peer : Peers()) {
       const auto flood = peer.Prepare(map, forms::PixelOf(Brush));
-      if (column == peers.size()) peers.emplace_back(peer.Name, Least{});
-      peers[column++].second.Time(flood);
+      if (column == peers.size()) peers.emplace_back(peer.Name, Times{});
+      peers[column++].second.Take(flood);
     }
   }
-  state.counters["pass_ms"] = 1000 * pass.Seconds;
-  state.counters["editor"] = own.Seconds / pass.Seconds;
-  for (const auto& [name, least] : peers) state.counters[name] = least.Seconds / pass.Seconds;
+  state.counters["pass_ms"] = 1000 * pass.Median();
+  state.counters["editor"] = own.Median() / pass.Median();
+  for (const auto& [name, times] : peers) state.counters[name] = times.Median() / pass.Median();
 }
 
 FloodMap Lands(int width, int height) {
