@@ -1,6 +1,7 @@
 // Scores the metafile player over a folder: every *.wmf there is drawn at the size of the *.png
 // beside it, and the pixels that differ by more than 96, summed over the channels, are counted.
-//   metafilescore FOLDER [OUTPUT]   with OUTPUT, the drawn pictures are put there
+//   metafilescore FOLDER [OUTPUT [NAME...]]
+// The drawn pictures are put into OUTPUT. A NAME, without its ".wmf", is drawn but not counted.
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -36,7 +37,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   if (argc < 2) {
-    std::fprintf(stderr, "usage: metafilescore FOLDER [OUTPUT]\n");
+    std::fprintf(stderr, "usage: metafilescore FOLDER [OUTPUT [NAME...]]\n");
     return 2;
   }
   const QDir folder(QString::fromLocal8Bit(argv[1]));
@@ -53,8 +54,10 @@ int main(int argc, char** argv) {
                      picture->Height, QImage::Format_RGB32);
     }
     if (argc > 2) drawn.save(QDir(QString::fromLocal8Bit(argv[2])).filePath(base + ".png"));
-    scores.push_back(PercentDifferent(drawn, wanted));
-    std::printf("%7.2f %%  %s\n", scores.back(), qPrintable(base));
+    const double score = PercentDifferent(drawn, wanted);
+    const bool counts = std::find(argv + std::min(argc, 3), argv + argc, base) == argv + argc;
+    if (counts) scores.push_back(score);
+    std::printf("%7.2f %%  %s%s\n", score, qPrintable(base), counts ? "" : " (not counted)");
   }
   if (scores.empty()) return 1;
   std::sort(scores.begin(), scores.end());
