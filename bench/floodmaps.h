@@ -34,9 +34,8 @@ inline FloodMap OpenMap(int width, int height) {
   return map;
 }
 
-/// 96 lands on a grid of 12 by 8, between borders one and two pixels wide, with a seed in each. The
-/// borders between leaking lands have a gap of a pixel each.
-inline FloodMap LandsMap(int width, int height, bool leaking) {
+/// 96 lands on a grid of 12 by 8, between borders one and two pixels wide, with a seed in each.
+inline FloodMap LandsMap(int width, int height) {
   constexpr int Columns = 12;
   constexpr int Rows = 8;
   FloodMap map(width, height, FloodMap::Ground);
@@ -52,15 +51,15 @@ inline FloodMap LandsMap(int width, int height, bool leaking) {
   for (int i = 0; i < Columns * Rows; ++i) {
     const int left = i % Columns * width / Columns;
     const int top = i / Columns * height / Rows;
-    const int x = left + width / Columns / 2 + i % 5;
-    const int y = top + height / Rows / 2 + i % 7;
-    map.Seeds.push_back({x, y});
-    if (!leaking) continue;
-    for (int step = 0; step < 2; ++step) {
-      map.At(left + step, y) = FloodMap::Ground;
-      map.At(x, top + step) = FloodMap::Ground;
-    }
+    map.Seeds.push_back({left + width / Columns / 2 + i % 5, top + height / Rows / 2 + i % 7});
   }
+  return map;
+}
+
+/// The seeds of the lands on open ground: all leak into one region.
+inline FloodMap LeaksMap(int width, int height) {
+  FloodMap map = OpenMap(width, height);
+  map.Seeds = LandsMap(width, height).Seeds;
   return map;
 }
 

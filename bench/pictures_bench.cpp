@@ -5,8 +5,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,34 +12,13 @@
 #include "floodmaps.h"
 #include "forms/borderfill.h"
 #include "peers.h"
+#include "samples.h"
 
 namespace terramark {
 namespace {
 
 constexpr forms::Color Brush = 0x00000080;
 constexpr forms::Color Black = 0;
-
-/// The times that one thing took.
-class Times {
- public:
-  /// Gives the seconds that it took this time.
-  double Take(const std::function<void()>& act) {
-    const auto begin = std::chrono::steady_clock::now();
-    act();
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    seconds_.push_back(took.count());
-    return took.count();
-  }
-
-  double Median() const {
-    std::vector<double> sorted = seconds_;
-    std::ranges::sort(sorted);
-    return sorted.at(sorted.size() / 2);
-  }
-
- private:
-  std::vector<double> seconds_;
-};
 
 void Pass(forms::Raster& raster) {
   for (std::uint32_t& pixel : raster.Pixels) pixel ^= 0x00010203U;
@@ -54,10 +31,10 @@ void FloodRow(benchmark::State& state, FloodMap (*make)(int width, int height)) 
   const auto height = static_cast<int>(state.range(1));
   const FloodMap map = make(width, height);
   forms::Raster raster = map.Picture;
-  std::vector<std::pair<std::string, Times>> peers;
+  std::vector<std::pair<std::string, Samples>> peers;
   const auto fresh = [&] { std::ranges::copy(map.Picture.Pixels, raster.Pixels.begin()); };
-  Times pass;
-  Times own;
+  Samples pass;
+  Samples own;
   for (auto _ : state) {
     fresh();
     pass.Take([&] { Pass(raster); });
@@ -66,7 +43,7 @@ void FloodRow(benchmark::State& state, FloodMap (*make)(int width, int height)) 
     std::size_t column = 0;
     for (const Peer& peer : Peers()) {
       const auto flood = peer.Prepare(map, forms::PixelOf(Brush));
-      if (column == peers.size()) peers.emplace_back(peer.Name, Times{});
+      if (column == peers.size()) peers.emplace_back(peer.Name, Samples{});
       peers[column++].second.Take(flood);
     }
   }
@@ -75,30 +52,22 @@ void FloodRow(benchmark::State& state, FloodMap (*make)(int width, int height)) 
   for (const auto& [name, times] : peers) state.counters[name] = times.Median() / pass.Median();
 }
 
-FloodMap Lands(int width, int height) {
-  return LandsMap(width, height, false);
-}
-
-FloodMap LeakingLands(int width, int height) {
-  return LandsMap(width, height, true);
-}
-
 void Row(const std::string& name, FloodMap (*make)(int width, int height), int width, int height) {
   const int pixels = width * height;
   benchmark::RegisterBenchmark(name.c_str(), FloodRow, make)
       ->Args({width, height})
-      ->Iterations(std::clamp(100'000'000 / pixels, 5, 200))
+      ->Iterations(std::clamp(300'000'000 / pixels, 5, 200))
       ->UseManualTime()
       ->Unit(benchmark::kMillisecond);
 }
 
 void RegisterRows() {
   Row("Open", OpenMap, 4096, 4096);
-  Row("Lands", Lands, 4096, 4096);
-  Row("Lands", Lands, 8192, 8192);
+  Row("Lands", LandsMap, 4096, 4096);
+  Row("Lands", LandsMap, 8192, 8192);
   Row("Open", OpenMap, 546, 308);
-  Row("Lands", Lands, 546, 308);
-  Row("LeakingLands", LeakingLands, 4096, 4096);
+  Row("Lands", LandsMap, 546, 308);
+  Row("Leaks", LeaksMap, 4096, 4096);
   Row("Comb", CombMap, 2048, 2048);
   Row("Noise", NoiseMap, 2048, 2048);
   Row("Spiral", SpiralMap, 2048, 2048);
