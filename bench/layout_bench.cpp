@@ -183,6 +183,8 @@ BENCHMARK(JudgeGoodMap);
 /// Puts beside each time how many copies of the text it would have made; the copy runs first.
 class CopiesReporter : public benchmark::ConsoleReporter {
  public:
+  CopiesReporter() : ConsoleReporter(OO_Tabular) {}
+
   void ReportRuns(const std::vector<Run>& runs) override {
     std::vector<Run> reported = runs;
     for (Run& run : reported) {
