@@ -39,8 +39,8 @@ inline double StatusKilobytes(const std::string& name) {
   qFatal("the system does not tell %s", name.c_str());
 }
 
-/// A bitmap of 24 bits a pixel in a folder that goes with it; just read, so that reading it again
-/// takes no disk.
+/// A bitmap of 24 bits a pixel, in a folder that goes with it. It has just been written, so that
+/// reading it takes no disk.
 class LargeBitmap {
  public:
   static constexpr int Side = 4096;
