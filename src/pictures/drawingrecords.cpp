@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "pictures/limits.h"
 #include "pictures/recordplayers.h"
 #include "pictures/strokes.h"
 
@@ -104,7 +105,8 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
   if (!context.Target().Touch(box.adjusted(-pen, -pen, pen, pen))) return;
   const QRect outline = OutlineBox(context, box);
-  if (outline.isEmpty() || outline.width() > 1 << 16 || outline.height() > 1 << 16) return;
+  if (outline.isEmpty() || outline.width() > MaxRoundSide || outline.height() > MaxRoundSide)
+    return;
   const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
   if (!context.Target().Spend(std::int64_t{8} * (size.width() + size.height()))) return;
   const std::vector<QPoint> points = RoundOutline(outline, size);
@@ -133,9 +135,8 @@ void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind)
   double sweep = angle(to) - start;
   if (sweep <= 0) sweep += FullTurn;
 
-  constexpr int MaxSteps = 20000;
   const double length = sweep * std::max(radiusX, radiusY);
-  const int steps = static_cast<int>(std::clamp(length, 8.0, double{MaxSteps}));
+  const int steps = static_cast<int>(std::clamp(length, 8.0, double{MaxArcSteps}));
   if (!context.Target().Spend(std::int64_t{steps} * 8)) return;
   std::vector<QPoint> points;
   for (int i = 0; i <= steps; ++i) {

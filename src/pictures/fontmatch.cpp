@@ -6,18 +6,18 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pictures/limits.h"
 #include "pictures/textdecoding.h"
 
 namespace terramark::pictures {
 namespace {
 
-constexpr int MaxPixelSize = 4096;
 constexpr int DefaultPixelSize = 16;
 constexpr double MadeItalicSlant = 0.287;  // 16 degrees
 constexpr int BoldFrom = 600;
 
 double Limited(double size) {
-  return std::clamp(size, 1.0, double{MaxPixelSize});
+  return std::clamp(size, 1.0, double{MaxLetterSize});
 }
 
 struct FaceRow {

@@ -35,7 +35,7 @@ const char* StandInFor(const QByteArray& face);
 qsizetype InstalledFamilies();
 
 /// The font for `wanted` at so many pixels per logical unit. One of the families that are expected
-/// is named even when it is not installed; the size is 1 to 4096 pixels.
+/// is named even when it is not installed; the size is 1 to MaxLetterSize pixels.
 MatchedFont MatchFont(const Font& wanted, QPointF scale);
 
 }  // namespace terramark::pictures

@@ -36,6 +36,13 @@ constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
 /// Letters of one text; the rest is not drawn.
 constexpr std::ptrdiff_t MaxLetters = 4096;
 constexpr int MaxPenWidth = 65536;  // pixels
+/// Pixels each way; larger ellipses and round rectangles are not drawn.
+constexpr int MaxRoundSide = 65536;
+/// Chords that stand for an arc.
+constexpr int MaxArcSteps = 20000;
+constexpr int MaxLetterSize = 4096;  // pixels
+/// Fonts that are kept with their letters; one more drops them all.
+constexpr std::size_t MaxKeptFonts = 64;
 /// Pixels either way to which mapped points are limited.
 constexpr double MaxDevice = 1 << 24;
 

@@ -5,13 +5,13 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "pictures/limits.h"
 #include "pictures/symbolencoding.h"
 #include "pictures/textdecoding.h"
 
 namespace terramark::pictures {
 namespace {
 
-constexpr std::size_t MaxKept = 64;
 constexpr std::int64_t WorkPerFont = 100'000;
 // The first letter that a font lacks has the system look through all that are installed.
 constexpr std::int64_t WorkPerOtherFamily = 10'000;
@@ -90,7 +90,7 @@ LetteredFont& MatchedFonts::Find(Font wanted, QPointF scale, Surface& target) {
   });
   if (kept != fonts_.end()) return *kept;
   target.Spend(WorkPerFont);
-  if (fonts_.size() == MaxKept) fonts_.clear();
+  if (fonts_.size() == MaxKeptFonts) fonts_.clear();
   return fonts_.emplace_back(wanted, scale);
 }
 

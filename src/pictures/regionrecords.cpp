@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pictures/limits.h"
 #include "pictures/newimage.h"
 #include "pictures/recordplayers.h"
 
@@ -85,8 +86,10 @@ void FrameRegion(DeviceContext& context, const MetafileRecord& record) {
   if (bounds.isEmpty() || !target.Touch(bounds)) return;
   if (!target.Spend(WorkPerFramePixel * target.Area().width() * target.Area().height())) return;
   const QPointF scale = context.Scale();
-  const int width = static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, 1e6));
-  const int height = static_cast<int>(std::clamp(std::abs(record.Int(2) * scale.y()), 1.0, 1e6));
+  const int width =
+      static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, MaxDevice));
+  const int height =
+      static_cast<int>(std::clamp(std::abs(record.Int(2) * scale.y()), 1.0, MaxDevice));
   target.Mask(FrameMask(target, rects, width, height), {0, 0}, context.BrushPaint(brush));
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "pictures/limits.h"
 #include "pictures/matchedfonts.h"
 #include "pictures/newimage.h"
 #include "pictures/recordplayers.h"
@@ -14,7 +15,6 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr qsizetype MaxLetters = 4096;
 constexpr std::int64_t WorkPerLetter = 40;  // to lay it out
 // To draw one: from what the font keeps ready, which is less for letters that are turned or
 // stretched, or its outline, at so much for each column.
