@@ -205,7 +205,7 @@ void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
   }
   if (count == 0 || (options & TextGlyphs) != 0) return;
   const QByteArrayView text = record.From(textAt);
-  TextRun run{.Bytes = text.first(std::min({count, text.size(), MaxLetters})),
+  TextRun run{.Bytes = text.first(std::min({count, text.size(), qsizetype{MaxLetters}})),
               .At = record.PointYX(0),
               .Advance = {}};
   const qsizetype advanceAt = textAt + (count + 1) / 2;
