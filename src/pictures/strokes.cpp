@@ -11,7 +11,7 @@ namespace terramark::pictures {
 namespace {
 
 // Past what is painted.
-constexpr std::int64_t WorkPerLinePixel = 2;
+constexpr std::int64_t WorkPerLinePixel = 5;
 constexpr std::int64_t WorkPerDiscRow = 8;
 constexpr std::int64_t WorkPerPoint = 8;
 constexpr std::int64_t WorkPerBand = 100;
