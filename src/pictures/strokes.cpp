@@ -98,8 +98,8 @@ QPolygonF Band(QPoint from, QPoint to, int width) {
   const int across = static_cast<int>(width * std::abs(dy) / length) + 1;
   const int down = static_cast<int>(width * std::abs(dx) / length) + 1;
   const bool falls = (dx > 0) == (dy > 0);
-  const QPointF left(-(across / 2), falls ? down / 2 : -(down / 2));
-  const QPointF right = left + QPointF(across, falls ? -down : down);
+  const QPoint left(-(across / 2), falls ? down / 2 : -(down / 2));
+  const QPoint right = left + QPoint(across, falls ? -down : down);
   return QPolygonF({from + left, to + left, to + right, from + right});
 }
 
