@@ -10,13 +10,14 @@
 namespace terramark::pictures {
 namespace {
 
+constexpr std::int64_t WorkPerShape = 50;
 constexpr std::int64_t WorkPerPoint = 16;
 
 // A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
 std::vector<QPoint> ReadPoints(DeviceContext& context, const MetafileRecord& record, qsizetype at,
                                int count) {
   const qsizetype present = std::clamp<qsizetype>((record.Words() - at) / 2, 0, count);
-  if (!context.Target().Spend(WorkPerPoint * present)) return {};
+  if (!context.Target().Spend(WorkPerShape + WorkPerPoint * present)) return {};
   std::vector<QPoint> points;
   points.reserve(static_cast<std::size_t>(present));
   for (qsizetype i = 0; i < present; ++i) {

@@ -36,10 +36,12 @@ bool SetsWindow(QByteArrayView bytes) {
   return false;
 }
 
-QRect MeasureDrawing(QByteArrayView bytes) {
-  Surface surface(QSize(1, 1), true);
+// Takes what it costs from `work`.
+QRect MeasureDrawing(QByteArrayView bytes, std::int64_t& work) {
+  Surface surface(QSize(1, 1), true, work);
   DeviceContext context(surface, Frame{}, QSize(1, 1), true);
   PlayRecords(context, bytes);
+  work = surface.WorkLeft();
   return surface.Measured();
 }
 
@@ -49,17 +51,18 @@ forms::Picture PlayMetafile(QByteArrayView bytes, QSize size) {
   if (!MetafileReader::Recognises(bytes) || size.isEmpty()) return {};
   Frame frame;
   bool measured = false;
+  std::int64_t work = WorkLimit;
   if (const std::optional<QRect> bounds = MetafileReader(bytes).Bounds()) {
     frame = {bounds->topLeft(), bounds->size()};
   } else if (SetsWindow(bytes)) {
     frame = {QPoint(0, 0), size};
   } else {
-    const QRect drawn = MeasureDrawing(bytes);
+    const QRect drawn = MeasureDrawing(bytes, work);
     if (drawn.isEmpty()) return {};
     frame = {drawn.topLeft(), drawn.size()};
     measured = true;
   }
-  Surface surface(size, false);
+  Surface surface(size, false, work);
   DeviceContext context(surface, frame, size, measured);
   PlayRecords(context, bytes);
   return surface.TakeImage();

@@ -9,7 +9,7 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr std::int64_t WorkPerRect = 10;
+constexpr std::int64_t WorkPerRect = 16;
 constexpr std::int64_t WorkPerFramePixel = 5;
 
 // Regions are painted in logical units, unlike the clip that is made of them. None for a number

@@ -11,7 +11,8 @@ namespace terramark::pictures {
 namespace {
 
 // Past what is painted.
-constexpr std::int64_t WorkPerLinePixel = 5;
+constexpr std::int64_t WorkPerLine = 8;
+constexpr std::int64_t WorkPerLinePixel = 6;
 constexpr std::int64_t WorkPerDiscRow = 8;
 constexpr std::int64_t WorkPerPoint = 8;
 constexpr std::int64_t WorkPerBand = 100;
@@ -69,6 +70,7 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
     const QPoint from = points[i];
     const QPoint to = points[i + 1];
     const QRect bounds = BoundsOf(from, to);
+    if (!target.Spend(WorkPerLine)) return;
     if (!target.Touch(bounds)) continue;
     const QRect visible = bounds.intersected(target.Area());
     if (!target.Spend(WorkPerLinePixel * std::max(visible.width(), visible.height()))) return;

@@ -11,10 +11,13 @@ namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
+constexpr std::int64_t WorkPerPolygon = 40;
+constexpr std::int64_t WorkPerEdge = 6;
 constexpr std::int64_t WorkPerCrossing = 16;
 constexpr std::int64_t WorkPerFloodRun = 10;
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
+constexpr std::int64_t WorkPerClipRect = 10;
 
 // Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
@@ -29,7 +32,8 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
 
 }  // namespace
 
-Surface::Surface(QSize size, bool measuring) : measuring_(measuring) {
+Surface::Surface(QSize size, bool measuring, std::int64_t work)
+    : measuring_(measuring), workLeft_(work) {
   image_.Width = measuring ? 1 : size.width();
   image_.Height = measuring ? 1 : size.height();
   image_.Pixels.assign(image_.At(0, image_.Height), White);
@@ -99,7 +103,10 @@ void Surface::Mask(const QImage& mask, QPoint at, const Paint& paint) {
 
 void Surface::Polygons(const std::vector<QPolygonF>& polygons, bool winding, const Paint& paint) {
   QRectF bounds;
-  for (const QPolygonF& polygon : polygons) bounds = bounds.united(polygon.boundingRect());
+  for (const QPolygonF& polygon : polygons) {
+    if (!Spend(WorkPerPolygon + WorkPerEdge * polygon.size())) return;
+    bounds = bounds.united(polygon.boundingRect());
+  }
   if (!Touch(bounds.toAlignedRect())) return;
   const QRect area = bounds.toAlignedRect().intersected(Area());
   if (!Spend(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
@@ -156,8 +163,9 @@ void Surface::ClipTo(const std::vector<QRect>& rects) {
   clip_ = NewClip(0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.intersected(Area());
-    if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
-    FillClip(rect, 1);
+    const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
+    if (!Spend(WorkPerClipRect + pixels)) return;
+    FillClip(visible, 1);
   }
 }
 

@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "forms/raster.h"
-#include "pictures/limits.h"
 #include "pictures/metafilerecords.h"
 #include "pictures/scanconvert.h"
 
@@ -32,9 +31,9 @@ struct Paint {
 /// Starts white. In measuring mode nothing is painted; it only learns what would be.
 class Surface {
  public:
-  /// `size` is in pixels and not empty. std::bad_alloc when the memory does not reach, as in
-  /// whatever makes a clip or a mask.
-  Surface(QSize size, bool measuring);
+  /// `size` is in pixels and not empty; `work` is what may be spent. std::bad_alloc when the memory
+  /// does not reach, as in whatever makes a clip or a mask.
+  Surface(QSize size, bool measuring, std::int64_t work);
 
   /// What has been drawn; the surface is of no use afterwards.
   forms::Picture TakeImage() { return std::make_shared<forms::Raster>(std::move(image_)); }
@@ -43,6 +42,7 @@ class Surface {
 
   /// Takes `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
   bool Spend(std::int64_t work);
+  std::int64_t WorkLeft() const { return workLeft_; }
 
   /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
   /// do: it lies outside, the work is used up, or only the bounds were wanted.
@@ -92,7 +92,7 @@ class Surface {
   QImage clip_;
   bool measuring_;
   QRect measured_;
-  std::int64_t workLeft_ = WorkLimit;
+  std::int64_t workLeft_;
 };
 
 }  // namespace terramark::pictures
