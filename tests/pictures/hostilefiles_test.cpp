@@ -60,6 +60,8 @@ TEST(HostileFiles, EndWithinTheirLimit) {
        Many(300, [](auto& file, int) { file.Record(FrameRegion, {0, 7, 2, 3}); }, Stripes(499, 0))},
       {"regions out of sight",
        Many(99999, [](auto& file, int) { file.Record(PaintRegion, {0}); }, Stripes(499, 9000))},
+      {"clips out of sight",
+       Many(99999, [](auto& file, int) { file.Record(SelectObject, {0}); }, Stripes(8000, 9000))},
       {"a long row of pixels read again for each row",
        Many(5000, [&](auto& file, int) {
          file.Record(StretchDib, {0x20, 0xCC, 0, 1, 16384, 0, 0, 1000, 2, 0, 20}, thin);
