@@ -57,7 +57,7 @@ class DeviceContext {
 
   bool Measured() const { return measured_; }
 
-  /// SaveDC; beyond 256 levels a save is dropped.
+  /// SaveDC; beyond MaxSaves levels a save is dropped.
   void Save();
   /// RestoreDC: a negative level counts back from the last save, a positive one from the first. A
   /// level that was never saved changes nothing.
@@ -65,7 +65,7 @@ class DeviceContext {
   /// A region becomes the clip; a palette or monostate changes nothing.
   void Select(const GraphicsObject& object);
 
-  /// Logical units to pixels, limited to about 16 million either way.
+  /// Logical units to pixels, limited to MaxDevice either way.
   QPoint ToDevice(QPointF logical) const;
   /// Both corners mapped and put in order, right and bottom edges outside.
   QRect ToDevice(int left, int top, int right, int bottom) const;

@@ -3,10 +3,13 @@
 #include <bit>
 
 namespace terramark::pictures {
+namespace {
 
-static bool HasHoles(std::uint32_t mask) {
+bool HasHoles(std::uint32_t mask) {
   return std::popcount(mask) + std::countl_zero(mask) + std::countr_zero(mask) != 32 && mask != 0;
 }
+
+}  // namespace
 
 ChannelMasks ChannelMasks::Usual(int bitCount) {
   if (bitCount == 16) return {0x7C00, 0x03E0, 0x001F};

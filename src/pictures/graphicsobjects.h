@@ -52,7 +52,7 @@ struct Font {
 };
 
 struct Palette {
-  std::vector<QRgb> Entries;  // at most 1024, opaque
+  std::vector<QRgb> Entries;  // MaxPaletteEntries at most, opaque
 };
 
 struct Region {
@@ -72,8 +72,8 @@ GraphicsObject ReadObject(const MetafileRecord& record);
 /// The objects by number; a new one takes the lowest number that is free.
 class ObjectTable {
  public:
-  /// Gives the slots that were passed on the search for a free one. Beyond 65,536 objects a new
-  /// one is dropped.
+  /// Gives the slots that were passed on the search for a free one. Beyond MaxObjects a new one is
+  /// dropped.
   std::size_t Add(GraphicsObject object);
   /// A number without an object is passed over.
   void Delete(std::size_t number);

@@ -4,7 +4,6 @@
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "pictures/limits.h"
 #include "pictures/matchedfonts.h"
