@@ -5,22 +5,33 @@
 #include <cstdint>
 
 #include "forms/flood.h"
-#include "forms/openbits.h"
+#include "forms/floodbits.h"
 
 namespace terramark::forms {
 
+namespace {
+
+struct Paint {
+  void Run(int y, int left, int right) const { std::fill(Pixel(left, y), Pixel(right, y), Brush); }
+  void Spots(int y, int left, std::uint32_t bits) const {
+    PaintSpots({Pixel(left, y), Pixel(Image.Width, y)}, bits, Brush);
+  }
+  std::uint32_t* Pixel(int x, int y) const { return Image.Pixels.data() + Image.At(x, y); }
+
+  Raster& Image;
+  std::uint32_t Brush;
+};
+
+}  // namespace
+
 void BorderFill(Raster& raster, std::span<const PixelPoint> seeds, Color brush, Color border) {
-  const std::uint32_t paint = PixelOf(brush);
   const std::uint32_t stop = PixelOf(border);
-  const auto width = static_cast<std::size_t>(raster.Width);
-  std::uint32_t* const pixels = raster.Pixels.data();
+  const Paint paint{raster, PixelOf(brush)};
   const auto open = [&](int y, std::span<std::uint64_t> bits) {
-    SetOpenBits({pixels + raster.At(0, y), width}, stop, FloodStops::AtColour, bits);
+    SetOpenBits({paint.Pixel(0, y), paint.Pixel(raster.Width, y)}, stop, FloodStops::AtColour,
+                bits);
   };
-  const auto fill = [&](int y, int left, int right) {
-    std::fill(pixels + raster.At(left, y), pixels + raster.At(right, y), paint);
-  };
-  Flooder(raster.Width, raster.Height, open, fill).From(seeds);
+  Flooder(raster.Width, raster.Height, open, paint).From(seeds);
 }
 
 }  // namespace terramark::forms

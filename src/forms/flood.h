@@ -15,28 +15,32 @@
 namespace terramark::forms {
 
 /// Open sets the bits of a row that a flood may enter, 64 pixels a word from the lowest bit on:
-/// void(int y, std::span<std::uint64_t> bits). Bits past the width do not matter. Paint paints the
-/// pixels left <= x < right of a row: void(int y, int left, int right). A row is asked for its bits
-/// once at most, before anything in it is painted, so painting may make open pixels of closed ones.
+/// void(int y, std::span<std::uint64_t> bits). Bits past the width do not matter. A row is asked
+/// for its bits once at most, before anything in it is painted, so painting may make open pixels of
+/// closed ones.
+///
+/// Paint paints the pixels left <= x < right of a row, void Run(int y, int left, int right), or
+/// those of the 32 from left on whose bits are set, from the lowest bit on,
+/// void Spots(int y, int left, std::uint32_t bits).
 template <class Open, class Paint>
 class Flooder {
  public:
   /// Takes all the memory that the flood will need, two bits a pixel and a few words a row, or
   /// throws std::bad_alloc. Width and height are not below 0.
-  Flooder(int width, int height, const Open& open, const Paint& paint)
+  Flooder(int width, int height, const Open& open, Paint& paint)
       : width_(width),
         height_(height),
         words_((width + WordBits - 1) / WordBits),
         askOpen_(open),
         paint_(paint),
         open_(Index(height)),
-        pending_(Index(height)),
+        taken_(Index(height)),
         rows_(static_cast<std::size_t>(height)) {
     waiting_.reserve(rows_.size());
   }
 
   /// Paints all open pixels that are 4-connected with a seed, each once, whatever seeds reach it.
-  /// Seeds outside or on closed pixels paint nothing.
+  /// Seeds outside or on closed pixels paint nothing. Once at most.
   void From(std::span<const PixelPoint> seeds) {
     for (const PixelPoint seed : seeds) {
       if (seed.X < 0 || seed.X >= width_ || !HasRow(seed.Y)) continue;
@@ -48,11 +52,15 @@ class Flooder {
     while (!waiting_.empty()) {
       const int y = waiting_.back();
       waiting_.pop_back();
-      const Range range = std::exchange(rows_[static_cast<std::size_t>(y)].Pending, {});
-      Word* const pending = &pending_[Index(y)];
-      SpreadTo(y - 1, pending, range);
-      SpreadTo(y + 1, pending, range);
-      for (int i = range.First; i <= range.Last; ++i) pending[i] = 0;
+      const Range range = std::exchange(RowAt(y).Fresh, {});
+      // Beside what was taken earlier nothing is open any more: it does no harm in the range.
+      const Word* const taken = &taken_[Index(y)];
+      SpreadTo(y - 1, taken, range);
+      SpreadTo(y + 1, taken, range);
+    }
+    // Short runs one by one would lie far apart in memory, where the flood goes up and down.
+    for (int y = 0; y < height_; ++y) {
+      if (RowAt(y).HasSpots) PaintSpots(y);
     }
   }
 
@@ -60,6 +68,7 @@ class Flooder {
   using Word = std::uint64_t;
   static constexpr int WordBits = 64;
   static constexpr Word AllBits = ~Word{0};
+  static constexpr int HalfBits = 32;
 
   /// Words of a row, both ends included; empty when First lies behind Last.
   struct Range {
@@ -68,7 +77,10 @@ class Flooder {
   };
   struct Row {
     bool Asked = false;
-    Range Pending;
+    /// Whether runs within half a word each are taken, which are painted in the end.
+    bool HasSpots = false;
+    /// What is taken and has neighbours above and below that are still to be seen.
+    Range Fresh;
   };
 
   /// The lowest bits of a word; less than all of them.
@@ -79,11 +91,13 @@ class Flooder {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(words_);
   }
 
+  Row& RowAt(int y) { return rows_[static_cast<std::size_t>(y)]; }
+
   bool HasRow(int y) const { return y >= 0 && y < height_; }
 
   Word* OpenWords(int y) {
     Word* const open = &open_[Index(y)];
-    Row& row = rows_[static_cast<std::size_t>(y)];
+    Row& row = RowAt(y);
     if (!row.Asked) {
       row.Asked = true;
       askOpen_(y, std::span(open, static_cast<std::size_t>(words_)));
@@ -92,19 +106,17 @@ class Flooder {
     return open;
   }
 
-  /// Goes from what is pending in a row to one beside it.
-  void SpreadTo(int y, const Word* pending, Range range) {
+  /// Goes from what is taken in a row to one beside it.
+  void SpreadTo(int y, const Word* taken, Range range) {
     if (!HasRow(y)) return;
     Word* const open = OpenWords(y);
     for (int i = range.First; i <= range.Last; ++i) {
       // A run that is taken is open no more, so each seed left begins another.
-      while ((pending[i] & open[i]) != 0) {
-        TakeRun(y, open, i, std::countr_zero(pending[i] & open[i]));
-      }
+      while ((taken[i] & open[i]) != 0) TakeRun(y, open, i, std::countr_zero(taken[i] & open[i]));
     }
   }
 
-  /// Paints the whole run round an open pixel, closes it, and leaves its neighbours for later.
+  /// Takes the whole run round an open pixel, and leaves its neighbours for later.
   void TakeRun(int y, Word* open, int word, int bit) {
     Range run{word, word};
     // How many bits of the first word lie before the run, and of the last before its end.
@@ -116,10 +128,10 @@ class Flooder {
     while (upTo == WordBits && run.Last + 1 < words_ && (open[run.Last + 1] & 1) != 0) {
       upTo = std::countr_one(open[++run.Last]);
     }
-    Word* const pending = &pending_[Index(y)];
-    const auto take = [&](int i, Word taken) {
-      open[i] &= ~taken;
-      pending[i] |= taken;
+    Word* const taken = &taken_[Index(y)];
+    const auto take = [&](int i, Word bits) {
+      open[i] &= ~bits;
+      taken[i] |= bits;
     };
     const Word head = AllBits << before;
     const Word tail = AllBits >> (WordBits - upTo);
@@ -130,27 +142,48 @@ class Flooder {
       for (int i = run.First + 1; i < run.Last; ++i) take(i, AllBits);
       take(run.Last, tail);
     }
-    Range& dirty = rows_[static_cast<std::size_t>(y)].Pending;
-    if (dirty.First > dirty.Last) {
-      dirty = run;
+    Row& row = RowAt(y);
+    if (row.Fresh.First > row.Fresh.Last) {
+      row.Fresh = run;
       waiting_.push_back(y);
     } else {
-      dirty = {std::min(dirty.First, run.First), std::max(dirty.Last, run.Last)};
+      row.Fresh = {std::min(row.Fresh.First, run.First), std::max(row.Fresh.Last, run.Last)};
     }
-    paint_(y, run.First * WordBits + before, run.Last * WordBits + upTo);
+    if (run.First == run.Last && before / HalfBits == (upTo - 1) / HalfBits) {
+      row.HasSpots = true;
+    } else {
+      paint_.Run(y, run.First * WordBits + before, run.Last * WordBits + upTo);
+    }
+  }
+
+  /// Paints the runs of a row that lie within half a word each; the others are painted.
+  void PaintSpots(int y) {
+    constexpr Word All = (Word{1} << HalfBits) - 1;
+    const Word* const taken = &taken_[Index(y)];
+    const auto half = [&](int i) { return taken[i / 2] >> i % 2 * HalfBits & All; };
+    bool joined = false;
+    for (int i = 0; i < 2 * words_; ++i) {
+      Word spots = half(i);
+      const bool joins =
+          spots >> (HalfBits - 1) != 0 && i + 1 < 2 * words_ && (half(i + 1) & 1) != 0;
+      // The run at the end that hangs together with another half does not count.
+      if (joined) spots &= spots + 1;
+      if (joins) spots &= All >> std::countl_one(static_cast<std::uint32_t>(spots));
+      if (spots != 0) paint_.Spots(y, i * HalfBits, static_cast<std::uint32_t>(spots));
+      joined = joins;
+    }
   }
 
   const int width_;
   const int height_;
   const int words_;
   const Open& askOpen_;
-  const Paint& paint_;
+  Paint& paint_;
   /// What the flood may still enter, as far as rows have been asked.
   std::vector<Word> open_;
-  /// What is painted and has neighbours above and below that are still to be seen.
-  std::vector<Word> pending_;
+  std::vector<Word> taken_;
   std::vector<Row> rows_;
-  /// The rows with pending pixels, each once.
+  /// The rows with fresh pixels, each once.
   std::vector<int> waiting_;
 };
 

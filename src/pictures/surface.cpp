@@ -1,9 +1,11 @@
 #include "pictures/surface.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 
 #include "forms/flood.h"
-#include "forms/openbits.h"
+#include "forms/floodbits.h"
 #include "pictures/newimage.h"
 
 namespace terramark::pictures {
@@ -129,11 +131,24 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
     forms::SetOpenBits({Row(y), width}, colour, stops, row);
     if (!clip_.isNull()) CloseClipped(y, row);
   };
-  const auto fill = [&](int y, int x0, int x1) {
-    if (Spend(WorkPerFloodRun)) Span(y, x0, x1, paint);
-  };
+  struct Painter {
+    void Run(int y, int x0, int x1) {
+      if (To.Spend(WorkPerFloodRun)) To.Span(y, x0, x1, Brush);
+    }
+    void Spots(int y, int x, std::uint32_t bits) {
+      while (bits != 0) {
+        const int first = std::countr_zero(bits);
+        const int count = std::countr_one(bits >> first);
+        Run(y, x + first, x + first + count);
+        bits &= bits + (1U << first);
+      }
+    }
+
+    Surface& To;
+    const Paint& Brush;
+  } painter{*this, paint};
   const forms::PixelPoint from{seed.x(), seed.y()};
-  forms::Flooder(Area().width(), Area().height(), open, fill).From({&from, 1});
+  forms::Flooder(Area().width(), Area().height(), open, painter).From({&from, 1});
 }
 
 void Surface::CloseClipped(int y, std::span<std::uint64_t> row) const {

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <vector>
 
+#include "forms/flood.h"
+#include "forms/floodbits.h"
 #include "forms/picturebox.h"
 
 namespace terramark::forms {
@@ -32,6 +35,21 @@ void SlowFill(Raster& raster, PixelPoint seed, Color brush, Color border) {
   }
 }
 
+/// How often each pixel is painted in a flood.
+struct PaintCount {
+  explicit PaintCount(const Raster& raster) : Width(raster.Width), Times(raster.Pixels.size()) {}
+  void Run(int y, int left, int right) {
+    for (int x = left; x < right; ++x) ++Times[static_cast<std::size_t>(y * Width + x)];
+  }
+  void Spots(int y, int left, std::uint32_t bits) {
+    for (int i = 0; i < 32; ++i) {
+      if ((bits >> i & 1U) != 0) Run(y, left + i, left + i + 1);
+    }
+  }
+  int Width;
+  std::vector<int> Times;
+};
+
 TEST(BorderFill, PaintsWhatFillingPixelByPixelFromSeedAfterSeedDoes) {
   std::mt19937 random(1);
   const auto below = [&](int limit) { return static_cast<int>(random() % unsigned(limit)); };
@@ -53,6 +71,13 @@ TEST(BorderFill, PaintsWhatFillingPixelByPixelFromSeedAfterSeedDoes) {
     const Color border = below(2) == 0 ? Black : Red;
     Raster slow = raster;
     for (const PixelPoint seed : seeds) SlowFill(slow, seed, brush, border);
+    PaintCount count(raster);
+    const auto open = [&](int y, std::span<std::uint64_t> bits) {
+      SetOpenBits(std::span(raster.Pixels).subspan(raster.At(0, y), std::size_t(raster.Width)),
+                  PixelOf(border), FloodStops::AtColour, bits);
+    };
+    Flooder(raster.Width, raster.Height, open, count).From(seeds);
+    EXPECT_LE(std::ranges::max(count.Times), 1) << round;
     BorderFill(raster, seeds, brush, border);
     ASSERT_EQ(raster.Pixels, slow.Pixels) << round << ", " << raster.Width << " wide";
   }

@@ -1,4 +1,4 @@
-// From the pixels of a row to the bits that a flood goes by.
+// From the pixels of a row to the bits that a flood goes by, and back.
 #pragma once
 
 #include <cstdint>
@@ -14,5 +14,9 @@ enum class FloodStops { AtColour, AtOtherColours };
 /// bits past the pixels mean nothing.
 void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, FloodStops stops,
                  std::span<std::uint64_t> bits);
+
+/// Paints those of the first 32 pixels whose bits are set, from the lowest bit on; the bits of
+/// pixels that are not there do not matter.
+void PaintSpots(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint);
 
 }  // namespace terramark::forms
