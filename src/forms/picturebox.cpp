@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <utility>
 
 #include "forms/borderfill.h"
 #include "forms/form.h"
@@ -80,22 +81,27 @@ void PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
 }
 
 void PictureBox::PropertyChanged(PropertyId id) {
-  if (id == PropertyId::Picture || id == PropertyId::Width || id == PropertyId::Height) {
-    RebuildImage();
-    ScrollTo(ScrollLeft, ScrollTop);
+  if (id != PropertyId::Picture && id != PropertyId::Width && id != PropertyId::Height) {
+    return Control::PropertyChanged(id);
   }
-  Control::PropertyChanged(id);
+  std::optional<Raster> old = std::exchange(own_, Padded());
+  try {
+    ScrollTo(ScrollLeft, ScrollTop);
+    Control::PropertyChanged(id);
+  } catch (...) {
+    // The assignment is taken back, and the image stays that of the old value.
+    own_ = std::move(old);
+    throw;
+  }
 }
 
-void PictureBox::RebuildImage() {
+std::optional<Raster> PictureBox::Padded() const {
   const Raster empty;
   const Raster& picture = Picture.Get() ? *Picture.Get() : empty;
   if (Picture.Get() && picture.Width >= BoxWidth() && picture.Height >= BoxHeight()) {
-    own_.reset();
-    return;
+    return std::nullopt;
   }
-  // Built aside: when the memory does not reach for it, the old one stays whole.
-  own_ = Enlarged(picture, std::max(picture.Width, BoxWidth()),
+  return Enlarged(picture, std::max(picture.Width, BoxWidth()),
                   std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
 }
 

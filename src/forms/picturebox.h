@@ -24,7 +24,8 @@ class PictureBox : public Control {
 
   /// Assigning replaces the persistent image, paint included, also by the picture that stands
   /// already. The empty picture empties the box. A picture that covers the box is not copied; for a
-  /// smaller one it throws std::bad_alloc, with nothing changed, when the memory does not reach.
+  /// smaller one it throws std::bad_alloc when the memory does not reach. Whatever is thrown,
+  /// nothing has changed.
   Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
@@ -57,7 +58,8 @@ class PictureBox : public Control {
   void PropertyChanged(PropertyId id) override;
 
  private:
-  void RebuildImage();
+  /// What the image is anew where it is not the picture itself.
+  std::optional<Raster> Padded() const;
 
   /// The image where it is not the picture itself: larger, or painted on.
   std::optional<Raster> own_ = Raster{};

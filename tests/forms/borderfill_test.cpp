@@ -9,7 +9,9 @@
 
 #include "forms/flood.h"
 #include "forms/floodbits.h"
+#include "forms/form.h"
 #include "forms/picturebox.h"
+#include "support/scripteddesktop.h"
 
 namespace terramark::forms {
 namespace {
@@ -103,6 +105,20 @@ TEST(PictureBoxImage, IsThePictureUntilItIsPaintedOnOrHasToBeLarger) {
   EXPECT_EQ(box.Image().Pixels[40], PixelOf(box.BackColor));
   box.Picture = nullptr;
   EXPECT_EQ(box.Image().Width, 41);
+}
+
+TEST(PictureBoxImage, StaysWhenItsViewHasNoMemoryForAnother) {
+  ScriptedDesktop screen;
+  Form window{screen, "Window"};
+  PictureBox box("Box");
+  window.Add(box, window);
+  struct : Watcher {
+    using Watcher::Watcher;
+    void PropertyChanged(Control&, PropertyId) override { throw std::bad_alloc(); }
+  } view(window);
+  for (const int side : {1, 5})
+    EXPECT_THROW(box.Picture = BlankPicture(side, side), std::bad_alloc);
+  EXPECT_EQ(box.Image().Width, 0);
 }
 
 }  // namespace
