@@ -47,7 +47,8 @@ int main(int argc, char** argv) {
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
     const terramark::forms::Picture picture = terramark::pictures::LoadPictureFile(
-        folder.filePath(name).toStdString(), wanted.width(), wanted.height());
+        terramark::forms::RegularFile(folder.filePath(name).toStdString()), wanted.width(),
+        wanted.height());
     QImage drawn;
     if (picture) {
       drawn = QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,

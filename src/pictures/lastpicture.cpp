@@ -5,27 +5,20 @@
 
 namespace terramark::pictures {
 
-namespace {
-
-std::optional<forms::FileVersion> VersionAt(const std::filesystem::path& path) {
-  return forms::RegularFile(path).Version();
-}
-
-}  // namespace
-
 forms::Picture LastPicture::Load(const std::filesystem::path& path, int boxWidth, int boxHeight) {
   const forms::Moment now = forms::Moment::Now();
-  const auto version = VersionAt(path);
+  const forms::RegularFile file(path);
+  const auto version = file.Version();
   if (!version) return nullptr;
   const Source source{*version, boxWidth, boxHeight};
   if (source == source_) {
     if (forms::Picture picture = picture_.lock()) return picture;
   }
   source_.reset();
-  forms::Picture picture = LoadPictureFile(path, boxWidth, boxHeight);
+  forms::Picture picture = LoadPictureFile(file, boxWidth, boxHeight);
   picture_ = picture;
   // One that changes while it is read may give a picture of neither version.
-  if (version->SettledBy(now) && VersionAt(path) == version) source_ = source;
+  if (version->SettledBy(now) && file.Version() == version) source_ = source;
   return picture;
 }
 

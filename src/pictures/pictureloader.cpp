@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 
-#include "forms/regularfile.h"
 #include "pictures/dib.h"
 #include "pictures/limits.h"
 #include "pictures/metafileplayer.h"
@@ -48,8 +47,7 @@ forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHei
   return LoadBitmap(fileHeader, dib);
 }
 
-forms::Picture LoadPictureFile(const std::filesystem::path& path, int boxWidth, int boxHeight) {
-  const forms::RegularFile file(path);
+forms::Picture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight) {
   std::array<char, FileHeaderBytes> fileHeader{};
   if (file.ReadAt(0, fileHeader) && IsBitmap(fileHeader)) {
     FileBytes dib(file, FileHeaderBytes);

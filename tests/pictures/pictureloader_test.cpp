@@ -157,7 +157,9 @@ struct PictureFile : testing::Test {
   QTemporaryDir Folder;
 
   std::filesystem::path Path(const char* name) const { return Folder.filePath(name).toStdString(); }
-  forms::Picture LoadFile(const char* name) const { return LoadPictureFile(Path(name), 60, 40); }
+  forms::Picture LoadFile(const char* name) const {
+    return LoadPictureFile(forms::RegularFile(Path(name)), 60, 40);
+  }
   void Write(const char* name, const QByteArray& bytes) const {
     QFile file(Folder.filePath(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
