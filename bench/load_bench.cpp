@@ -14,7 +14,7 @@ constexpr int TimedRounds = 25;
 constexpr int MemoryRounds = 5;
 
 forms::Picture Load(const QString& path) {
-  forms::Picture picture = pictures::LoadPictureFile(path.toStdString(), 0, 0);
+  forms::Picture picture = pictures::LoadPictureFile(forms::RegularFile(path.toStdString()), 0, 0);
   if (!picture) qFatal("cannot load %s", qPrintable(path));
   return picture;
 }

@@ -34,11 +34,8 @@ std::optional<DibShape> ShapeOf(const MetafileRecord& record, qsizetype at, Bitm
 }
 
 // The older bitmap of two colours: clear bits show the text colour, set bits the background.
-forms::Picture DecodeTwoColours(const DeviceContext& context, const MetafileRecord& record,
-                                qsizetype at, qsizetype bitsAt) {
-  const DibShape shape{.Width = record.Int(at + 1), .Height = record.Int(at + 2)};
-  const qsizetype rowBytes = record.Int(at + 3);
-  const QByteArrayView bits = record.From(bitsAt);
+forms::Picture DecodeTwoColours(const DeviceContext& context, const DibShape& shape,
+                                qsizetype rowBytes, QByteArrayView bits) {
   if (bits.size() < rowBytes * shape.Height) return nullptr;
   const QRgb clear = context.Resolve(context.State.TextColour);
   const QRgb set = context.Resolve(context.State.BackColour);
@@ -55,17 +52,16 @@ forms::Picture DecodeTwoColours(const DeviceContext& context, const MetafileReco
   return image;
 }
 
-// The bitmap at the word `at` of the record; null when it is broken, or when the work that is left
-// does not reach for it.
+// The bitmap of that shape at the word `at` of the record, or at `twoColourBitsAt` where its bits
+// stand apart; null when it is broken, or when the work that is left does not reach for it.
 forms::Picture Decode(DeviceContext& context, const MetafileRecord& record, qsizetype at,
-                      BitmapForm form, qsizetype twoColourBitsAt) {
-  const std::optional<DibShape> shape = ShapeOf(record, at, form);
-  if (!shape || !context.Target().Spend(WorkPerBitmapPixel * shape->Pixels() + record.Words())) {
+                      BitmapForm form, const DibShape& shape, qsizetype twoColourBitsAt) {
+  if (!context.Target().Spend(WorkPerBitmapPixel * shape.Pixels() + record.Words())) {
     return nullptr;
   }
   switch (form) {
     case BitmapForm::TwoColours:
-      return DecodeTwoColours(context, record, at, twoColourBitsAt);
+      return DecodeTwoColours(context, shape, record.Int(at + 3), record.From(twoColourBitsAt));
     case BitmapForm::PackedPaletteIndices:
       return DecodeDib(record.From(at), context.State.CurrentPalette);
     case BitmapForm::Packed:
@@ -77,11 +73,12 @@ forms::Picture Decode(DeviceContext& context, const MetafileRecord& record, qsiz
 // Draws the bitmap at the word `at` of the record.
 void DrawBitmap(DeviceContext& context, Blit blit, const MetafileRecord& record, qsizetype at,
                 BitmapForm form) {
-  if (!ShapeOf(record, at, form) || !BlitTouches(context, blit)) return;
-  blit.Source = Decode(context, record, at, form, at + 5);
+  const std::optional<DibShape> shape = ShapeOf(record, at, form);
+  if (!shape || !BlitTouches(context, blit)) return;
+  blit.Source = Decode(context, record, at, form, *shape, at + 5);
   // A packed bitmap's source rows are counted from the first stored one.
-  if (blit.Source && form != BitmapForm::TwoColours && ShapeOfDib(record.From(at))->BottomUp) {
-    blit.From.moveTop(blit.Source->Height - blit.From.top() - blit.From.height());
+  if (shape->BottomUp) {
+    blit.From.moveTop(shape->Height - blit.From.top() - blit.From.height());
   }
   DrawBlit(context, blit);
 }
@@ -134,7 +131,8 @@ void PlaySetDib(DeviceContext& context, const MetafileRecord& record) {
 void CreatePattern(DeviceContext& context, const MetafileRecord& record, qsizetype at,
                    BitmapForm form, qsizetype twoColourBitsAt) {
   GraphicsObject object = Unusable();
-  if (forms::Picture tile = Decode(context, record, at, form, twoColourBitsAt)) {
+  const std::optional<DibShape> shape = ShapeOf(record, at, form);
+  if (auto tile = shape ? Decode(context, record, at, form, *shape, twoColourBitsAt) : nullptr) {
     // It may be kept, so its memory weighs more than pixels that are painted.
     context.Target().Spend(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
     object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include "pictures/limits.h"
-#include "pictures/textdecoding.h"
 
 namespace terramark::pictures {
 namespace {
@@ -15,6 +14,7 @@ namespace {
 constexpr int DefaultPixelSize = 16;
 constexpr double MadeItalicSlant = 0.287;  // 16 degrees
 constexpr int BoldFrom = 600;
+constexpr int SymbolCharset = 2;
 
 double Limited(double size) {
   return std::clamp(size, 1.0, double{MaxLetterSize});
@@ -34,6 +34,14 @@ constexpr FaceRow Faces[] = {
     {"system", "Liberation Sans"},    {"courier", "Liberation Mono"},
     {"fixedsys", "Liberation Mono"},  {"terminal", "Liberation Mono"},
 };
+
+// The family that stands in for a usual face of letters, named in lower case; null for any other.
+const char* StandInFor(const QByteArray& face) {
+  for (const FaceRow& row : Faces) {
+    if (face.startsWith(row.Face)) return row.Family;
+  }
+  return nullptr;
+}
 
 // What the symbol font says of itself, for each pixel of its size.
 constexpr double SymbolAscent = 1.005;
@@ -116,11 +124,13 @@ double SizeOfCell(double height, double cell) {
 
 }  // namespace
 
-const char* StandInFor(const QByteArray& face) {
-  for (const FaceRow& row : Faces) {
-    if (face.startsWith(row.Face)) return row.Family;
-  }
-  return nullptr;
+FontContents ContentsOf(const Font& font) {
+  const QByteArray face = font.Face.toLower();
+  if (face.startsWith("symbol")) return FontContents::Symbols;
+  if (font.Charset != SymbolCharset) return FontContents::Letters;
+  // A face for letters has no signs: the symbol font steps in.
+  const bool symbols = face.isEmpty() || face.contains("symbol") || StandInFor(face) != nullptr;
+  return symbols ? FontContents::Symbols : FontContents::OwnSigns;
 }
 
 qsizetype InstalledFamilies() {

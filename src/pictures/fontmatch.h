@@ -10,6 +10,14 @@
 
 namespace terramark::pictures {
 
+/// What a font holds: letters; the signs of the symbol font; or signs of its own, known by nothing
+/// but its name.
+enum class FontContents { Letters, Symbols, OwnSigns };
+FontContents ContentsOf(const Font& font);
+
+/// Fonts of signs keep them from here on.
+constexpr char16_t OwnSignsFrom = 0xF000;
+
 /// A font that keeps its signs by their byte.
 struct SignFont {
   QFont Face;
@@ -27,9 +35,6 @@ struct MatchedFont {
   /// How far each pixel of height leans right, for a font that has no italic of its own.
   double Slant = 0;
 };
-
-/// The family that stands in for a usual face of letters, named in lower case; null for any other.
-const char* StandInFor(const QByteArray& face);
 
 /// How many families of fonts the system has.
 qsizetype InstalledFamilies();

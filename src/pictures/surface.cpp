@@ -17,6 +17,7 @@ constexpr std::int64_t WorkPerPolygon = 40;
 constexpr std::int64_t WorkPerEdge = 6;
 constexpr std::int64_t WorkPerCrossing = 16;
 constexpr std::int64_t WorkPerFloodRun = 10;
+constexpr std::int64_t PixelsPerFloodWork = 32;  // two bits each, cleared by words
 // Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
 constexpr std::int64_t WorkPerClipRect = 10;
@@ -31,6 +32,24 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   if (code & 8) result |= pattern & destination;
   return result | OpaqueBlack;
 }
+
+// Paints what a flood takes, in runs.
+struct FloodPainter {
+  void Run(int y, int x0, int x1) {
+    if (Target.Spend(WorkPerFloodRun)) Target.Span(y, x0, x1, Brush);
+  }
+  void Spots(int y, int x, std::uint32_t bits) {
+    while (bits != 0) {
+      const int first = std::countr_zero(bits);
+      const int count = std::countr_one(bits >> first);
+      Run(y, x + first, x + first + count);
+      bits &= bits + (1U << first);
+    }
+  }
+
+  Surface& Target;
+  const Paint& Brush;
+};
 
 }  // namespace
 
@@ -121,8 +140,8 @@ void Surface::Put(QPoint at, QRgb colour) {
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
-  const std::int64_t bits = std::int64_t{Area().width()} * Area().height() * 2;
-  if (!Area().contains(seed) || !Spend(bits / 64)) return;
+  const std::int64_t pixels = std::int64_t{Area().width()} * Area().height();
+  if (!Area().contains(seed) || !Spend(pixels / PixelsPerFloodWork)) return;
   const auto stops = border ? forms::FloodStops::AtColour : forms::FloodStops::AtOtherColours;
   const auto width = static_cast<std::size_t>(Area().width());
   // Rows without open pixels end the flood when the work is used up.
@@ -131,22 +150,7 @@ void Surface::Flood(QPoint seed, QRgb colour, bool border, const Paint& paint) {
     forms::SetOpenBits({Row(y), width}, colour, stops, row);
     if (!clip_.isNull()) CloseClipped(y, row);
   };
-  struct Painter {
-    void Run(int y, int x0, int x1) {
-      if (To.Spend(WorkPerFloodRun)) To.Span(y, x0, x1, Brush);
-    }
-    void Spots(int y, int x, std::uint32_t bits) {
-      while (bits != 0) {
-        const int first = std::countr_zero(bits);
-        const int count = std::countr_one(bits >> first);
-        Run(y, x + first, x + first + count);
-        bits &= bits + (1U << first);
-      }
-    }
-
-    Surface& To;
-    const Paint& Brush;
-  } painter{*this, paint};
+  FloodPainter painter{*this, paint};
   const forms::PixelPoint from{seed.x(), seed.y()};
   forms::Flooder(Area().width(), Area().height(), open, painter).From({&from, 1});
 }

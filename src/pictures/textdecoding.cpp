@@ -12,8 +12,6 @@
 namespace terramark::pictures {
 namespace {
 
-constexpr int SymbolCharset = 2;
-
 struct Charset {
   const char* CodePage;
   int Number;
@@ -84,15 +82,6 @@ class Converter {
 };
 
 }  // namespace
-
-FontContents ContentsOf(const Font& font) {
-  const QByteArray face = font.Face.toLower();
-  if (face.startsWith("symbol")) return FontContents::Symbols;
-  if (font.Charset != SymbolCharset) return FontContents::Letters;
-  // A face for letters has no signs: the symbol font steps in.
-  const bool symbols = face.isEmpty() || face.contains("symbol") || StandInFor(face) != nullptr;
-  return symbols ? FontContents::Symbols : FontContents::OwnSigns;
-}
 
 int FirstLetterBytes(QByteArrayView text, const Font& font) {
   if (text.size() < 2 || !CharsetOf(font.Charset).DoubleByte) return 1;

@@ -8,14 +8,6 @@
 
 namespace terramark::pictures {
 
-/// What a font holds: letters; the signs of the symbol font; or signs of its own, known by nothing
-/// but its name.
-enum class FontContents { Letters, Symbols, OwnSigns };
-FontContents ContentsOf(const Font& font);
-
-/// Fonts of signs keep them from here on.
-constexpr char16_t OwnSignsFrom = 0xF000;
-
 /// How many bytes the first letter of `text`, which is not empty, takes: 1 or 2.
 int FirstLetterBytes(QByteArrayView text, const Font& font);
 

@@ -78,10 +78,14 @@ QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   return start;
 }
 
-// What a letter may paint, with what hangs over its cell.
-QRectF InkOf(const LetterShape& letter, const MatchedFont& font) {
+// The room of letters along so many pixels of the baseline.
+QRectF CellOf(const MatchedFont& font, double width) {
+  return {0, -double(font.Ascent), width, double(font.Ascent + font.Descent)};
+}
+
+// What letters of that cell may paint: some hang over it.
+QRectF InkOf(const QRectF& cell, const MatchedFont& font) {
   const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
-  const QRectF cell(0, -font.Ascent, letter.Advance * font.Stretch, font.Ascent + font.Descent);
   return cell.adjusted(-overhang, -overhang, overhang, overhang);
 }
 
@@ -117,7 +121,8 @@ QImage DrawLetters(Surface& target, const TextLine& line, const MatchedFont& fon
     const LetterShape& letter = *line.Letters[i];
     const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
     const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-    const QRectF ink = turn.mapRect(InkOf(letter, font)).translated(whole);
+    const QRectF cell = CellOf(font, letter.Advance * font.Stretch);
+    const QRectF ink = turn.mapRect(InkOf(cell, font)).translated(whole);
     const QRect seen = ink.toAlignedRect().intersected(image.rect());
     if (letter.Runs.isEmpty() || seen.isEmpty()) continue;
     if (!target.Spend(WorkOfLetter(font, shape, seen))) break;
@@ -158,13 +163,11 @@ void DrawRun(DeviceContext& context, const TextRun& run, bool ground) {
   if (state.CurrentFont.Escapement != 0) place.rotate(-state.CurrentFont.Escapement / 10.0);
   place.translate(start.x(), start.y());
 
-  const QRectF cell(0, -font.Ascent, line.Width, font.Ascent + font.Descent);
+  const QRectF cell = CellOf(font, line.Width);
   if (ground) {
     target.Polygons({place.map(QPolygonF(cell))}, true, Plain(context, state.BackColour));
   }
-  const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
-  const QRect bounds =
-      place.mapRect(cell.adjusted(-overhang, -overhang, overhang, overhang)).toAlignedRect();
+  const QRect bounds = place.mapRect(InkOf(cell, font)).toAlignedRect();
   const QRect inner = place.mapRect(cell).toAlignedRect();
   const QRect area = bounds.intersected(target.Area());
   if (target.Touch(context.Measured() ? inner : bounds) &&
