@@ -1,9 +1,8 @@
 #include "window/frameview.h"
 
-#include <qdrawutil.h>
-
 #include <QPainter>
 
+#include "window/frames.h"
 #include "window/look.h"
 #include "window/showntext.h"
 
@@ -29,7 +28,9 @@ void FrameView::paintEvent(QPaintEvent* /*event*/) {
   const QColor face = ScreenColour(frame_.BackColor);
   const QFontMetrics metrics = painter.fontMetrics();
   painter.fillRect(rect(), face);
-  qDrawShadeRect(&painter, rect().adjusted(0, metrics.height() / 2, 0, 0), palette(), true);
+  const QColor dark = palette().color(QPalette::Dark);
+  const QColor light = palette().color(QPalette::Light);
+  DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0), {dark, light, light, dark});
   const QString caption = ShownText(frame_.Caption);
   if (caption.isEmpty()) return;
   const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;

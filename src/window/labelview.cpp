@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "window/frames.h"
 #include "window/look.h"
 #include "window/showntext.h"
 
@@ -17,8 +18,7 @@ void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) 
   if (label.BorderStyle == forms::Border::FixedSingle) {
     // On a black label a black border would not show.
     const bool dark = ScreenColour(label.BackColor).lightness() < DarkLightness;
-    painter.setPen(dark ? Qt::gray : Qt::black);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    DrawFrame(painter, area, dark ? Qt::gray : Qt::black);
     inside.adjust(1, 1, -1, -1);
   }
   painter.setPen(ScreenColour(label.ForeColor));

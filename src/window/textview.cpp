@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "window/cp1252.h"
+#include "window/frames.h"
 #include "window/look.h"
 
 namespace terramark::window {
@@ -150,6 +151,7 @@ void TextView::Limit(qsizetype size) {
 void TextView::ShowColours() {
   QPalette colours = palette();
   colours.setColor(QPalette::Base, ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Disabled, QPalette::Base, colours.color(QPalette::Button));
   colours.setColor(QPalette::Active, QPalette::Text, ScreenColour(box_.ForeColor));
   colours.setColor(QPalette::Inactive, QPalette::Text, ScreenColour(box_.ForeColor));
   setPalette(colours);
@@ -158,8 +160,7 @@ void TextView::ShowColours() {
 void TextView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(Qt::black);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawFrame(painter, rect(), Qt::black);
 }
 
 }  // namespace terramark::window
