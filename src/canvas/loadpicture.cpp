@@ -18,7 +18,7 @@ void LoadMap_MouseUp(Form1& form) {
     ShowNameFault(form, path);
     return;
   }
-  if (!ShowPicture(form, path)) {
+  if (!ShowNewPicture(form, path)) {
     ShowPictureFault(form, path);
     return;
   }

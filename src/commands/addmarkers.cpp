@@ -44,6 +44,7 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
     const forms::Label& previous = form.ArmyAt(static_cast<std::int16_t>(i - 1));
     marker.Move(previous.Left, previous.Top);
   }
+  BringIntoView(form, marker);
 }
 
 void AddCont_MouseUp(Form1& form) {
@@ -58,6 +59,7 @@ void AddCont_MouseUp(Form1& form) {
   form.CurRegion = r;
   form.RegionArmies(r) = NewArmies;
   SelectRegion(form, r);
+  BringIntoView(form, marker);
 }
 
 }  // namespace terramark

@@ -10,7 +10,7 @@ namespace terramark {
 void DelAll_MouseUp(Form1& form) {
   if (!Confirmed(form, "Clear whole map?")) return;
   ClearMap(form);
-  ShowPicture(form, "");
+  ShowNewPicture(form, "");
 }
 
 }  // namespace terramark

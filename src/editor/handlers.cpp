@@ -1,8 +1,10 @@
 #include "editor/handlers.h"
 
+#include "canvas/canvaskeys.h"
 #include "canvas/colourpanel.h"
 #include "canvas/markermouse.h"
 #include "editor/backdroppress.h"
+#include "editor/formkeys.h"
 #include "editor/hover.h"
 #include "editor/presses.h"
 #include "selection/arrowkeys.h"
@@ -37,6 +39,7 @@ void JoinMarkers(Form1& form) {
 void JoinBackdrop(Form1& form) {
   form.Picture1.MouseUp = [&form](const auto& event) { Picture1_MouseUp(form, event); };
   form.Picture1.DragDrop = [&form](const auto& event) { Picture1_DragDrop(form, event); };
+  form.Picture1.KeyDown = [&form](auto& event) { Picture1_KeyDown(form, event); };
 }
 
 void JoinColourPanel(Form1& form) {
@@ -57,6 +60,7 @@ void JoinHandlers(Form1& form) {
   JoinMarkers(form);
   JoinBackdrop(form);
   JoinColourPanel(form);
+  form.KeyDown = [&form](auto& event) { Form_KeyDown(form, event); };
   form.KeyUp = [&form](const auto& event) { Form_KeyUp(form, event); };
   form.Quit.Click = [&form](const auto&) { Quit_Click(form); };
 }

@@ -51,7 +51,7 @@ class Control : public PropertyOwner {
   Slot<MouseEvent> MouseMove;
   Slot<MouseEvent> MouseUp;
   Slot<DropEvent> DragDrop;
-  Slot<KeyEvent> KeyDown;
+  Slot<KeyEvent&> KeyDown;
   Slot<KeyEvent> KeyUp;
   Slot<PlainEvent> KeyPress;
 
@@ -78,6 +78,8 @@ class Control : public PropertyOwner {
   void Refresh();
 
   void PropertyChanged(PropertyId id) override;
+  /// A control in this one is about to go; only its identity may be used.
+  virtual void ChildGone(const Control& /*child*/) {}
 
  protected:
   /// Takes over all that the template has but its index, visibility and place in the stack.

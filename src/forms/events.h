@@ -25,8 +25,24 @@ inline bool AsksForHelp(std::int16_t shift) {
 }
 
 /// Key codes; no other key has one.
+inline constexpr std::int16_t KeyReturn = 13;
+inline constexpr std::int16_t KeyEscape = 27;
+inline constexpr std::int16_t KeySpace = 32;
+inline constexpr std::int16_t KeyPageUp = 33;
+inline constexpr std::int16_t KeyPageDown = 34;
+inline constexpr std::int16_t KeyEnd = 35;
+inline constexpr std::int16_t KeyHome = 36;
+inline constexpr std::int16_t KeyLeftArrow = 37;
 inline constexpr std::int16_t KeyUpArrow = 38;
+inline constexpr std::int16_t KeyRightArrow = 39;
 inline constexpr std::int16_t KeyDownArrow = 40;
+inline constexpr std::int16_t Key0 = 48;
+inline constexpr std::int16_t KeyC = 67;
+inline constexpr std::int16_t KeyMenu = 93;
+inline constexpr std::int16_t KeyF1 = 112;
+inline constexpr std::int16_t KeyF6 = 117;
+inline constexpr std::int16_t KeyPlus = 187;
+inline constexpr std::int16_t KeyMinus = 189;
 
 /// X and Y are in the scale of the control that gets the event: pixels in a picture box, twips from
 /// the top left corner of any other control. Index is the element's number in its control array.
@@ -46,11 +62,15 @@ struct DropEvent {
   float Y = 0;
 };
 
-/// KeyCode is KeyUpArrow, KeyDownArrow or, for any other key, 0; Shift is a sum of ShiftKey,
-/// CtrlKey and AltKey.
+/// KeyCode is one of the codes above or, for any other key, 0; Shift is a sum of ShiftKey, CtrlKey
+/// and AltKey.
 struct KeyEvent {
   std::int16_t KeyCode = 0;
   std::int16_t Shift = 0;
+  /// Whether a key that is held down is told again.
+  bool Repeat = false;
+  /// Set by a handler of KeyDown for which the key was meant: nobody hears of it after that one.
+  bool Taken = false;
 };
 
 /// An event without arguments but the element's number: Click, Change and KeyPress.

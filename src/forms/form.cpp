@@ -42,7 +42,10 @@ void Form::Remove(Control& control) {
   Pointer.Forget(control);
   if (active_ == &control) active_ = nullptr;
   if (lost_ == &control) lost_ = nullptr;
-  if (control.container_ != nullptr) std::erase(control.container_->children_, &control);
+  if (control.container_ != nullptr) {
+    std::erase(control.container_->children_, &control);
+    control.container_->ChildGone(control);
+  }
   for (Control* child : control.children_) child->container_ = nullptr;
   std::erase(controls_, &control);
 }
@@ -60,6 +63,7 @@ void Form::Restack(Control& control, StackEnd end) {
 
 void Form::Focus(Control* control) {
   if (active_ == control || (control != nullptr && !TakesKeys(*control))) return;
+  Pointer.PutBack();
   active_ = control;
   lost_ = nullptr;
   if (observer_ != nullptr) observer_->FocusMoved(control != nullptr ? *control : *this);
@@ -77,12 +81,26 @@ void Form::Tell(Control& control, PropertyId id) {
   if (movesKeys && lost_ != nullptr && TakesKeys(*lost_)) Focus(lost_);
 }
 
-void Form::KeyPressed(const KeyEvent& key) {
-  if (KeyPreview) KeyDown.Raise(key);
-  if (active_ != nullptr) active_->KeyDown.Raise(key);
+bool Form::KeyPressed(KeyEvent key) {
+  Control* const active = active_;
+  const auto held = taken_.find(key.KeyCode);
+  if (key.Repeat && held != taken_.end() && held->second != active) return true;
+  if (key.KeyCode == KeyEscape && Pointer.InFlight()) {
+    Pointer.CancelDrag();
+    key.Taken = true;
+  }
+  if (!key.Taken && KeyPreview) KeyDown.Raise(key);
+  if (!key.Taken && active != nullptr) active->KeyDown.Raise(key);
+  if (key.Taken) {
+    taken_[key.KeyCode] = active;
+  } else {
+    taken_.erase(key.KeyCode);
+  }
+  return key.Taken;
 }
 
 void Form::KeyReleased(const KeyEvent& key) {
+  if (taken_.erase(key.KeyCode) != 0) return;
   if (KeyPreview) KeyUp.Raise(key);
   if (active_ != nullptr) active_->KeyUp.Raise(key);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,8 @@ class FormObserver {
   virtual void FocusMoved(Control& control) = 0;
   /// The control asks to be shown as it is now.
   virtual void Refreshed(Control& control) = 0;
-  /// The dragged marker's outline moved, appeared or went.
-  virtual void DragMoved() = 0;
+  /// The pointer moved, or what it or the keyboard drags moved, appeared or went.
+  virtual void PointerMoved() = 0;
   virtual void Unloaded() = 0;
 
  protected:
@@ -57,8 +58,10 @@ class Form : public Control {
   /// it, and gets it back with its state unless another has taken it by then.
   Control* ActiveControl() const { return active_; }
 
-  /// Keys as the keyboard gives them; an auto-repeat must not be fed as a release.
-  void KeyPressed(const KeyEvent& key);
+  /// Keys as the keyboard gives them; a repeat must not be fed as a release. Whether a press was
+  /// taken: then its character is not typed, its release is told to nobody, and its repeats reach
+  /// only the control that had the keyboard at the press.
+  bool KeyPressed(KeyEvent key);
   void KeyReleased(const KeyEvent& key);
   /// A pressed key that makes a character, before the text changes.
   void CharacterTyped();
@@ -82,6 +85,9 @@ class Form : public Control {
   Control* active_ = nullptr;
   /// What lost the keyboard by its state, while no control has it.
   Control* lost_ = nullptr;
+  /// The keys that are down and were taken, by their codes, and who had the keyboard then; of a
+  /// control only its identity is used.
+  std::map<std::int16_t, const Control*> taken_;
 };
 
 }  // namespace terramark::forms

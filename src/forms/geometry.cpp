@@ -38,23 +38,32 @@ PixelRect PixelBounds(const Control& control) {
           Whole(control.Height / pixel.Y)};
 }
 
-PixelPoint InnerOrigin(const Control& control) {
-  PixelPoint origin;
-  if (control.Container() != nullptr) {
-    const PixelRect bounds = PixelBounds(control);
-    origin = InnerOrigin(*control.Container()) + PixelPoint{bounds.Left, bounds.Top};
+PixelPoint Inside(const Control& control, PixelPoint onForm) {
+  if (control.Container() == nullptr) return onForm;
+  const PixelPoint in = Inside(*control.Container(), onForm) - PixelBounds(control).Corner();
+  if (control.Kind() != ControlKind::PictureBox) return in;
+  return OnPicture(static_cast<const PictureBox&>(control), in);
+}
+
+PixelPoint OnForm(const Control& control, PixelPoint inside) {
+  if (control.Container() == nullptr) return inside;
+  if (control.Kind() == ControlKind::PictureBox) {
+    inside = InBox(static_cast<const PictureBox&>(control), inside);
   }
-  if (control.Kind() != ControlKind::PictureBox) return origin;
-  return origin + InBox(static_cast<const PictureBox&>(control), {});
+  return OnForm(*control.Container(), PixelBounds(control).Corner() + inside);
+}
+
+PixelPoint InnerOrigin(const Control& control) {
+  return OnForm(control, {});
 }
 
 PixelPoint Middle(const Control& control) {
   const PixelRect bounds = PixelBounds(control);
-  return InnerOrigin(control) + PixelPoint{bounds.Width / 2, bounds.Height / 2};
+  const PixelPoint middle = bounds.Corner() + PixelPoint{bounds.Width / 2, bounds.Height / 2};
+  return control.Container() == nullptr ? middle : OnForm(*control.Container(), middle);
 }
 
-ScalePoint PointInside(const Control& control, PixelPoint at) {
-  const PixelPoint inside = at - InnerOrigin(control);
+ScalePoint InScale(const Control& control, PixelPoint inside) {
   const ScalePoint pixel = PixelIn(control.InnerScale, control.Owner());
   return {static_cast<float>(inside.X) * pixel.X, static_cast<float>(inside.Y) * pixel.Y};
 }
@@ -80,11 +89,20 @@ PixelPoint PlaceOnScreen(const Form& form) {
 }
 
 PixelPoint InBox(const PictureBox& box, PixelPoint onPicture) {
-  return onPicture - PixelPoint{box.ScrollLeft, box.ScrollTop};
+  return {ToScreen(box.Zoom, onPicture.X) - box.ScrollLeft,
+          ToScreen(box.Zoom, onPicture.Y) - box.ScrollTop};
 }
 
 PixelPoint OnPicture(const PictureBox& box, PixelPoint inBox) {
-  return inBox + PixelPoint{box.ScrollLeft, box.ScrollTop};
+  return {ToPicture(box.Zoom, inBox.X + box.ScrollLeft),
+          ToPicture(box.Zoom, inBox.Y + box.ScrollTop)};
+}
+
+PixelRect InBox(const PictureBox& box, const PixelRect& onPicture) {
+  const PixelPoint corner = InBox(box, onPicture.Corner());
+  const PixelPoint end =
+      InBox(box, onPicture.Corner() + PixelPoint{onPicture.Width, onPicture.Height});
+  return {corner.X, corner.Y, std::max(1, end.X - corner.X), std::max(1, end.Y - corner.Y)};
 }
 
 }  // namespace terramark::forms

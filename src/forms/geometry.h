@@ -1,5 +1,5 @@
-// From the scales of the controls to the pixels of the screen and back, scrolling included, in one
-// place for all, so that each means the same pixel.
+// From the scales of the controls to the pixels of the screen and back, scrolling and zoom
+// included, in one place for all, so that each means the same pixel.
 #pragma once
 
 namespace terramark::forms {
@@ -23,6 +23,7 @@ struct PixelRect {
   int Width = 0;
   int Height = 0;
 
+  PixelPoint Corner() const { return {Left, Top}; }
   bool Contains(PixelPoint at) const {
     return at.X >= Left && at.Y >= Top && at.X < Left + Width && at.Y < Top + Height;
   }
@@ -34,10 +35,17 @@ struct ScalePoint {
   float Y = 0;
 };
 
-/// Where a control stands inside its container, in pixels of the screen: each number rounded by
-/// itself, halves away from 0, and held to 2^24 either way. Of a form, its inside, from 0, 0. A
-/// control that is on no form yet counts as placed in pixels.
+/// Where a control stands inside its container, in pixels of that: of the screen, or of the picture
+/// in a picture box, which may be zoomed. Each number is rounded by itself, halves away from 0, and
+/// held to 2^24 either way. Of a form, its inside, from 0, 0. A control that is on no form yet
+/// counts as placed in pixels.
 PixelRect PixelBounds(const Control& control);
+
+/// A pixel of the form's inside as a pixel of a control's own inside, counted from its corner; in a
+/// picture box, the pixel of the picture that is seen there. Either may lie outside.
+PixelPoint Inside(const Control& control, PixelPoint onForm);
+/// Where on the form a pixel of a control's inside begins.
+PixelPoint OnForm(const Control& control, PixelPoint inside);
 
 /// Where the origin of a control's inside stands, in pixels of the form's inside; 0, 0 for the
 /// form. Inside a picture box that is the picture's corner, wherever it is scrolled to, so it may
@@ -47,9 +55,8 @@ PixelPoint InnerOrigin(const Control& control);
 /// The middle of a control, in pixels of the form's inside.
 PixelPoint Middle(const Control& control);
 
-/// A pixel of the form's inside in the scale of a control's own inside. The control must be on a
-/// form.
-ScalePoint PointInside(const Control& control, PixelPoint at);
+/// A pixel of a control's inside in the scale of that inside. The control must be on a form.
+ScalePoint InScale(const Control& control, PixelPoint inside);
 
 /// A size in pixels in the scale of a control's container. The control must be on a form.
 ScalePoint SizeBeside(const Control& control, int width, int height);
@@ -64,8 +71,11 @@ int PixelsDown(Desktop& host, float twips);
 /// Where a form's corner stands on the screen, in pixels, rounded as in PixelBounds.
 PixelPoint PlaceOnScreen(const Form& form);
 
-/// From pixels of the picture in a box to pixels of the box, and back. Either may lie outside.
+/// From pixels of the picture in a box to pixels of the box, and back: where one begins, and which
+/// one is seen. Either may lie outside.
 PixelPoint InBox(const PictureBox& box, PixelPoint onPicture);
 PixelPoint OnPicture(const PictureBox& box, PixelPoint inBox);
+/// What a part of the picture covers in the box; in either direction a pixel at least.
+PixelRect InBox(const PictureBox& box, const PixelRect& onPicture);
 
 }  // namespace terramark::forms

@@ -14,6 +14,8 @@ namespace terramark::forms {
 
 namespace {
 
+constexpr int GroundAround = 24;  // pixels of the screen
+
 /// The picture in the top left corner of a larger raster.
 Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t background) {
   Raster image;
@@ -28,6 +30,15 @@ Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t back
   return image;
 }
 
+/// How far to scroll until a stretch is seen; 0 where it is.
+int StepInto(int from, int length, int view) {
+  if (from >= 0 && from + length <= view) return 0;
+  const int ground = std::clamp((view - length) / 2, 0, GroundAround);
+  const int step = from < 0 ? from - ground : from + length + ground - view;
+  // Of what is too long, the beginning.
+  return std::min(step, from - ground);
+}
+
 }  // namespace
 
 int PictureBox::BoxWidth() const {
@@ -38,17 +49,26 @@ int PictureBox::BoxHeight() const {
   return PixelBounds(*this).Height;
 }
 
+// The image may have blank ground beside the picture, for which no bar is needed.
+const Raster& PictureBox::Sheet() const {
+  return Picture.Get() && Picture.Get()->Width > 0 ? *Picture.Get() : Image();
+}
+
+int PictureBox::ShownWidth() const {
+  return ShownExtent(Zoom, Sheet().Width);
+}
+
+int PictureBox::ShownHeight() const {
+  return ShownExtent(Zoom, Sheet().Height);
+}
+
 // A bar for one way takes room from the other, which can call for the second bar.
 bool PictureBox::ScrollsAcross() const {
-  const bool tall = Image().Height > BoxHeight();
-  return Image().Width > BoxWidth() - (tall ? ScrollBarExtent : 0) && Image().Width > 0 &&
-         (Image().Width > BoxWidth() || tall);
+  return ShownWidth() > BoxWidth() - (ShownHeight() > BoxHeight() ? ScrollBarExtent : 0);
 }
 
 bool PictureBox::ScrollsDown() const {
-  const bool wide = Image().Width > BoxWidth();
-  return Image().Height > BoxHeight() - (wide ? ScrollBarExtent : 0) && Image().Height > 0 &&
-         (Image().Height > BoxHeight() || wide);
+  return ShownHeight() > BoxHeight() - (ShownWidth() > BoxWidth() ? ScrollBarExtent : 0);
 }
 
 int PictureBox::ViewWidth() const {
@@ -60,8 +80,27 @@ int PictureBox::ViewHeight() const {
 }
 
 void PictureBox::ScrollTo(int left, int top) {
-  ScrollLeft = std::clamp(left, 0, std::max(0, Image().Width - ViewWidth()));
-  ScrollTop = std::clamp(top, 0, std::max(0, Image().Height - ViewHeight()));
+  ScrollLeft = std::clamp(left, 0, std::max(0, ShownWidth() - ViewWidth()));
+  ScrollTop = std::clamp(top, 0, std::max(0, ShownHeight() - ViewHeight()));
+}
+
+void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
+  const Magnification old = Zoom;
+  const auto scroll = [&](int out, int at) {
+    // From the middle of the pixel, in half pixels.
+    const std::int64_t place = std::int64_t{2} * (out + at) + 1;
+    return static_cast<int>(place * old.Picture * zoom.Screen / (2 * old.Screen * zoom.Picture)) -
+           at;
+  };
+  const PixelPoint to{scroll(ScrollLeft, about.X), scroll(ScrollTop, about.Y)};
+  Zoom = zoom;
+  ScrollTo(to.X, to.Y);
+}
+
+void PictureBox::Reveal(const PixelRect& onPicture) {
+  const PixelRect part = InBox(*this, onPicture);
+  ScrollBy(StepInto(part.Left, part.Width, ViewWidth()),
+           StepInto(part.Top, part.Height, ViewHeight()));
 }
 
 void PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
@@ -93,6 +132,10 @@ void PictureBox::PropertyChanged(PropertyId id) {
     own_ = std::move(old);
     throw;
   }
+}
+
+void PictureBox::ChildGone(const Control& child) {
+  if (Ringed == &child) Ringed = nullptr;
 }
 
 std::optional<Raster> PictureBox::Padded() const {

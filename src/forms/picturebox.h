@@ -1,5 +1,5 @@
 // A picture box: a container in pixels with a backdrop picture and a persistent image that is
-// painted on. A picture larger than the box is reached by scrolling.
+// painted on. A picture larger than the box is reached by scrolling, and it can be magnified.
 #pragma once
 
 #include <optional>
@@ -10,6 +10,7 @@
 #include "forms/control.h"
 #include "forms/geometry.h"
 #include "forms/raster.h"
+#include "forms/zoom.h"
 
 namespace terramark::forms {
 
@@ -29,9 +30,16 @@ class PictureBox : public Control {
   Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
-  /// Pixels of the picture that have gone out at the left and at the top; use ScrollTo.
+  /// Pixels of the screen that have gone out at the left and at the top; use ScrollTo.
   Property<int> ScrollLeft{*this, PropertyId::ScrollLeft, 0};
   Property<int> ScrollTop{*this, PropertyId::ScrollTop, 0};
+  /// How large the picture and all on it are shown; use ZoomTo. Places stay pixels of the picture.
+  Property<Magnification> Zoom{*this, PropertyId::Zoom, ActualSize};
+  /// Whether the box takes the keyboard in the tab order.
+  bool TabStop = false;
+  /// The control on the picture that the box's keys act on; null for none. It is marked while the
+  /// box has the keyboard.
+  Property<Control*> Ringed{*this, PropertyId::Ringed, nullptr};
 
   /// The persistent image: as large as the picture and never smaller than the box. It is the
   /// picture itself until it is painted on.
@@ -43,12 +51,22 @@ class PictureBox : public Control {
   /// What the scroll bars leave of the box, in pixels.
   int ViewWidth() const;
   int ViewHeight() const;
+  /// The picture as it is magnified, in pixels of the screen; where there is none, the blank image.
+  int ShownWidth() const;
+  int ShownHeight() const;
   bool ScrollsAcross() const;
   bool ScrollsDown() const;
   /// Scrolls as near to the place as the picture's edges allow.
   void ScrollTo(int left, int top);
   /// Likewise, so many pixels further to the right and down.
   void ScrollBy(int across, int down) { ScrollTo(ScrollLeft + across, ScrollTop + down); }
+  /// Magnifies about a pixel of the box: as far as the picture's edges allow, what is seen there
+  /// stays there.
+  void ZoomTo(Magnification zoom, PixelPoint about);
+  /// The middle of what is seen, in pixels of the box.
+  PixelPoint MiddleOfView() const { return {ViewWidth() / 2, ViewHeight() / 2}; }
+  /// Scrolls, where a part of the picture is not wholly seen, until it is, with some ground around.
+  void Reveal(const PixelRect& onPicture);
 
   /// Paints FillColor on the persistent image from points of it outward up to pixels of the border
   /// colour. A point outside the image or on the border paints nothing. When the memory does not
@@ -56,8 +74,11 @@ class PictureBox : public Control {
   void FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
+  void ChildGone(const Control& child) override;
 
  private:
+  /// What there is to see.
+  const Raster& Sheet() const;
   /// What the image is anew where it is not the picture itself.
   std::optional<Raster> Padded() const;
 

@@ -1,5 +1,7 @@
 #include "forms/pointer.h"
 
+#include <algorithm>
+
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/picturebox.h"
@@ -9,21 +11,22 @@ namespace terramark::forms {
 namespace {
 
 /// Width of the strip along the edges of a box in which a drag scrolls, and the step, in pixels.
+/// Outside the box a step is the longer, by a part of the distance, and held to the longest.
 constexpr int ScrollStrip = 24;
 constexpr int ScrollStep = 8;
+constexpr int DistanceParts = 4;
+constexpr int LongestStep = 96;
 
 /// A picture box's own scroll bars are no part of what a pointer can reach.
-bool OnScrollBar(const Control& control, PixelPoint inBox) {
-  if (control.Kind() != ControlKind::PictureBox) return false;
-  const auto& box = static_cast<const PictureBox&>(control);
+bool OnScrollBar(const PictureBox& box, PixelPoint inBox) {
   return inBox.X >= box.ViewWidth() || inBox.Y >= box.ViewHeight();
 }
 
 /// Whether a disabled control stops the pointer or lets it through.
 enum class Disabled { Stops, LetsThrough };
 
-Control* TopmostIn(Control& container, PixelPoint at, Disabled disabled) {
-  const PixelPoint inside = at - InnerOrigin(container);
+/// Inside is in pixels of the container's inside.
+Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
   const auto& stack = container.Children();
   for (std::size_t left = stack.size(); left > 0; --left) {
     Control* child = stack[left - 1];
@@ -31,28 +34,39 @@ Control* TopmostIn(Control& container, PixelPoint at, Disabled disabled) {
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);
     if (!bounds.Contains(inside)) continue;
-    if (OnScrollBar(*child, inside - PixelPoint{bounds.Left, bounds.Top})) continue;
-    Control* deeper = TopmostIn(*child, at, disabled);
+    PixelPoint deep = inside - bounds.Corner();
+    if (child->Kind() == ControlKind::PictureBox) {
+      const auto& box = static_cast<const PictureBox&>(*child);
+      if (OnScrollBar(box, deep)) continue;
+      deep = OnPicture(box, deep);
+    }
+    Control* deeper = TopmostIn(*child, deep, disabled);
     return deeper != nullptr ? deeper : child;
   }
   return nullptr;
 }
 
-MouseEvent EventFor(const Control& control, PixelPoint at, int button, int shift) {
-  const ScalePoint point = PointInside(control, at);
+MouseEvent EventFor(const Control& control, PixelPoint inside, int button, int shift) {
+  const ScalePoint point = InScale(control, inside);
   return {control.Index(), static_cast<std::int16_t>(button), static_cast<std::int16_t>(shift),
           point.X, point.Y};
 }
 
-bool Inside(const Control& control, PixelPoint at) {
+/// In pixels of the control's inside.
+PixelPoint MiddleInside(const Control& control) {
+  if (control.Kind() == ControlKind::PictureBox) {
+    const auto& box = static_cast<const PictureBox&>(control);
+    return OnPicture(box, box.MiddleOfView());
+  }
   const PixelRect bounds = PixelBounds(control);
-  return PixelRect{0, 0, bounds.Width, bounds.Height}.Contains(at - InnerOrigin(control));
+  return {bounds.Width / 2, bounds.Height / 2};
 }
 
 int StepNearEdge(int at, int extent) {
-  if (at < 0 || at >= extent) return 0;
-  if (at < ScrollStrip) return -ScrollStep;
-  return at >= extent - ScrollStrip ? ScrollStep : 0;
+  const int outside = std::max({0, -at, at - extent + 1});
+  const int step = std::min(ScrollStep + outside / DistanceParts, LongestStep);
+  if (at < ScrollStrip) return -step;
+  return at >= extent - ScrollStrip ? step : 0;
 }
 
 }  // namespace
@@ -68,22 +82,27 @@ Control& PointerRouter::Hovered(int x, int y) const {
 }
 
 void PointerRouter::Press(int x, int y, std::int16_t button, std::int16_t shift) {
+  PutBack();
   at_ = {x, y};
   if (buttonsDown_ == 0) captured_ = &Under(x, y);
   buttonsDown_ = static_cast<std::int16_t>(buttonsDown_ | button);
   lastButton_ = button;
   if (captured_ == nullptr || dragged_ != nullptr) return;
-  captured_->MouseDown.Raise(EventFor(*captured_, at_, button, shift));
+  PressOn(*captured_, Inside(*captured_, at_), button, shift);
+}
+
+void PointerRouter::PressOn(Control& target, PixelPoint inside, std::int16_t button,
+                            std::int16_t shift) {
+  target.MouseDown.Raise(EventFor(target, inside, button, shift));
 }
 
 void PointerRouter::Move(int x, int y, std::int16_t shift) {
   at_ = {x, y};
-  if (dragged_ != nullptr) {
-    if (form_.observer_ != nullptr) form_.observer_->DragMoved();
-    return;
+  if (dragged_ == nullptr || held_) {
+    Control& target = captured_ != nullptr ? *captured_ : Hovered(x, y);
+    target.MouseMove.Raise(EventFor(target, Inside(target, at_), buttonsDown_, shift));
   }
-  Control& target = captured_ != nullptr ? *captured_ : Hovered(x, y);
-  target.MouseMove.Raise(EventFor(target, at_, buttonsDown_, shift));
+  TellMoved();
 }
 
 void PointerRouter::Release(int x, int y, std::int16_t button, std::int16_t shift) {
@@ -93,37 +112,80 @@ void PointerRouter::Release(int x, int y, std::int16_t button, std::int16_t shif
   Control* target = captured_;
   if (buttonsDown_ == 0) captured_ = nullptr;
   if (dragged_ != nullptr) {
-    if (button == dragButton_) Drop();
-    return;
+    if (button != dragButton_) return;
+    Control& under = Under(x, y);
+    return DropOn(under, InScale(under, Inside(under, at_)));
   }
-  if (target != nullptr) ReleaseOn(*target, button, shift);
+  if (target != nullptr) ReleaseOn(*target, Inside(*target, at_), button, shift);
 }
 
-void PointerRouter::ReleaseOn(Control& target, std::int16_t button, std::int16_t shift) {
-  const MouseEvent event = EventFor(target, at_, button, shift);
+void PointerRouter::ReleaseOn(Control& target, PixelPoint inside, std::int16_t button,
+                              std::int16_t shift) {
+  const MouseEvent event = EventFor(target, inside, button, shift);
   if (target.Kind() != ControlKind::CommandButton) {
     target.MouseUp.Raise(event);
     return;
   }
   // A button lets a release outside itself be a change of mind.
-  if (!target.Enabled || !Inside(target, at_)) return;
+  const PixelRect bounds = PixelBounds(target);
+  if (!target.Enabled || !PixelRect{0, 0, bounds.Width, bounds.Height}.Contains(inside)) return;
   target.MouseUp.Raise(event);
   if (button == LeftButton) static_cast<CommandButton&>(target).Click.Raise({target.Index()});
 }
 
-void PointerRouter::PressKey(CommandButton& button, std::int16_t shift) {
-  if (!button.Enabled || !button.Container()->Enabled || buttonsDown_ != 0) return;
-  at_ = Middle(button);
-  button.MouseDown.Raise(EventFor(button, at_, LeftButton, shift));
-  ReleaseOn(button, LeftButton, shift);
+void PointerRouter::PressKey(Control& control, std::int16_t shift, std::int16_t button) {
+  if (!control.Enabled || !control.Container()->Enabled || buttonsDown_ != 0) return;
+  PutBack();
+  const PixelPoint inside = MiddleInside(control);
+  // Down for as long as the press lasts, so that it may begin a drag.
+  buttonsDown_ = button;
+  PressOn(control, inside, button, shift);
+  buttonsDown_ = 0;
+  if (dragged_ != nullptr) {
+    DropOn(control, InScale(control, inside));
+  } else {
+    ReleaseOn(control, inside, button, shift);
+  }
+}
+
+void PointerRouter::PointKey(Control& control) {
+  if (buttonsDown_ != 0) return;
+  control.MouseMove.Raise(EventFor(control, MiddleInside(control), 0, 0));
+}
+
+void PointerRouter::TakeHold(Control& control) {
+  if (buttonsDown_ != 0 || dragged_ != nullptr) return;
+  buttonsDown_ = LeftButton;
+  held_ = true;
+  carried_ = {};
+  PressOn(control, {}, LeftButton, 0);
+  buttonsDown_ = 0;
+  held_ = dragged_ != nullptr;
+}
+
+void PointerRouter::Carry(int across, int down) {
+  if (!held_) return;
+  carried_ = carried_ + PixelPoint{across, down};
+  TellMoved();
+}
+
+void PointerRouter::PutDown() {
+  if (!held_) return;
+  const ScalePoint travel = SizeBeside(*dragged_, carried_.X, carried_.Y);
+  // Not in whole pixels: a place between two keeps its fraction.
+  DropOn(*dragged_->Container(), {dragged_->Left + travel.X, dragged_->Top + travel.Y});
+}
+
+void PointerRouter::PutBack() {
+  if (held_) CancelDrag();
 }
 
 void PointerRouter::BeginDrag(Control& source) {
   if (buttonsDown_ == 0) return;
   dragged_ = &source;
   dragButton_ = lastButton_;
-  hold_ = at_ - InnerOrigin(source);
-  if (form_.observer_ != nullptr) form_.observer_->DragMoved();
+  hold_ = Inside(source, at_);
+  TellMoved();
 }
 
 void PointerRouter::CancelDrag() {
@@ -131,27 +193,36 @@ void PointerRouter::CancelDrag() {
   // What is still down reaches nobody when it comes up.
   dragged_ = nullptr;
   captured_ = nullptr;
-  if (form_.observer_ != nullptr) form_.observer_->DragMoved();
+  held_ = false;
+  TellMoved();
 }
 
-void PointerRouter::Drop() {
+void PointerRouter::DropOn(Control& target, ScalePoint inside) {
   Control& source = *dragged_;
   CancelDrag();
-  Control& target = Under(at_.X, at_.Y);
-  const ScalePoint point = PointInside(target, at_);
-  target.DragDrop.Raise({target.Index(), source, point.X, point.Y});
+  target.DragDrop.Raise({target.Index(), source, inside.X, inside.Y});
 }
 
 void PointerRouter::ScrollByDrag() {
-  if (dragged_ == nullptr || dragged_->Container()->Kind() != ControlKind::PictureBox) return;
+  if (dragged_ == nullptr || held_) return;
+  if (dragged_->Container()->Kind() != ControlKind::PictureBox) return;
   auto& box = static_cast<PictureBox&>(*dragged_->Container());
-  const PixelPoint at = InBox(box, at_ - InnerOrigin(box));
+  const PixelPoint at = at_ - OnForm(*box.Container(), PixelBounds(box).Corner());
   box.ScrollBy(StepNearEdge(at.X, box.ViewWidth()), StepNearEdge(at.Y, box.ViewHeight()));
+}
+
+void PointerRouter::TellMoved() const {
+  if (form_.observer_ != nullptr) form_.observer_->PointerMoved();
 }
 
 std::optional<PointerRouter::Flight> PointerRouter::InFlight() const {
   if (dragged_ == nullptr) return std::nullopt;
-  return Flight{*dragged_, at_ - hold_ - InnerOrigin(*dragged_->Container())};
+  if (held_) {
+    const PixelPoint corner = PixelBounds(*dragged_).Corner() + carried_;
+    return Flight{*dragged_, corner, corner};
+  }
+  const PixelPoint grip = Inside(*dragged_->Container(), at_);
+  return Flight{*dragged_, grip - hold_, grip};
 }
 
 void PointerRouter::Forget(const Control& control) {

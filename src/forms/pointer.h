@@ -1,15 +1,16 @@
 // Routes the pointer over a form: which control a press, move or release reaches, who has it
-// captured, and what is dragged and dropped.
+// captured, and what is dragged and dropped. What the keyboard does in the mouse's stead goes the
+// same way.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 
+#include "forms/events.h"
 #include "forms/geometry.h"
 
 namespace terramark::forms {
 
-class CommandButton;
 class Control;
 class Form;
 class PictureBox;
@@ -25,13 +26,31 @@ class PointerRouter {
   void Press(int x, int y, std::int16_t button, std::int16_t shift);
   void Move(int x, int y, std::int16_t shift);
   void Release(int x, int y, std::int16_t button, std::int16_t shift);
-  /// A button pressed by other means than the mouse: a left press and release in its middle.
-  /// Nothing happens while it or its container is disabled, or a button of the mouse is down.
-  void PressKey(CommandButton& button, std::int16_t shift);
+  /// A control pressed by other means than the mouse: a press and release in its middle, or in a
+  /// picture box in the middle of what is seen, whatever lies over it. Nothing happens while it or
+  /// its container is disabled, or a button of the mouse is down.
+  void PressKey(Control& control, std::int16_t shift, std::int16_t button = LeftButton);
+  /// A move of the pointer to the middle of a control, likewise.
+  void PointKey(Control& control);
+
+  /// Takes hold of a control by other means than the mouse, with a left press on its corner; only
+  /// where that begins a drag. A press of the mouse, and another control that gets the keyboard,
+  /// put it back.
+  void TakeHold(Control& control);
+  /// Carries what is held so many pixels of its container.
+  void Carry(int across, int down);
+  /// Drops what is held on its container, whatever lies there.
+  void PutDown();
+  /// Ends such a hold; the control stays where it was.
+  void PutBack();
+  bool Holds() const { return held_; }
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
   /// cancelled leaves them down.
   std::int16_t ButtonsDown() const { return buttonsDown_; }
+
+  /// Where the pointer was last, as it was fed.
+  PixelPoint At() const { return at_; }
 
   /// The control that a press at this place would reach; the form itself where there is none.
   Control& Under(int x, int y) const;
@@ -43,14 +62,16 @@ class PointerRouter {
   void BeginDrag(Control& source);
   /// Ends a drag; the source stays where it was and nothing is dropped.
   void CancelDrag();
-  /// Once every 20 ms or so while a drag lasts: scrolls a picture box under the pointer when the
-  /// pointer is near the edge of what the box shows.
+  /// Once every 20 ms or so while a drag lasts: scrolls the picture box when the pointer is near
+  /// the edge of what the box shows, or outside, and then the faster the farther.
   void ScrollByDrag();
 
-  /// The control in the air and where its top left corner is held, in its container's pixels.
+  /// The control in the air, where its top left corner is, and where it is held, both in its
+  /// container's pixels.
   struct Flight {
     const Control& Source;
     PixelPoint Corner;
+    PixelPoint Grip;
   };
   std::optional<Flight> InFlight() const;
 
@@ -58,8 +79,10 @@ class PointerRouter {
   void Forget(const Control& control);
 
  private:
-  void Drop();
-  void ReleaseOn(Control& target, std::int16_t button, std::int16_t shift);
+  void PressOn(Control& target, PixelPoint inside, std::int16_t button, std::int16_t shift);
+  void ReleaseOn(Control& target, PixelPoint inside, std::int16_t button, std::int16_t shift);
+  void TellMoved() const;
+  void DropOn(Control& target, ScalePoint inside);
 
   Form& form_;
   Control* captured_ = nullptr;
@@ -70,6 +93,9 @@ class PointerRouter {
   std::int16_t buttonsDown_ = 0;
   std::int16_t lastButton_ = 0;
   std::int16_t dragButton_ = 0;
+  /// Whether what is dragged is held without the mouse, and how far it has been carried.
+  bool held_ = false;
+  PixelPoint carried_;
 };
 
 }  // namespace terramark::forms

@@ -17,6 +17,8 @@ enum class PropertyId {
   Height,
   ScrollLeft,
   ScrollTop,
+  Zoom,
+  Ringed,
   Visible,
   Enabled,
   BackColor,

@@ -23,8 +23,10 @@ void Form_KeyUp(Form1& form, const forms::KeyEvent& event) {
   if (form.MarkCount == 0) return;
   if (AreaMarker(form, form.CurArea) != nullptr) {
     SelectArea(form, Step(form.CurArea, key, form.AreaCount), 0);
+    BringIntoView(form, form.ArmyAt(form.CurArea));
   } else if (RegionMarker(form, form.CurRegion) != nullptr) {
     SelectRegion(form, Step(form.CurRegion, key, form.RegionCount));
+    BringIntoView(form, form.Continent(form.CurRegion));
   }
 }
 

@@ -45,6 +45,8 @@ void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
   Show(marker, Look::Current);
   ++form.MarkCount;
   form.CurArea = area;
+  // The keys on the map go on from what is current.
+  form.Picture1.Ringed = &marker;
   const CardSymbol* symbol = SymbolOfCode(form.AreaSymbol(area));
   ShowName(form, form.AreaName(area), OwnColour(form.Continent(0)));
   form.Symb.Text = SymbolLetter(form.AreaSymbol(area));
@@ -101,6 +103,7 @@ void SelectRegion(Form1& form, std::int16_t region) {
   Show(*marker, Look::Current);
   form.CurRegion = region;
   ++form.MarkCount;
+  form.Picture1.Ringed = marker;
   ShowName(form, form.RegionName(region), OwnColour(*marker));
   form.Symb.Text = "";
   form.Symb.Enabled = false;

@@ -40,6 +40,12 @@ bool ShowPicture(Form1& form, const std::string& path) {
   return true;
 }
 
+bool ShowNewPicture(Form1& form, const std::string& path) {
+  if (!ShowPicture(form, path)) return false;
+  form.Picture1.ZoomTo(forms::ActualSize, {});
+  return true;
+}
+
 void ShowPictureFault(Form1& form, const std::string& path) {
   ShowMessage(form, PictureFault + path, ClrRed);
 }

@@ -13,6 +13,9 @@ struct Form1;
 /// has changed then.
 bool ShowPicture(Form1& form, const std::string& path);
 
+/// Likewise another picture than the one that was shown, which begins at its actual size.
+bool ShowNewPicture(Form1& form, const std::string& path);
+
 /// Says in red that a picture cannot be read.
 void ShowPictureFault(Form1& form, const std::string& path);
 

@@ -67,6 +67,7 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
     label.Alignment = row.Alignment;
   }
   Continent(0).AutoSize = true;
+  Picture1.TabStop = true;
   for (const LimitRow& row : Limits) row.Of(*this).MaxLength = row.MaxLength;
   ColBar.ForEach([](forms::VScrollBar& bar) { bar.Max = UnsetComponent; });
 }

@@ -41,6 +41,9 @@ struct Form1 : forms::Form, Tables {
   std::int16_t SliderLock = 0;
   static constexpr std::int16_t LockOn = 1;
   static constexpr std::int16_t LockOff = 0;
+  // Of the keys (editor/formkeys): what had the keyboard before F6 gave it to the map; null for
+  // none.
+  forms::Control* BeforeMap = nullptr;
   // Of the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
 

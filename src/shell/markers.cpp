@@ -2,6 +2,7 @@
 
 #include "document/corner.h"
 #include "document/numbers.h"
+#include "forms/geometry.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
 
@@ -13,6 +14,11 @@ forms::Label* AreaMarker(Form1& form, std::int16_t area) {
 
 forms::Label* RegionMarker(Form1& form, std::int16_t region) {
   return region < 1 ? nullptr : form.Continent.Find(region);
+}
+
+void BringIntoView(Form1& form, forms::Label& marker) {
+  form.Picture1.Ringed = &marker;
+  form.Picture1.Reveal(PixelBounds(marker));
 }
 
 Look LookOf(const forms::Label& marker) {

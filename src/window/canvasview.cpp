@@ -9,8 +9,10 @@
 
 #include "forms/form.h"
 #include "forms/geometry.h"
+#include "window/frames.h"
 #include "window/labelview.h"
 #include "window/look.h"
+#include "window/magnified.h"
 
 namespace terramark::window {
 
@@ -19,6 +21,8 @@ namespace {
 constexpr int WheelStep = 48;  // pixels a notch
 constexpr int NotchAngle = 120;
 constexpr double AirOpacity = 0.75;
+constexpr int RingWidth = 3;
+constexpr int ZoomLabelGap = 4;
 
 void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value, bool shown) {
   const QSignalBlocker still(&bar);
@@ -30,6 +34,19 @@ void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value
   bar.setVisible(shown);
 }
 
+QRect Widened(const QRect& area) {
+  return area.adjusted(-RingWidth, -RingWidth, RingWidth, RingWidth);
+}
+
+/// Shows on every colour.
+void DrawRing(QPainter& painter, const QRect& area) {
+  int out = RingWidth;
+  for (const QColor& colour : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::black)}) {
+    DrawFrame(painter, area.adjusted(-out, -out, out, out), colour);
+    --out;
+  }
+}
+
 }  // namespace
 
 CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
@@ -37,26 +54,50 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
       ControlView(box, *this),
       box_(box),
       across_(Qt::Horizontal, this),
-      down_(Qt::Vertical, this) {
+      down_(Qt::Vertical, this),
+      zoom_(this) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  if (box.TabStop) setFocusPolicy(Qt::TabFocus);
   const auto scroll = [this] { box_.ScrollTo(across_.value(), down_.value()); };
-  connect(&across_, &QScrollBar::valueChanged, this, scroll);
-  connect(&down_, &QScrollBar::valueChanged, this, scroll);
+  for (QScrollBar* bar : {&across_, &down_}) {
+    // Not the hand that may be over the picture.
+    bar->setCursor(Qt::ArrowCursor);
+    connect(bar, &QScrollBar::valueChanged, this, scroll);
+  }
+  zoom_.setObjectName("Zoom");
+  zoom_.setAttribute(Qt::WA_TransparentForMouseEvents);
+  zoom_.setAutoFillBackground(true);
+  zoom_.setBackgroundRole(QPalette::ToolTipBase);
+  zoom_.setForegroundRole(QPalette::ToolTipText);
+  zoom_.setMargin(2);
   LayBars();
+  LayZoomLabel();
 }
 
 void CanvasView::LayBars() {
   const int width = box_.ViewWidth();
   const int height = box_.ViewHeight();
   const int thick = forms::PictureBox::ScrollBarExtent;
-  LayBar(across_, {0, height, width, thick}, box_.Image().Width, width, box_.ScrollLeft,
+  LayBar(across_, {0, height, width, thick}, box_.ShownWidth(), width, box_.ScrollLeft,
          box_.ScrollsAcross());
-  LayBar(down_, {width, 0, thick, height}, box_.Image().Height, height, box_.ScrollTop,
+  LayBar(down_, {width, 0, thick, height}, box_.ShownHeight(), height, box_.ScrollTop,
          box_.ScrollsDown());
 }
 
-void CanvasView::ShowOwn(forms::PropertyId /*id*/) {
+void CanvasView::LayZoomLabel() {
+  const forms::Magnification zoom = box_.Zoom;
+  zoom_.setText(QString("%1 %").arg(100 * zoom.Screen / zoom.Picture));
+  zoom_.adjustSize();
+  zoom_.move(box_.ViewWidth() - zoom_.width() - ZoomLabelGap,
+             box_.ViewHeight() - zoom_.height() - ZoomLabelGap);
+  zoom_.setVisible(zoom != forms::ActualSize);
+}
+
+void CanvasView::ShowOwn(forms::PropertyId id) {
+  // Without the keyboard there is no ring to be seen.
+  if (id == forms::PropertyId::Ringed && !hasFocus()) return;
   LayBars();
+  LayZoomLabel();
   flightSeen_ = Flight();
   update();
 }
@@ -64,38 +105,62 @@ void CanvasView::ShowOwn(forms::PropertyId /*id*/) {
 void CanvasView::LabelChanged(const forms::Control& label) {
   QRect& seen = seen_[&label];
   const QRect now = label.Visible ? BoundsOf(label) : QRect();
-  update(InBox(seen));
-  update(InBox(now));
+  if (!seen.isEmpty()) update(Around(seen));
+  if (!now.isEmpty()) update(Around(now));
   seen = now;
 }
 
 void CanvasView::LabelGone(const forms::Control& label) {
   const auto seen = seen_.find(&label);
   if (seen == seen_.end()) return;
-  update(InBox(seen->second));
+  if (!seen->second.isEmpty()) update(Around(seen->second));
   seen_.erase(seen);
+}
+
+QRect CanvasView::InBox(const QRect& onPicture) const {
+  const forms::PixelRect area = forms::InBox(
+      box_, forms::PixelRect{onPicture.x(), onPicture.y(), onPicture.width(), onPicture.height()});
+  return {area.Left, area.Top, area.Width, area.Height};
+}
+
+QRect CanvasView::Around(const QRect& onPicture) const {
+  return Widened(InBox(onPicture));
 }
 
 QRect CanvasView::Flight() const {
   const auto flight = box_.Owner()->Pointer.InFlight();
   if (!flight || flight->Source.Container() != &box_) return {};
-  return InBox({QPoint(flight->Corner.X, flight->Corner.Y), BoundsOf(flight->Source).size()});
+  QRect area = InBox({QPoint(flight->Corner.X, flight->Corner.Y), BoundsOf(flight->Source).size()});
+  const forms::PixelPoint grip = forms::InBox(box_, flight->Grip);
+  const QRect view = View();
+  if (view.contains(grip.X, grip.Y)) return area;
+  // Carried out of sight, it waits at the edge.
+  area.moveLeft(std::clamp(area.left(), 0, std::max(0, view.width() - area.width())));
+  area.moveTop(std::clamp(area.top(), 0, std::max(0, view.height() - area.height())));
+  return area;
 }
 
-void CanvasView::DragMoved() {
-  update(flightSeen_);
-  flightSeen_ = Flight();
-  update(flightSeen_);
+void CanvasView::PointerMoved() {
+  if (const QRect flight = Flight(); flight != flightSeen_) {
+    update(Widened(flightSeen_));
+    flightSeen_ = flight;
+    update(Widened(flightSeen_));
+  }
+  ShowHand();
 }
 
-QRect CanvasView::InBox(const QRect& onPicture) const {
-  const forms::PixelPoint corner = forms::InBox(box_, {onPicture.x(), onPicture.y()});
-  return {QPoint(corner.X, corner.Y), onPicture.size()};
+void CanvasView::ShowHand() {
+  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
+  const forms::PixelPoint at = pointer.At();
+  Qt::CursorShape shape = Qt::ArrowCursor;
+  if (pointer.Hovered(at.X, at.Y).Container() == &box_) shape = Qt::OpenHandCursor;
+  if (pointer.InFlight() && !pointer.Holds()) shape = Qt::ClosedHandCursor;
+  if (cursor().shape() != shape) setCursor(shape);
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  const QRect view(0, 0, box_.ViewWidth(), box_.ViewHeight());
+  const QRect view = View();
   if (!view.contains(event->rect())) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
@@ -106,35 +171,86 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     const QRect area = InBox(BoundsOf(*child));
     if (!event->rect().intersects(area)) continue;
     painter.setClipRect(area & view);
-    DrawLabel(painter, area, static_cast<const forms::Label&>(*child));
+    PaintLabel(painter, area, *child);
   }
   painter.setClipRect(view);
   PaintFlight(painter);
+  if (hasFocus()) PaintKeys(painter);
 }
 
 void CanvasView::PaintImage(QPainter& painter, const QRect& part) const {
   const forms::Raster& raster = box_.Image();
+  const forms::Magnification zoom = box_.Zoom;
+  const QRect sheet(-box_.ScrollLeft, -box_.ScrollTop, ShownExtent(zoom, raster.Width),
+                    ShownExtent(zoom, raster.Height));
+  const QRect seen = part & sheet;
+  if (seen != part) painter.fillRect(part, ScreenColour(box_.BackColor));
+  if (zoom != forms::ActualSize) {
+    painter.drawImage(seen.topLeft(), Magnified(box_, seen));
+    return;
+  }
   // Shares the raster's memory; nothing is copied but what goes on the screen.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
                      raster.Height, QImage::Format_RGB32);
-  const forms::PixelPoint from = forms::OnPicture(box_, {part.x(), part.y()});
-  painter.drawImage(part.topLeft(), image, QRect(QPoint(from.X, from.Y), part.size()));
+  painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));
+}
+
+/// As large as it is shown; the letters are drawn in that size.
+void CanvasView::PaintLabel(QPainter& painter, const QRect& area,
+                            const forms::Control& label) const {
+  if (label.Kind() != forms::ControlKind::Label) return;
+  const forms::Magnification zoom = box_.Zoom;
+  const double scale = static_cast<double>(zoom.Screen) / zoom.Picture;
+  painter.translate(area.topLeft());
+  painter.scale(scale, scale);
+  DrawLabel(painter, QRect(QPoint(), BoundsOf(label).size()),
+            static_cast<const forms::Label&>(label));
+  painter.resetTransform();
 }
 
 void CanvasView::PaintFlight(QPainter& painter) const {
-  const auto flight = box_.Owner()->Pointer.InFlight();
   const QRect area = Flight();
-  if (area.isEmpty() || flight->Source.Kind() != forms::ControlKind::Label) return;
+  if (area.isEmpty()) return;
   painter.setOpacity(AirOpacity);
-  DrawLabel(painter, area, static_cast<const forms::Label&>(flight->Source));
+  PaintLabel(painter, area, box_.Owner()->Pointer.InFlight()->Source);
   painter.setOpacity(1);
-  painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
-  painter.drawRect(area.adjusted(0, 0, -1, -1));
+  DrawFocusRing(painter, area);
+}
+
+/// That the box has the keyboard, and what its keys act on.
+void CanvasView::PaintKeys(QPainter& painter) const {
+  if (const forms::Control* const ringed = box_.Ringed) {
+    const bool held = box_.Owner()->Pointer.Holds();
+    DrawRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
+  }
+  DrawFocusRing(painter, View());
 }
 
 void CanvasView::wheelEvent(QWheelEvent* event) {
-  const QPoint turn = event->angleDelta() * WheelStep / NotchAngle;
-  box_.ScrollBy(-turn.x(), -turn.y());
+  const QPoint turn = event->angleDelta();
+  if (event->modifiers().testFlag(Qt::ControlModifier)) {
+    return TurnZoom(turn.y(), event->position().toPoint());
+  }
+  QPoint step = turn * WheelStep / NotchAngle;
+  if (event->modifiers().testFlag(Qt::ShiftModifier)) step = step.transposed();
+  box_.ScrollBy(-step.x(), -step.y());
+}
+
+void CanvasView::TurnZoom(int angle, QPoint about) {
+  zoomTurn_ += angle;
+  const forms::PixelPoint at{about.x(), about.y()};
+  for (; zoomTurn_ >= NotchAngle; zoomTurn_ -= NotchAngle) box_.ZoomTo(Larger(box_.Zoom), at);
+  for (; zoomTurn_ <= -NotchAngle; zoomTurn_ += NotchAngle) box_.ZoomTo(Smaller(box_.Zoom), at);
+}
+
+void CanvasView::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  update();
+}
+
+void CanvasView::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
 }
 
 }  // namespace terramark::window

@@ -1,7 +1,8 @@
-// A picture box: its image, the labels on it, the marker in the air, and scroll bars of its own
-// when the picture is larger than the box. Only what changes is painted.
+// A picture box: its image, the labels on it, the marker in the air, how much it is magnified, and
+// scroll bars of its own when the picture is larger than the box. Only what changes is painted.
 #pragma once
 
+#include <QLabel>
 #include <QScrollBar>
 #include <unordered_map>
 
@@ -19,25 +20,40 @@ class CanvasView : public QWidget, public ControlView {
   void LabelChanged(const forms::Control& label);
   /// A label is about to go; only its identity is used.
   void LabelGone(const forms::Control& label);
-  /// The marker in the air moved, appeared or went.
-  void DragMoved();
+  /// The pointer moved, or the marker in the air moved, appeared or went.
+  void PointerMoved();
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void LayBars();
+  void LayZoomLabel();
+  void ShowHand();
+  void TurnZoom(int angle, QPoint about);
+
+  QRect View() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
   QRect InBox(const QRect& onPicture) const;
-  void PaintImage(QPainter& painter, const QRect& part) const;
-  void PaintFlight(QPainter& painter) const;
-  /// Where the marker in the air stands; empty when there is none.
+  /// What is painted for something at a place of the picture, its ring included.
+  QRect Around(const QRect& onPicture) const;
+  /// Where the marker in the air is shown; empty when there is none.
   QRect Flight() const;
+
+  void PaintImage(QPainter& painter, const QRect& part) const;
+  void PaintLabel(QPainter& painter, const QRect& area, const forms::Control& label) const;
+  void PaintFlight(QPainter& painter) const;
+  void PaintKeys(QPainter& painter) const;
 
   forms::PictureBox& box_;
   QScrollBar across_;
   QScrollBar down_;
+  QLabel zoom_;
+  /// What the wheel has turned towards the next magnification, in eighths of a degree.
+  int zoomTurn_ = 0;
   /// Where each visible label was last seen, in pixels of the picture.
   std::unordered_map<const forms::Control*, QRect> seen_;
   QRect flightSeen_;

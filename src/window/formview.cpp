@@ -153,11 +153,11 @@ void FormView::Refreshed(forms::Control& control) {
   if (QWidget* widget = WidgetOf(control)) widget->update();
 }
 
-void FormView::DragMoved() {
+void FormView::PointerMoved() {
   for (const auto& view : views_) {
-    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->DragMoved();
+    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->PointerMoved();
   }
-  const bool dragging = form_.Pointer.InFlight().has_value();
+  const bool dragging = form_.Pointer.InFlight().has_value() && !form_.Pointer.Holds();
   if (dragging == dragScroll_.isActive()) return;
   if (dragging) {
     dragScroll_.start();

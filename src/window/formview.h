@@ -42,7 +42,7 @@ class FormView final : public QWidget, private forms::FormObserver {
   void Restacked(forms::Control& control) override;
   void FocusMoved(forms::Control& control) override;
   void Refreshed(forms::Control& control) override;
-  void DragMoved() override;
+  void PointerMoved() override;
   void Unloaded() override;
 
   void FormChanged(forms::PropertyId id);

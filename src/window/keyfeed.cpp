@@ -1,22 +1,43 @@
 #include "window/keyfeed.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace terramark::window {
 
 namespace {
 
-std::int16_t CodeOf(int key) {
-  switch (key) {
-    case Qt::Key_Up:
-      return forms::KeyUpArrow;
-    case Qt::Key_Down:
-      return forms::KeyDownArrow;
-    default:
-      return 0;
-  }
-}
+struct KeyRow {
+  Qt::Key Key;
+  std::int16_t Code;
+};
+constexpr KeyRow Keys[] = {
+    {Qt::Key_Return, forms::KeyReturn},
+    {Qt::Key_Enter, forms::KeyReturn},
+    {Qt::Key_Escape, forms::KeyEscape},
+    {Qt::Key_Space, forms::KeySpace},
+    {Qt::Key_PageUp, forms::KeyPageUp},
+    {Qt::Key_PageDown, forms::KeyPageDown},
+    {Qt::Key_End, forms::KeyEnd},
+    {Qt::Key_Home, forms::KeyHome},
+    {Qt::Key_Left, forms::KeyLeftArrow},
+    {Qt::Key_Up, forms::KeyUpArrow},
+    {Qt::Key_Right, forms::KeyRightArrow},
+    {Qt::Key_Down, forms::KeyDownArrow},
+    {Qt::Key_0, forms::Key0},
+    {Qt::Key_C, forms::KeyC},
+    {Qt::Key_Menu, forms::KeyMenu},
+    {Qt::Key_F1, forms::KeyF1},
+    {Qt::Key_F6, forms::KeyF6},
+    {Qt::Key_Plus, forms::KeyPlus},
+    {Qt::Key_Equal, forms::KeyPlus},  // plus is on it, with the Shift key
+    {Qt::Key_Minus, forms::KeyMinus},
+};
 
 forms::KeyEvent EventOf(const QKeyEvent& key) {
-  return {CodeOf(key.key()), KeyMask(key.modifiers())};
+  const auto* const row = std::ranges::find(Keys, key.key(), &KeyRow::Key);
+  const std::int16_t code = row == std::end(Keys) ? std::int16_t{0} : row->Code;
+  return {code, KeyMask(key.modifiers()), key.isAutoRepeat()};
 }
 
 /// Whether keys go to the widget, or to it as the window when no widget in it has the focus.
@@ -69,11 +90,7 @@ bool KeyFeed::Hears(const QObject& watched, const QKeyEvent& key) {
 }
 
 bool KeyFeed::Pressed(const QKeyEvent& key) {
-  if (key.key() == Qt::Key_Escape && form_.Pointer.InFlight()) {
-    form_.Pointer.CancelDrag();
-    return true;
-  }
-  form_.KeyPressed(EventOf(key));
+  if (form_.KeyPressed(EventOf(key))) return true;
   if (!key.text().isEmpty()) form_.CharacterTyped();
   return false;
 }

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <QtMath>
 
 #include "window/keyfeed.h"
 
@@ -69,7 +70,9 @@ bool PointerFeed::IsDown(Qt::MouseButton button) const {
 }
 
 QPoint PointerFeed::In(const QMouseEvent& event) const {
-  return inside_.mapFromGlobal(event.globalPosition().toPoint());
+  // The pixel that the place lies in; on a screen with a finer grid it is no whole number.
+  const QPointF at = inside_.mapFromGlobal(event.globalPosition());
+  return {qFloor(at.x()), qFloor(at.y())};
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {

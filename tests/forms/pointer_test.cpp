@@ -152,11 +152,18 @@ TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
   Pointer.Move(15, 90, 0);
   for (int i = 0; i < 9; ++i) Pointer.ScrollByDrag();
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
-  EXPECT_EQ(Box.ScrollTop.Get(), 16);
-  Pointer.Move(250, 50, 0);
-  Pointer.ScrollByDrag();
-  EXPECT_EQ(Box.ScrollLeft.Get(), 0) << "outside the box nothing scrolls";
+  EXPECT_EQ(Box.ScrollTop.Get(), 6) << "no blank ground below the picture";
+  const auto scrolled = [&](int x) {
+    Box.ScrollTo(0, 0);
+    Pointer.Move(x, 50, 0);
+    Pointer.ScrollByDrag();
+    return Box.ScrollLeft.Get();
+  };
+  EXPECT_GT(scrolled(210), 0) << "also from outside the box";
+  EXPECT_GT(scrolled(300), scrolled(210)) << "and faster from farther away";
   Pointer.CancelDrag();
+  Box.Picture = BlankPicture(90, 500);
+  EXPECT_FALSE(Box.ScrollsAcross());
   Box.Picture = BlankPicture(10, 10);
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_EQ(Box.Image().Width, 200) << "never smaller than the box";

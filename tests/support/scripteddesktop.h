@@ -44,7 +44,7 @@ struct Watcher : forms::FormObserver {
   void Restacked(forms::Control&) override {}
   void FocusMoved(forms::Control&) override {}
   void Refreshed(forms::Control&) override {}
-  void DragMoved() override {}
+  void PointerMoved() override {}
   void Unloaded() override {}
 
  private:

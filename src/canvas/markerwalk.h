@@ -1,0 +1,16 @@
+// The order in which the keyboard walks over the markers: Areas by number, then Regions.
+#pragma once
+
+#include "forms/controls.h"
+
+namespace terramark {
+
+struct Form1;
+
+/// The marker so many steps from another, round from the last to the first. From a null one, the
+/// first step comes to the first marker, or backwards to the last. Null where no marker is seen.
+forms::Label* MarkerFrom(Form1& form, const forms::Control* marker, int steps);
+forms::Label* FirstMarker(Form1& form);
+forms::Label* LastMarker(Form1& form);
+
+}  // namespace terramark

@@ -1,0 +1,63 @@
+#include "editor/formkeys.h"
+
+#include "shell/bars.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+namespace {
+
+void ShowHelpOnActive(Form1& form) {
+  const forms::Control* const active = form.ActiveControl();
+  const bool tells = active != nullptr && active->HelpTopic != 0;
+  ShowHelpTopic(form, tells ? active->HelpTopic : form.TMHelp.HelpTopic);
+}
+
+void GoToMapOrBack(Form1& form) {
+  if (form.ActiveControl() != &form.Picture1) {
+    form.BeforeMap = form.ActiveControl();
+    form.Focus(&form.Picture1);
+    return;
+  }
+  if (form.BeforeMap != nullptr) form.Focus(form.BeforeMap);
+  // It may take no keys by now.
+  if (form.ActiveControl() == &form.Picture1) form.Focus(&form.EditText);
+}
+
+/// Whether it was a key for the zoom.
+bool Zoomed(Form1& form, std::int16_t key) {
+  forms::PictureBox& box = form.Picture1;
+  switch (key) {
+    case forms::KeyPlus:
+      box.ZoomTo(Larger(box.Zoom), box.MiddleOfView());
+      return true;
+    case forms::KeyMinus:
+      box.ZoomTo(Smaller(box.Zoom), box.MiddleOfView());
+      return true;
+    case forms::Key0:
+      box.ZoomTo(forms::ActualSize, box.MiddleOfView());
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void Form_KeyDown(Form1& form, forms::KeyEvent& event) {
+  // On many keyboards plus takes the Shift key.
+  if ((event.Shift & ~forms::ShiftKey) == forms::CtrlKey) {
+    event.Taken = Zoomed(form, event.KeyCode);
+    return;
+  }
+  if (event.Shift != 0) return;
+  event.Taken = event.KeyCode == forms::KeyF1 || event.KeyCode == forms::KeyF6;
+  if (!event.Taken || event.Repeat) return;
+  if (event.KeyCode == forms::KeyF1) {
+    ShowHelpOnActive(form);
+  } else {
+    GoToMapOrBack(form);
+  }
+}
+
+}  // namespace terramark

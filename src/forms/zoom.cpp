@@ -1,0 +1,46 @@
+#include "forms/zoom.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace terramark::forms {
+
+namespace {
+
+constexpr Magnification Steps[] = {SmallestZoom, {1, 2}, ActualSize, {2, 1},
+                                   {3, 1},       {4, 1}, {6, 1},     LargestZoom};
+
+Magnification StepFrom(Magnification zoom, int steps) {
+  const auto at = std::ranges::find(Steps, zoom) - std::begin(Steps) + steps;
+  return Steps[std::clamp<std::ptrdiff_t>(at, 0, std::ssize(Steps) - 1)];
+}
+
+/// Rounded down, also below 0.
+int Quotient(int dividend, int divisor) {
+  const int quotient = dividend / divisor;
+  return dividend % divisor < 0 ? quotient - 1 : quotient;
+}
+
+}  // namespace
+
+Magnification Larger(Magnification zoom) {
+  return StepFrom(zoom, 1);
+}
+
+Magnification Smaller(Magnification zoom) {
+  return StepFrom(zoom, -1);
+}
+
+int ToScreen(Magnification zoom, int onPicture) {
+  return Quotient(onPicture * zoom.Screen, zoom.Picture);
+}
+
+int ToPicture(Magnification zoom, int onScreen) {
+  return Quotient(onScreen * zoom.Picture + zoom.Picture / 2, zoom.Screen);
+}
+
+int ShownExtent(Magnification zoom, int onPicture) {
+  return (onPicture * zoom.Screen + (zoom.Picture - 1) / 2) / zoom.Picture;
+}
+
+}  // namespace terramark::forms

@@ -1,0 +1,32 @@
+// How far a picture is magnified, and lengths on the picture and on the screen under that.
+#pragma once
+
+namespace terramark::forms {
+
+/// So many pixels of the screen for so many of the picture; one of the two is 1.
+struct Magnification {
+  int Screen = 1;
+  int Picture = 1;
+
+  bool operator==(const Magnification&) const = default;
+};
+
+inline constexpr Magnification SmallestZoom{1, 4};
+inline constexpr Magnification ActualSize{1, 1};
+inline constexpr Magnification LargestZoom{8, 1};
+
+/// The next larger or smaller of the magnifications that a picture box knows: 1/4, 1/2, 1, 2, 3, 4,
+/// 6 and 8. At the ends, the same.
+Magnification Larger(Magnification zoom);
+Magnification Smaller(Magnification zoom);
+
+/// Where on the screen a pixel of the picture begins, both counted from the picture's edge. It may
+/// lie outside the picture.
+int ToScreen(Magnification zoom, int onPicture);
+/// The pixel of the picture that is seen at a pixel of the screen: of several, the one in their
+/// middle.
+int ToPicture(Magnification zoom, int onScreen);
+/// How many pixels of the screen show something of so many pixels of the picture.
+int ShownExtent(Magnification zoom, int onPicture);
+
+}  // namespace terramark::forms
