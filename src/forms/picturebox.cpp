@@ -30,13 +30,13 @@ Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t back
   return image;
 }
 
-/// How far to scroll until a stretch is seen; 0 where it is.
+/// How far to scroll until a stretch is seen with ground around it; 0 where it is.
 int StepInto(int from, int length, int view) {
-  if (from >= 0 && from + length <= view) return 0;
   const int ground = std::clamp((view - length) / 2, 0, GroundAround);
-  const int step = from < 0 ? from - ground : from + length + ground - view;
+  const int before = from - ground;
+  const int behind = from + length + ground - view;
   // Of what is too long, the beginning.
-  return std::min(step, from - ground);
+  return before < 0 ? before : std::clamp(behind, 0, before);
 }
 
 }  // namespace

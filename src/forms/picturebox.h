@@ -65,7 +65,8 @@ class PictureBox : public Control {
   void ZoomTo(Magnification zoom, PixelPoint about);
   /// The middle of what is seen, in pixels of the box.
   PixelPoint MiddleOfView() const { return {ViewWidth() / 2, ViewHeight() / 2}; }
-  /// Scrolls, where a part of the picture is not wholly seen, until it is, with some ground around.
+  /// Scrolls, as far as the picture's edges allow, until a part of it is seen with some ground
+  /// around.
   void Reveal(const PixelRect& onPicture);
 
   /// Paints FillColor on the persistent image from points of it outward up to pixels of the border

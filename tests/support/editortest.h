@@ -78,9 +78,9 @@ class EditorTest : public testing::Test {
     const forms::PixelPoint at = Middle(control);
     Form.Pointer.Move(at.X, at.Y, 0);
   }
-  void Key(std::int16_t code) {
-    Form.KeyPressed({code, 0});
-    Form.KeyReleased({code, 0});
+  void Key(std::int16_t code, Bits shift = 0) {
+    Form.KeyPressed({code, shift});
+    Form.KeyReleased({code, shift});
   }
   static void Replace(forms::TextBox& box, const std::string& text) {
     box.Edited(0, box.Text.Get().size(), text);
