@@ -1,7 +1,5 @@
 // What the editor's window costs: from the program's start to the first frame, beside windows that
 // have next to nothing in them, and from a press on the backdrop to the end of the repaint.
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
@@ -12,33 +10,19 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "editor/backdroppress.h"
-#include "editor/handlers.h"
+#include "largemap.h"
 #include "processes.h"
 #include "samples.h"
-#include "shell/backdrop.h"
-#include "shell/form1.h"
-#include "shell/startup.h"
 #include "window/displayfault.h"
 #include "window/keyrepeats.h"
 #include "window/look.h"
 #include "window/mainwindow.h"
-#include "window/qtdesktop.h"
 
 namespace terramark {
 namespace {
 
 constexpr int StartRounds = 41;
 constexpr int PressRounds = 25;
-
-double CpuSeconds() {
-  rusage used{};
-  getrusage(RUSAGE_SELF, &used);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-  };
-  return seconds(used.ru_utime) + seconds(used.ru_stime);
-}
 
 /// Ends the process once its first frame is on the screen, and prints what it took until then.
 class FirstFrame : public QApplication {
@@ -59,16 +43,6 @@ class FirstFrame : public QApplication {
 
  private:
   bool painted_ = false;
-};
-
-struct Editor {
-  Editor() {
-    JoinHandlers(Form);
-    Form_Load(Form);
-  }
-
-  window::QtDesktop Desktop;
-  Form1 Form{Desktop};
 };
 
 int StartEditor(int argc, char** argv) {
@@ -119,24 +93,9 @@ void CompareStarts(QSize size) {
   print("start to the first frame, peak memory", &Kind::Memory, 1.0 / 1024, "MB");
 }
 
-/// 96 Areas on a large picture.
-void MakeMap(Form1& form, const QString& picture) {
-  form.PictureFile = picture.toStdString();
-  if (!ShowPicture(form, form.PictureFile)) qFatal("cannot show %s", qPrintable(picture));
-  for (int i = 0; i < 96; ++i) {
-    const auto x = static_cast<float>(10 + 44 * (i % 12));
-    const auto y = static_cast<float>(40 + 33 * (i / 12));
-    Picture1_MouseUp(form, {0, forms::LeftButton, forms::CtrlKey, x, y});
-  }
-  if (form.AreaCount != 96) qFatal("the Areas are not there");
-}
-
-/// A press, and the repaint that it asks for, without the platform's wait for the next frame.
 void PressAndRepaint(Form1& form, QWidget& window) {
   Picture1_MouseUp(form, {0, forms::LeftButton, 0, 5, 5});
-  QCoreApplication::processEvents();
-  QEvent update(QEvent::UpdateRequest);
-  QCoreApplication::sendEvent(&window, &update);
+  Repaint(window);
 }
 
 void TimePresses(Editor& editor, QWidget& window) {

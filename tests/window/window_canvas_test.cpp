@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <vector>
 
 #include "window/windowsupport.h"
@@ -151,6 +153,72 @@ TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
   Key(Qt::Key_Escape);
   box.Picture = BlankPicture(0, 0);
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
+}
+
+TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
+  forms::PictureBox& box = Form.Picture1;
+  auto picture = std::make_shared<forms::Raster>(*BlankPicture(1203, 801));
+  for (std::size_t i = 0; i < picture->Pixels.size(); ++i) {
+    picture->Pixels[i] = 0xFF000000U | static_cast<std::uint32_t>(i * 2654435761U >> 8U);
+  }
+  box.Picture = picture;
+  Marker().BorderStyle = forms::Border::None;
+  for (forms::Magnification zoom = forms::SmallestZoom;; zoom = Larger(zoom)) {
+    box.ZoomTo(zoom, {9, 9});
+    box.Reveal(PixelBounds(Marker()));
+    const QImage seen = Of(box).grab(QRect(0, 0, box.ViewWidth(), box.ViewHeight())).toImage();
+    const forms::PixelRect marker = InBox(box, PixelBounds(Marker()));
+    int wrong = 0;
+    for (int y = 0; y < seen.height() - 40; ++y) {
+      for (int x = 0; x < seen.width() - 60; ++x) {
+        const forms::PixelPoint on = OnPicture(box, {x, y});
+        const bool blank = on.X >= 1203 || on.Y >= 801;
+        const QRgb pixel = blank ? White.rgb() : picture->Pixels[picture->At(on.X, on.Y)];
+        wrong += seen.pixel(x, y) != (marker.Contains({x, y}) ? Blue.rgb() : pixel);
+      }
+    }
+    EXPECT_EQ(wrong, 0) << zoom.Screen << " : " << zoom.Picture;
+    if (zoom == forms::LargestZoom) break;
+  }
+}
+
+TEST_F(MarkerTest, TheWheelScrollsBothWaysAndZoomsAboutThePointer) {
+  forms::PictureBox& box = Form.Picture1;
+  box.Picture = BlankPicture(2000, 1500);
+  auto& label = *Of(box).findChild<QLabel*>("Zoom");
+  const auto turn = [&](int angle, Qt::KeyboardModifiers keys) {
+    QWheelEvent event({200, 100}, Of(box).mapToGlobal(QPointF(200, 100)), {}, {0, angle},
+                      Qt::NoButton, keys, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&Of(box), &event);
+  };
+  turn(-240, {});
+  turn(-240, Qt::ShiftModifier);
+  EXPECT_EQ(box.ScrollTop, 96);
+  EXPECT_EQ(box.ScrollLeft, 96);
+  EXPECT_FALSE(label.isVisible());
+  const forms::PixelPoint about = OnPicture(box, {200, 100});
+  for (int i = 0; i < 4; ++i) turn(60, Qt::ControlModifier);
+  EXPECT_EQ(label.text(), "300 %");
+  EXPECT_TRUE(label.isVisible());
+  EXPECT_EQ(OnPicture(box, {200, 100}).X, about.X);
+  EXPECT_EQ(OnPicture(box, {200, 100}).Y, about.Y);
+  turn(-240, Qt::ControlModifier);
+  EXPECT_FALSE(label.isVisible());
+}
+
+TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
+  const auto shape = [&] { return Of(Form.Picture1).cursor().shape(); };
+  Move(Canvas + QPoint(105, 55));
+  EXPECT_EQ(shape(), Qt::OpenHandCursor);
+  Press(Canvas + QPoint(105, 55));
+  EXPECT_EQ(shape(), Qt::ClosedHandCursor);
+  Move(Canvas + QPoint(300, -200));
+  EXPECT_EQ(shape(), Qt::ClosedHandCursor);
+  EXPECT_NE(Pixel(310, 5), White) << "out of the box it waits at the edge";
+  Key(Qt::Key_Escape);
+  Release(Canvas + QPoint(300, 200));
+  Move(Canvas + QPoint(300, 200));
+  EXPECT_EQ(shape(), Qt::ArrowCursor);
 }
 
 }  // namespace

@@ -1,0 +1,107 @@
+// What the map costs on the screen at each zoom: a move of a dragged marker, and a step of the
+// wheel, each with its repaint. A large picture, and 192 markers of which as many are seen as the
+// view has room for.
+#include <QApplication>
+#include <QWheelEvent>
+#include <QWindow>
+#include <cstdio>
+
+#include "commands/addmarkers.h"
+#include "forms/geometry.h"
+#include "largemap.h"
+#include "processes.h"
+#include "samples.h"
+#include "window/look.h"
+#include "window/mainwindow.h"
+
+namespace terramark {
+namespace {
+
+constexpr int Moves = 400;
+constexpr int Steps = 100;
+
+void AddRegions(Form1& form) {
+  for (std::int16_t r = 1; r <= 96; ++r) {
+    AddCont_MouseUp(form);
+    form.Continent(r).Move(static_cast<float>(5 + 44 * (r % 12)),
+                           static_cast<float>(10 + 33 * (r / 12)));
+  }
+}
+
+class CanvasBench {
+ public:
+  CanvasBench(Form1& form, window::MainWindow& window) : form_(form), window_(window) {}
+
+  /// CPU seconds of a move of a marker that is carried to and fro over the view.
+  double Move() {
+    form_.Picture1.ScrollTo(0, 0);
+    const forms::PixelPoint grip = Middle(form_.ArmyAt(1));
+    form_.Pointer.Press(grip.X, grip.Y, forms::LeftButton, 0);
+    if (!form_.Pointer.InFlight()) qFatal("no marker is in the air");
+    const auto move = [&](int i) {
+      form_.Pointer.Move(box_.Left + 60 + 7 * (i % 50), box_.Top + 40 + 3 * (i % 50), 0);
+      Repaint(window_);
+    };
+    const double took = Took(Moves, move);
+    form_.Pointer.CancelDrag();
+    form_.Pointer.Release(0, 0, forms::LeftButton, 0);
+    return took;
+  }
+
+  /// CPU seconds of a notch of the wheel, down and up by turns.
+  double Wheel() {
+    QWidget& canvas = *window_.Inside().WidgetOf(form_.Picture1);
+    return Took(Steps, [&](int i) {
+      const QPoint turn(0, i % 6 < 3 ? -120 : 120);
+      QWheelEvent event({100, 100}, canvas.mapToGlobal(QPointF(100, 100)), {}, turn, Qt::NoButton,
+                        Qt::NoModifier, Qt::NoScrollPhase, false);
+      QCoreApplication::sendEvent(&canvas, &event);
+      Repaint(window_);
+    });
+  }
+
+ private:
+  template <typename Act>
+  double Took(int times, Act act) const {
+    Samples samples;
+    for (int round = 0; round < 5; ++round) {
+      const double begin = CpuSeconds();
+      for (int i = 0; i < times; ++i) act(i);
+      samples.Add((CpuSeconds() - begin) / times);
+    }
+    return samples.Median();
+  }
+
+  Form1& form_;
+  window::MainWindow& window_;
+  const forms::PixelRect box_ = PixelBounds(form_.Picture1);
+};
+
+void Run(int argc, char** argv) {
+  QApplication application(argc, argv);
+  window::SetUpLook(application);
+  Editor editor;
+  window::MainWindow window(editor.Form);
+  window.show();
+  while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents();
+  const LargeBitmap bitmap;
+  MakeMap(editor.Form, bitmap.Path);
+  AddRegions(editor.Form);
+  CanvasBench bench(editor.Form, window);
+  for (forms::Magnification zoom = forms::SmallestZoom;; zoom = Larger(zoom)) {
+    editor.Form.Picture1.ZoomTo(zoom, {});
+    const double move = bench.Move();
+    const double wheel = bench.Wheel();
+    std::printf("zoom %d : %-37d a move %.2f ms   a step of the wheel %.2f ms\n", zoom.Screen,
+                zoom.Picture, 1000 * move, 1000 * wheel);
+    if (zoom == forms::LargestZoom) return;
+  }
+}
+
+}  // namespace
+}  // namespace terramark
+
+int main(int argc, char** argv) {
+  terramark::Run(argc, argv);
+  return 0;
+}

@@ -1,0 +1,56 @@
+// An editor, and a map of 96 Areas on a large picture in it.
+#pragma once
+
+#include <sys/resource.h>
+
+#include <QString>
+
+#include "editor/backdroppress.h"
+#include "editor/handlers.h"
+#include "shell/backdrop.h"
+#include "shell/form1.h"
+#include "shell/startup.h"
+#include "window/qtdesktop.h"
+
+namespace terramark {
+
+inline double CpuSeconds() {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(used.ru_utime) + seconds(used.ru_stime);
+}
+
+struct Editor {
+  Editor() {
+    JoinHandlers(Form);
+    Form_Load(Form);
+  }
+
+  window::QtDesktop Desktop;
+  Form1 Form{Desktop};
+};
+
+/// Where the markers are seen when the picture's corner is.
+inline void MakeMap(Form1& form, const QString& picture) {
+  form.PictureFile = picture.toStdString();
+  if (!ShowPicture(form, form.PictureFile)) qFatal("cannot show %s", qPrintable(picture));
+  for (int i = 0; i < 96; ++i) {
+    const auto x = static_cast<float>(10 + 44 * (i % 12));
+    const auto y = static_cast<float>(40 + 33 * (i / 12));
+    Picture1_MouseUp(form, {0, forms::LeftButton, forms::CtrlKey, x, y});
+  }
+  if (form.AreaCount != 96) qFatal("the Areas are not there");
+  form.Picture1.ScrollTo(0, 0);
+}
+
+/// What the last change asks of the screen, without the platform's wait for the next frame.
+inline void Repaint(QWidget& window) {
+  QCoreApplication::processEvents();
+  QEvent update(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(&window, &update);
+}
+
+}  // namespace terramark
