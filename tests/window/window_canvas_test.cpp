@@ -163,6 +163,7 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
   }
   box.Picture = picture;
   Marker().BorderStyle = forms::Border::None;
+  Form.ArmyAt(0).Visible = Form.Continent(0).Visible = false;
   for (forms::Magnification zoom = forms::SmallestZoom;; zoom = Larger(zoom)) {
     box.ZoomTo(zoom, {9, 9});
     box.Reveal(PixelBounds(Marker()));
@@ -207,7 +208,10 @@ TEST_F(MarkerTest, TheWheelScrollsBothWaysAndZoomsAboutThePointer) {
 }
 
 TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
-  const auto shape = [&] { return Of(Form.Picture1).cursor().shape(); };
+  const auto shape = [&] {
+    QCoreApplication::processEvents();
+    return Of(Form.Picture1).cursor().shape();
+  };
   Move(Canvas + QPoint(105, 55));
   EXPECT_EQ(shape(), Qt::OpenHandCursor);
   Press(Canvas + QPoint(105, 55));
