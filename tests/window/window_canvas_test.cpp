@@ -151,6 +151,7 @@ TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
   Move(Canvas + QPoint(520, 100));
   EXPECT_TRUE(QTest::qWaitFor([&] { return box.ScrollLeft > 30; }));
   Key(Qt::Key_Escape);
+  Release(Canvas + QPoint(520, 100));
   box.Picture = BlankPicture(0, 0);
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
 }
@@ -208,10 +209,7 @@ TEST_F(MarkerTest, TheWheelScrollsBothWaysAndZoomsAboutThePointer) {
 }
 
 TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
-  const auto shape = [&] {
-    QCoreApplication::processEvents();
-    return Of(Form.Picture1).cursor().shape();
-  };
+  const auto shape = [&] { return Of(Form.Picture1).cursor().shape(); };
   Move(Canvas + QPoint(105, 55));
   EXPECT_EQ(shape(), Qt::OpenHandCursor);
   Press(Canvas + QPoint(105, 55));
