@@ -19,7 +19,8 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 
 from editor import (ABOUT, BLACK, FILE_DIALOG, GREEN, HELP, QUESTION, RED, WHITE,  # noqa: E402
-                    WINDOW, Editor)
+                    WINDOW)
+from keyboardmap import KeyboardMap  # noqa: E402
 from screen import LIMIT, Failure, Screen  # noqa: E402
 
 HERE = Path(__file__).resolve().parent
@@ -27,7 +28,7 @@ SEA = 20, 100  # on the map, where no marker stands
 SEA_COLOUR = 0xB0D0EC
 
 
-class Tour(Editor):
+class Tour(KeyboardMap):
     def __init__(self, screen, program, output):
         self.output = output
         self.began = time.monotonic()
@@ -42,8 +43,11 @@ class Tour(Editor):
         self.screen.save(self.output / f"{self.shots:02}-{name}.png", WINDOW.moved(*self.origin))
 
     def save_and_compare(self, name, expected, picture):
-        """All lines but the time stamp are as expected; line 4 is the path of the picture."""
         self.choose("SaveCFG", name)
+        self.compare(name, expected, picture)
+
+    def compare(self, name, expected, picture):
+        """All lines but the time stamp are as expected; line 4 is the path of the picture."""
         self.wait(f"the file {name}", lambda: os.path.exists(name))
         self.wait_blank_bar()
         shutil.copy(name, self.output)
@@ -330,6 +334,16 @@ class Tour(Editor):
         self.wait_look("plain", self.areas, self.regions)
         self.shot("again")
         self.save_and_compare("again.tml", "lands.tml", "europe.bmp")
+
+    def from_keyboard(self):
+        self.map_from_keyboard()
+        self.push("SaveCFG")
+        self.screen.wait_active(FILE_DIALOG)
+        self.screen.tool("type", "keyboard.tml")
+        self.dialog(FILE_DIALOG, "key", "Return")
+        self.compare("keyboard.tml", HERE / "expected.tml", "europe.bmp")
+
+    def leave(self):
         self.step("Exit")
         self.press_control("Quit")
         self.screen.wait_active(QUESTION)
@@ -341,7 +355,8 @@ class Tour(Editor):
     def play(self):
         for part in (self.load_sample, self.select, self.look_around, self.another_picture,
                      self.clear, self.begin, self.add_areas, self.add_regions, self.name_areas,
-                     self.link, self.validate, self.swap, self.delete, self.paint, self.finish):
+                     self.link, self.validate, self.swap, self.delete, self.paint, self.finish,
+                     self.from_keyboard, self.leave):
             part()
         self.step(f"The tour is over; its pictures are in {self.output}")
 
