@@ -11,6 +11,12 @@ namespace {
 
 constexpr int Dash = 2;  // lines thick
 
+/// Each edge by itself, as Qt rounds what it fills and what it clips; QRectF::toRect rounds sizes.
+QRect RoundedEdges(const QRectF& area) {
+  return {QPoint(qRound(area.left()), qRound(area.top())),
+          QPoint(qRound(area.right()) - 1, qRound(area.bottom()) - 1)};
+}
+
 /// Paints an area's edges, counted in pixels of the device.
 class Edges {
  public:
@@ -18,8 +24,7 @@ class Edges {
       : painter_(painter),
         toDevice_(painter.deviceTransform()),
         fromDevice_(toDevice_.inverted()),
-        // Edge by edge, as Qt rounds what it fills and the parts of a window that it paints.
-        area_(toDevice_.mapRect(QRectF(area)).toRect()),
+        area_(RoundedEdges(toDevice_.mapRect(QRectF(area)))),
         thick_(std::max(1, qRound(toDevice_.m11()))) {}
 
   /// One line; what comes next lies within it. In the corners shade covers lit.
