@@ -4,12 +4,17 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QToolTip>
+
+#include "window/frames.h"
 
 namespace terramark::window {
 
 namespace {
 /// Values that a press beside the thumb, and a page key, go on.
 constexpr int Page = 16;
+constexpr int TipDrop = 16;  // pixels
+constexpr int TipMilliseconds = 3000;
 }  // namespace
 
 BarView::BarView(forms::VScrollBar& bar, QWidget& container)
@@ -22,7 +27,9 @@ BarView::BarView(forms::VScrollBar& bar, QWidget& container)
   connect(this, &QScrollBar::valueChanged, this, [this](int value) {
     bar_.Moved(value);
     ShowOwn(forms::PropertyId::Value);
+    TellValue();
   });
+  connect(this, &QScrollBar::sliderMoved, this, &BarView::TellValue);
 }
 
 void BarView::ShowOwn(forms::PropertyId /*id*/) {
@@ -30,16 +37,24 @@ void BarView::ShowOwn(forms::PropertyId /*id*/) {
   setValue(bar_.Value);
 }
 
+QRect BarView::Thumb() const {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
+}
+
+void BarView::TellValue() {
+  // Right of all bars in the frame, so that it hides none of them; tips hang this far down.
+  const QPoint beside(parentWidget()->width() - x(), Thumb().top() - TipDrop);
+  const QString tip = QString("%1: %2").arg(toolTip()).arg(sliderPosition());
+  QToolTip::showText(mapToGlobal(beside), tip, this, {}, TipMilliseconds);
+}
+
 void BarView::paintEvent(QPaintEvent* event) {
   QScrollBar::paintEvent(event);
   if (!hasFocus()) return;
-  QStyleOptionSlider option;
-  initStyleOption(&option);
-  const QRect thumb =
-      style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
   QPainter painter(this);
-  painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
-  painter.drawRect(thumb.adjusted(2, 2, -3, -3));
+  DrawFocusRing(painter, Thumb().adjusted(2, 2, -2, -2));
 }
 
 }  // namespace terramark::window

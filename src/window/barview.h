@@ -1,4 +1,5 @@
 // A vertical scroll bar: its control hears of a value when the thumb is let go, and of every step.
+// Its value shows beside it while it moves.
 #pragma once
 
 #include <QScrollBar>
@@ -19,6 +20,10 @@ class BarView : public QScrollBar, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QRect Thumb() const;
+  /// Shows where the thumb stands, behind the bar's hint and in its place.
+  void TellValue();
+
   forms::VScrollBar& bar_;
 };
 

@@ -1,12 +1,11 @@
 #include "window/buttonview.h"
 
-#include <qdrawutil.h>
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include "forms/form.h"
+#include "window/frames.h"
 #include "window/keyfeed.h"
 #include "window/look.h"
 #include "window/showntext.h"
@@ -16,7 +15,6 @@ namespace terramark::window {
 namespace {
 
 constexpr int EdgeWidth = 2;
-constexpr int DarkFace = 75;  // of 255, by the eye's weights
 
 bool Pushes(const QKeyEvent& key) {
   return key.key() == Qt::Key_Space || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -60,19 +58,27 @@ void ButtonView::keyReleaseEvent(QKeyEvent* event) {
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor colour = ScreenColour(button_.BackColor);
-  const QBrush face(colour);
-  qDrawWinButton(&painter, rect(), palette(), isDown(), &face);
+  const QColor face = ScreenColour(button_.BackColor);
+  painter.fillRect(rect(), face);
+  DrawEdge(painter);
   QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
   if (isDown()) inside.translate(1, 1);
-  QColor ink = palette().color(QPalette::ButtonText);
-  if (isEnabled() && qGray(colour.rgb()) < DarkFace) ink = Qt::white;
-  painter.setPen(ink);
+  painter.setPen(InkOn(face));
   // Of a file's path both ends are worth seeing.
   DrawCaption(painter, inside, ShownText(button_.Caption, Qt::ElideMiddle), Qt::ElideMiddle);
-  if (!hasFocus()) return;
-  painter.setPen(QPen(ink, 1, Qt::DotLine));
-  painter.drawRect(inside.adjusted(1, 0, -2, -1));
+  if (hasFocus()) DrawFocusRing(painter, inside);
+}
+
+void ButtonView::DrawEdge(QPainter& painter) const {
+  const auto colour = [this](QPalette::ColorRole role) { return palette().color(role); };
+  const QColor light = colour(QPalette::Light);
+  const QColor button = colour(QPalette::Button);
+  const QColor dark = colour(QPalette::Dark);
+  const QColor shadow = colour(QPalette::Shadow);
+  if (!isEnabled()) return DrawFrame(painter, rect(), dark);
+  const Bevel up{light, shadow, button, dark};
+  const Bevel down{shadow, light, dark, button};
+  DrawBevel(painter, rect(), isDown() ? down : up);
 }
 
 }  // namespace terramark::window

@@ -1,5 +1,6 @@
-// A command button: a raised face in its BackColor. The mouse reaches it through the pointer router
-// only; Space and Enter do, at their release, what a left press and release in its middle do.
+// A command button: a raised face in its BackColor, flat while disabled. The mouse reaches it
+// through the pointer router only; Space and Enter do, at their release, what a left press and
+// release in its middle do.
 #pragma once
 
 #include <QPushButton>
@@ -20,6 +21,9 @@ class ButtonView final : public QPushButton, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// Raised, or sunken while it is held down; of a disabled button a line, and the face lies flat.
+  void DrawEdge(QPainter& painter) const;
+
   forms::CommandButton& button_;
 };
 

@@ -9,6 +9,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <cmath>
 #include <memory>
 
 #include "forms/geometry.h"
@@ -20,6 +21,7 @@ namespace {
 
 constexpr float FontTwips = 8.25F * 20;
 constexpr double DialogPoints = 9;
+constexpr int ShortestThumb = 12;
 
 const QColor Face(0xC0, 0xC0, 0xC0);
 const QColor Shadow(0x80, 0x80, 0x80);
@@ -27,7 +29,20 @@ const QColor Greyed(0x58, 0x58, 0x58);
 const QColor Marked(0x00, 0x00, 0x80);
 const QColor Hint(0xFF, 0xFF, 0xE1);
 
-/// The buttons of a box stand with the agreeing one first, on every desktop.
+/// Where black and white stand out equally: 1.05 / (L + 0.05) = (L + 0.05) / 0.05.
+constexpr double MiddleLuminance = 0.179;
+
+/// Of a colour on a screen that follows sRGB, 0 to 1.
+double Luminance(const QColor& colour) {
+  const auto light = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) +
+         0.0722 * light(colour.blueF());
+}
+
+/// The buttons of a box stand with the agreeing one first, on every desktop. A thumb may be short:
+/// a bar of colour has room for no more than a few dozen pixels of travel over 257 values.
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle("Fusion") {}
@@ -36,6 +51,12 @@ class Style : public QProxyStyle {
                 QStyleHintReturn* data) const override {
     if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_ScrollBarSliderMin) return ShortestThumb;
+    return QProxyStyle::pixelMetric(metric, option, widget);
   }
 };
 
@@ -119,6 +140,10 @@ QColor ScreenColour(forms::Color colour) {
       return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
               static_cast<int>(colour >> 16U & 0xFFU)};
   }
+}
+
+QColor InkOn(const QColor& face) {
+  return Luminance(face) < MiddleLuminance ? Qt::white : Qt::black;
 }
 
 QFont TextFont(forms::Desktop& host) {

@@ -24,6 +24,9 @@ QIcon WindowIcon();
 /// A system colour or 0x00BBGGRR on the screen.
 QColor ScreenColour(forms::Color colour);
 
+/// Black or white, whichever stands out more on a face of the colour.
+QColor InkOn(const QColor& face);
+
 /// Of labels and boxes: Arial 8.25 pt bold or what has its measures, sized by the screen's twips.
 QFont TextFont(forms::Desktop& host);
 

@@ -1,5 +1,6 @@
 #include "window/textview.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -155,6 +156,13 @@ void TextView::ShowColours() {
   colours.setColor(QPalette::Active, QPalette::Text, ScreenColour(box_.ForeColor));
   colours.setColor(QPalette::Inactive, QPalette::Text, ScreenColour(box_.ForeColor));
   setPalette(colours);
+}
+
+void TextView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::EnabledChange) {
+    setCursor(isEnabled() ? Qt::IBeamCursor : Qt::ArrowCursor);
+  }
+  QLineEdit::changeEvent(event);
 }
 
 void TextView::paintEvent(QPaintEvent* event) {
