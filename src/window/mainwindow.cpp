@@ -1,6 +1,7 @@
 #include "window/mainwindow.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 
 #include "shell/form1.h"
 #include "shell/startup.h"
@@ -11,6 +12,24 @@ MainWindow::MainWindow(Form1& form) : form_(form), inside_(form, *this) {
   setCentralWidget(&inside_);
   inside_.DressWindow();
   resize(inside_.DesignSize());
+  FitScreen();
+}
+
+void MainWindow::FitScreen() {
+  const QSize frame = frameGeometry().size() - size();
+  const QSize room = screen()->availableGeometry().size() - frame;
+  const QRect standing = inside_.childrenRect();
+  setMinimumSize(QSize(standing.right() + 1, standing.bottom() + 1).boundedTo(room));
+  resize(size().boundedTo(room));
+}
+
+bool MainWindow::event(QEvent* event) {
+  // Only now is there a frame around the window.
+  if (event->type() == QEvent::WindowActivate && !framed_) {
+    framed_ = true;
+    FitScreen();
+  }
+  return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -13,17 +13,23 @@ namespace terramark::window {
 
 class MainWindow : public QMainWindow {
  public:
-  /// Shows the form at its design size; a larger window leaves everything in its place.
+  /// Shows the form at its design size, or at the screen's where that is smaller; a larger window
+  /// leaves everything in its place.
   explicit MainWindow(Form1& form);
 
   FormView& Inside() { return inside_; }
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  /// Keeps the window as large as what stands on it, but never larger than the screen.
+  void FitScreen();
+
   Form1& form_;
   FormView inside_;
+  bool framed_ = false;
 };
 
 }  // namespace terramark::window
