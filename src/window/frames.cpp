@@ -27,13 +27,15 @@ class Edges {
         area_(RoundedEdges(toDevice_.mapRect(QRectF(area)))),
         thick_(std::max(1, qRound(toDevice_.m11()))) {}
 
-  /// One line; what comes next lies within it. In the corners shade covers lit.
+  /// One line; what comes next lies within it. Two corners are shade's. No pixel is painted twice,
+  /// which would show where the painter lets the ground through.
   void Line(const QColor& lit, const QColor& shade) {
-    Fill({area_.left(), area_.top(), area_.width(), thick_}, lit);
-    Fill({area_.left(), area_.top(), thick_, area_.height()}, lit);
-    Fill({area_.left(), area_.bottom() + 1 - thick_, area_.width(), thick_}, shade);
-    Fill({area_.right() + 1 - thick_, area_.top(), thick_, area_.height()}, shade);
-    area_.adjust(thick_, thick_, -thick_, -thick_);
+    const QRect in = area_.adjusted(thick_, thick_, -thick_, -thick_);
+    Fill({area_.left(), area_.top(), area_.width() - thick_, thick_}, lit);
+    Fill({area_.left(), in.top(), thick_, in.height()}, lit);
+    Fill({area_.left(), in.bottom() + 1, area_.width(), thick_}, shade);
+    Fill({in.right() + 1, area_.top(), thick_, area_.height() - thick_}, shade);
+    area_ = in;
   }
 
   /// Every other dash of a line, from the corners above and on the left.
