@@ -1,9 +1,17 @@
 #include "window/memoview.h"
 
+#include <QEvent>
+#include <QPainter>
+
 #include "window/cp1252.h"
+#include "window/frames.h"
 #include "window/look.h"
 
 namespace terramark::window {
+
+namespace {
+constexpr int Edge = 129;  // percent of the ground's darkness
+}
 
 MemoView::MemoView(forms::TextBox& box, QWidget& container)
     : QPlainTextEdit(&container), ControlView(box, *this), box_(box) {
@@ -20,6 +28,15 @@ void MemoView::ShowOwn(forms::PropertyId id) {
   colours.setColor(QPalette::Base, ScreenColour(box_.BackColor));
   colours.setColor(QPalette::Text, ScreenColour(box_.ForeColor));
   setPalette(colours);
+}
+
+bool MemoView::event(QEvent* event) {
+  const bool done = QPlainTextEdit::event(event);
+  if (event->type() == QEvent::Paint) {
+    QPainter painter(this);
+    DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
+  }
+  return done;
 }
 
 }  // namespace terramark::window

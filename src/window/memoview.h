@@ -16,6 +16,8 @@ class MemoView final : public QPlainTextEdit, public ControlView {
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
+  /// Paints the frame too, of which the style leaves out sides on a scaled screen.
+  bool event(QEvent* event) override;
 
  private:
   forms::TextBox& box_;
