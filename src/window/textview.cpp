@@ -1,6 +1,5 @@
 #include "window/textview.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -156,13 +155,6 @@ void TextView::ShowColours() {
   colours.setColor(QPalette::Active, QPalette::Text, ScreenColour(box_.ForeColor));
   colours.setColor(QPalette::Inactive, QPalette::Text, ScreenColour(box_.ForeColor));
   setPalette(colours);
-}
-
-void TextView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::EnabledChange) {
-    setCursor(isEnabled() ? Qt::IBeamCursor : Qt::ArrowCursor);
-  }
-  QLineEdit::changeEvent(event);
 }
 
 void TextView::paintEvent(QPaintEvent* event) {

@@ -18,8 +18,6 @@ class TextView : public QLineEdit, public ControlView {
  protected:
   void ShowOwn(forms::PropertyId id) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
-  /// A disabled box, which takes no text, has no caret for a pointer.
-  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
