@@ -1,7 +1,8 @@
 // What the map costs on the screen at each zoom: a move of a dragged marker, and a step of the
-// wheel, each with its repaint. A large picture, and 192 markers of which as many are seen as the
-// view has room for.
+// wheel, each with its repaint, and in multiples of painting an image of the box's size. A large
+// picture, and 192 markers of which as many are seen as the view has room for.
 #include <QApplication>
+#include <QPainter>
 #include <QWheelEvent>
 #include <QWindow>
 #include <cstdio>
@@ -12,7 +13,6 @@
 #include "processes.h"
 #include "samples.h"
 #include "window/look.h"
-#include "window/mainwindow.h"
 
 namespace terramark {
 namespace {
@@ -27,6 +27,42 @@ void AddRegions(Form1& form) {
                            static_cast<float>(10 + 33 * (r / 12)));
   }
 }
+
+/// CPU seconds that it takes each time.
+template <typename Act>
+double Took(int times, Act act) {
+  Samples samples;
+  for (int round = 0; round < 5; ++round) {
+    const double begin = CpuSeconds();
+    for (int i = 0; i < times; ++i) act(i);
+    samples.Add((CpuSeconds() - begin) / times);
+  }
+  return samples.Median();
+}
+
+/// Shows an image and nothing else.
+class Plain : public QWidget {
+ public:
+  explicit Plain(const QSize& size) : image_(size, QImage::Format_RGB32) {
+    image_.fill(Qt::white);
+    resize(size);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+  }
+
+  /// CPU seconds of painting all of it.
+  double Paint() {
+    return Took(Steps, [this](int) {
+      update();
+      Repaint(*this);
+    });
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).drawImage(0, 0, image_); }
+
+ private:
+  QImage image_;
+};
 
 class CanvasBench {
  public:
@@ -61,17 +97,6 @@ class CanvasBench {
   }
 
  private:
-  template <typename Act>
-  double Took(int times, Act act) const {
-    Samples samples;
-    for (int round = 0; round < 5; ++round) {
-      const double begin = CpuSeconds();
-      for (int i = 0; i < times; ++i) act(i);
-      samples.Add((CpuSeconds() - begin) / times);
-    }
-    return samples.Median();
-  }
-
   Form1& form_;
   window::MainWindow& window_;
   const forms::PixelRect box_ = PixelBounds(form_.Picture1);
@@ -80,20 +105,22 @@ class CanvasBench {
 void Run(int argc, char** argv) {
   QApplication application(argc, argv);
   window::SetUpLook(application);
-  Editor editor;
-  window::MainWindow window(editor.Form);
-  window.show();
-  while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents();
+  ShownEditor editor;
   const LargeBitmap bitmap;
   MakeMap(editor.Form, bitmap.Path);
   AddRegions(editor.Form);
-  CanvasBench bench(editor.Form, window);
+  const forms::PixelRect box = PixelBounds(editor.Form.Picture1);
+  Plain plain({box.Width, box.Height});
+  plain.show();
+  while (!plain.windowHandle()->isExposed()) QCoreApplication::processEvents();
+  CanvasBench bench(editor.Form, editor.Window);
   for (forms::Magnification zoom = forms::SmallestZoom;; zoom = Larger(zoom)) {
     editor.Form.Picture1.ZoomTo(zoom, {});
     const double move = bench.Move();
     const double wheel = bench.Wheel();
-    std::printf("zoom %d : %-37d a move %.2f ms   a step of the wheel %.2f ms\n", zoom.Screen,
-                zoom.Picture, 1000 * move, 1000 * wheel);
+    const double image = plain.Paint();
+    std::printf("zoom %d : %-33d a move %.2f ms, %.2f   a step of the wheel %.2f ms, %.2f\n",
+                zoom.Screen, zoom.Picture, 1000 * move, move / image, 1000 * wheel, wheel / image);
     if (zoom == forms::LargestZoom) return;
   }
 }

@@ -3,13 +3,16 @@
 
 #include <sys/resource.h>
 
+#include <QCoreApplication>
 #include <QString>
+#include <QWindow>
 
 #include "editor/backdroppress.h"
 #include "editor/handlers.h"
 #include "shell/backdrop.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
+#include "window/mainwindow.h"
 #include "window/qtdesktop.h"
 
 namespace terramark {
@@ -31,6 +34,16 @@ struct Editor {
 
   window::QtDesktop Desktop;
   Form1 Form{Desktop};
+};
+
+/// The editor in its window, once that is on the screen.
+struct ShownEditor : Editor {
+  ShownEditor() {
+    Window.show();
+    while (!Window.windowHandle()->isExposed()) QCoreApplication::processEvents();
+  }
+
+  window::MainWindow Window{Form};
 };
 
 /// Where the markers are seen when the picture's corner is.

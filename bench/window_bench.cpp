@@ -98,13 +98,13 @@ void PressAndRepaint(Form1& form, QWidget& window) {
   Repaint(window);
 }
 
-void TimePresses(Editor& editor, QWidget& window) {
+void TimePresses(ShownEditor& editor) {
   const LargeBitmap bitmap;
   const std::filesystem::path file = bitmap.Path.toStdString();
   MakeMap(editor.Form, bitmap.Path);
   Samples same;
   Samples touched;
-  const auto press = [&] { PressAndRepaint(editor.Form, window); };
+  const auto press = [&] { PressAndRepaint(editor.Form, editor.Window); };
   for (int i = 0; i < PressRounds; ++i) {
     std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now());
     // A file is taken for unchanged only when it has been at rest.
@@ -119,12 +119,9 @@ void TimePresses(Editor& editor, QWidget& window) {
 void Compare(int argc, char** argv) {
   QApplication application(argc, argv);
   window::SetUpLook(application);
-  Editor editor;
-  window::MainWindow window(editor.Form);
-  window.show();
-  while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents();
-  TimePresses(editor, window);
-  CompareStarts(window.size());
+  ShownEditor editor;
+  TimePresses(editor);
+  CompareStarts(editor.Window.size());
 }
 
 }  // namespace

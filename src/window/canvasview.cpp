@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <QtMath>
 #include <algorithm>
 
 #include "forms/form.h"
@@ -229,7 +230,8 @@ void CanvasView::PaintKeys(QPainter& painter) const {
 void CanvasView::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta();
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    return TurnZoom(turn.y(), event->position().toPoint());
+    const QPointF at = event->position();
+    return TurnZoom(turn.y(), {qFloor(at.x()), qFloor(at.y())});
   }
   QPoint step = turn * WheelStep / NotchAngle;
   if (event->modifiers().testFlag(Qt::ShiftModifier)) step = step.transposed();
