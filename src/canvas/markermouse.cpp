@@ -1,5 +1,6 @@
 #include "canvas/markermouse.h"
 
+#include "canvas/markerwords.h"
 #include "document/corner.h"
 #include "document/numbers.h"
 #include "selection/selection.h"
@@ -61,8 +62,7 @@ void ArmyAt_MouseUp(Form1& form, const forms::MouseEvent& event) {
 }
 
 void ArmyAt_MouseMove(Form1& form, const forms::MouseEvent& event) {
-  ShowHelpbar(form, NumberText(event.Index) + ": " + form.AreaName(event.Index) + " in Region " +
-                        form.RegionName(form.AreaRegion(event.Index)));
+  ShowHelpbar(form, AreaWords(form, event.Index));
 }
 
 void ArmyAt_DragDrop(Form1& form, const forms::DropEvent& event) {
@@ -80,7 +80,7 @@ void Continent_MouseUp(Form1& form, const forms::MouseEvent& event) {
 }
 
 void Continent_MouseMove(Form1& form, const forms::MouseEvent& event) {
-  ShowHelpbar(form, NumberText(event.Index) + ":  " + form.RegionName(event.Index));
+  ShowHelpbar(form, RegionWords(form, event.Index));
 }
 
 void Continent_DragDrop(Form1& form, const forms::DropEvent& event) {

@@ -3,6 +3,7 @@
 #include "canvas/canvaskeys.h"
 #include "canvas/colourpanel.h"
 #include "canvas/markermouse.h"
+#include "canvas/markerwords.h"
 #include "editor/backdroppress.h"
 #include "editor/formkeys.h"
 #include "editor/hover.h"
@@ -30,10 +31,12 @@ void JoinMarkers(Form1& form) {
   area.MouseDown = [&form](const auto& event) { ArmyAt_MouseDown(form, event); };
   area.MouseUp = [&form](const auto& event) { ArmyAt_MouseUp(form, event); };
   area.DragDrop = [&form](const auto& event) { ArmyAt_DragDrop(form, event); };
+  area.Spoken = [&form](std::int16_t index) { return AreaWords(form, index); };
   forms::Label& region = form.Continent(0);
   region.MouseDown = [&form](const auto& event) { Continent_MouseDown(form, event); };
   region.MouseUp = [&form](const auto& event) { Continent_MouseUp(form, event); };
   region.DragDrop = [&form](const auto& event) { Continent_DragDrop(form, event); };
+  region.Spoken = [&form](std::int16_t index) { return RegionWords(form, index); };
 }
 
 void JoinBackdrop(Form1& form) {

@@ -48,6 +48,8 @@ void Control::CopyCommon(const Control& from) {
   ForeColor = from.ForeColor;
   Tag = from.Tag;
   ToolTipText = from.ToolTipText;
+  SpokenName = from.SpokenName;
+  Spoken = from.Spoken;
   HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;
   MouseDown = from.MouseDown;

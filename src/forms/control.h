@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,6 +43,11 @@ class Control : public PropertyOwner {
   Property<Color> ForeColor{*this, PropertyId::ForeColor, SysWindowText};
   Property<std::string> Tag{*this, PropertyId::Tag};
   std::string ToolTipText;
+  /// What it is called where it is heard, not seen; of a label, what its caption then follows.
+  /// Empty for what its caption says alone.
+  std::string SpokenName;
+  /// Tells by the index what a control on a picture is called there; may be empty.
+  std::function<std::string(std::int16_t index)> Spoken;
   /// Topic of the help that tells of the control; 0 for none.
   std::int16_t HelpTopic = 0;
   /// Unit inside this control, when it contains others.

@@ -13,6 +13,12 @@ namespace terramark::forms {
 
 enum class Alignment { Left, Centred };
 enum class Border { None, FixedSingle };
+/// How those hear of a label's new caption who cannot see it.
+enum class Voice {
+  Plain,      // as the new name of something that they may pass over
+  Silent,     // when they ask
+  Announced,  // at once, whatever they are at
+};
 
 class Label : public Control {
  public:
@@ -22,6 +28,10 @@ class Label : public Control {
   Property<std::string> Caption{*this, PropertyId::Caption};
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
   forms::Alignment Alignment = forms::Alignment::Left;
+  forms::Voice Voice = forms::Voice::Plain;
+  /// The control that the caption stands over and names; null for none. It must be on the same
+  /// form.
+  Control* Over = nullptr;
   /// Width and Height follow the caption, by the font's own measure on the screen.
   bool AutoSize = false;
 

@@ -15,11 +15,11 @@ constexpr char AboutSentence[] =
 // In tab order; places and sizes in twips.
 // clang-format off
 constexpr ControlRow<AboutForm> AboutControls[] = {
-    // control                   caption topic inside  left  top   width  height
+    // control                   caption topic inside  left  top   width  height, tooltip, name where it is heard
     {The<&AboutForm::AboutOk>,   "OK",  0,     Itself, 4530,  615,  510,  375},
-    {The<&AboutForm::Picture1>,  "",    0,     Itself, 4530,   45,  510,  480},
-    {The<&AboutForm::AboutText>, "",    0,     Itself,    0,   30, 4440, 1050},
-    {The<&AboutForm::Label1>,    "",    0,     Itself,   30, 1110, 5025,  315},
+    {The<&AboutForm::Picture1>,  "",    0,     Itself, 4530,   45,  510,  480, "", "The icon of Terramark"},
+    {The<&AboutForm::AboutText>, "",    0,     Itself,    0,   30, 4440, 1050, "", "About Terramark"},
+    {The<&AboutForm::Label1>,    "",    0,     Itself,   30, 1110, 5025,  315, "", "A coloured bar"},
 };
 // clang-format on
 

@@ -19,6 +19,8 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.ForeColor = ClrBlack;
   if (colour == ClrRed) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
+  // A fault that is met again is said again, though no property changes.
+  form.Message.Refresh();
 }
 
 void ShowHelpbar(Form1& form, const std::string& text) {

@@ -20,6 +20,10 @@ void SetCaption(forms::Control& control, const std::string& caption) {
   }
 }
 
+const char* SpokenNameOf(const forms::Control& control, const char* caption, const char* name) {
+  return control.Kind() == forms::ControlKind::CommandButton ? caption : name;
+}
+
 void PlaceControl(forms::Form& form, forms::Control& control, forms::Control& container, float left,
                   float top, float width, float height) {
   const forms::ScalePoint corner = forms::FromTwips({left, top}, container, form);

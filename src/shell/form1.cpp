@@ -13,6 +13,7 @@ struct LabelRow {
   forms::Color ForeColor;
   forms::Border Border;
   forms::Alignment Alignment;
+  Finder<Form1> Over = nullptr;
 };
 
 constexpr auto NoBorder = forms::Border::None;
@@ -22,11 +23,11 @@ constexpr forms::Color LightGrey = 0x00C0C0C0;
 
 // clang-format off
 constexpr LabelRow LabelLooks[] = {
-    // label                         background        text                  border    alignment
-    {Element<&Form1::Label1, 0>,     ClrBlack,         ClrWhite,             NoBorder, Centred},
-    {Element<&Form1::Label1, 1>,     ClrBlack,         ClrWhite,             NoBorder, Centred},
-    {Element<&Form1::Label1, 2>,     ClrBlack,         ClrWhite,             NoBorder, Centred},
-    {Element<&Form1::Label1, 5>,     ClrBlack,         ClrWhite,             NoBorder, Centred},
+    // label                         background        text                  border    alignment, what it stands over
+    {Element<&Form1::Label1, 0>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 0>},
+    {Element<&Form1::Label1, 1>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 1>},
+    {Element<&Form1::Label1, 2>,     ClrBlack,         ClrWhite,             NoBorder, Centred, The<&Form1::LoadMpa>},
+    {Element<&Form1::Label1, 5>,     ClrBlack,         ClrWhite,             NoBorder, Centred, The<&Form1::LoadMap>},
     {Element<&Form1::Countx, 0>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
     {Element<&Form1::Countx, 1>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
     {The<&Form1::Helpbar>,           LightGrey,        forms::SysWindowText, Single,   Centred},
@@ -65,7 +66,11 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
     label.ForeColor = row.ForeColor;
     label.BorderStyle = row.Border;
     label.Alignment = row.Alignment;
+    if (row.Over != nullptr) label.Over = &row.Over(*this);
   }
+  Message.Voice = forms::Voice::Announced;
+  // It changes with every move of the mouse.
+  Helpbar.Voice = forms::Voice::Silent;
   Continent(0).AutoSize = true;
   Picture1.TabStop = true;
   for (const LimitRow& row : Limits) row.Of(*this).MaxLength = row.MaxLength;

@@ -35,7 +35,10 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
 void ButtonView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption) {
     // A single "&" would make a shortcut.
-    setText(ShownText(button_.Caption, Qt::ElideMiddle).replace('&', "&&"));
+    const QString caption = ShownText(button_.Caption, Qt::ElideMiddle);
+    setText(QString(caption).replace('&', "&&"));
+    // A file's name, which is no word for what the button does.
+    if (button_.Caption.Get() != button_.SpokenName) setAccessibleDescription(caption);
   }
   update();
 }

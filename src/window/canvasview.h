@@ -20,6 +20,8 @@ class CanvasView : public QWidget, public ControlView {
   void LabelChanged(const forms::Control& label);
   /// A label is about to go; only its identity is used.
   void LabelGone(const forms::Control& label);
+  /// Where a label stands in the widget, in pixels of it; it may have scrolled out of view.
+  QRect PlaceOf(const forms::Control& label) const { return InBox(BoundsOf(label)); }
   /// The pointer moved, or the marker in the air moved, appeared or went.
   void PointerMoved();
 

@@ -1,6 +1,7 @@
 #include "window/formview.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <algorithm>
 
 #include "forms/geometry.h"
@@ -31,6 +32,7 @@ FormView::FormView(forms::Form& form, QWidget& parent)
   FormChanged(forms::PropertyId::BackColor);
   for (forms::Control* control : form.Controls()) ControlAdded(*control);
   LayTabOrder();
+  JoinLabels();
   dragScroll_.setInterval(DragScrollMilliseconds);
   connect(&dragScroll_, &QTimer::timeout, this, [this] { form_.Pointer.ScrollByDrag(); });
   form.Observe(this);
@@ -48,9 +50,13 @@ void FormView::ControlAdded(forms::Control& control) {
   const bool inForm = &container == &form_;
   // The tab order may name a control before the frame around it.
   if (!inForm) ControlAdded(container);
-  if (OnCanvas(control)) return ShowOnCanvas(control);
+  if (OnCanvas(control)) {
+    hearing_.Changed(control);
+    return ShowOnCanvas(control);
+  }
   views_.push_back(MakeView(control, inForm ? *this : ViewOf(container)->Widget()));
   Attend(*views_.back());
+  hearing_.Added(*views_.back());
 }
 
 /// Listens to the mouse over a view and over what the view is made of, and to its keys.
@@ -70,6 +76,15 @@ void FormView::LayTabOrder() {
     if (last != nullptr) setTabOrder(last, widget);
     if (last == nullptr) widget->setFocus();
     last = widget;
+  }
+}
+
+/// Tells assistive tools what a label over a control names.
+void FormView::JoinLabels() {
+  for (const forms::Control* control : form_.Controls()) {
+    if (control->Kind() != forms::ControlKind::Label || OnCanvas(*control)) continue;
+    const forms::Control* named = static_cast<const forms::Label*>(control)->Over;
+    if (named != nullptr) static_cast<QLabel*>(WidgetOf(*control))->setBuddy(WidgetOf(*named));
   }
 }
 
@@ -120,6 +135,7 @@ QWidget* FormView::WidgetOf(const forms::Control& control) const {
 }
 
 void FormView::ControlRemoved(forms::Control& control) {
+  hearing_.Gone(control);
   for (const auto& view : views_) {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->LabelGone(control);
   }
@@ -127,6 +143,7 @@ void FormView::ControlRemoved(forms::Control& control) {
 }
 
 void FormView::PropertyChanged(forms::Control& control, forms::PropertyId id) {
+  hearing_.Changed(control);
   if (&control == &form_) return FormChanged(id);
   if (OnCanvas(control)) return ShowOnCanvas(control);
   if (ControlView* view = ViewOf(control)) view->Changed(id);
@@ -149,6 +166,7 @@ void FormView::FocusMoved(forms::Control& control) {
 }
 
 void FormView::Refreshed(forms::Control& control) {
+  hearing_.Changed(control);
   if (OnCanvas(control)) return ShowOnCanvas(control);
   if (QWidget* widget = WidgetOf(control)) widget->update();
 }

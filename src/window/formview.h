@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "window/hearing.h"
 #include "window/keyfeed.h"
 #include "window/pointerfeed.h"
 
@@ -50,10 +51,12 @@ class FormView final : public QWidget, private forms::FormObserver {
   ControlView* ViewOf(const forms::Control& control) const;
   void Attend(ControlView& view);
   void LayTabOrder();
+  void JoinLabels();
 
   forms::Form& form_;
   PointerFeed pointer_;
   KeyFeed keys_;
+  Hearing hearing_;
   QTimer dragScroll_;
   /// A container stands before what is in it.
   std::vector<std::unique_ptr<ControlView>> views_;

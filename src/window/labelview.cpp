@@ -4,6 +4,7 @@
 
 #include "window/frames.h"
 #include "window/look.h"
+#include "window/messageaccess.h"
 #include "window/showntext.h"
 
 namespace terramark::window {
@@ -39,7 +40,11 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 
 void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
-  if (id == forms::PropertyId::Caption) setText(ShownText(label_.Caption, Qt::ElideMiddle));
+  if (id == forms::PropertyId::Caption) {
+    setText(ShownText(label_.Caption, Qt::ElideMiddle));
+    const bool tells = label_.Voice == forms::Voice::Plain && !label_.SpokenName.empty();
+    if (tells) setAccessibleName(SpokenText(label_));
+  }
   update();
 }
 

@@ -1,0 +1,16 @@
+// What a marker is called: by the help bar, and where it is heard.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "document/tables.h"
+
+namespace terramark {
+
+/// As in " 7: Ash in Region North"; the Area's number must lie in the tables.
+std::string AreaWords(const Tables& tables, std::int16_t area);
+/// As in " 2:  North"; likewise.
+std::string RegionWords(const Tables& tables, std::int16_t region);
+
+}  // namespace terramark

@@ -1,0 +1,63 @@
+// A picture box as it is heard: a list of the markers on it, each with its name, its place on the
+// screen and its state. What becomes of them is told when an event has run to its end.
+#pragma once
+
+#include <QAccessibleWidget>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/controls.h"
+
+namespace terramark::window {
+
+class CanvasView;
+
+/// Where a list and its items are what readers know to walk, one is "3 of 50", and a selected item
+/// is told so. A box without labels is a graphic.
+class CanvasAccess final : public QAccessibleWidget {
+ public:
+  explicit CanvasAccess(CanvasView& canvas);
+  ~CanvasAccess() override;
+
+  /// Tells of the labels that came, went, moved or changed name or state since the last call, and
+  /// of the one that the keyboard is at.
+  void Tell();
+  /// A label is about to go; only its identity is used.
+  void Gone(const forms::Control& label);
+  /// The widget itself has just been told to have the keyboard.
+  void Refocused() { focused_ = nullptr; }
+
+  QString NameOf(const forms::Label& label) const;
+  QRect PlaceOf(const forms::Label& label) const;
+  QAccessible::State StateOf(const forms::Label& label) const;
+
+  int childCount() const override;
+  QAccessibleInterface* child(int index) const override;
+  int indexOfChild(const QAccessibleInterface* child) const override;
+  QAccessibleInterface* childAt(int x, int y) const override;
+  QAccessibleInterface* focusChild() const override;
+  QAccessible::State state() const override;
+
+ private:
+  struct Told {
+    QString Name;
+    QRect Place;
+    bool Selected = false;
+  };
+
+  /// The labels that can be seen on the picture, array by array and by number.
+  std::vector<const forms::Label*> Markers() const;
+  QAccessibleInterface* MarkerOf(const forms::Label& label) const;
+  void TellLabel(const forms::Label& label);
+  void TellGone(const forms::Control& label);
+  /// The label that has the keyboard; null for none.
+  const forms::Label* Focused() const;
+
+  CanvasView& canvas_;
+  /// What has been made for a label; Qt keeps it until it is told otherwise.
+  mutable std::unordered_map<const forms::Control*, QAccessible::Id> ids_;
+  std::unordered_map<const forms::Control*, Told> told_;
+  const forms::Label* focused_ = nullptr;
+};
+
+}  // namespace terramark::window

@@ -1,0 +1,49 @@
+// What a screen reader is told of a form, beside what widgets tell by themselves: the markers on a
+// picture and the announcements. Costs nothing while none is there.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <QWidget>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace terramark::window {
+
+class CanvasView;
+class ControlView;
+class LabelView;
+
+class Hearing final : public QObject {
+ public:
+  Hearing();
+
+  /// A view is complete, the control before its children.
+  void Added(ControlView& view);
+  /// Something of a control is to be told when the event in hand has run to its end: names that no
+  /// property holds may have changed with it.
+  void Changed(const forms::Control& control);
+  /// A control is about to go; only its identity is used.
+  void Gone(const forms::Control& control);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Message {
+    LabelView* View = nullptr;
+    bool Fresh = false;
+  };
+
+  void Tell();
+
+  std::vector<CanvasView*> canvases_;
+  std::vector<Message> messages_;
+  QTimer later_;
+};
+
+/// Gives the scroll bars of a widget names, after what they scroll.
+void NameScrollBars(const QWidget& widget, const QString& what);
+
+}  // namespace terramark::window
