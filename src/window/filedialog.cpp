@@ -1,17 +1,22 @@
 #include "window/filedialog.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMimeDatabase>
 #include <QScreen>
 #include <QSettings>
 #include <QTreeView>
 #include <algorithm>
+#include <utility>
 
 #include "shell/filenames.h"
 #include "window/cp1252.h"
+#include "window/hearing.h"
 
 namespace terramark::window {
 
@@ -77,6 +82,22 @@ void ShowWholeColumns(QFileDialog& chooser) {
       [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
 }
 
+/// Joins words to the boxes beside them, and names what has no words, for assistive tools.
+void NameParts(const QFileDialog& chooser) {
+  const std::pair<const char*, const char*> joined[] = {{"lookInLabel", "lookInCombo"},
+                                                        {"fileTypeLabel", "fileTypeCombo"}};
+  for (const auto& [words, box] : joined) {
+    auto* const label = chooser.findChild<QLabel*>(words);
+    auto* const named = chooser.findChild<QComboBox*>(box);
+    if (label == nullptr || named == nullptr) continue;
+    label->setBuddy(named);
+    named->view()->setAccessibleName(label->text().remove(':'));
+  }
+  for (const auto* area : chooser.findChildren<QAbstractScrollArea*>()) {
+    NameScrollBars(*area, area->accessibleName());
+  }
+}
+
 }  // namespace
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
@@ -89,6 +110,7 @@ QString AskForFile(const std::string& filter, const QString& folder, QWidget* pa
   chooser.setFileMode(QFileDialog::AnyFile);
   chooser.setNameFilters({Worded(filter), "All files (*)"});
   ShowWholeColumns(chooser);
+  NameParts(chooser);
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
 }

@@ -7,6 +7,7 @@
 #include "window/canvasaccess.h"
 #include "window/canvasview.h"
 #include "window/cp1252.h"
+#include "window/helpwindow.h"
 #include "window/messageaccess.h"
 
 namespace terramark::window {
@@ -17,9 +18,18 @@ forms::Voice VoiceOf(const LabelView& view) {
   return static_cast<const forms::Label&>(view.Shown()).Voice;
 }
 
+/// Of a window that is no dialog, which would pass for a part of one.
+class WindowAccess final : public QAccessibleWidget {
+ public:
+  explicit WindowAccess(HelpWindow& window) : QAccessibleWidget(&window, QAccessible::Window) {}
+};
+
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
   if (auto* canvas = dynamic_cast<CanvasView*>(object)) {
     return std::make_unique<CanvasAccess>(*canvas).release();
+  }
+  if (auto* window = dynamic_cast<HelpWindow*>(object)) {
+    return std::make_unique<WindowAccess>(*window).release();
   }
   auto* label = dynamic_cast<LabelView*>(object);
   if (label == nullptr) return nullptr;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "shell/form1controls.h"
+#include "window/hearing.h"
 #include "window/helptopics.h"
 
 namespace terramark::window {
@@ -38,6 +39,8 @@ HelpWindow::HelpWindow() : page_(this), layout_(this) {
   setWindowTitle("Terramark Help");
   setObjectName("Help");
   page_.setObjectName("HelpPage");
+  page_.setAccessibleName("Help page");
+  NameScrollBars(page_, "Help page");
   layout_.setContentsMargins(0, 0, 0, 0);
   layout_.addWidget(&page_);
   resize(FirstSize);
