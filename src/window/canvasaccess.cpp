@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <tuple>
+#include <utility>
 
 #include "shell/markers.h"
 #include "window/canvasview.h"
@@ -156,7 +157,9 @@ QAccessibleInterface* CanvasAccess::MarkerOf(const forms::Label& label) const {
 }
 
 const forms::Label* CanvasAccess::Focused() const {
-  return nullptr;
+  const forms::Control* const ringed = BoxOf(canvas_).Ringed;
+  const bool there = ringed != nullptr && ringed->Visible && IsLabel(ringed);
+  return there && canvas_.hasFocus() ? static_cast<const forms::Label*>(ringed) : nullptr;
 }
 
 int CanvasAccess::childCount() const {
