@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeDatabase>
 #include <QScreen>
 #include <QSettings>
@@ -98,6 +99,14 @@ void NameParts(const QFileDialog& chooser) {
   }
 }
 
+/// Else its list can come up once more while the dialog closes, and would keep the keyboard from
+/// the window behind.
+void EndCompletionWith(QFileDialog& chooser) {
+  auto* const name = chooser.findChild<QLineEdit*>("fileNameEdit");
+  if (name == nullptr) return;
+  QObject::connect(&chooser, &QDialog::finished, name, [name] { name->setCompleter(nullptr); });
+}
+
 }  // namespace
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
@@ -111,6 +120,7 @@ QString AskForFile(const std::string& filter, const QString& folder, QWidget* pa
   chooser.setNameFilters({Worded(filter), "All files (*)"});
   ShowWholeColumns(chooser);
   NameParts(chooser);
+  EndCompletionWith(chooser);
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
 }
