@@ -19,7 +19,7 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.ForeColor = ClrBlack;
   if (colour == ClrRed) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
-  // A fault that is met again is said again, though no property changes.
+  // Where the same is said once more no property changes, and yet it is to be heard.
   form.Message.Refresh();
 }
 

@@ -135,8 +135,10 @@ class Reader(Editor):
     def load(self):
         self.hears(lambda: self.choose("LoadMpa", "europe.tml"),
                    (NAMED, 0, "label", "Areas 42"), (NAMED, 0, "label", "Regions 8"))
-        check("the button has its name, and beside it the file's", self.find(
-            "push button", "Load a Map Layout").get_description().endswith("/europe.tml"))
+        button = self.find("push button", "Load a Map Layout")
+        labels = [tie.get_target(0).get_name() for tie in button.get_relation_set()]
+        check("the button has its name, the file's and its label",
+              button.get_description().endswith("/europe.tml") and labels == ["Map Layout"])
         items = self.items()
         names = [item.get_name() for item in items]
         check("50 markers in order", len(names) == 50 and names[1::48] == [
@@ -163,6 +165,9 @@ class Reader(Editor):
     def announce(self):
         refusal = SHOW, 1, "alert", "Can only delete the last Area - Egypt"
         self.hears(lambda: self.press_control("DelControl"), refusal)
+        for _ in range(2):  # also where it is no news
+            self.hears(lambda: self.press_control("Cvalid"), 
+                       (SHOW, 1, "status bar", "This map has no errors"))
 
         def hover_and_press():
             where = self.marker(self.areas, 1).centre
