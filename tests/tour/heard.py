@@ -166,7 +166,7 @@ class Reader(Editor):
         refusal = SHOW, 1, "alert", "Can only delete the last Area - Egypt"
         self.hears(lambda: self.press_control("DelControl"), refusal)
         for _ in range(2):  # also where it is no news
-            self.hears(lambda: self.press_control("Cvalid"), 
+            self.hears(lambda: self.press_control("Cvalid"),
                        (SHOW, 1, "status bar", "This map has no errors"))
 
         def hover_and_press():
