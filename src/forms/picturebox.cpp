@@ -88,9 +88,9 @@ void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
   const Magnification old = Zoom;
   const auto scroll = [&](int out, int at) {
     // From the middle of the pixel, in half pixels.
-    const std::int64_t place = std::int64_t{2} * (out + at) + 1;
-    return static_cast<int>(place * old.Picture * zoom.Screen / (2 * old.Screen * zoom.Picture)) -
-           at;
+    const std::int64_t place = 2 * static_cast<std::int64_t>(out + at) + 1;
+    const std::int64_t parts = 2 * static_cast<std::int64_t>(old.Screen) * zoom.Picture;
+    return static_cast<int>(place * old.Picture * zoom.Screen / parts) - at;
   };
   const PixelPoint to{scroll(ScrollLeft, about.X), scroll(ScrollTop, about.Y)};
   Zoom = zoom;
