@@ -1,8 +1,6 @@
 // An editor, and a map of 96 Areas on a large picture in it.
 #pragma once
 
-#include <sys/resource.h>
-
 #include <QCoreApplication>
 #include <QString>
 #include <QWindow>
@@ -16,15 +14,6 @@
 #include "window/qtdesktop.h"
 
 namespace terramark {
-
-inline double CpuSeconds() {
-  rusage used{};
-  getrusage(RUSAGE_SELF, &used);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-  };
-  return seconds(used.ru_utime) + seconds(used.ru_stime);
-}
 
 struct Editor {
   Editor() {
@@ -46,16 +35,19 @@ struct ShownEditor : Editor {
   window::MainWindow Window{Form};
 };
 
-/// Where the markers are seen when the picture's corner is.
+/// As many as the commands make.
+inline constexpr int Most = 96;
+
+/// Shows a picture and puts the Areas in its upper left corner, where all are seen at once.
 inline void MakeMap(Form1& form, const QString& picture) {
   form.PictureFile = picture.toStdString();
   if (!ShowPicture(form, form.PictureFile)) qFatal("cannot show %s", qPrintable(picture));
-  for (int i = 0; i < 96; ++i) {
+  for (int i = 0; i < Most; ++i) {
     const auto x = static_cast<float>(10 + 44 * (i % 12));
     const auto y = static_cast<float>(40 + 33 * (i / 12));
     Picture1_MouseUp(form, {0, forms::LeftButton, forms::CtrlKey, x, y});
   }
-  if (form.AreaCount != 96) qFatal("the Areas are not there");
+  if (form.AreaCount != Most) qFatal("the Areas are not there");
   form.Picture1.ScrollTo(0, 0);
 }
 

@@ -1,6 +1,8 @@
 // What the benchmarks of whole processes share: a run of this program in a fresh process, the
-// memory of one, and a large picture to load.
+// memory and time of one, and a large picture to load.
 #pragma once
+
+#include <sys/resource.h>
 
 #include <QFile>
 #include <QImage>
@@ -37,6 +39,16 @@ inline double StatusKilobytes(const std::string& name) {
     if (line.starts_with(name + ":")) return std::stod(line.substr(name.size() + 1));
   }
   qFatal("the system does not tell %s", name.c_str());
+}
+
+/// What the program has used of the processor so far.
+inline double CpuSeconds() {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(used.ru_utime) + seconds(used.ru_stime);
 }
 
 /// A bitmap of 24 bits a pixel, in a folder that goes with it. It has just been written, so that

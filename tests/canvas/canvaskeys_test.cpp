@@ -154,31 +154,5 @@ TEST_F(CanvasKeysTest, WhatTheKeysComeToIsScrolledIntoView) {
   EXPECT_EQ(box.ScrollLeft.Get(), box.ViewWidth() - 32);
 }
 
-TEST_F(CanvasKeysTest, F1OpensTheHelpOnWhatHasTheKeyboard) {
-  const std::pair<Control*, std::int16_t> cases[]{
-      {&Form.Text1, 15}, {&Form.EditText, 2}, {nullptr, 2}};
-  for (const auto& [control, topic] : cases) {
-    Form.Focus(control);
-    Key(KeyF1);
-    EXPECT_EQ(Screen.Topics.back(), topic);
-  }
-}
-
-TEST_F(CanvasKeysTest, F6GoesToTheMapAndBack) {
-  for (Control* from : {static_cast<Control*>(&Form.Text1), static_cast<Control*>(&Form.Quit)}) {
-    Form.Focus(from);
-    Key(KeyF6);
-    EXPECT_TRUE(OnMap());
-    Key(KeyF6);
-    EXPECT_EQ(Form.ActiveControl(), from);
-  }
-  Click(Form.Continent(1));
-  Form.Focus(&Form.Armypc);
-  Key(KeyF6);
-  Form.Armypc.Enabled = false;
-  Key(KeyF6);
-  EXPECT_EQ(Form.ActiveControl(), &Form.EditText);
-}
-
 }  // namespace
 }  // namespace terramark

@@ -93,6 +93,8 @@ class GesturesTest : public EditorTest {
     const Bits keys[] = {0, 0, 0, 0, 0, forms::ShiftKey, forms::ShiftKey, forms::CtrlKey, 3};
     const Bits buttons[] = {forms::LeftButton, forms::RightButton, forms::MiddleButton};
     const char* texts[] = {"", "G", "x", "0", "-3", "99", "Name, \"of\" it", ".5"};
+    const std::int16_t mapKeys[] = {13, 13, 13, 27, 32, 33,  36,  37,
+                                    38, 39, 39, 40, 67, 117, 117, 187};
     const Bits shift = keys[Pick(9)];
     const Bits button = buttons[Pick(3)];
     forms::Control& any = *Form.Controls()[Pick(static_cast<int>(Form.Controls().size()))];
@@ -103,7 +105,7 @@ class GesturesTest : public EditorTest {
     switch (Pick(9)) {
       case 0: ClickMap(Pick(546), Pick(308), shift); break;
       case 1: DragFrom(Middle(any), Pick(600) - 300, Pick(400) - 200, shift, button); break;
-      case 2: Key(Pick(2) == 0 ? forms::KeyUpArrow : forms::KeyDownArrow); break;
+      case 2: Key(mapKeys[Pick(16)], shift); break;
       case 3: if (box != nullptr) Type(*box, texts[Pick(8)]); break;
       case 4: Form.ColBar(0).Moved(Pick(300)); break;
       default: DragFrom(Middle(any), 0, 0, shift, button);

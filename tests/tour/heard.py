@@ -72,10 +72,10 @@ class Reader(Editor):
         for kind in ("state-changed", "property-change", "children-changed"):
             self.listener.register("object:" + kind)
         super().__init__(screen, program)
-        self.program = Atspi.get_desktop(0)
-        self.program = self.find("application", "terramark")
+        self.tree = Atspi.get_desktop(0)
+        self.tree = self.find("application", "terramark")
         # What it says when asked counts, not what its events have said of it.
-        self.program.set_cache_mask(Atspi.Cache.NONE)
+        self.tree.set_cache_mask(Atspi.Cache.NONE)
 
     def hear(self, event):
         try:
@@ -104,7 +104,7 @@ class Reader(Editor):
         def look():
             pump()
             try:
-                found.extend(node for node in below(self.program) if has(node, "SHOWING")
+                found.extend(node for node in below(self.tree) if has(node, "SHOWING")
                              and (node.get_role_name(), node.get_name()) == (role, name))
             except GLib.Error:
                 pass  # a window was just going
@@ -123,7 +123,7 @@ class Reader(Editor):
         check(f"{nameless} in {title} named", nameless <= LAYOUT)
 
     def read_window(self):
-        nodes = [node for node in below(self.program) if has(node, "SHOWING") and
+        nodes = [node for node in below(self.tree) if has(node, "SHOWING") and
                  node.get_role_name() not in ("filler", "status bar")]
         for name in CONTROLS.keys() - {"ArmyAt0", "Continent0"}:
             at = [node for node in nodes if extents(node) == self.control(name)]

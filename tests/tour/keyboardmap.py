@@ -1,10 +1,14 @@
 """The same six lands as with the mouse, made from the keyboard alone."""
-from editor import FILE_DIALOG, GREEN, QUESTION, Editor
+import re
 
-# What the keyboard stops at, from the map backwards, while no colour is being mixed. While one is,
-# the three bars stand before SetCont.
-STOPS = ("Text1 PlColor0 Quit SetCont MakeNeibor AddCont AddTer DelControl ClearLink SwapTer RefMap"
-         " DBPush1 TMHelp DelAll SaveCFG Cvalid LoadMap LoadMpa").split()
+from editor import CONTROLS, FILE_DIALOG, GREEN, QUESTION, Editor
+
+# Where the Tab key stops, from the map backwards: all the way round, but for the boxes behind the
+# map. The bars are among the stops only while a colour is being mixed.
+ORDER = [name for name in CONTROLS
+         if not re.match("Label|Countx|Frame|RGBFrame|Message|Helpbar|ArmyAt|Continent", name)]
+AT_MAP = ORDER.index("Picture1")
+STOPS = ORDER[:AT_MAP][::-1] + ORDER[AT_MAP + 1:][::-1]
 NEW_AREA = 273, 138  # where Ctrl and Enter put one: its bottom left corner in the view's middle
 NEW_REGION = 48, 163
 AREAS = (  # place, turns of the fill corner, name, card symbol, Region, neighbours
@@ -24,8 +28,7 @@ class KeyboardMap(Editor):
 
     def to_control(self, name, mixing=False):
         self.to_map()
-        bars = ["ColBar2", "ColBar1", "ColBar0"] if mixing else []
-        stops = STOPS[:3] + bars + STOPS[3:]
+        stops = [stop for stop in STOPS if mixing or not stop.startswith("ColBar")]
         self.key(*["shift+Tab"] * (stops.index(name) + 1))
         self.on_map = False
 
@@ -53,14 +56,16 @@ class KeyboardMap(Editor):
             self.key("shift+space")
 
     def carry_by_keys(self, start, end):
-        """The marker at the cursor, from one place to another."""
+        """Takes hold of the marker at the cursor, and carries it from one place to another."""
         keys = []
         for way, back, forth in zip(range(2), ("Left", "Up"), ("Right", "Down")):
             travel = end[way] - start[way]
             arrow = forth if travel > 0 else back
             keys += ["shift+" + arrow] * (abs(travel) // 10) + [arrow] * (abs(travel) % 10)
         self.key("Return", *keys)
-        return lambda: self.key("Return")
+
+    def drop_by_keys(self):
+        self.key("Return")
 
     def map_from_keyboard(self):
         self.step("Once more from the keyboard alone: clear, load a picture, write a header")
@@ -91,17 +96,18 @@ class KeyboardMap(Editor):
             self.key("ctrl+Return", *["c"] * turns)
             if number == 1:
                 self.key("ctrl+plus", "ctrl+plus", "ctrl+plus")
-            drop = self.carry_by_keys(NEW_AREA, place)
+            self.carry_by_keys(NEW_AREA, place)
             if number == 1:
                 self.shot("carried")
                 self.key("ctrl+0")
-            drop()
+            self.drop_by_keys()
             self.areas[number] = place
             self.wait_look("plain", [number])
         for number, (place, name, armies) in enumerate(REGIONS, 1):
             self.says(GREEN, lambda: self.push("AddCont"))
             self.to_map()
-            self.carry_by_keys(NEW_REGION, place)()
+            self.carry_by_keys(NEW_REGION, place)
+            self.drop_by_keys()
             self.regions[number] = place
             self.key("Tab")
             self.write(name)

@@ -70,16 +70,5 @@ TEST_F(LookTest, WordsAndFocusShowOnEveryFaceAndADisabledBoxIsGrey) {
   EXPECT_EQ(PixelOn(Form.Symb, {2, 2}), QColor(0xC0, 0xC0, 0xC0));
 }
 
-TEST(Look, TheWindowHoldsWhatStandsOnItUnlessTheScreenOf800By800IsSmaller) {
-  for (const auto& [twips, first, least] : {std::tuple(15.0F, QSize(800, 599), QSize(629, 446)),
-                                            {10.0F, QSize(800, 800), QSize(800, 670)}}) {
-    ScriptedDesktop desktop;
-    desktop.Twips = twips;
-    Form1 form(desktop);
-    const MainWindow window(form);
-    EXPECT_TRUE(window.size() == first && window.minimumSize() == least) << twips;
-  }
-}
-
 }  // namespace
 }  // namespace terramark::window

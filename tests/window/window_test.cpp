@@ -195,5 +195,17 @@ TEST_F(WindowTest, LongTextsMakeNoBoxLargerThanAScreen) {
   }
 }
 
+TEST(WindowSize, TheWindowHoldsWhatStandsOnItUnlessTheScreenOf800By800IsSmaller) {
+  // What stands on it takes 9435 x 6690 twips, the form 12645 x 8985.
+  for (const auto& [twips, first, least] : {std::tuple(15.0F, QSize(800, 599), QSize(629, 446)),
+                                            {10.0F, QSize(800, 800), QSize(800, 670)}}) {
+    ScriptedDesktop desktop;
+    desktop.Twips = twips;
+    Form1 form(desktop);
+    const MainWindow window(form);
+    EXPECT_TRUE(window.size() == first && window.minimumSize() == least) << twips;
+  }
+}
+
 }  // namespace
 }  // namespace terramark::window
