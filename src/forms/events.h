@@ -78,7 +78,8 @@ struct PlainEvent {
   std::int16_t Index = 0;
 };
 
-/// An event slot; an empty one lets the event pass unheard.
+/// An event slot; an empty one lets the event pass unheard. A handler may change the event only in
+/// a slot of a reference: in Slot<KeyEvent&>.
 template <typename Event>
 class Slot {
  public:

@@ -15,8 +15,7 @@ Magnification StepFrom(Magnification zoom, int steps) {
   return Steps[std::clamp<std::ptrdiff_t>(at, 0, std::ssize(Steps) - 1)];
 }
 
-/// Rounded down, also below 0.
-int Quotient(int dividend, int divisor) {
+int FloorDiv(int dividend, int divisor) {
   const int quotient = dividend / divisor;
   return dividend % divisor < 0 ? quotient - 1 : quotient;
 }
@@ -32,11 +31,11 @@ Magnification Smaller(Magnification zoom) {
 }
 
 int ToScreen(Magnification zoom, int onPicture) {
-  return Quotient(onPicture * zoom.Screen, zoom.Picture);
+  return FloorDiv(onPicture * zoom.Screen, zoom.Picture);
 }
 
 int ToPicture(Magnification zoom, int onScreen) {
-  return Quotient(onScreen * zoom.Picture + zoom.Picture / 2, zoom.Screen);
+  return FloorDiv(onScreen * zoom.Picture + zoom.Picture / 2, zoom.Screen);
 }
 
 int ShownExtent(Magnification zoom, int onPicture) {

@@ -16,12 +16,12 @@ inline constexpr Magnification ActualSize{1, 1};
 inline constexpr Magnification LargestZoom{8, 1};
 
 /// The next larger or smaller of the magnifications that a picture box knows: 1/4, 1/2, 1, 2, 3, 4,
-/// 6 and 8. At the ends, the same.
+/// 6 and 8. At the ends, the same. No other may be given.
 Magnification Larger(Magnification zoom);
 Magnification Smaller(Magnification zoom);
 
 /// Where on the screen a pixel of the picture begins, both counted from the picture's edge. It may
-/// lie outside the picture.
+/// lie outside the picture, up to 2^24 pixels either way.
 int ToScreen(Magnification zoom, int onPicture);
 /// The pixel of the picture that is seen at a pixel of the screen: of several, the one in their
 /// middle.

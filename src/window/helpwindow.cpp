@@ -28,7 +28,9 @@ QString PageOf(std::int32_t number) {
   if (topic == nullptr) {
     return QString("<h2>Topic %1</h2><p>There is no such help topic.</p>").arg(number);
   }
-  return QString("<h2>Topic %1: %2</h2><p>Opened with the Shift key from</p><ul>%3</ul>")
+  return QString(
+             "<h2>Topic %1: %2</h2><p>Opened with F1, or a press with the Shift key, "
+             "from</p><ul>%3</ul>")
       .arg(number)
       .arg(QString(topic->Subject).toHtmlEscaped(), OpenersOf(number));
 }
