@@ -55,11 +55,11 @@ const Raster& PictureBox::Sheet() const {
 }
 
 int PictureBox::ShownWidth() const {
-  return ShownExtent(Zoom, Sheet().Width);
+  return ToScreen(Zoom, Sheet().Width);
 }
 
 int PictureBox::ShownHeight() const {
-  return ShownExtent(Zoom, Sheet().Height);
+  return ToScreen(Zoom, Sheet().Height);
 }
 
 // A bar for one way takes room from the other, which can call for the second bar.

@@ -31,15 +31,11 @@ Magnification Smaller(Magnification zoom) {
 }
 
 int ToScreen(Magnification zoom, int onPicture) {
-  return FloorDiv(onPicture * zoom.Screen, zoom.Picture);
+  return FloorDiv(onPicture * zoom.Screen + (zoom.Picture - 1) / 2, zoom.Picture);
 }
 
 int ToPicture(Magnification zoom, int onScreen) {
   return FloorDiv(onScreen * zoom.Picture + zoom.Picture / 2, zoom.Screen);
-}
-
-int ShownExtent(Magnification zoom, int onPicture) {
-  return (onPicture * zoom.Screen + (zoom.Picture - 1) / 2) / zoom.Picture;
 }
 
 }  // namespace terramark::forms

@@ -182,8 +182,8 @@ void CanvasView::paintEvent(QPaintEvent* event) {
 void CanvasView::PaintImage(QPainter& painter, const QRect& part) const {
   const forms::Raster& raster = box_.Image();
   const forms::Magnification zoom = box_.Zoom;
-  const QRect sheet(-box_.ScrollLeft, -box_.ScrollTop, ShownExtent(zoom, raster.Width),
-                    ShownExtent(zoom, raster.Height));
+  const QRect sheet(-box_.ScrollLeft, -box_.ScrollTop, ToScreen(zoom, raster.Width),
+                    ToScreen(zoom, raster.Height));
   const QRect seen = part & sheet;
   if (seen != part) painter.fillRect(part, ScreenColour(box_.BackColor));
   if (zoom != forms::ActualSize) {
