@@ -84,13 +84,16 @@ void Form::Tell(Control& control, PropertyId id) {
 bool Form::KeyPressed(KeyEvent key) {
   Control* const active = active_;
   const auto held = taken_.find(key.KeyCode);
-  if (key.Repeat && held != taken_.end() && held->second != active) return true;
+  const bool goesOn = key.Repeat && held != taken_.end();
+  if (goesOn && held->second != active) return true;
   if (key.KeyCode == KeyEscape && Pointer.InFlight()) {
     Pointer.CancelDrag();
     key.Taken = true;
   }
   if (!key.Taken && KeyPreview) KeyDown.Raise(key);
   if (!key.Taken && active != nullptr) active->KeyDown.Raise(key);
+  // Also where it means nothing by now, as an arrow whose marker was put back under it.
+  if (goesOn) key.Taken = true;
   if (key.Taken) {
     taken_[key.KeyCode] = active;
   } else {

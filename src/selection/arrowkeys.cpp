@@ -21,6 +21,8 @@ void Form_KeyUp(Form1& form, const forms::KeyEvent& event) {
   const std::int16_t key = event.KeyCode;
   if (key != forms::KeyUpArrow && key != forms::KeyDownArrow) return;
   if (form.MarkCount == 0) return;
+  // An arrow that was down already when the marker was taken hold of.
+  if (form.Pointer.Holds()) return;
   if (AreaMarker(form, form.CurArea) != nullptr) {
     SelectArea(form, Step(form.CurArea, key, form.AreaCount), 0);
     BringIntoView(form, form.ArmyAt(form.CurArea));

@@ -108,7 +108,10 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
       {"Escape", [&] { Key(KeyEscape); }},
       {"the keyboard goes", [&] { Form.Focus(&Form.Symb); }},
       {"a press of the mouse", [&] {
+         Form.KeyPressed({KeyUpArrow, 0});
          Press({620, 440}), Release({620, 440});
+         EXPECT_TRUE(Form.KeyPressed({KeyUpArrow, 0, true}));
+         Form.KeyReleased({KeyUpArrow, 0});
        }}};
   for (const auto& [end, act] : ends) {
     Form.Focus(&Form.Picture1);
@@ -120,7 +123,9 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
   }
   Form.Focus(&Form.Picture1);
   Form.ArmyAt(1).Move(-30000, 5000);
+  Form.KeyPressed({KeyDownArrow, 0});
   Key(KeyReturn);
+  Form.KeyReleased({KeyDownArrow, 0});
   Key(KeyHome);
   Key(KeyLeftArrow);
   Key(KeyReturn);
