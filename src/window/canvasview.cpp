@@ -100,6 +100,8 @@ void CanvasView::ShowOwn(forms::PropertyId id) {
   LayBars();
   LayZoomLabel();
   flightSeen_ = Flight();
+  // Another thing may lie under a pointer that stands still.
+  ShowHand();
   update();
 }
 
@@ -129,12 +131,14 @@ QRect CanvasView::Around(const QRect& onPicture) const {
 }
 
 QRect CanvasView::Flight() const {
-  const auto flight = box_.Owner()->Pointer.InFlight();
+  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
+  const auto flight = pointer.InFlight();
   if (!flight || flight->Source.Container() != &box_) return {};
   QRect area = InBox({QPoint(flight->Corner.X, flight->Corner.Y), BoundsOf(flight->Source).size()});
   const forms::PixelPoint grip = forms::InBox(box_, flight->Grip);
   const QRect view = View();
-  if (view.contains(grip.X, grip.Y)) return area;
+  // Where no pointer shows its place, it has to be seen where it is, as far as it can be.
+  if (pointer.Holds() ? view.intersects(area) : view.contains(grip.X, grip.Y)) return area;
   // Carried out of sight, it waits at the edge.
   area.moveLeft(std::clamp(area.left(), 0, std::max(0, view.width() - area.width())));
   area.moveTop(std::clamp(area.top(), 0, std::max(0, view.height() - area.height())));

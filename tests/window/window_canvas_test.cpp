@@ -219,6 +219,9 @@ TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
   const auto shape = [&] { return Of(Form.Picture1).cursor().shape(); };
   Move(Canvas + QPoint(105, 55));
   EXPECT_EQ(shape(), Qt::OpenHandCursor);
+  Form.Picture1.ZoomTo(forms::LargestZoom, {});
+  EXPECT_EQ(shape(), Qt::ArrowCursor) << "the marker has gone from under it";
+  Form.Picture1.ZoomTo(forms::ActualSize, {});
   Press(Canvas + QPoint(105, 55));
   EXPECT_EQ(shape(), Qt::ClosedHandCursor);
   Move(Canvas + QPoint(300, -200));
@@ -228,6 +231,9 @@ TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
   Release(Canvas + QPoint(300, 200));
   Move(Canvas + QPoint(300, 200));
   EXPECT_EQ(shape(), Qt::ArrowCursor);
+  Form.Pointer.TakeHold(Marker());
+  Form.Pointer.Carry(-110, 0);
+  EXPECT_EQ(Pixel(24, 55), White) << "held by the keys it is seen where it is";
 }
 
 }  // namespace
