@@ -108,7 +108,10 @@ bool Pressed(Form1& form, const forms::KeyEvent& event) {
   for (const PressRow& row : Presses) {
     if (row.Key != event.KeyCode || row.Shift != event.Shift) continue;
     forms::Control* const target = row.OnMarker ? form.Picture1.Ringed.Get() : &form.Picture1;
-    if (target != nullptr && !event.Repeat) form.Pointer.PressKey(*target, row.Shift, row.Button);
+    if (target == nullptr || event.Repeat) return true;
+    // The map may have been scrolled away from it.
+    if (row.OnMarker) form.Picture1.Reveal(PixelBounds(*target));
+    form.Pointer.PressKey(*target, row.Shift, row.Button);
     return true;
   }
   return false;

@@ -157,6 +157,8 @@ TEST_F(CanvasKeysTest, WhatTheKeysComeToIsScrolledIntoView) {
   Key(KeyPageDown, ShiftKey);
   EXPECT_EQ(box.ScrollTop.Get(), box.ViewHeight() - 32);
   EXPECT_EQ(box.ScrollLeft.Get(), box.ViewWidth() - 32);
+  Key(KeySpace);
+  EXPECT_TRUE(seen(Form.Continent(2))) << "pressed";
 }
 
 }  // namespace
