@@ -35,8 +35,11 @@ void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value
   bar.setVisible(shown);
 }
 
+/// A pixel wider than the ring: of what is to be painted anew, Qt may leave out a line at the edge
+/// where the screen's scale is no whole number.
 QRect Widened(const QRect& area) {
-  return area.adjusted(-RingWidth, -RingWidth, RingWidth, RingWidth);
+  const int by = RingWidth + 1;
+  return area.adjusted(-by, -by, by, by);
 }
 
 /// Shows on every colour.
@@ -150,6 +153,8 @@ void CanvasView::PointerMoved() {
     update(Widened(flightSeen_));
     flightSeen_ = flight;
     update(Widened(flightSeen_));
+    // Put back, a marker has its ring where it stands.
+    if (flight.isEmpty() && box_.Ringed != nullptr) update(Around(BoundsOf(*box_.Ringed)));
   }
   ShowHand();
 }

@@ -76,6 +76,16 @@ TEST_F(MarkerTest, PaintsOnlyWhereAMarkerWasAndIs) {
   Form.Picture1.Refresh();
   QTest::qWait(20);
   EXPECT_TRUE(watch.Painted.contains(QRect(0, 0, 546, 308)));
+  // Back from the air it has its ring again, and a pixel around it for a scaled screen.
+  Form.Picture1.SetFocus();
+  Form.Picture1.Ringed = &Marker();
+  Form.Pointer.TakeHold(Marker());
+  Form.Pointer.Carry(0, -99);
+  QTest::qWait(20);
+  watch.Painted = {};
+  Form.Pointer.PutBack();
+  QTest::qWait(20);
+  EXPECT_TRUE(watch.Painted.contains(QRect(296, 196, 40, 24)));
 }
 
 TEST_F(MarkerTest, AMarkerFollowsThePointerOutOfTheBoxAndBack) {
