@@ -50,6 +50,8 @@ HelpWindow::HelpWindow() : page_(this), layout_(this) {
 
 void HelpWindow::Open(std::int32_t topic) {
   page_.setHtml(PageOf(topic));
+  // The page has no caret by which a reader would come to its words.
+  page_.setAccessibleDescription(page_.toPlainText());
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();

@@ -67,6 +67,8 @@ MessageAccess::MessageAccess(LabelView& view)
         std::make_unique<TextAccess>(*this, role).release());
   };
   children_ = {make(QAccessible::AlertMessage), make(QAccessible::StatusBar)};
+  // What stands there by now may have been read without having been announced.
+  shown_ = Showing();
 }
 
 MessageAccess::~MessageAccess() {
