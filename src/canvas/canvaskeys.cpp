@@ -24,6 +24,7 @@ constexpr Arrow Arrows[] = {{forms::KeyLeftArrow, -1, 0},
 
 void WalkTo(Form1& form, forms::Label* marker) {
   if (marker == nullptr) return;
+  form.Picture1.Ringed = marker;
   BringIntoView(form, *marker);
   form.Pointer.PointKey(*marker);
 }
@@ -133,7 +134,7 @@ void Picture1_KeyDown(Form1& form, forms::KeyEvent& event) {
   if (Scrolled(form, event)) {
     event.Taken = true;
   } else if (form.Pointer.Holds()) {
-    // Whatever else a key does, it does not do it with a marker in the air.
+    // Escape has ended the hold by now; what else a key does, it does not do meanwhile.
     Carry(form, event);
     event.Taken = true;
   } else {

@@ -1,4 +1,4 @@
-// What a marker is called: by the help bar, and where it is heard.
+// What a marker is called: by the help bar, and by assistive tools.
 #pragma once
 
 #include <cstdint>

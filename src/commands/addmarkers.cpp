@@ -44,6 +44,8 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
     const forms::Label& previous = form.ArmyAt(static_cast<std::int16_t>(i - 1));
     marker.Move(previous.Left, previous.Top);
   }
+  // The keys on the map go on from here.
+  form.Picture1.Ringed = &marker;
   BringIntoView(form, marker);
 }
 

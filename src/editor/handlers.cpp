@@ -31,12 +31,12 @@ void JoinMarkers(Form1& form) {
   area.MouseDown = [&form](const auto& event) { ArmyAt_MouseDown(form, event); };
   area.MouseUp = [&form](const auto& event) { ArmyAt_MouseUp(form, event); };
   area.DragDrop = [&form](const auto& event) { ArmyAt_DragDrop(form, event); };
-  area.Spoken = [&form](std::int16_t index) { return AreaWords(form, index); };
+  area.AccessibleNameOf = [&form](std::int16_t index) { return AreaWords(form, index); };
   forms::Label& region = form.Continent(0);
   region.MouseDown = [&form](const auto& event) { Continent_MouseDown(form, event); };
   region.MouseUp = [&form](const auto& event) { Continent_MouseUp(form, event); };
   region.DragDrop = [&form](const auto& event) { Continent_DragDrop(form, event); };
-  region.Spoken = [&form](std::int16_t index) { return RegionWords(form, index); };
+  region.AccessibleNameOf = [&form](std::int16_t index) { return RegionWords(form, index); };
 }
 
 void JoinBackdrop(Form1& form) {

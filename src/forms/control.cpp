@@ -48,8 +48,8 @@ void Control::CopyCommon(const Control& from) {
   ForeColor = from.ForeColor;
   Tag = from.Tag;
   ToolTipText = from.ToolTipText;
-  SpokenName = from.SpokenName;
-  Spoken = from.Spoken;
+  AccessibleName = from.AccessibleName;
+  AccessibleNameOf = from.AccessibleNameOf;
   HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;
   MouseDown = from.MouseDown;

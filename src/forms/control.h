@@ -43,11 +43,12 @@ class Control : public PropertyOwner {
   Property<Color> ForeColor{*this, PropertyId::ForeColor, SysWindowText};
   Property<std::string> Tag{*this, PropertyId::Tag};
   std::string ToolTipText;
-  /// What it is called where it is heard, not seen; of a label, what its caption then follows.
-  /// Empty for what its caption says alone.
-  std::string SpokenName;
-  /// Tells by the index what a control on a picture is called there; may be empty.
-  std::function<std::string(std::int16_t index)> Spoken;
+  /// What assistive tools call it; a label's caption follows it there. Empty where the caption says
+  /// all.
+  std::string AccessibleName;
+  /// The same for the elements of a control array on a picture, by the index; may be empty, and
+  /// then the caption counts.
+  std::function<std::string(std::int16_t index)> AccessibleNameOf;
   /// Topic of the help that tells of the control; 0 for none.
   std::int16_t HelpTopic = 0;
   /// Unit inside this control, when it contains others.

@@ -13,11 +13,11 @@ namespace terramark::forms {
 
 enum class Alignment { Left, Centred };
 enum class Border { None, FixedSingle };
-/// How those hear of a label's new caption who cannot see it.
-enum class Voice {
-  Plain,      // as the new name of something that they may pass over
-  Silent,     // when they ask
-  Announced,  // at once, whatever they are at
+/// How a screen reader is told of a label's new caption.
+enum class Announcement {
+  AsName,     // as the new name of one thing among others
+  OnRequest,  // not at all; it may ask
+  AtOnce,     // to be said whatever it is at, and again at each Refresh
 };
 
 class Label : public Control {
@@ -28,10 +28,10 @@ class Label : public Control {
   Property<std::string> Caption{*this, PropertyId::Caption};
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
   forms::Alignment Alignment = forms::Alignment::Left;
-  forms::Voice Voice = forms::Voice::Plain;
-  /// The control that the caption stands over and names; null for none. It must be on the same
-  /// form.
-  Control* Over = nullptr;
+  forms::Announcement Announcement = forms::Announcement::AsName;
+  /// The control that the caption stands over and names, on the same form; null for none. Like
+  /// Announcement it is of one label alone: a template does not hand it on.
+  Control* LabelFor = nullptr;
   /// Width and Height follow the caption, by the font's own measure on the screen.
   bool AutoSize = false;
 

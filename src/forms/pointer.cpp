@@ -98,7 +98,7 @@ void PointerRouter::PressOn(Control& target, PixelPoint inside, std::int16_t but
 
 void PointerRouter::Move(int x, int y, std::int16_t shift) {
   at_ = {x, y};
-  if (dragged_ == nullptr || held_) {
+  if (!DragsByMouse()) {
     Control& target = captured_ != nullptr ? *captured_ : Hovered(x, y);
     target.MouseMove.Raise(EventFor(target, Inside(target, at_), buttonsDown_, shift));
   }
@@ -204,7 +204,7 @@ void PointerRouter::DropOn(Control& target, ScalePoint inside) {
 }
 
 void PointerRouter::ScrollByDrag() {
-  if (dragged_ == nullptr || held_) return;
+  if (!DragsByMouse()) return;
   if (dragged_->Container()->Kind() != ControlKind::PictureBox) return;
   auto& box = static_cast<PictureBox&>(*dragged_->Container());
   const PixelPoint at = at_ - OnForm(*box.Container(), PixelBounds(box).Corner());

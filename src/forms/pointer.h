@@ -44,6 +44,7 @@ class PointerRouter {
   /// Ends such a hold; the control stays where it was.
   void PutBack();
   bool Holds() const { return held_; }
+  bool DragsByMouse() const { return dragged_ != nullptr && !held_; }
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
   /// cancelled leaves them down.

@@ -15,7 +15,7 @@ constexpr char AboutSentence[] =
 // In tab order; places and sizes in twips.
 // clang-format off
 constexpr ControlRow<AboutForm> AboutControls[] = {
-    // control                   caption topic inside  left  top   width  height, tooltip, name where it is heard
+    // control                   caption topic inside  left  top   width  height, tooltip, accessible name
     {The<&AboutForm::AboutOk>,   "OK",  0,     Itself, 4530,  615,  510,  375},
     {The<&AboutForm::Picture1>,  "",    0,     Itself, 4530,   45,  510,  480, "", "The icon of Terramark"},
     {The<&AboutForm::AboutText>, "",    0,     Itself,    0,   30, 4440, 1050, "", "About Terramark"},

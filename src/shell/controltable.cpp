@@ -20,7 +20,7 @@ void SetCaption(forms::Control& control, const std::string& caption) {
   }
 }
 
-const char* SpokenNameOf(const forms::Control& control, const char* caption, const char* name) {
+const char* AccessibleNameIn(const forms::Control& control, const char* caption, const char* name) {
   return control.Kind() == forms::ControlKind::CommandButton ? caption : name;
 }
 

@@ -28,8 +28,8 @@ struct ControlRow {
   float Width;
   float Height;
   const char* ToolTipText = "";
-  /// As in Control::SpokenName; a button goes by its caption here, whatever that becomes later.
-  const char* SpokenName = "";
+  /// As in Control::AccessibleName; a button goes by its caption here, whatever that becomes later.
+  const char* AccessibleName = "";
 };
 
 /// The control that a member of the form holds. In a row that takes one kind of control, a member
@@ -60,8 +60,8 @@ Kind& Itself(FormType& form) {
 /// Sets the caption of a control that has one.
 void SetCaption(forms::Control& control, const std::string& caption);
 
-/// What the control of a row is called where it is heard.
-const char* SpokenNameOf(const forms::Control& control, const char* caption, const char* name);
+/// The accessible name of the control of a row.
+const char* AccessibleNameIn(const forms::Control& control, const char* caption, const char* name);
 
 /// Places a control by its row, in the container's scale, with the colours of its kind.
 void PlaceControl(forms::Form& form, forms::Control& control, forms::Control& container, float left,
@@ -77,7 +77,7 @@ void BuildControls(FormType& form, std::span<const ControlRow<FormType>> table) 
     form.Add(control, container);
     control.HelpTopic = row.HelpTopic;
     control.ToolTipText = row.ToolTipText;
-    control.SpokenName = SpokenNameOf(control, row.Caption, row.SpokenName);
+    control.AccessibleName = AccessibleNameIn(control, row.Caption, row.AccessibleName);
     SetCaption(control, row.Caption);
     PlaceControl(form, control, container, row.Left, row.Top, row.Width, row.Height);
   }

@@ -13,7 +13,7 @@ struct LabelRow {
   forms::Color ForeColor;
   forms::Border Border;
   forms::Alignment Alignment;
-  Finder<Form1> Over = nullptr;
+  Finder<Form1> LabelFor = nullptr;
 };
 
 constexpr auto NoBorder = forms::Border::None;
@@ -66,11 +66,11 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
     label.ForeColor = row.ForeColor;
     label.BorderStyle = row.Border;
     label.Alignment = row.Alignment;
-    if (row.Over != nullptr) label.Over = &row.Over(*this);
+    if (row.LabelFor != nullptr) label.LabelFor = &row.LabelFor(*this);
   }
-  Message.Voice = forms::Voice::Announced;
+  Message.Announcement = forms::Announcement::AtOnce;
   // It changes with every move of the mouse.
-  Helpbar.Voice = forms::Voice::Silent;
+  Helpbar.Announcement = forms::Announcement::OnRequest;
   Continent(0).AutoSize = true;
   Picture1.TabStop = true;
   for (const LimitRow& row : Limits) row.Of(*this).MaxLength = row.MaxLength;

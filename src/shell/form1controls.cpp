@@ -9,7 +9,7 @@ namespace {
 // In tab order; places and sizes in twips.
 // clang-format off
 constexpr ControlRow<Form1> Controls[] = {
-    // control                     caption             help topic  inside                left   top width height  tooltip, name where it is heard
+    // control                     caption             help topic  inside                left   top width height  tooltip, accessible name
     {The<&Form1::Text1>,           "",                    15, Itself,                  0,    0, 8175,  315, "Enter identification header for the Map Layout file", "Header of the Map Layout"},
     {The<&Form1::Picture1>,        "",                     0, Itself,                  0,  864, 8196, 4620, "", "Map"},
     {The<&Form1::EditText>,        "",                     0, Itself,                  0,  288, 2145,  315, "Edit window for Area or Region name", "Name of the Area or Region"},

@@ -17,7 +17,6 @@ forms::Label* RegionMarker(Form1& form, std::int16_t region) {
 }
 
 void BringIntoView(Form1& form, forms::Label& marker) {
-  form.Picture1.Ringed = &marker;
   form.Picture1.Reveal(PixelBounds(marker));
 }
 

@@ -21,7 +21,7 @@ forms::Label* AreaMarker(Form1& form, std::int16_t area);
 /// The marker of a Region, likewise.
 forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
-/// Rings a marker for the keys on the map, and scrolls it into view with some ground around it.
+/// Scrolls a marker into view, with some ground around it.
 void BringIntoView(Form1& form, forms::Label& marker);
 
 /// What is selected lives in the looks of the markers and nowhere else.

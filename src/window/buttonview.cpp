@@ -38,7 +38,8 @@ void ButtonView::ShowOwn(forms::PropertyId id) {
     const QString caption = ShownText(button_.Caption, Qt::ElideMiddle);
     setText(QString(caption).replace('&', "&&"));
     // A file's name, which is no word for what the button does.
-    if (button_.Caption.Get() != button_.SpokenName) setAccessibleDescription(caption);
+    const bool named = button_.Caption.Get() == button_.AccessibleName;
+    setAccessibleDescription(named ? toolTip() : caption);
   }
   update();
 }

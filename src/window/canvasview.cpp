@@ -1,19 +1,17 @@
 #include "window/canvasview.h"
 
-#include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <QtMath>
 #include <algorithm>
+#include <utility>
 
 #include "forms/form.h"
 #include "forms/geometry.h"
+#include "window/canvaspaint.h"
 #include "window/frames.h"
-#include "window/labelview.h"
-#include "window/look.h"
-#include "window/magnified.h"
 
 namespace terramark::window {
 
@@ -22,7 +20,6 @@ namespace {
 constexpr int WheelStep = 48;  // pixels a notch
 constexpr int NotchAngle = 120;
 constexpr double AirOpacity = 0.75;
-constexpr int RingWidth = 3;
 constexpr int ZoomLabelGap = 4;
 
 void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value, bool shown) {
@@ -40,15 +37,6 @@ void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value
 QRect Widened(const QRect& area) {
   const int by = RingWidth + 1;
   return area.adjusted(-by, -by, by, by);
-}
-
-/// Shows on every colour.
-void DrawRing(QPainter& painter, const QRect& area) {
-  int out = RingWidth;
-  for (const QColor& colour : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::black)}) {
-    DrawFrame(painter, area.adjusted(-out, -out, out, out), colour);
-    --out;
-  }
 }
 
 }  // namespace
@@ -98,14 +86,22 @@ void CanvasView::LayZoomLabel() {
 }
 
 void CanvasView::ShowOwn(forms::PropertyId id) {
-  // Without the keyboard there is no ring to be seen.
-  if (id == forms::PropertyId::Ringed && !hasFocus()) return;
+  if (id == forms::PropertyId::Ringed) return MoveRing();
   LayBars();
   LayZoomLabel();
   flightSeen_ = Flight();
   // Another thing may lie under a pointer that stands still.
   ShowHand();
   update();
+}
+
+void CanvasView::MoveRing() {
+  const forms::Control* const now = box_.Ringed;
+  for (const forms::Control* label : {std::exchange(ringed_, now), now}) {
+    const auto seen = seen_.find(label);
+    // Without the keyboard there is no ring to be seen.
+    if (hasFocus() && seen != seen_.end()) update(Around(seen->second));
+  }
 }
 
 void CanvasView::LabelChanged(const forms::Control& label) {
@@ -131,6 +127,15 @@ QRect CanvasView::InBox(const QRect& onPicture) const {
 
 QRect CanvasView::Around(const QRect& onPicture) const {
   return Widened(InBox(onPicture));
+}
+
+QRect CanvasView::WhereIs(const forms::Control& label) const {
+  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
+  QRect area = BoundsOf(label);
+  if (!pointer.Holds()) return area;
+  const auto flight = *pointer.InFlight();
+  if (&flight.Source == &label) area.moveTo(flight.Corner.X, flight.Corner.Y);
+  return area;
 }
 
 QRect CanvasView::Flight() const {
@@ -164,7 +169,7 @@ void CanvasView::ShowHand() {
   const forms::PixelPoint at = pointer.At();
   Qt::CursorShape shape = Qt::ArrowCursor;
   if (pointer.Hovered(at.X, at.Y).Container() == &box_) shape = Qt::OpenHandCursor;
-  if (pointer.InFlight() && !pointer.Holds()) shape = Qt::ClosedHandCursor;
+  if (pointer.DragsByMouse()) shape = Qt::ClosedHandCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
 
@@ -175,54 +180,27 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
   painter.setClipRect(view, Qt::IntersectClip);
-  PaintImage(painter, event->rect() & view);
+  PaintImage(painter, box_, event->rect() & view);
   for (const forms::Control* child : box_.Children()) {
     if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
     const QRect area = InBox(BoundsOf(*child));
     if (!event->rect().intersects(area)) continue;
     painter.setClipRect(area & view);
-    PaintLabel(painter, area, *child);
+    PaintLabel(painter, box_, area, static_cast<const forms::Label&>(*child));
   }
   painter.setClipRect(view);
   PaintFlight(painter);
   if (hasFocus()) PaintKeys(painter);
 }
 
-void CanvasView::PaintImage(QPainter& painter, const QRect& part) const {
-  const forms::Raster& raster = box_.Image();
-  const forms::Magnification zoom = box_.Zoom;
-  const QRect sheet(-box_.ScrollLeft, -box_.ScrollTop, ToScreen(zoom, raster.Width),
-                    ToScreen(zoom, raster.Height));
-  const QRect seen = part & sheet;
-  if (seen != part) painter.fillRect(part, ScreenColour(box_.BackColor));
-  if (zoom != forms::ActualSize) {
-    painter.drawImage(seen.topLeft(), Magnified(box_, seen));
-    return;
-  }
-  // Shares the raster's memory; nothing is copied but what goes on the screen.
-  const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
-                     raster.Height, QImage::Format_RGB32);
-  painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));
-}
-
-/// As large as it is shown; the letters are drawn in that size.
-void CanvasView::PaintLabel(QPainter& painter, const QRect& area,
-                            const forms::Control& label) const {
-  if (label.Kind() != forms::ControlKind::Label) return;
-  const forms::Magnification zoom = box_.Zoom;
-  const double scale = static_cast<double>(zoom.Screen) / zoom.Picture;
-  painter.translate(area.topLeft());
-  painter.scale(scale, scale);
-  DrawLabel(painter, QRect(QPoint(), BoundsOf(label).size()),
-            static_cast<const forms::Label&>(label));
-  painter.resetTransform();
-}
-
 void CanvasView::PaintFlight(QPainter& painter) const {
   const QRect area = Flight();
   if (area.isEmpty()) return;
   painter.setOpacity(AirOpacity);
-  PaintLabel(painter, area, box_.Owner()->Pointer.InFlight()->Source);
+  const forms::Control& source = box_.Owner()->Pointer.InFlight()->Source;
+  if (source.Kind() == forms::ControlKind::Label) {
+    PaintLabel(painter, box_, area, static_cast<const forms::Label&>(source));
+  }
   painter.setOpacity(1);
   DrawFocusRing(painter, area);
 }
@@ -231,7 +209,7 @@ void CanvasView::PaintFlight(QPainter& painter) const {
 void CanvasView::PaintKeys(QPainter& painter) const {
   if (const forms::Control* const ringed = box_.Ringed) {
     const bool held = box_.Owner()->Pointer.Holds();
-    DrawRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
+    PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
   }
   DrawFocusRing(painter, View());
 }
@@ -242,8 +220,11 @@ void CanvasView::wheelEvent(QWheelEvent* event) {
     const QPointF at = event->position();
     return TurnZoom(turn.y(), {qFloor(at.x()), qFloor(at.y())});
   }
-  QPoint step = turn * WheelStep / NotchAngle;
-  if (event->modifiers().testFlag(Qt::ShiftModifier)) step = step.transposed();
+  zoomTurn_ = 0;
+  scrollTurn_ += event->modifiers().testFlag(Qt::ShiftModifier) ? turn.transposed() : turn;
+  const QPoint step(scrollTurn_.x() * WheelStep / NotchAngle,
+                    scrollTurn_.y() * WheelStep / NotchAngle);
+  scrollTurn_ -= QPoint(step.x() * NotchAngle / WheelStep, step.y() * NotchAngle / WheelStep);
   box_.ScrollBy(-step.x(), -step.y());
 }
 

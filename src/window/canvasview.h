@@ -20,8 +20,10 @@ class CanvasView : public QWidget, public ControlView {
   void LabelChanged(const forms::Control& label);
   /// A label is about to go; only its identity is used.
   void LabelGone(const forms::Control& label);
-  /// Where a label stands in the widget, in pixels of it; it may have scrolled out of view.
-  QRect PlaceOf(const forms::Control& label) const { return InBox(BoundsOf(label)); }
+  /// Where a label is in pixels of the picture, also while the keyboard carries it.
+  QRect WhereIs(const forms::Control& label) const;
+  /// The same in pixels of the widget; it may have scrolled out of view.
+  QRect PlaceOf(const forms::Control& label) const { return InBox(WhereIs(label)); }
   /// The pointer moved, or the marker in the air moved, appeared or went.
   void PointerMoved();
 
@@ -35,6 +37,7 @@ class CanvasView : public QWidget, public ControlView {
  private:
   void LayBars();
   void LayZoomLabel();
+  void MoveRing();
   void ShowHand();
   void TurnZoom(int angle, QPoint about);
 
@@ -45,8 +48,6 @@ class CanvasView : public QWidget, public ControlView {
   /// Where the marker in the air is shown; empty when there is none.
   QRect Flight() const;
 
-  void PaintImage(QPainter& painter, const QRect& part) const;
-  void PaintLabel(QPainter& painter, const QRect& area, const forms::Control& label) const;
   void PaintFlight(QPainter& painter) const;
   void PaintKeys(QPainter& painter) const;
 
@@ -54,8 +55,12 @@ class CanvasView : public QWidget, public ControlView {
   QScrollBar across_;
   QScrollBar down_;
   QLabel zoom_;
-  /// What the wheel has turned towards the next magnification, in eighths of a degree.
+  /// What the wheel has turned towards the next magnification and the next pixel, in eighths of a
+  /// degree.
   int zoomTurn_ = 0;
+  QPoint scrollTurn_;
+  /// The label that was ringed last; only its identity is used.
+  const forms::Control* ringed_ = nullptr;
   /// Where each visible label was last seen, in pixels of the picture.
   std::unordered_map<const forms::Control*, QRect> seen_;
   QRect flightSeen_;

@@ -42,7 +42,7 @@ ControlView::ControlView(forms::Control& control, QWidget& widget)
   const QString hint = FromCp1252(control.ToolTipText);
   widget.setObjectName(NameOf(control));
   widget.setToolTip(hint);
-  widget.setAccessibleName(FromCp1252(control.SpokenName));
+  widget.setAccessibleName(FromCp1252(control.AccessibleName));
   widget.setAccessibleDescription(hint);
   widget.setFont(FontOf(control));
   widget.setGeometry(BoundsOf(control));

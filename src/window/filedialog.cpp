@@ -16,8 +16,8 @@
 #include <utility>
 
 #include "shell/filenames.h"
+#include "window/accessiblenames.h"
 #include "window/cp1252.h"
-#include "window/hearing.h"
 
 namespace terramark::window {
 

@@ -51,12 +51,12 @@ void FormView::ControlAdded(forms::Control& control) {
   // The tab order may name a control before the frame around it.
   if (!inForm) ControlAdded(container);
   if (OnCanvas(control)) {
-    hearing_.Changed(control);
+    accessibility_.Changed(control);
     return ShowOnCanvas(control);
   }
   views_.push_back(MakeView(control, inForm ? *this : ViewOf(container)->Widget()));
   Attend(*views_.back());
-  hearing_.Added(*views_.back());
+  accessibility_.Added(*views_.back());
 }
 
 /// Listens to the mouse over a view and over what the view is made of, and to its keys.
@@ -83,7 +83,7 @@ void FormView::LayTabOrder() {
 void FormView::JoinLabels() {
   for (const forms::Control* control : form_.Controls()) {
     if (control->Kind() != forms::ControlKind::Label || OnCanvas(*control)) continue;
-    const forms::Control* named = static_cast<const forms::Label*>(control)->Over;
+    const forms::Control* named = static_cast<const forms::Label*>(control)->LabelFor;
     if (named != nullptr) static_cast<QLabel*>(WidgetOf(*control))->setBuddy(WidgetOf(*named));
   }
 }
@@ -135,7 +135,7 @@ QWidget* FormView::WidgetOf(const forms::Control& control) const {
 }
 
 void FormView::ControlRemoved(forms::Control& control) {
-  hearing_.Gone(control);
+  accessibility_.Gone(control);
   for (const auto& view : views_) {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->LabelGone(control);
   }
@@ -143,7 +143,7 @@ void FormView::ControlRemoved(forms::Control& control) {
 }
 
 void FormView::PropertyChanged(forms::Control& control, forms::PropertyId id) {
-  hearing_.Changed(control);
+  accessibility_.Changed(control);
   if (&control == &form_) return FormChanged(id);
   if (OnCanvas(control)) return ShowOnCanvas(control);
   if (ControlView* view = ViewOf(control)) view->Changed(id);
@@ -166,7 +166,7 @@ void FormView::FocusMoved(forms::Control& control) {
 }
 
 void FormView::Refreshed(forms::Control& control) {
-  hearing_.Changed(control);
+  accessibility_.Changed(control);
   if (OnCanvas(control)) return ShowOnCanvas(control);
   if (QWidget* widget = WidgetOf(control)) widget->update();
 }
@@ -175,7 +175,10 @@ void FormView::PointerMoved() {
   for (const auto& view : views_) {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->PointerMoved();
   }
-  const bool dragging = form_.Pointer.InFlight().has_value() && !form_.Pointer.Holds();
+  // What the keyboard carries has to be heard; whoever drags with the mouse sees.
+  if (form_.Pointer.Holds() || carries_) accessibility_.Changed(form_);
+  carries_ = form_.Pointer.Holds();
+  const bool dragging = form_.Pointer.DragsByMouse();
   if (dragging == dragScroll_.isActive()) return;
   if (dragging) {
     dragScroll_.start();

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "window/hearing.h"
+#include "window/accessibilityfeed.h"
 #include "window/keyfeed.h"
 #include "window/pointerfeed.h"
 
@@ -56,8 +56,10 @@ class FormView final : public QWidget, private forms::FormObserver {
   forms::Form& form_;
   PointerFeed pointer_;
   KeyFeed keys_;
-  Hearing hearing_;
+  AccessibilityFeed accessibility_;
   QTimer dragScroll_;
+  /// Whether the keyboard held a control when the pointer was heard of last.
+  bool carries_ = false;
   /// A container stands before what is in it.
   std::vector<std::unique_ptr<ControlView>> views_;
 };

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 
 #include "shell/form1controls.h"
-#include "window/hearing.h"
+#include "window/accessiblenames.h"
 #include "window/helptopics.h"
 
 namespace terramark::window {

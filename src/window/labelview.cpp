@@ -2,9 +2,9 @@
 
 #include <QPainter>
 
+#include "window/accessiblenames.h"
 #include "window/frames.h"
 #include "window/look.h"
-#include "window/messageaccess.h"
 #include "window/showntext.h"
 
 namespace terramark::window {
@@ -42,8 +42,9 @@ void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
   if (id == forms::PropertyId::Caption) {
     setText(ShownText(label_.Caption, Qt::ElideMiddle));
-    const bool tells = label_.Voice == forms::Voice::Plain && !label_.SpokenName.empty();
-    if (tells) setAccessibleName(SpokenText(label_));
+    const bool tells =
+        label_.Announcement == forms::Announcement::AsName && !label_.AccessibleName.empty();
+    if (tells) setAccessibleName(AccessibleText(label_));
   }
   update();
 }

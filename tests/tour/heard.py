@@ -25,8 +25,9 @@ from screen import Failure, Rect, Screen  # noqa: E402
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 # Roles of what holds or parts others, in a dialog.
 LAYOUT = {"filler", "unknown", "split pane", "layered pane", "panel", "frame"}
-NAMED, FOCUS, SELECT, SHOW = ("property-change:accessible-name", "state-changed:focused",
-                              "state-changed:selected", "state-changed:showing")
+NAMED, MOVED, FOCUS, SELECT, SHOW = (
+    "property-change:accessible-name", "property-change:accessible-description",
+    "state-changed:focused", "state-changed:selected", "state-changed:showing")
 
 
 def extents(node):
@@ -143,7 +144,7 @@ class Reader(Editor):
         names = [item.get_name() for item in items]
         check("50 markers in order", len(names) == 50 and names[1::48] == [
             " 2: Scotland in Region The Isles", " 8:  North Africa"])
-        self.areas = {1: (43, 91)}
+        self.areas = {1: (43, 91), 2: (86, 67)}
         check("Ireland in its place", extents(items[0]) == self.marker(self.areas, 1))
 
     def walk(self):
@@ -158,6 +159,16 @@ class Reader(Editor):
         self.hears(lambda: self.key("space"), (SELECT, 1, *ireland), (SELECT, 1, *england),
                    (SHOW, 1, "status bar", message))
         check("selected", [has(item, "SELECTED") for item in items[2:5]] == [True, False, True])
+        self.key("F6")
+        for keys, x, way in ((["Return", "shift+Right"], 10, "held at"), (["Escape"], 0, "at"),
+                             (["Return", "Left", "Return"], -1, "at")):
+            self.hears(lambda: self.key(*keys), (MOVED, 0, *scotland))
+            left, top = self.areas[2]
+            self.wait(f"Scotland {way} {left + x}", lambda: items[1].get_description() ==
+                      f"{way} {left + x}, {top}")
+            check("it stands there", extents(items[1])[:2] == (
+                self.map.left + left + x, self.map.top + top))
+        self.key("F6", "ctrl+a")
         self.hears(lambda: self.key("x"), (NAMED, 0, "list item", " 2: x in Region The Isles"))
         self.hears(lambda: self.key("Up"),
                    (SELECT, 0, "list item", " 5: Norway in Region Scandinavia"))

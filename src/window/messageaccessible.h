@@ -1,5 +1,5 @@
-// Labels that are heard otherwise than by the change of their names: one that announces what it
-// says, and one that says it when asked.
+// Labels that tell a screen reader otherwise than by the change of their names: one that announces
+// what it says, and one that says it when asked.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -9,15 +9,12 @@
 
 namespace terramark::window {
 
-/// What a label is called where it is heard: its own name, and then the caption.
-QString SpokenText(const forms::Label& label);
-
 /// A label with two children, an alert and a status bar, of which one shows while there is a text:
 /// coming to show is what readers announce.
-class MessageAccess final : public QAccessibleWidget {
+class MessageAccessible final : public QAccessibleWidget {
  public:
-  explicit MessageAccess(LabelView& view);
-  ~MessageAccess() override;
+  explicit MessageAccessible(LabelView& view);
+  ~MessageAccessible() override;
 
   /// Announces what the label says now, also where it has said so before.
   void Announce();
@@ -40,9 +37,9 @@ class MessageAccess final : public QAccessibleWidget {
 };
 
 /// A label that tells nobody of a new caption.
-class SilentAccess final : public QAccessibleWidget {
+class SilentAccessible final : public QAccessibleWidget {
  public:
-  explicit SilentAccess(LabelView& view);
+  explicit SilentAccessible(LabelView& view);
   QString text(QAccessible::Text kind) const override;
 
  private:

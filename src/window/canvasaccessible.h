@@ -1,5 +1,5 @@
-// A picture box as it is heard: a list of the markers on it, each with its name, its place on the
-// screen and its state. What becomes of them is told when an event has run to its end.
+// A picture box to assistive tools: a list of the markers on it, each with its name, place and state.
+// What becomes of them is told when an event has run to its end.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -12,12 +12,12 @@ namespace terramark::window {
 
 class CanvasView;
 
-/// Where a list and its items are what readers know to walk, one is "3 of 50", and a selected item
-/// is told so. A box without labels is a graphic.
-class CanvasAccess final : public QAccessibleWidget {
+/// A list, since readers know how to walk one, say that an item is "3 of 50" and whether it is
+/// selected. A box without labels is a graphic.
+class CanvasAccessible final : public QAccessibleWidget {
  public:
-  explicit CanvasAccess(CanvasView& canvas);
-  ~CanvasAccess() override;
+  explicit CanvasAccessible(CanvasView& canvas);
+  ~CanvasAccessible() override;
 
   /// Tells of the labels that came, went, moved or changed name or state since the last call, and
   /// of the one that the keyboard is at.
@@ -28,6 +28,10 @@ class CanvasAccess final : public QAccessibleWidget {
   void Refocused() { focused_ = nullptr; }
 
   QString NameOf(const forms::Label& label) const;
+  /// Its corner in pixels of the picture, also while the keyboard carries it. Of a move readers
+  /// hear by this alone: Qt 6.4 does not pass on that a place has changed.
+  QString WhereaboutsOf(const forms::Label& label) const;
+  /// On the screen.
   QRect PlaceOf(const forms::Label& label) const;
   QAccessible::State StateOf(const forms::Label& label) const;
 
@@ -41,6 +45,7 @@ class CanvasAccess final : public QAccessibleWidget {
  private:
   struct Told {
     QString Name;
+    QString Whereabouts;
     QRect Place;
     bool Selected = false;
   };

@@ -1,5 +1,5 @@
-// What a screen reader is told of a form, beside what widgets tell by themselves: the markers on a
-// picture and the announcements. Costs nothing while none is there.
+// What assistive tools are told of a form, beside what widgets tell by themselves: the markers on a
+// picture and the announcements. Costs nothing while there is no such tool.
 #pragma once
 
 #include <QObject>
@@ -15,11 +15,11 @@ class CanvasView;
 class ControlView;
 class LabelView;
 
-class Hearing final : public QObject {
+class AccessibilityFeed final : public QObject {
  public:
-  Hearing();
+  AccessibilityFeed();
 
-  /// A view is complete, the control before its children.
+  /// A view has been made; of a container, before those in it.
   void Added(ControlView& view);
   /// Something of a control is to be told when the event in hand has run to its end: names that no
   /// property holds may have changed with it.
@@ -42,8 +42,5 @@ class Hearing final : public QObject {
   std::vector<Message> messages_;
   QTimer later_;
 };
-
-/// Gives the scroll bars of a widget names, after what they scroll.
-void NameScrollBars(const QWidget& widget, const QString& what);
 
 }  // namespace terramark::window

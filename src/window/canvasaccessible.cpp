@@ -1,11 +1,13 @@
-#include "window/canvasaccess.h"
+#include "window/canvasaccessible.h"
 
 #include <algorithm>
 #include <memory>
 #include <tuple>
 #include <utility>
 
+#include "forms/form.h"
 #include "shell/markers.h"
+#include "window/accessibleitem.h"
 #include "window/canvasview.h"
 #include "window/showntext.h"
 
@@ -26,48 +28,36 @@ QAccessible::Role RoleOf(const CanvasView& canvas) {
   return labelled ? QAccessible::List : QAccessible::Graphic;
 }
 
-void Send(QAccessibleInterface& about, QAccessible::Event type) {
-  QAccessibleEvent event(&about, type);
-  QAccessible::updateAccessibility(&event);
-}
-
-/// Goes before its label and its canvas do.
-class MarkerAccess final : public QAccessibleInterface {
+/// Destroyed before its label and its canvas.
+class MarkerAccessible final : public AccessibleItem {
  public:
-  MarkerAccess(CanvasAccess& canvas, const forms::Label& label) : canvas_(canvas), label_(label) {}
+  MarkerAccessible(CanvasAccessible& canvas, const forms::Label& label)
+      : AccessibleItem(canvas), canvas_(canvas), label_(label) {}
 
-  bool isValid() const override { return true; }
-  QObject* object() const override { return nullptr; }
-  QWindow* window() const override { return canvas_.window(); }
-  QAccessibleInterface* parent() const override { return &canvas_; }
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
-  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Description) return canvas_.WhereaboutsOf(label_);
     return kind == QAccessible::Name ? canvas_.NameOf(label_) : QString();
   }
-  void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override { return canvas_.PlaceOf(label_); }
   QAccessible::Role role() const override { return QAccessible::ListItem; }
   QAccessible::State state() const override { return canvas_.StateOf(label_); }
 
  private:
-  CanvasAccess& canvas_;
+  CanvasAccessible& canvas_;
   const forms::Label& label_;
 };
 
 }  // namespace
 
-CanvasAccess::CanvasAccess(CanvasView& canvas)
+CanvasAccessible::CanvasAccessible(CanvasView& canvas)
     : QAccessibleWidget(&canvas, RoleOf(canvas)), canvas_(canvas) {
 }
 
-CanvasAccess::~CanvasAccess() {
+CanvasAccessible::~CanvasAccessible() {
   for (const auto& [label, id] : ids_) QAccessible::deleteAccessibleInterface(id);
 }
 
-void CanvasAccess::Tell() {
+void CanvasAccessible::Tell() {
   const std::vector<const forms::Label*> markers = Markers();
   std::vector<const forms::Control*> gone;
   for (const auto& [label, told] : told_) {
@@ -85,24 +75,25 @@ void CanvasAccess::Tell() {
   }
 }
 
-void CanvasAccess::TellLabel(const forms::Label& label) {
+void CanvasAccessible::TellLabel(const forms::Label& label) {
   QAccessibleInterface& marker = *MarkerOf(label);
-  const Told now{NameOf(label), PlaceOf(label), LookOf(label) != Look::Plain};
+  const Told now{NameOf(label), WhereaboutsOf(label), PlaceOf(label), LookOf(label) != Look::Plain};
   const auto [entry, isNew] = told_.try_emplace(&label, now);
   if (isNew) return Send(marker, QAccessible::ObjectCreated);
   const Told before = std::exchange(entry->second, now);
   if (now.Name != before.Name) Send(marker, QAccessible::NameChanged);
   if (now.Place != before.Place) Send(marker, QAccessible::LocationChanged);
+  if (now.Whereabouts != before.Whereabouts) Send(marker, QAccessible::DescriptionChanged);
   if (now.Selected == before.Selected) return;
   Send(marker, now.Selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
 }
 
-void CanvasAccess::TellGone(const forms::Control& label) {
+void CanvasAccessible::TellGone(const forms::Control& label) {
   if (told_.erase(&label) == 0) return;
   Send(*QAccessible::accessibleInterface(ids_.at(&label)), QAccessible::ObjectDestroyed);
 }
 
-void CanvasAccess::Gone(const forms::Control& label) {
+void CanvasAccessible::Gone(const forms::Control& label) {
   TellGone(label);
   if (focused_ == &label) focused_ = nullptr;
   const auto id = ids_.find(&label);
@@ -111,16 +102,24 @@ void CanvasAccess::Gone(const forms::Control& label) {
   ids_.erase(id);
 }
 
-QString CanvasAccess::NameOf(const forms::Label& label) const {
-  return ShownText(label.Spoken ? label.Spoken(label.Index()) : label.Caption.Get());
+QString CanvasAccessible::NameOf(const forms::Label& label) const {
+  return ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
+                                          : label.Caption.Get());
 }
 
-QRect CanvasAccess::PlaceOf(const forms::Label& label) const {
+QString CanvasAccessible::WhereaboutsOf(const forms::Label& label) const {
+  const forms::PointerRouter& pointer = label.Owner()->Pointer;
+  const QPoint corner = canvas_.WhereIs(label).topLeft();
+  const bool held = pointer.Holds() && &pointer.InFlight()->Source == &label;
+  return QString(held ? "held at %1, %2" : "at %1, %2").arg(corner.x()).arg(corner.y());
+}
+
+QRect CanvasAccessible::PlaceOf(const forms::Label& label) const {
   const QRect inBox = canvas_.PlaceOf(label);
   return {canvas_.mapToGlobal(inBox.topLeft()), inBox.size()};
 }
 
-QAccessible::State CanvasAccess::StateOf(const forms::Label& label) const {
+QAccessible::State CanvasAccessible::StateOf(const forms::Label& label) const {
   const forms::PictureBox& box = BoxOf(canvas_);
   const QRect view(0, 0, box.ViewWidth(), box.ViewHeight());
   QAccessible::State state = QAccessibleWidget::state();
@@ -133,47 +132,48 @@ QAccessible::State CanvasAccess::StateOf(const forms::Label& label) const {
   return state;
 }
 
-std::vector<const forms::Label*> CanvasAccess::Markers() const {
+std::vector<const forms::Label*> CanvasAccessible::Markers() const {
   std::vector<const forms::Label*> markers;
   for (const forms::Control* child : BoxOf(canvas_).Children()) {
     if (IsLabel(child) && child->Visible)
       markers.push_back(static_cast<const forms::Label*>(child));
   }
-  // By their places in the stack they would change their numbers with every press.
+  // By their places in the stack they would change their numbers with every press. The names of the
+  // arrays stand in the order in which the keyboard walks: ArmyAt, Continent.
   std::ranges::sort(markers, {}, [](const forms::Label* label) {
     return std::tuple<const std::string&, int>(label->Name(), label->Index());
   });
   return markers;
 }
 
-QAccessibleInterface* CanvasAccess::MarkerOf(const forms::Label& label) const {
+QAccessibleInterface* CanvasAccessible::MarkerOf(const forms::Label& label) const {
   const auto [entry, isNew] = ids_.try_emplace(&label);
   if (isNew) {
-    auto& list = const_cast<CanvasAccess&>(*this);
-    entry->second = QAccessible::registerAccessibleInterface(
-        std::make_unique<MarkerAccess>(list, label).release());
+    // Qt asks a constant parent for parts that are not.
+    auto& list = const_cast<CanvasAccessible&>(*this);
+    entry->second = Register(std::make_unique<MarkerAccessible>(list, label));
   }
   return QAccessible::accessibleInterface(entry->second);
 }
 
-const forms::Label* CanvasAccess::Focused() const {
+const forms::Label* CanvasAccessible::Focused() const {
   const forms::Control* const ringed = BoxOf(canvas_).Ringed;
   const bool there = ringed != nullptr && ringed->Visible && IsLabel(ringed);
   return there && canvas_.hasFocus() ? static_cast<const forms::Label*>(ringed) : nullptr;
 }
 
-int CanvasAccess::childCount() const {
+int CanvasAccessible::childCount() const {
   return static_cast<int>(Markers().size()) + QAccessibleWidget::childCount();
 }
 
-QAccessibleInterface* CanvasAccess::child(int index) const {
+QAccessibleInterface* CanvasAccessible::child(int index) const {
   const std::vector<const forms::Label*> markers = Markers();
   const auto count = static_cast<int>(markers.size());
   if (index < 0 || index >= count) return QAccessibleWidget::child(index - count);
   return MarkerOf(*markers[static_cast<std::size_t>(index)]);
 }
 
-int CanvasAccess::indexOfChild(const QAccessibleInterface* child) const {
+int CanvasAccessible::indexOfChild(const QAccessibleInterface* child) const {
   const std::vector<const forms::Label*> markers = Markers();
   const auto at = std::ranges::find_if(
       markers, [&](const forms::Label* label) { return MarkerOf(*label) == child; });
@@ -182,7 +182,7 @@ int CanvasAccess::indexOfChild(const QAccessibleInterface* child) const {
   return other < 0 ? -1 : other + static_cast<int>(markers.size());
 }
 
-QAccessibleInterface* CanvasAccess::childAt(int x, int y) const {
+QAccessibleInterface* CanvasAccessible::childAt(int x, int y) const {
   const auto& stack = BoxOf(canvas_).Children();
   const auto hit = std::find_if(stack.rbegin(), stack.rend(), [&](const forms::Control* child) {
     return IsLabel(child) && child->Visible &&
@@ -192,12 +192,12 @@ QAccessibleInterface* CanvasAccess::childAt(int x, int y) const {
   return MarkerOf(static_cast<const forms::Label&>(**hit));
 }
 
-QAccessibleInterface* CanvasAccess::focusChild() const {
+QAccessibleInterface* CanvasAccessible::focusChild() const {
   const forms::Label* const label = Focused();
   return label != nullptr ? MarkerOf(*label) : QAccessibleWidget::focusChild();
 }
 
-QAccessible::State CanvasAccess::state() const {
+QAccessible::State CanvasAccessible::state() const {
   QAccessible::State state = QAccessibleWidget::state();
   state.multiSelectable = role() == QAccessible::List;
   return state;

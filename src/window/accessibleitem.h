@@ -1,0 +1,42 @@
+// A part of a widget that has no widget of its own, as assistive tools meet it.
+#pragma once
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <memory>
+
+namespace terramark::window {
+
+/// Without parts of its own. It stands in the place and has the name, role and state that the kinds
+/// of it tell.
+class AccessibleItem : public QAccessibleInterface {
+ public:
+  /// The widget must outlive its parts.
+  explicit AccessibleItem(QAccessibleWidget& widget) : widget_(widget) {}
+
+  bool isValid() const override { return true; }
+  QObject* object() const override { return nullptr; }
+  QWindow* window() const override { return widget_.window(); }
+  QAccessibleInterface* parent() const override { return &widget_; }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+  void setText(QAccessible::Text, const QString&) override {}
+
+ private:
+  QAccessibleWidget& widget_;
+};
+
+/// Hands an interface to Qt, which keeps it until deleteAccessibleInterface.
+template <typename Made>
+QAccessible::Id Register(std::unique_ptr<Made> made) {
+  return QAccessible::registerAccessibleInterface(made.release());
+}
+
+inline void Send(QAccessibleInterface& about, QAccessible::Event type) {
+  QAccessibleEvent event(&about, type);
+  QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace terramark::window

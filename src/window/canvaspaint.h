@@ -1,0 +1,27 @@
+// What stands on a picture box, as large as it is shown: its image, labels and rings.
+#pragma once
+
+#include <QRect>
+
+#include "forms/controls.h"
+#include "forms/picturebox.h"
+
+class QPainter;
+
+namespace terramark::window {
+
+/// Pixels by which a ring goes beyond what it is around.
+inline constexpr int RingWidth = 3;
+
+/// Paints a part of the box, in its pixels, each of which shows the nearest pixel of the box's
+/// image. Beside the image the box has its own colour.
+void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
+
+/// Paints a label into the area that it covers in the box; its letters are drawn in that size.
+void PaintLabel(QPainter& painter, const forms::PictureBox& box, const QRect& area,
+                const forms::Label& label);
+
+/// Paints a ring around an area, which shows on every colour.
+void PaintRing(QPainter& painter, const QRect& area);
+
+}  // namespace terramark::window
