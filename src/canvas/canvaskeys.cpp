@@ -53,7 +53,7 @@ void Carry(Form1& form, const forms::KeyEvent& event) {
   }
   if (event.KeyCode == forms::KeyHome) {
     CarryIntoView(form);
-  } else if (event.KeyCode == forms::KeyReturn && !event.Repeat) {
+  } else if (event.KeyCode == forms::KeyReturn && event.Shift == 0 && !event.Repeat) {
     form.Pointer.PutDown();
   }
 }

@@ -78,8 +78,12 @@ void CanvasView::LayBars() {
 
 void CanvasView::LayZoomLabel() {
   const forms::Magnification zoom = box_.Zoom;
-  zoom_.setText(QString("%1 %").arg(100 * zoom.Screen / zoom.Picture));
-  zoom_.adjustSize();
+  const QString text = QString("%1 %").arg(100 * zoom.Screen / zoom.Picture);
+  if (text != zoom_.text()) {
+    zoom_.setText(text);
+    zoom_.setAccessibleName("Zoom " + text);
+    zoom_.adjustSize();
+  }
   zoom_.move(box_.ViewWidth() - zoom_.width() - ZoomLabelGap,
              box_.ViewHeight() - zoom_.height() - ZoomLabelGap);
   zoom_.setVisible(zoom != forms::ActualSize);
