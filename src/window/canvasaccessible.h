@@ -1,5 +1,5 @@
-// A picture box to assistive tools: a list of the markers on it, each with its name, place and state.
-// What becomes of them is told when an event has run to its end.
+// A picture box to assistive tools: a list of the markers on it, each with its name, place and
+// state. What becomes of them is told when an event has run to its end.
 #pragma once
 
 #include <QAccessibleWidget>
