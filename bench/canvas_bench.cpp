@@ -21,7 +21,7 @@ constexpr int Moves = 400;
 constexpr int Steps = 100;
 
 void AddRegions(Form1& form) {
-  for (std::int16_t r = 1; r <= Most; ++r) {
+  for (std::int16_t r = 1; r <= CountLimit; ++r) {
     AddCont_MouseUp(form);
     form.Continent(r).Move(static_cast<float>(5 + 44 * (r % 12)),
                            static_cast<float>(10 + 33 * (r / 12)));

@@ -35,19 +35,16 @@ struct ShownEditor : Editor {
   window::MainWindow Window{Form};
 };
 
-/// As many as the commands make.
-inline constexpr int Most = 96;
-
 /// Shows a picture and puts the Areas in its upper left corner, where all are seen at once.
 inline void MakeMap(Form1& form, const QString& picture) {
   form.PictureFile = picture.toStdString();
   if (!ShowPicture(form, form.PictureFile)) qFatal("cannot show %s", qPrintable(picture));
-  for (int i = 0; i < Most; ++i) {
+  for (int i = 0; i < CountLimit; ++i) {
     const auto x = static_cast<float>(10 + 44 * (i % 12));
     const auto y = static_cast<float>(40 + 33 * (i / 12));
     Picture1_MouseUp(form, {0, forms::LeftButton, forms::CtrlKey, x, y});
   }
-  if (form.AreaCount != Most) qFatal("the Areas are not there");
+  if (form.AreaCount != CountLimit) qFatal("the Areas are not there");
   form.Picture1.ScrollTo(0, 0);
 }
 

@@ -111,7 +111,7 @@ bool Pressed(Form1& form, const forms::KeyEvent& event) {
     forms::Control* const target = row.OnMarker ? form.Picture1.Ringed.Get() : &form.Picture1;
     if (target == nullptr || event.Repeat) return true;
     // The map may have been scrolled away from it.
-    if (row.OnMarker) form.Picture1.Reveal(PixelBounds(*target));
+    if (row.OnMarker) BringIntoView(form, *target);
     form.Pointer.PressKey(*target, row.Shift, row.Button);
     return true;
   }
@@ -122,7 +122,7 @@ bool TookHold(Form1& form, const forms::KeyEvent& event) {
   if (event.KeyCode != forms::KeyReturn || event.Shift != 0) return false;
   forms::Control* const marker = form.Picture1.Ringed;
   if (marker == nullptr || event.Repeat) return true;
-  form.Picture1.Reveal(PixelBounds(*marker));
+  BringIntoView(form, *marker);
   form.Pointer.TakeHold(*marker);
   return true;
 }

@@ -43,7 +43,7 @@ class PointerRouter {
   void PutDown();
   /// Ends such a hold; the control stays where it was.
   void PutBack();
-  bool Holds() const { return held_; }
+  bool Holds() const { return held_ && dragged_ != nullptr; }
   bool DragsByMouse() const { return dragged_ != nullptr && !held_; }
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is

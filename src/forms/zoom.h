@@ -21,8 +21,8 @@ Magnification Larger(Magnification zoom);
 Magnification Smaller(Magnification zoom);
 
 /// Where on the screen a pixel of the picture begins, both counted from the picture's edge: the
-/// first pixel of the screen that shows it, or else what is behind it. It may lie outside the
-/// picture, up to 2^24 pixels either way.
+/// first pixel of the screen that shows it or, where none does, one behind it. It may lie outside
+/// the picture, up to 2^24 pixels either way.
 int ToScreen(Magnification zoom, int onPicture);
 /// The pixel of the picture that is seen at a pixel of the screen: of several, the one in their
 /// middle.

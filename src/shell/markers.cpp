@@ -16,7 +16,7 @@ forms::Label* RegionMarker(Form1& form, std::int16_t region) {
   return region < 1 ? nullptr : form.Continent.Find(region);
 }
 
-void BringIntoView(Form1& form, forms::Label& marker) {
+void BringIntoView(Form1& form, const forms::Control& marker) {
   form.Picture1.Reveal(PixelBounds(marker));
 }
 

@@ -22,7 +22,7 @@ forms::Label* AreaMarker(Form1& form, std::int16_t area);
 forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
 /// Scrolls a marker into view, with some ground around it.
-void BringIntoView(Form1& form, forms::Label& marker);
+void BringIntoView(Form1& form, const forms::Control& marker);
 
 /// What is selected lives in the looks of the markers and nowhere else.
 enum class Look {

@@ -37,20 +37,20 @@ QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
     case forms::Announcement::AtOnce:
       return std::make_unique<MessageAccessible>(*label).release();
     case forms::Announcement::OnRequest:
-      return std::make_unique<SilentAccessible>(*label).release();
+      return std::make_unique<OnRequestAccessible>(*label).release();
     case forms::Announcement::AsName:
       break;
   }
   return nullptr;
 }
 
-template <typename Access>
-Access& AccessOf(QWidget& widget) {
-  return dynamic_cast<Access&>(*QAccessible::queryAccessibleInterface(&widget));
+template <typename Accessible>
+Accessible& AccessibleOf(QWidget& widget) {
+  return dynamic_cast<Accessible&>(*QAccessible::queryAccessibleInterface(&widget));
 }
 
 /// An event while the widget was being built has found it a plain one.
-void ForgetEarlyAccess(QWidget& widget) {
+void ForgetEarlyAccessible(QWidget& widget) {
   QAccessible::deleteAccessibleInterface(
       QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&widget)));
 }
@@ -64,7 +64,7 @@ AccessibilityFeed::AccessibilityFeed() {
 }
 
 void AccessibilityFeed::Added(ControlView& view) {
-  ForgetEarlyAccess(view.Widget());
+  ForgetEarlyAccessible(view.Widget());
   NameScrollBars(view.Widget(), FromCp1252(view.Shown().AccessibleName));
   if (auto* canvas = dynamic_cast<CanvasView*>(&view)) {
     canvases_.push_back(canvas);
@@ -86,21 +86,21 @@ void AccessibilityFeed::Gone(const forms::Control& control) {
   const auto shows = [&](const ControlView& view) { return &view.Shown() == &control; };
   std::erase_if(canvases_, [&](const CanvasView* canvas) { return shows(*canvas); });
   std::erase_if(messages_, [&](const Message& message) { return shows(*message.View); });
-  for (CanvasView* canvas : canvases_) AccessOf<CanvasAccessible>(*canvas).Gone(control);
+  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).Gone(control);
 }
 
 bool AccessibilityFeed::eventFilter(QObject* watched, QEvent* event) {
   const bool in = event->type() == QEvent::FocusIn;
   if (!QAccessible::isActive() || (!in && event->type() != QEvent::FocusOut)) return false;
-  if (in) AccessOf<CanvasAccessible>(*static_cast<QWidget*>(watched)).Refocused();
+  if (in) AccessibleOf<CanvasAccessible>(*static_cast<QWidget*>(watched)).Refocused();
   later_.start();
   return false;
 }
 
 void AccessibilityFeed::Tell() {
-  for (CanvasView* canvas : canvases_) AccessOf<CanvasAccessible>(*canvas).Tell();
+  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).Tell();
   for (Message& message : messages_) {
-    if (message.Fresh) AccessOf<MessageAccessible>(*message.View).Announce();
+    if (message.Fresh) AccessibleOf<MessageAccessible>(*message.View).Announce();
     message.Fresh = false;
   }
 }

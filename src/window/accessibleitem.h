@@ -7,8 +7,7 @@
 
 namespace terramark::window {
 
-/// Without parts of its own. It stands in the place and has the name, role and state that the kinds
-/// of it tell.
+/// Without parts of its own. What derives from it tells its place, name, role and state.
 class AccessibleItem : public QAccessibleInterface {
  public:
   /// The widget must outlive its parts.

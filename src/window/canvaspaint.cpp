@@ -17,7 +17,7 @@ namespace terramark::window {
 
 namespace {
 
-/// The part must lie on the image.
+/// A part of the box as it is seen; it must lie on the image.
 QImage Magnified(const forms::PictureBox& box, const QRect& part) {
   const forms::Raster& image = box.Image();
   std::vector<int> columns;

@@ -47,7 +47,8 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
       box_(box),
       across_(Qt::Horizontal, this),
       down_(Qt::Vertical, this),
-      zoom_(this) {
+      zoom_(this),
+      ringed_(box.Ringed) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   if (box.TabStop) setFocusPolicy(Qt::TabFocus);
   const auto scroll = [this] { box_.ScrollTo(across_.value(), down_.value()); };
@@ -94,8 +95,6 @@ void CanvasView::ShowOwn(forms::PropertyId id) {
   LayBars();
   LayZoomLabel();
   flightSeen_ = Flight();
-  // Another thing may lie under a pointer that stands still.
-  ShowHand();
   update();
 }
 
@@ -178,6 +177,8 @@ void CanvasView::ShowHand() {
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
+  // Another thing may lie by now under a pointer that stands still.
+  ShowHand();
   QPainter painter(this);
   const QRect view = View();
   if (!view.contains(event->rect())) {
@@ -211,7 +212,7 @@ void CanvasView::PaintFlight(QPainter& painter) const {
 
 /// That the box has the keyboard, and what its keys act on.
 void CanvasView::PaintKeys(QPainter& painter) const {
-  if (const forms::Control* const ringed = box_.Ringed) {
+  if (const forms::Control* const ringed = box_.Ringed; ringed != nullptr && ringed->Visible) {
     const bool held = box_.Owner()->Pointer.Holds();
     PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
   }
@@ -225,10 +226,11 @@ void CanvasView::wheelEvent(QWheelEvent* event) {
     return TurnZoom(turn.y(), {qFloor(at.x()), qFloor(at.y())});
   }
   zoomTurn_ = 0;
-  scrollTurn_ += event->modifiers().testFlag(Qt::ShiftModifier) ? turn.transposed() : turn;
-  const QPoint step(scrollTurn_.x() * WheelStep / NotchAngle,
-                    scrollTurn_.y() * WheelStep / NotchAngle);
-  scrollTurn_ -= QPoint(step.x() * NotchAngle / WheelStep, step.y() * NotchAngle / WheelStep);
+  const bool across = event->modifiers().testFlag(Qt::ShiftModifier);
+  scrollRest_ += WheelStep * (across ? turn.transposed() : turn);
+  // Not divided as points, which rounds.
+  const QPoint step(scrollRest_.x() / NotchAngle, scrollRest_.y() / NotchAngle);
+  scrollRest_ -= NotchAngle * step;
   box_.ScrollBy(-step.x(), -step.y());
 }
 

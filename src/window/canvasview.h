@@ -55,12 +55,12 @@ class CanvasView : public QWidget, public ControlView {
   QScrollBar across_;
   QScrollBar down_;
   QLabel zoom_;
-  /// What the wheel has turned towards the next magnification and the next pixel, in eighths of a
-  /// degree.
+  /// What the wheel has turned towards the next magnification, in eighths of a degree.
   int zoomTurn_ = 0;
-  QPoint scrollTurn_;
+  /// What it has turned towards the next pixel, in parts of one: NotchAngle make a pixel.
+  QPoint scrollRest_;
   /// The label that was ringed last; only its identity is used.
-  const forms::Control* ringed_ = nullptr;
+  const forms::Control* ringed_;
   /// Where each visible label was last seen, in pixels of the picture.
   std::unordered_map<const forms::Control*, QRect> seen_;
   QRect flightSeen_;

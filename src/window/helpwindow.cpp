@@ -29,7 +29,7 @@ QString PageOf(std::int32_t number) {
     return QString("<h2>Topic %1</h2><p>There is no such help topic.</p>").arg(number);
   }
   return QString(
-             "<h2>Topic %1: %2</h2><p>Opened with F1, or a press with the Shift key, "
+             "<h2>Topic %1: %2</h2><p>Opened with the Shift key, or F1 where it has the keyboard, "
              "from</p><ul>%3</ul>")
       .arg(number)
       .arg(QString(topic->Subject).toHtmlEscaped(), OpenersOf(number));

@@ -100,11 +100,11 @@ QAccessibleInterface* MessageAccessible::ChildOf(QAccessible::Role role) const {
   return nullptr;
 }
 
-SilentAccessible::SilentAccessible(LabelView& view)
+OnRequestAccessible::OnRequestAccessible(LabelView& view)
     : QAccessibleWidget(&view, QAccessible::StaticText), view_(view) {
 }
 
-QString SilentAccessible::text(QAccessible::Text kind) const {
+QString OnRequestAccessible::text(QAccessible::Text kind) const {
   return kind == QAccessible::Name ? AccessibleText(LabelOf(view_)) : QAccessibleWidget::text(kind);
 }
 

@@ -37,9 +37,9 @@ class MessageAccessible final : public QAccessibleWidget {
 };
 
 /// A label that tells nobody of a new caption.
-class SilentAccessible final : public QAccessibleWidget {
+class OnRequestAccessible final : public QAccessibleWidget {
  public:
-  explicit SilentAccessible(LabelView& view);
+  explicit OnRequestAccessible(LabelView& view);
   QString text(QAccessible::Text kind) const override;
 
  private:
