@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QPainter>
 #include <QWheelEvent>
-#include <QWindow>
 #include <cstdio>
 
 #include "commands/addmarkers.h"
@@ -111,17 +110,15 @@ void Run(int argc, char** argv) {
   AddRegions(editor.Form);
   const forms::PixelRect box = PixelBounds(editor.Form.Picture1);
   Plain plain({box.Width, box.Height});
-  plain.show();
-  while (!plain.windowHandle()->isExposed()) QCoreApplication::processEvents();
+  ShowNow(plain);
   CanvasBench bench(editor.Form, editor.Window);
-  for (forms::Magnification zoom = forms::SmallestZoom;; zoom = Larger(zoom)) {
+  for (const forms::Magnification zoom : forms::ZoomSteps) {
     editor.Form.Picture1.ZoomTo(zoom, {});
     const double move = bench.Move();
     const double wheel = bench.Wheel();
     const double image = plain.Paint();
     std::printf("zoom %d : %-33d a move %.2f ms, %.2f   a step of the wheel %.2f ms, %.2f\n",
                 zoom.Screen, zoom.Picture, 1000 * move, move / image, 1000 * wheel, wheel / image);
-    if (zoom == forms::LargestZoom) return;
   }
 }
 

@@ -25,12 +25,15 @@ struct Editor {
   Form1 Form{Desktop};
 };
 
+/// Shows a window and waits until it is on the screen.
+inline void ShowNow(QWidget& window) {
+  window.show();
+  while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents();
+}
+
 /// The editor in its window, once that is on the screen.
 struct ShownEditor : Editor {
-  ShownEditor() {
-    Window.show();
-    while (!Window.windowHandle()->isExposed()) QCoreApplication::processEvents();
-  }
+  ShownEditor() { ShowNow(Window); }
 
   window::MainWindow Window{Form};
 };

@@ -29,6 +29,8 @@ class Label : public Control {
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
   forms::Alignment Alignment = forms::Alignment::Left;
   forms::Announcement Announcement = forms::Announcement::AsName;
+  /// Whether what is announced is a fault.
+  bool Alert = false;
   /// The control that the caption stands over and names, on the same form; null for none. Like
   /// Announcement it is of one label alone: a template does not hand it on.
   Control* LabelFor = nullptr;

@@ -88,12 +88,7 @@ void PointerRouter::Press(int x, int y, std::int16_t button, std::int16_t shift)
   buttonsDown_ = static_cast<std::int16_t>(buttonsDown_ | button);
   lastButton_ = button;
   if (captured_ == nullptr || dragged_ != nullptr) return;
-  PressOn(*captured_, Inside(*captured_, at_), button, shift);
-}
-
-void PointerRouter::PressOn(Control& target, PixelPoint inside, std::int16_t button,
-                            std::int16_t shift) {
-  target.MouseDown.Raise(EventFor(target, inside, button, shift));
+  captured_->MouseDown.Raise(EventFor(*captured_, Inside(*captured_, at_), button, shift));
 }
 
 void PointerRouter::Move(int x, int y, std::int16_t shift) {
@@ -139,7 +134,7 @@ void PointerRouter::PressKey(Control& control, std::int16_t shift, std::int16_t 
   const PixelPoint inside = MiddleInside(control);
   // Down for as long as the press lasts, so that it may begin a drag.
   buttonsDown_ = button;
-  PressOn(control, inside, button, shift);
+  control.MouseDown.Raise(EventFor(control, inside, button, shift));
   buttonsDown_ = 0;
   if (dragged_ != nullptr) {
     DropOn(control, InScale(control, inside));
@@ -158,7 +153,7 @@ void PointerRouter::TakeHold(Control& control) {
   buttonsDown_ = LeftButton;
   held_ = true;
   carried_ = {};
-  PressOn(control, {}, LeftButton, 0);
+  control.MouseDown.Raise(EventFor(control, {}, LeftButton, 0));
   buttonsDown_ = 0;
   held_ = dragged_ != nullptr;
 }

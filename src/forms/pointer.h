@@ -43,6 +43,7 @@ class PointerRouter {
   void PutDown();
   /// Ends such a hold; the control stays where it was.
   void PutBack();
+  /// Whether a control is in the air in that way, or by the mouse.
   bool Holds() const { return held_ && dragged_ != nullptr; }
   bool DragsByMouse() const { return dragged_ != nullptr && !held_; }
 
@@ -80,7 +81,6 @@ class PointerRouter {
   void Forget(const Control& control);
 
  private:
-  void PressOn(Control& target, PixelPoint inside, std::int16_t button, std::int16_t shift);
   void ReleaseOn(Control& target, PixelPoint inside, std::int16_t button, std::int16_t shift);
   void TellMoved() const;
   void DropOn(Control& target, ScalePoint inside);

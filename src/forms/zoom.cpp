@@ -7,12 +7,9 @@ namespace terramark::forms {
 
 namespace {
 
-constexpr Magnification Steps[] = {SmallestZoom, {1, 2}, ActualSize, {2, 1},
-                                   {3, 1},       {4, 1}, {6, 1},     LargestZoom};
-
 Magnification StepFrom(Magnification zoom, int steps) {
-  const auto at = std::ranges::find(Steps, zoom) - std::begin(Steps) + steps;
-  return Steps[std::clamp<std::ptrdiff_t>(at, 0, std::ssize(Steps) - 1)];
+  const auto at = std::ranges::find(ZoomSteps, zoom) - std::begin(ZoomSteps) + steps;
+  return ZoomSteps[std::clamp<std::ptrdiff_t>(at, 0, std::ssize(ZoomSteps) - 1)];
 }
 
 int FloorDiv(int dividend, int divisor) {

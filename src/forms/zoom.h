@@ -11,12 +11,12 @@ struct Magnification {
   bool operator==(const Magnification&) const = default;
 };
 
-inline constexpr Magnification SmallestZoom{1, 4};
+/// Those that a picture box knows, from the smallest on.
+inline constexpr Magnification ZoomSteps[] = {{1, 4}, {1, 2}, {1, 1}, {2, 1},
+                                              {3, 1}, {4, 1}, {6, 1}, {8, 1}};
 inline constexpr Magnification ActualSize{1, 1};
-inline constexpr Magnification LargestZoom{8, 1};
 
-/// The next larger or smaller of the magnifications that a picture box knows: 1/4, 1/2, 1, 2, 3, 4,
-/// 6 and 8. At the ends, the same. No other may be given.
+/// The next larger or smaller step; at the ends, the same. No other magnification may be given.
 Magnification Larger(Magnification zoom);
 Magnification Smaller(Magnification zoom);
 

@@ -17,7 +17,8 @@ void UpdateCount(forms::Label& label, std::int16_t count) {
 void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.BackColor = colour;
   form.Message.ForeColor = ClrBlack;
-  if (colour == ClrRed) form.Message.ForeColor = ClrWhite;
+  form.Message.Alert = colour == ClrRed;
+  if (form.Message.Alert) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
   // Where the same is said once more no property changes, and yet it is to be heard.
   form.Message.Refresh();

@@ -14,10 +14,6 @@ namespace terramark::window {
 
 namespace {
 
-forms::Announcement AnnouncementOf(const LabelView& view) {
-  return static_cast<const forms::Label&>(view.Shown()).Announcement;
-}
-
 /// Of a window that is no dialog, which would pass for a part of one.
 class WindowAccessible final : public QAccessibleWidget {
  public:
@@ -33,7 +29,7 @@ QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
   }
   auto* label = dynamic_cast<LabelView*>(object);
   if (label == nullptr) return nullptr;
-  switch (AnnouncementOf(*label)) {
+  switch (label->Label().Announcement) {
     case forms::Announcement::AtOnce:
       return std::make_unique<MessageAccessible>(*label).release();
     case forms::Announcement::OnRequest:
@@ -70,7 +66,7 @@ void AccessibilityFeed::Added(ControlView& view) {
     canvases_.push_back(canvas);
     canvas->installEventFilter(this);
   } else if (auto* label = dynamic_cast<LabelView*>(&view)) {
-    if (AnnouncementOf(*label) == forms::Announcement::AtOnce) messages_.push_back({label});
+    if (label->Label().Announcement == forms::Announcement::AtOnce) messages_.push_back({label});
   }
 }
 

@@ -15,16 +15,12 @@ namespace terramark::window {
 
 namespace {
 
-const forms::PictureBox& BoxOf(const CanvasView& canvas) {
-  return static_cast<const forms::PictureBox&>(canvas.Shown());
-}
-
 bool IsLabel(const forms::Control* control) {
   return control->Kind() == forms::ControlKind::Label;
 }
 
 QAccessible::Role RoleOf(const CanvasView& canvas) {
-  const bool labelled = std::ranges::any_of(BoxOf(canvas).Children(), IsLabel);
+  const bool labelled = std::ranges::any_of(canvas.Box().Children(), IsLabel);
   return labelled ? QAccessible::List : QAccessible::Graphic;
 }
 
@@ -120,21 +116,19 @@ QRect CanvasAccessible::PlaceOf(const forms::Label& label) const {
 }
 
 QAccessible::State CanvasAccessible::StateOf(const forms::Label& label) const {
-  const forms::PictureBox& box = BoxOf(canvas_);
-  const QRect view(0, 0, box.ViewWidth(), box.ViewHeight());
   QAccessible::State state = QAccessibleWidget::state();
   state.multiSelectable = false;
   state.focusable = state.selectable = true;
   state.selected = LookOf(label) != Look::Plain;
   state.focused = Focused() == &label;
   state.invisible = state.invisible || !label.Visible;
-  state.offscreen = state.offscreen || !view.intersects(canvas_.PlaceOf(label));
+  state.offscreen = state.offscreen || !canvas_.View().intersects(canvas_.PlaceOf(label));
   return state;
 }
 
 std::vector<const forms::Label*> CanvasAccessible::Markers() const {
   std::vector<const forms::Label*> markers;
-  for (const forms::Control* child : BoxOf(canvas_).Children()) {
+  for (const forms::Control* child : canvas_.Box().Children()) {
     if (IsLabel(child) && child->Visible)
       markers.push_back(static_cast<const forms::Label*>(child));
   }
@@ -157,9 +151,9 @@ QAccessibleInterface* CanvasAccessible::MarkerOf(const forms::Label& label) cons
 }
 
 const forms::Label* CanvasAccessible::Focused() const {
-  const forms::Control* const ringed = BoxOf(canvas_).Ringed;
-  const bool there = ringed != nullptr && ringed->Visible && IsLabel(ringed);
-  return there && canvas_.hasFocus() ? static_cast<const forms::Label*>(ringed) : nullptr;
+  const forms::Control* const ringed = canvas_.ShownRinged();
+  const bool label = ringed != nullptr && IsLabel(ringed);
+  return label ? static_cast<const forms::Label*>(ringed) : nullptr;
 }
 
 int CanvasAccessible::childCount() const {
@@ -183,7 +177,7 @@ int CanvasAccessible::indexOfChild(const QAccessibleInterface* child) const {
 }
 
 QAccessibleInterface* CanvasAccessible::childAt(int x, int y) const {
-  const auto& stack = BoxOf(canvas_).Children();
+  const auto& stack = canvas_.Box().Children();
   const auto hit = std::find_if(stack.rbegin(), stack.rend(), [&](const forms::Control* child) {
     return IsLabel(child) && child->Visible &&
            PlaceOf(static_cast<const forms::Label&>(*child)).contains(x, y);

@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
-#include <QtMath>
 #include <algorithm>
 #include <utility>
 
@@ -96,6 +95,11 @@ void CanvasView::ShowOwn(forms::PropertyId id) {
   LayZoomLabel();
   flightSeen_ = Flight();
   update();
+}
+
+const forms::Control* CanvasView::ShownRinged() const {
+  const forms::Control* const ringed = box_.Ringed;
+  return hasFocus() && ringed != nullptr && ringed->Visible ? ringed : nullptr;
 }
 
 void CanvasView::MoveRing() {
@@ -212,7 +216,7 @@ void CanvasView::PaintFlight(QPainter& painter) const {
 
 /// That the box has the keyboard, and what its keys act on.
 void CanvasView::PaintKeys(QPainter& painter) const {
-  if (const forms::Control* const ringed = box_.Ringed; ringed != nullptr && ringed->Visible) {
+  if (const forms::Control* const ringed = ShownRinged()) {
     const bool held = box_.Owner()->Pointer.Holds();
     PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
   }
@@ -222,8 +226,7 @@ void CanvasView::PaintKeys(QPainter& painter) const {
 void CanvasView::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta();
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    const QPointF at = event->position();
-    return TurnZoom(turn.y(), {qFloor(at.x()), qFloor(at.y())});
+    return TurnZoom(turn.y(), PixelAt(event->position()));
   }
   zoomTurn_ = 0;
   const bool across = event->modifiers().testFlag(Qt::ShiftModifier);

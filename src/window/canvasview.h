@@ -16,6 +16,12 @@ class CanvasView : public QWidget, public ControlView {
  public:
   CanvasView(forms::PictureBox& box, QWidget& container);
 
+  const forms::PictureBox& Box() const { return box_; }
+  /// What the scroll bars leave, in pixels of the widget.
+  QRect View() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
+  /// What the box's keys act on, which has a ring; null while there is none to be seen.
+  const forms::Control* ShownRinged() const;
+
   /// A label on the picture is new or has changed.
   void LabelChanged(const forms::Control& label);
   /// A label is about to go; only its identity is used.
@@ -41,7 +47,6 @@ class CanvasView : public QWidget, public ControlView {
   void ShowHand();
   void TurnZoom(int angle, QPoint about);
 
-  QRect View() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
   QRect InBox(const QRect& onPicture) const;
   /// What is painted for something at a place of the picture, its ring included.
   QRect Around(const QRect& onPicture) const;

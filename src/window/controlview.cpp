@@ -1,5 +1,7 @@
 #include "window/controlview.h"
 
+#include <QtMath>
+
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "window/barview.h"
@@ -72,6 +74,10 @@ void ControlView::Changed(forms::PropertyId id) {
 QRect BoundsOf(const forms::Control& control) {
   const forms::PixelRect bounds = forms::PixelBounds(control);
   return {bounds.Left, bounds.Top, bounds.Width, bounds.Height};
+}
+
+QPoint PixelAt(const QPointF& place) {
+  return {qFloor(place.x()), qFloor(place.y())};
 }
 
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& container) {

@@ -40,6 +40,9 @@ class ControlView {
 /// Where a control stands in its container, in pixels.
 QRect BoundsOf(const forms::Control& control);
 
+/// The pixel that a place lies in; on a screen with a finer grid that is no whole number.
+QPoint PixelAt(const QPointF& place);
+
 /// Makes the view of a control inside its container's widget, by its kind; null for a form. It must
 /// go before the container's widget does.
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& container);

@@ -175,10 +175,9 @@ void FormView::PointerMoved() {
   for (const auto& view : views_) {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->PointerMoved();
   }
-  // What the keyboard carries has to be heard; whoever drags with the mouse sees.
-  if (form_.Pointer.Holds() || carries_) accessibility_.Changed(form_);
-  carries_ = form_.Pointer.Holds();
   const bool dragging = form_.Pointer.DragsByMouse();
+  // What the keyboard carries has to be heard; whoever drags with the mouse sees.
+  if (!dragging) accessibility_.Changed(form_);
   if (dragging == dragScroll_.isActive()) return;
   if (dragging) {
     dragScroll_.start();

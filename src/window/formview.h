@@ -58,8 +58,6 @@ class FormView final : public QWidget, private forms::FormObserver {
   KeyFeed keys_;
   AccessibilityFeed accessibility_;
   QTimer dragScroll_;
-  /// Whether the keyboard held a control when the pointer was heard of last.
-  bool carries_ = false;
   /// A container stands before what is in it.
   std::vector<std::unique_ptr<ControlView>> views_;
 };

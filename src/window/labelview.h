@@ -15,6 +15,8 @@ class LabelView final : public QLabel, public ControlView {
  public:
   LabelView(forms::Label& label, QWidget& container);
 
+  const forms::Label& Label() const { return label_; }
+
  protected:
   void ShowOwn(forms::PropertyId id) override;
   void paintEvent(QPaintEvent* event) override;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "shell/colours.h"
 #include "window/accessibleitem.h"
 #include "window/accessiblenames.h"
 #include "window/showntext.h"
@@ -11,10 +10,6 @@
 namespace terramark::window {
 
 namespace {
-
-const forms::Label& LabelOf(const LabelView& view) {
-  return static_cast<const forms::Label&>(view.Shown());
-}
 
 /// Destroyed before its parent.
 class MessageTextAccessible final : public AccessibleItem {
@@ -68,13 +63,13 @@ void MessageAccessible::Announce() {
 }
 
 QAccessible::Role MessageAccessible::Showing() const {
-  const forms::Label& label = LabelOf(view_);
+  const forms::Label& label = view_.Label();
   if (label.Caption.Get().empty()) return QAccessible::NoRole;
-  return label.BackColor == ClrRed ? QAccessible::AlertMessage : QAccessible::StatusBar;
+  return label.Alert ? QAccessible::AlertMessage : QAccessible::StatusBar;
 }
 
 QString MessageAccessible::Caption() const {
-  return ShownText(LabelOf(view_).Caption, Qt::ElideMiddle);
+  return ShownText(view_.Label().Caption, Qt::ElideMiddle);
 }
 
 QAccessibleInterface* MessageAccessible::child(int index) const {
@@ -105,7 +100,7 @@ OnRequestAccessible::OnRequestAccessible(LabelView& view)
 }
 
 QString OnRequestAccessible::text(QAccessible::Text kind) const {
-  return kind == QAccessible::Name ? AccessibleText(LabelOf(view_)) : QAccessibleWidget::text(kind);
+  return kind == QAccessible::Name ? AccessibleText(view_.Label()) : QAccessibleWidget::text(kind);
 }
 
 }  // namespace terramark::window

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <QtMath>
 
 #include "window/keyfeed.h"
 
@@ -70,9 +69,7 @@ bool PointerFeed::IsDown(Qt::MouseButton button) const {
 }
 
 QPoint PointerFeed::In(const QMouseEvent& event) const {
-  // The pixel that the place lies in; on a screen with a finer grid it is no whole number.
-  const QPointF at = inside_.mapFromGlobal(event.globalPosition());
-  return {qFloor(at.x()), qFloor(at.y())};
+  return PixelAt(inside_.mapFromGlobal(event.globalPosition()));
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
