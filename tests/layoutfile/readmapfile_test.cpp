@@ -1,3 +1,5 @@
+#include <regex>
+
 #include "layoutfile/layoutfolder.h"
 #include "shell/colours.h"
 
@@ -6,19 +8,26 @@ namespace {
 
 using LoadLayout = LayoutFolder;
 
+/// The file that stands in the description of the format, with the line ends of a file.
+std::string DescribedExample() {
+  const std::string page = BytesOf(SAMPLES "/../docs/layout-format.md");
+  const std::size_t start = page.find("```tml\n") + 7;
+  const std::string lines = page.substr(start, page.find("```", start) - start);
+  return std::regex_replace(lines, std::regex("\n"), "\r\n");
+}
+
 TEST_F(LoadLayout, RoundTripKeepsEveryByte) {
   LoadBytes(Tiny);
   EXPECT_EQ(Saved("again.tml"), Tiny);
   EXPECT_EQ(Form.LayoutFile, "again.tml");
   EXPECT_EQ(Form.LoadMpa.Caption.Get(), "again.tml");
   EXPECT_EQ(Form.Message.Caption.Get(), "");
-  AddPicture("europe.bmp");
-  AddPicture("europe.wmf");
-  for (const char* sample : {SAMPLES "/europe.tml", SAMPLES "/europe-wmf.tml"}) {
-    std::string bytes = BytesOf(sample);
+  for (const char* picture : {"europe.bmp", "europe.wmf", "shores.bmp"}) AddPicture(picture);
+  for (std::string bytes :
+       {BytesOf(SAMPLES "/europe.tml"), BytesOf(SAMPLES "/europe-wmf.tml"), DescribedExample()}) {
     LoadBytes(bytes);
     bytes.replace(bytes.find('\n') + 1, 19, "03-14-1999 21:05:07");  // the clock of the test
-    EXPECT_EQ(Saved("again.tml"), bytes) << sample;
+    EXPECT_EQ(Saved("again.tml"), bytes);
   }
 }
 
