@@ -34,6 +34,26 @@ class Rect(namedtuple("Rect", "left top width height")):
         return self.left + self.width // 2, self.top + self.height // 2
 
 
+def rgb_rows(look, width):
+    """What a look gave, as rows of red, green and blue."""
+    for start in range(0, len(look), 4 * width):
+        row = look[start:start + 4 * width]
+        line = bytearray(3 * width)
+        line[0::3], line[1::3], line[2::3] = row[2::4], row[1::4], row[0::4]
+        yield bytes(line)
+
+
+def write_png(path, rows):
+    """Writes rows of red, green and blue."""
+    head = struct.pack(">IIBBBBB", len(rows[0]) // 3, len(rows), 8, 2, 0, 0, 0)
+    pixels = zlib.compress(b"".join(b"\0" + row for row in rows), 9)
+    with open(path, "wb") as file:
+        file.write(b"\x89PNG\r\n\x1a\n")
+        for chunk in b"IHDR" + head, b"IDAT" + pixels, b"IEND":
+            file.write(struct.pack(">I", len(chunk) - 4) + chunk)
+            file.write(struct.pack(">I", zlib.crc32(chunk)))
+
+
 class Screen:
     def __init__(self, folder):
         """Starts it; what its programs write goes into the folder."""
@@ -126,15 +146,4 @@ class Screen:
 
     def save(self, path, rect=Rect(0, 0, WIDTH, HEIGHT)):
         """Writes a part of the screen as a PNG file."""
-        rows = bytearray()
-        for y in range(rect.height):
-            row = self._row(rect, y)
-            line = bytearray(3 * rect.width)
-            line[0::3], line[1::3], line[2::3] = row[2::4], row[1::4], row[0::4]
-            rows += b"\0" + line
-        head = struct.pack(">IIBBBBB", rect.width, rect.height, 8, 2, 0, 0, 0)
-        with open(path, "wb") as file:
-            file.write(b"\x89PNG\r\n\x1a\n")
-            for chunk in b"IHDR" + head, b"IDAT" + zlib.compress(bytes(rows)), b"IEND":
-                file.write(struct.pack(">I", len(chunk) - 4) + chunk)
-                file.write(struct.pack(">I", zlib.crc32(chunk)))
+        write_png(path, list(rgb_rows(self.look(rect), rect.width)))
