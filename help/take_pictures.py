@@ -127,6 +127,8 @@ def main():
         sys.exit(__doc__)
     program = Path(sys.argv[1]).resolve()
     (HERE / "pictures").mkdir(exist_ok=True)
+    if MAPS.exists():
+        sys.exit(f"{MAPS} is in the way: the pictures show that name")
     MAPS.mkdir()
     try:
         for folder in MAPS, MAPS / "gap":
