@@ -36,9 +36,8 @@ CLOSE = Rect(0, 166, 336, 180)
 NARROW = 560  # pixels, for the page of the help
 SHADES = 16  # a step between shades that the eye does not miss, and that makes for a small file
 
-# In the western coast of Area 8, on the picture.
-MAGNIFIED = 4  # turns of the wheel
-GAP = [(59, 201), (59, 202), (59, 203)]
+GAP = [(59, 201), (59, 202), (59, 203)]  # on the picture, in the western coast of Area 8
+MAGNIFIED = 4  # turns of the wheel, to see it
 
 
 def open_border(path):
