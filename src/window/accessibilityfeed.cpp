@@ -3,10 +3,10 @@
 #include <QAccessible>
 #include <memory>
 
+#include "pictures/cp1252.h"
 #include "window/accessiblenames.h"
 #include "window/canvasaccessible.h"
 #include "window/canvasview.h"
-#include "window/cp1252.h"
 #include "window/helpwindow.h"
 #include "window/messageaccessible.h"
 
@@ -61,7 +61,7 @@ AccessibilityFeed::AccessibilityFeed() {
 
 void AccessibilityFeed::Added(ControlView& view) {
   ForgetEarlyAccessible(view.Widget());
-  NameScrollBars(view.Widget(), FromCp1252(view.Shown().AccessibleName));
+  NameScrollBars(view.Widget(), pictures::FromCp1252(view.Shown().AccessibleName));
   if (auto* canvas = dynamic_cast<CanvasView*>(&view)) {
     canvases_.push_back(canvas);
     canvas->installEventFilter(this);

@@ -2,14 +2,15 @@
 
 #include <QScrollBar>
 
-#include "window/cp1252.h"
-#include "window/showntext.h"
+#include "pictures/cp1252.h"
+#include "pictures/showntext.h"
 
 namespace terramark::window {
 
 QString AccessibleText(const forms::Label& label) {
-  const QString name = FromCp1252(label.AccessibleName);
-  return QString(name + ' ' + ShownText(label.Caption, Qt::ElideMiddle).trimmed()).trimmed();
+  const QString name = pictures::FromCp1252(label.AccessibleName);
+  return QString(name + ' ' + pictures::ShownText(label.Caption, Qt::ElideMiddle).trimmed())
+      .trimmed();
 }
 
 void NameScrollBars(const QWidget& widget, const QString& what) {

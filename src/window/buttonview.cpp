@@ -5,10 +5,12 @@
 #include <QPainter>
 
 #include "forms/form.h"
-#include "window/frames.h"
+#include "pictures/frames.h"
+#include "pictures/lettering.h"
+#include "pictures/screencolour.h"
+#include "pictures/showntext.h"
 #include "window/keyfeed.h"
 #include "window/look.h"
-#include "window/showntext.h"
 
 namespace terramark::window {
 
@@ -35,7 +37,7 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
 void ButtonView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption) {
     // A single "&" would make a shortcut.
-    const QString caption = ShownText(button_.Caption, Qt::ElideMiddle);
+    const QString caption = pictures::ShownText(button_.Caption, Qt::ElideMiddle);
     setText(QString(caption).replace('&', "&&"));
     // A file's name, which is no word for what the button does.
     const bool named = button_.Caption.Get() == button_.AccessibleName;
@@ -62,15 +64,16 @@ void ButtonView::keyReleaseEvent(QKeyEvent* event) {
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = ScreenColour(button_.BackColor);
+  const QColor face = pictures::ScreenColour(button_.BackColor);
   painter.fillRect(rect(), face);
   DrawEdge(painter);
   QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
   if (isDown()) inside.translate(1, 1);
   painter.setPen(InkOn(face));
   // Of a file's path both ends are worth seeing.
-  DrawCaption(painter, inside, ShownText(button_.Caption, Qt::ElideMiddle), Qt::ElideMiddle);
-  if (hasFocus()) DrawFocusRing(painter, inside);
+  pictures::DrawCaption(painter, inside, pictures::ShownText(button_.Caption, Qt::ElideMiddle),
+                        Qt::ElideMiddle);
+  if (hasFocus()) pictures::DrawFocusRing(painter, inside);
 }
 
 void ButtonView::DrawEdge(QPainter& painter) const {
@@ -79,10 +82,10 @@ void ButtonView::DrawEdge(QPainter& painter) const {
   const QColor button = colour(QPalette::Button);
   const QColor dark = colour(QPalette::Dark);
   const QColor shadow = colour(QPalette::Shadow);
-  if (!isEnabled()) return DrawFrame(painter, rect(), dark);
-  const Bevel up{light, shadow, button, dark};
-  const Bevel down{shadow, light, dark, button};
-  DrawBevel(painter, rect(), isDown() ? down : up);
+  if (!isEnabled()) return pictures::DrawFrame(painter, rect(), dark);
+  const pictures::Bevel up{light, shadow, button, dark};
+  const pictures::Bevel down{shadow, light, dark, button};
+  pictures::DrawBevel(painter, rect(), isDown() ? down : up);
 }
 
 }  // namespace terramark::window

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "pictures/showntext.h"
 #include "shell/markers.h"
 #include "window/accessibleitem.h"
 #include "window/canvasview.h"
-#include "window/showntext.h"
 
 namespace terramark::window {
 
@@ -99,8 +99,8 @@ void CanvasAccessible::Gone(const forms::Control& label) {
 }
 
 QString CanvasAccessible::NameOf(const forms::Label& label) const {
-  return ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
-                                          : label.Caption.Get());
+  return pictures::ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
+                                                    : label.Caption.Get());
 }
 
 QString CanvasAccessible::WhereaboutsOf(const forms::Label& label) const {

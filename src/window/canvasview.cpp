@@ -9,8 +9,8 @@
 
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "window/canvaspaint.h"
-#include "window/frames.h"
+#include "pictures/boxpaint.h"
+#include "pictures/frames.h"
 
 namespace terramark::window {
 
@@ -34,7 +34,7 @@ void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value
 /// A pixel wider than the ring: of what is to be painted anew, Qt may leave out a line at the edge
 /// where the screen's scale is no whole number.
 QRect Widened(const QRect& area) {
-  const int by = RingWidth + 1;
+  const int by = pictures::RingWidth + 1;
   return area.adjusted(-by, -by, by, by);
 }
 
@@ -189,17 +189,23 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
   painter.setClipRect(view, Qt::IntersectClip);
-  PaintImage(painter, box_, event->rect() & view);
+  pictures::PaintImage(painter, box_, event->rect() & view);
   for (const forms::Control* child : box_.Children()) {
     if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
     const QRect area = InBox(BoundsOf(*child));
     if (!event->rect().intersects(area)) continue;
     painter.setClipRect(area & view);
-    PaintLabel(painter, box_, area, static_cast<const forms::Label&>(*child));
+    PaintMarker(painter, area, static_cast<const forms::Label&>(*child));
   }
   painter.setClipRect(view);
   PaintFlight(painter);
   if (hasFocus()) PaintKeys(painter);
+}
+
+void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
+                             const forms::Label& label) const {
+  const forms::Magnification zoom = box_.Zoom;
+  pictures::PaintLabel(painter, area, static_cast<double>(zoom.Screen) / zoom.Picture, label);
 }
 
 void CanvasView::PaintFlight(QPainter& painter) const {
@@ -208,19 +214,19 @@ void CanvasView::PaintFlight(QPainter& painter) const {
   painter.setOpacity(AirOpacity);
   const forms::Control& source = box_.Owner()->Pointer.InFlight()->Source;
   if (source.Kind() == forms::ControlKind::Label) {
-    PaintLabel(painter, box_, area, static_cast<const forms::Label&>(source));
+    PaintMarker(painter, area, static_cast<const forms::Label&>(source));
   }
   painter.setOpacity(1);
-  DrawFocusRing(painter, area);
+  pictures::DrawFocusRing(painter, area);
 }
 
 /// That the box has the keyboard, and what its keys act on.
 void CanvasView::PaintKeys(QPainter& painter) const {
   if (const forms::Control* const ringed = ShownRinged()) {
     const bool held = box_.Owner()->Pointer.Holds();
-    PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
+    pictures::PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
   }
-  DrawFocusRing(painter, View());
+  pictures::DrawFocusRing(painter, View());
 }
 
 void CanvasView::wheelEvent(QWheelEvent* event) {

@@ -53,6 +53,7 @@ class CanvasView : public QWidget, public ControlView {
   /// Where the marker in the air is shown; empty when there is none.
   QRect Flight() const;
 
+  void PaintMarker(QPainter& painter, const QRect& area, const forms::Label& label) const;
   void PaintFlight(QPainter& painter) const;
   void PaintKeys(QPainter& painter) const;
 

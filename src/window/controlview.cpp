@@ -4,13 +4,13 @@
 
 #include "forms/form.h"
 #include "forms/geometry.h"
+#include "pictures/cp1252.h"
+#include "pictures/lettering.h"
 #include "window/barview.h"
 #include "window/buttonview.h"
 #include "window/canvasview.h"
-#include "window/cp1252.h"
 #include "window/frameview.h"
 #include "window/labelview.h"
-#include "window/look.h"
 #include "window/memoview.h"
 #include "window/textview.h"
 
@@ -27,24 +27,24 @@ bool InArray(const forms::Control& control) {
 }
 
 QString NameOf(const forms::Control& control) {
-  const QString name = FromCp1252(control.Name());
+  const QString name = pictures::FromCp1252(control.Name());
   return InArray(control) ? QString("%1(%2)").arg(name).arg(control.Index()) : name;
 }
 
 QFont FontOf(const forms::Control& control) {
   const bool formsOwn = control.Kind() == forms::ControlKind::CommandButton ||
                         control.Kind() == forms::ControlKind::Frame;
-  return (formsOwn ? FormFont : TextFont)(control.Owner()->Host);
+  return (formsOwn ? pictures::FormFont : pictures::TextFont)(control.Owner()->Host);
 }
 
 }  // namespace
 
 ControlView::ControlView(forms::Control& control, QWidget& widget)
     : control_(control), widget_(widget) {
-  const QString hint = FromCp1252(control.ToolTipText);
+  const QString hint = pictures::FromCp1252(control.ToolTipText);
   widget.setObjectName(NameOf(control));
   widget.setToolTip(hint);
-  widget.setAccessibleName(FromCp1252(control.AccessibleName));
+  widget.setAccessibleName(pictures::FromCp1252(control.AccessibleName));
   widget.setAccessibleDescription(hint);
   widget.setFont(FontOf(control));
   widget.setGeometry(BoundsOf(control));

@@ -15,9 +15,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "pictures/cp1252.h"
 #include "shell/filenames.h"
 #include "window/accessiblenames.h"
-#include "window/cp1252.h"
 
 namespace terramark::window {
 
@@ -35,7 +35,7 @@ constexpr FileKind Kinds[] = {{LayoutFiles, "Map Layouts"}, {PictureFiles, "Pict
 
 QString Worded(const std::string& filter) {
   // Patterns stand between semicolons here and between blanks there.
-  QString patterns = FromCp1252(filter).replace(';', ' ');
+  QString patterns = pictures::FromCp1252(filter).replace(';', ' ');
   for (const FileKind& kind : Kinds) {
     if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
   }

@@ -5,9 +5,10 @@
 #include <algorithm>
 
 #include "forms/geometry.h"
+#include "pictures/cp1252.h"
+#include "pictures/screencolour.h"
 #include "window/canvasview.h"
 #include "window/controlview.h"
-#include "window/cp1252.h"
 #include "window/look.h"
 
 namespace terramark::window {
@@ -102,7 +103,7 @@ void FormView::DressWindow() {
 void FormView::FormChanged(forms::PropertyId id) {
   switch (id) {
     case forms::PropertyId::Caption:
-      window()->setWindowTitle(FromCp1252(form_.Caption));
+      window()->setWindowTitle(pictures::FromCp1252(form_.Caption));
       break;
     case forms::PropertyId::Left:
     case forms::PropertyId::Top: {
@@ -112,7 +113,7 @@ void FormView::FormChanged(forms::PropertyId id) {
     }
     case forms::PropertyId::BackColor: {
       QPalette colours = palette();
-      colours.setColor(QPalette::Window, ScreenColour(form_.BackColor));
+      colours.setColor(QPalette::Window, pictures::ScreenColour(form_.BackColor));
       setPalette(colours);
       setAutoFillBackground(true);
       break;

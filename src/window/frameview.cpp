@@ -2,9 +2,10 @@
 
 #include <QPainter>
 
-#include "window/frames.h"
-#include "window/look.h"
-#include "window/showntext.h"
+#include "pictures/frames.h"
+#include "pictures/lettering.h"
+#include "pictures/screencolour.h"
+#include "pictures/showntext.h"
 
 namespace terramark::window {
 
@@ -19,25 +20,27 @@ FrameView::FrameView(forms::Frame& frame, QWidget& container)
 }
 
 void FrameView::ShowOwn(forms::PropertyId id) {
-  if (id == forms::PropertyId::Caption) setTitle(ShownText(frame_.Caption).replace('&', "&&"));
+  if (id == forms::PropertyId::Caption)
+    setTitle(pictures::ShownText(frame_.Caption).replace('&', "&&"));
   update();
 }
 
 void FrameView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = ScreenColour(frame_.BackColor);
+  const QColor face = pictures::ScreenColour(frame_.BackColor);
   const QFontMetrics metrics = painter.fontMetrics();
   painter.fillRect(rect(), face);
   const QColor dark = palette().color(QPalette::Dark);
   const QColor light = palette().color(QPalette::Light);
-  DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0), {dark, light, light, dark});
-  const QString caption = ShownText(frame_.Caption);
+  pictures::DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0),
+                      {dark, light, light, dark});
+  const QString caption = pictures::ShownText(frame_.Caption);
   if (caption.isEmpty()) return;
   const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;
   const QRect place(CaptionLeft, 0, qMin(width, this->width() - 2 * CaptionLeft), metrics.height());
   painter.fillRect(place, face);
   painter.setPen(palette().color(QPalette::WindowText));
-  DrawCaption(painter, place, caption, Qt::ElideRight);
+  pictures::DrawCaption(painter, place, caption, Qt::ElideRight);
 }
 
 }  // namespace terramark::window

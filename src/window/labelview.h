@@ -1,4 +1,4 @@
-// Labels: as widgets of their own, and as a drawing for the canvas, whose labels are no widgets.
+// Labels outside a picture, as widgets; those on a picture its canvas draws.
 #pragma once
 
 #include <QLabel>
@@ -7,9 +7,6 @@
 #include "window/controlview.h"
 
 namespace terramark::window {
-
-/// Draws a label with border, colours and caption into the rectangle, in the painter's font.
-void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label);
 
 class LabelView final : public QLabel, public ControlView {
  public:

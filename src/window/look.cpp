@@ -2,28 +2,25 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QIcon>
 #include <QImage>
-#include <QPainter>
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
 #include <cmath>
 #include <memory>
 
-#include "forms/geometry.h"
+#include "pictures/lettering.h"
+#include "pictures/screencolour.h"
 #include "shell/icon.h"
 
 namespace terramark::window {
 
 namespace {
 
-constexpr float FontTwips = 8.25F * 20;
 constexpr double DialogPoints = 9;
 constexpr int ShortestThumb = 12;
 
-const QColor Face(0xC0, 0xC0, 0xC0);
 const QColor Shadow(0x80, 0x80, 0x80);
 const QColor Greyed(0x58, 0x58, 0x58);
 const QColor Marked(0x00, 0x00, 0x80);
@@ -61,8 +58,9 @@ class Style : public QProxyStyle {
 };
 
 QPalette LightPalette() {
-  QPalette palette(Qt::black, Face, Qt::white, Shadow, Greyed, Qt::black, Qt::white, Qt::white,
-                   Face);
+  const QColor face = pictures::ScreenColour(forms::SysButtonFace);
+  QPalette palette(Qt::black, face, Qt::white, Shadow, Greyed, Qt::black, Qt::white, Qt::white,
+                   face);
   palette.setColor(QPalette::Shadow, Qt::black);
   palette.setColor(QPalette::Highlight, Marked);
   palette.setColor(QPalette::HighlightedText, Qt::white);
@@ -75,37 +73,6 @@ QPalette LightPalette() {
   return palette;
 }
 
-/// Those of the families that are installed, or all when none is. For one that is not, Qt has the
-/// system look for stand-ins at every start, though another of them follows.
-QStringList Installed(const QStringList& families) {
-  const QStringList all = QFontDatabase::families();
-  QStringList installed;
-  for (const QString& family : families) {
-    if (all.contains(family, Qt::CaseInsensitive)) installed += family;
-  }
-  return installed.isEmpty() ? families : installed;
-}
-
-const QStringList& TextFamilies() {
-  static const QStringList families = Installed({"Arial", "Liberation Sans"});
-  return families;
-}
-
-const QStringList& FormFamilies() {
-  static const QStringList families =
-      Installed(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies());
-  return families;
-}
-
-/// Bold, in the size of all controls.
-QFont SizedFont(const QStringList& families, forms::Desktop& host) {
-  QFont font;
-  font.setFamilies(families);
-  font.setBold(true);
-  font.setPixelSize(forms::PixelsDown(host, FontTwips));
-  return font;
-}
-
 }  // namespace
 
 void SetUpLook(QApplication& application) {
@@ -114,7 +81,7 @@ void SetUpLook(QApplication& application) {
   QApplication::setStyle(style.release());
   QApplication::setPalette(LightPalette());
   QFont font;
-  font.setFamilies(TextFamilies());
+  font.setFamilies(pictures::TextFamilies());
   font.setPointSizeF(DialogPoints);
   QApplication::setFont(font);
   application.setWindowIcon(WindowIcon());
@@ -128,41 +95,8 @@ QIcon WindowIcon() {
   return QPixmap::fromImage(image.copy());
 }
 
-QColor ScreenColour(forms::Color colour) {
-  switch (colour) {
-    case forms::SysWindow:
-      return Qt::white;
-    case forms::SysWindowText:
-      return Qt::black;
-    case forms::SysButtonFace:
-      return Face;
-    default:
-      return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
-              static_cast<int>(colour >> 16U & 0xFFU)};
-  }
-}
-
 QColor InkOn(const QColor& face) {
   return Luminance(face) < MiddleLuminance ? Qt::white : Qt::black;
-}
-
-QFont TextFont(forms::Desktop& host) {
-  return SizedFont(TextFamilies(), host);
-}
-
-QFont FormFont(forms::Desktop& host) {
-  return SizedFont(FormFamilies(), host);
-}
-
-void DrawCaption(QPainter& painter, const QRect& area, const QString& text,
-                 Qt::TextElideMode cutAt) {
-  const QFontMetrics metrics = painter.fontMetrics();
-  if (metrics.horizontalAdvance(text) <= area.width()) {
-    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, text);
-  } else {
-    painter.drawText(area, Qt::AlignVCenter | Qt::TextSingleLine,
-                     metrics.elidedText(text, cutAt, area.width()));
-  }
 }
 
 }  // namespace terramark::window

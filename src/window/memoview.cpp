@@ -3,9 +3,9 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "window/cp1252.h"
-#include "window/frames.h"
-#include "window/look.h"
+#include "pictures/cp1252.h"
+#include "pictures/frames.h"
+#include "pictures/screencolour.h"
 
 namespace terramark::window {
 
@@ -23,10 +23,10 @@ MemoView::MemoView(forms::TextBox& box, QWidget& container)
 }
 
 void MemoView::ShowOwn(forms::PropertyId id) {
-  if (id == forms::PropertyId::Text) setPlainText(FromCp1252(box_.Text));
+  if (id == forms::PropertyId::Text) setPlainText(pictures::FromCp1252(box_.Text));
   QPalette colours = palette();
-  colours.setColor(QPalette::Base, ScreenColour(box_.BackColor));
-  colours.setColor(QPalette::Text, ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Base, pictures::ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Text, pictures::ScreenColour(box_.ForeColor));
   setPalette(colours);
 }
 
@@ -34,7 +34,7 @@ bool MemoView::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
   if (event->type() == QEvent::Paint) {
     QPainter painter(this);
-    DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
+    pictures::DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
   }
   return done;
 }

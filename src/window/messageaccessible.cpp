@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
+#include "pictures/showntext.h"
 #include "window/accessibleitem.h"
 #include "window/accessiblenames.h"
-#include "window/showntext.h"
 
 namespace terramark::window {
 
@@ -69,7 +69,7 @@ QAccessible::Role MessageAccessible::Showing() const {
 }
 
 QString MessageAccessible::Caption() const {
-  return ShownText(view_.Label().Caption, Qt::ElideMiddle);
+  return pictures::ShownText(view_.Label().Caption, Qt::ElideMiddle);
 }
 
 QAccessibleInterface* MessageAccessible::child(int index) const {

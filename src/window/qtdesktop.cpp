@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QScreen>
@@ -12,11 +11,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "window/cp1252.h"
+#include "pictures/cp1252.h"
+#include "pictures/lettering.h"
+#include "pictures/showntext.h"
 #include "window/filedialog.h"
-#include "window/look.h"
 #include "window/modalform.h"
-#include "window/showntext.h"
 
 namespace terramark::window {
 
@@ -29,14 +28,14 @@ constexpr unsigned FractionBits = 24;
 
 bool Fits(const QString& name) {
   // A line end in a name would end the line of the layout that holds it.
-  return FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+  return pictures::FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
 }
 
 /// Puts a chosen path into the dialog's properties.
 void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
   const QString title = QFileInfo(path).fileName();
-  dialog.FileName = ToCp1252(path);
-  dialog.FileTitle = ToCp1252(title);
+  dialog.FileName = pictures::ToCp1252(path);
+  dialog.FileTitle = pictures::ToCp1252(title);
   dialog.FileNameFits = Fits(path);
   dialog.FileTitleFits = Fits(title);
 }
@@ -48,8 +47,8 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
   const bool question = buttons == forms::Buttons::YesNo;
   QMessageBox box(window_);
   box.setTextFormat(Qt::PlainText);
-  box.setWindowTitle(FromCp1252(title));
-  box.setText(WrappableText(text));
+  box.setWindowTitle(pictures::FromCp1252(title));
+  box.setText(pictures::WrappableText(text));
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
@@ -104,8 +103,7 @@ float QtDesktop::TwipsPerPixelY() {
 }
 
 forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
-  const QFontMetrics metrics(TextFont(*this));
-  return {metrics.horizontalAdvance(ShownText(text)), metrics.height()};
+  return pictures::ExtentOf(text, *this);
 }
 
 forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
@@ -114,7 +112,8 @@ forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int he
 }
 
 std::filesystem::path QtDesktop::NativePath(const std::string& path) {
-  return QFile::encodeName(path == ToCp1252(chosen_) ? chosen_ : FromCp1252(path)).toStdString();
+  if (path == pictures::ToCp1252(chosen_)) return QFile::encodeName(chosen_).toStdString();
+  return pictures::InSystemEncoding(path);
 }
 
 void QtDesktop::EnterFolderOf(const std::string& path) {

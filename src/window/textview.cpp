@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "window/cp1252.h"
-#include "window/frames.h"
-#include "window/look.h"
+#include "pictures/cp1252.h"
+#include "pictures/frames.h"
+#include "pictures/screencolour.h"
 
 namespace terramark::window {
 
@@ -26,7 +26,7 @@ std::string Cleaned(QString insert) {
   for (QChar& character : insert) {
     if (character < ' ') character = ' ';
   }
-  return ToCp1252(ComposedForm(insert));
+  return pictures::ToCp1252(pictures::ComposedForm(insert));
 }
 
 /// An edit, from a place of the text on.
@@ -99,7 +99,7 @@ void TextView::Take(const QString& before, const QString& edited) {
   if (isRedoAvailable()) {
     // Taken back: the control has had this text, so it need not be held to the limit.
     const auto shown = static_cast<std::size_t>(before.size());
-    box_.Text = ToCp1252(edited) + box_.Text.Get().substr(shown);
+    box_.Text = pictures::ToCp1252(edited) + box_.Text.Get().substr(shown);
     return;
   }
   const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
@@ -128,7 +128,7 @@ void TextView::ShowOwn(forms::PropertyId id) {
 }
 
 QString TextView::ShownPart() const {
-  return FromCp1252(box_.Text.Get().substr(0, MostShown));
+  return pictures::FromCp1252(box_.Text.Get().substr(0, MostShown));
 }
 
 void TextView::ShowText() {
@@ -150,17 +150,17 @@ void TextView::Limit(qsizetype size) {
 
 void TextView::ShowColours() {
   QPalette colours = palette();
-  colours.setColor(QPalette::Base, ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Base, pictures::ScreenColour(box_.BackColor));
   colours.setColor(QPalette::Disabled, QPalette::Base, colours.color(QPalette::Button));
-  colours.setColor(QPalette::Active, QPalette::Text, ScreenColour(box_.ForeColor));
-  colours.setColor(QPalette::Inactive, QPalette::Text, ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Active, QPalette::Text, pictures::ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Inactive, QPalette::Text, pictures::ScreenColour(box_.ForeColor));
   setPalette(colours);
 }
 
 void TextView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
-  DrawFrame(painter, rect(), Qt::black);
+  pictures::DrawFrame(painter, rect(), Qt::black);
 }
 
 }  // namespace terramark::window

@@ -17,9 +17,9 @@
 #include <new>
 
 #include "canvas/refreshmap.h"
+#include "pictures/cp1252.h"
 #include "shell/aboutform.h"
 #include "shell/form1.h"
-#include "window/cp1252.h"
 #include "window/mainwindow.h"
 #include "window/qtdesktop.h"
 
@@ -171,12 +171,12 @@ TEST_F(DesktopTest, PicturesComeRowByRowFromTheNamedFile) {
   image.setPixel(2, 1, 0xFF123456);
   const QString path = folder.filePath(QStringLiteral("\u00FC.bmp"));
   ASSERT_TRUE(image.save(path));
-  const forms::Picture picture = Desktop.LoadPicture(ToCp1252(path), 60, 40);
+  const forms::Picture picture = Desktop.LoadPicture(pictures::ToCp1252(path), 60, 40);
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Pixels, (std::vector<std::uint32_t>{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF,
                                                          0xFFFFFFFF, 0xFFFFFFFF, 0xFF123456}));
   EXPECT_EQ(Desktop.LoadPicture("", 60, 40)->Width, 0);
-  EXPECT_EQ(Desktop.LoadPicture(ToCp1252(folder.path()), 60, 40), nullptr);
+  EXPECT_EQ(Desktop.LoadPicture(pictures::ToCp1252(folder.path()), 60, 40), nullptr);
 }
 
 TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {

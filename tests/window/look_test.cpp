@@ -1,4 +1,3 @@
-#include "window/look.h"
 
 #include <gtest/gtest.h>
 

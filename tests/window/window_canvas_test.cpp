@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 #include <vector>
 
+#include "pictures/mapimage.h"
 #include "window/windowsupport.h"
 
 namespace terramark::window {
@@ -52,6 +53,22 @@ TEST_F(MarkerTest, DrawsMarkersInTheirOrderAndTakesThemAway) {
   Form.ArmyAt.Unload(1);
   Form.ArmyAt.Unload(2);
   EXPECT_EQ(Pixel(110, 58), White);
+}
+
+TEST_F(MarkerTest, TheMapAsAPictureHasThePixelsOfTheCanvas) {
+  Form.Picture1.Picture = BlankPicture(546, 308, 0xFF80A0C0);
+  Marker().Caption = "+12";
+  Form.ArmyAt.Load(2);  // and one that is not shown
+  Form.ArmyAt(2).Move(200, 100);
+  const auto map = [&](int side) {
+    return QImage::fromData(QByteArray::fromStdString(*pictures::MapAsPng(Form.Picture1, side)),
+                            "PNG");
+  };
+  EXPECT_EQ(map(1024), Of(Form.Picture1).grab().toImage().convertToFormat(map(1024).format()));
+  EXPECT_EQ(map(256).size(), QSize(256, 144));
+  EXPECT_EQ(map(256).pixelColor(60, 28), Blue);
+  Form.Picture1.Picture = BlankPicture(0, 0);
+  EXPECT_FALSE(pictures::MapAsPng(Form.Picture1, 64));
 }
 
 /// Counts what a widget is asked to paint.

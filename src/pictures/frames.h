@@ -8,7 +8,7 @@
 class QPainter;
 class QRect;
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 /// Draws one line along the inside of the area's edges: as many pixels of the device thick as the
 /// painter's scale comes to, and one at the least. A turned painter is not for these.
@@ -27,4 +27,4 @@ void DrawBevel(QPainter& painter, const QRect& area, const Bevel& bevel);
 /// Draws a line as DrawFrame does, in black and white by turns, so that it shows on every colour.
 void DrawFocusRing(QPainter& painter, const QRect& area);
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

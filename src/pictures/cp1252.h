@@ -5,7 +5,7 @@
 #include <QString>
 #include <string>
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 /// Every byte gives one character; the five bytes that the code page does not assign give the
 /// control characters of the same number.
@@ -17,7 +17,11 @@ std::string ToCp1252(const QString& text);
 /// The text with letters and their marks composed where they can be; linear in its length.
 QString ComposedForm(const QString& text);
 
+/// The text as the system writes the names of files; what the code page lacks is lost either way.
+std::string InSystemEncoding(const std::string& text);
+std::string FromSystemEncoding(const std::string& name);
+
 /// Whether the text comes back from 8-bit text as it went in.
 bool FitsCp1252(const QString& text);
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

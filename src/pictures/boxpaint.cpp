@@ -1,4 +1,4 @@
-#include "window/canvaspaint.h"
+#include "pictures/boxpaint.h"
 
 #include <QImage>
 #include <QPainter>
@@ -8,12 +8,11 @@
 #include <vector>
 
 #include "forms/geometry.h"
-#include "window/controlview.h"
-#include "window/frames.h"
-#include "window/labelview.h"
-#include "window/look.h"
+#include "pictures/frames.h"
+#include "pictures/labelpaint.h"
+#include "pictures/screencolour.h"
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 namespace {
 
@@ -59,13 +58,11 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
   painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));
 }
 
-void PaintLabel(QPainter& painter, const forms::PictureBox& box, const QRect& area,
-                const forms::Label& label) {
-  const forms::Magnification zoom = box.Zoom;
-  const double scale = static_cast<double>(zoom.Screen) / zoom.Picture;
+void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label) {
+  const forms::PixelRect own = PixelBounds(label);
   painter.translate(area.topLeft());
   painter.scale(scale, scale);
-  DrawLabel(painter, QRect(QPoint(), BoundsOf(label).size()), label);
+  DrawLabel(painter, {0, 0, own.Width, own.Height}, label);
   painter.resetTransform();
 }
 
@@ -77,4 +74,4 @@ void PaintRing(QPainter& painter, const QRect& area) {
   }
 }
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

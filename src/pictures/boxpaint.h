@@ -8,7 +8,7 @@
 
 class QPainter;
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 /// Pixels by which a ring goes beyond what it is around.
 inline constexpr int RingWidth = 3;
@@ -17,11 +17,10 @@ inline constexpr int RingWidth = 3;
 /// image. Beside the image the box has its own colour.
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
-/// Paints a label into the area that it covers in the box; its letters are drawn in that size.
-void PaintLabel(QPainter& painter, const forms::PictureBox& box, const QRect& area,
-                const forms::Label& label);
+/// Paints a label into the area that it covers at a scale; its letters are drawn in that size.
+void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label);
 
 /// Paints a ring around an area, which shows on every colour.
 void PaintRing(QPainter& painter, const QRect& area);
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

@@ -1,11 +1,11 @@
-#include "window/frames.h"
+#include "pictures/frames.h"
 
 #include <QPainter>
 #include <QRect>
 #include <QTransform>
 #include <algorithm>
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 namespace {
 
@@ -83,4 +83,4 @@ void DrawFocusRing(QPainter& painter, const QRect& area) {
   Edges(painter, area).Dashes(Qt::black);
 }
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

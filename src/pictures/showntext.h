@@ -4,7 +4,7 @@
 #include <QString>
 #include <string>
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 /// As much of a text as a caption or a box shows: up to 500 characters, one of them an ellipsis
 /// where more are left out, at the end or in the middle. Costs the same however long the text is.
@@ -14,4 +14,4 @@ QString ShownText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRi
 /// characters are blanks.
 QString WrappableText(const std::string& text);
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

@@ -1,10 +1,11 @@
-#include "window/cp1252.h"
+#include "pictures/cp1252.h"
 
+#include <QFile>
 #include <QList>
 #include <algorithm>
 #include <array>
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 namespace {
 
@@ -71,8 +72,16 @@ QString ComposedForm(const QString& text) {
   return composed;
 }
 
+std::string InSystemEncoding(const std::string& text) {
+  return QFile::encodeName(FromCp1252(text)).toStdString();
+}
+
+std::string FromSystemEncoding(const std::string& name) {
+  return ToCp1252(QFile::decodeName(name.c_str()));
+}
+
 bool FitsCp1252(const QString& text) {
   return FromCp1252(ToCp1252(text)) == text;
 }
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

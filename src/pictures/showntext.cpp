@@ -1,10 +1,10 @@
-#include "window/showntext.h"
+#include "pictures/showntext.h"
 
 #include <QRegularExpression>
 
-#include "window/cp1252.h"
+#include "pictures/cp1252.h"
 
-namespace terramark::window {
+namespace terramark::pictures {
 
 namespace {
 
@@ -31,4 +31,4 @@ QString WrappableText(const std::string& text) {
                        QStringLiteral("\\1\u200B"));
 }
 
-}  // namespace terramark::window
+}  // namespace terramark::pictures

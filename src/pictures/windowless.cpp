@@ -1,0 +1,21 @@
+#include "pictures/windowless.h"
+
+#include <QGuiApplication>
+
+namespace terramark::pictures {
+
+Windowless::Windowless() {
+  // Qt keeps references to both for as long as the application lives.
+  static int argumentCount = 1;
+  static char name[] = "terramark";
+  static char* arguments[] = {name, nullptr};
+  // What Qt misses of a desktop is no news here.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qunsetenv("QT_QPA_PLATFORMTHEME");
+  application_ = std::make_unique<QGuiApplication>(argumentCount, arguments);
+}
+
+Windowless::~Windowless() = default;
+
+}  // namespace terramark::pictures

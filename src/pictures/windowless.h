@@ -1,0 +1,23 @@
+// Qt for a program that draws and letters pictures and has no window.
+#pragma once
+
+#include <memory>
+
+class QGuiApplication;
+
+namespace terramark::pictures {
+
+/// One in a program, before the first text is measured or drawn. Asks for no display and takes no
+/// notice of the desktop's theme.
+class Windowless {
+ public:
+  Windowless();
+  Windowless(const Windowless&) = delete;
+  Windowless& operator=(const Windowless&) = delete;
+  ~Windowless();
+
+ private:
+  std::unique_ptr<QGuiApplication> application_;
+};
+
+}  // namespace terramark::pictures

@@ -1,0 +1,42 @@
+"""Shows layouts, good and broken, as a desktop would: thumbnail.py PROGRAM SAMPLES"""
+import os
+import shutil
+import struct
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+PROGRAM, SAMPLES = (Path(path).resolve() for path in sys.argv[1:])
+OLD = b"an older thumbnail"
+
+with tempfile.TemporaryDirectory() as folder:
+    os.chdir(folder)
+    layout = (SAMPLES / "europe.tml").read_bytes()
+    # A name of bytes that are no text, beside its picture; and one that looks like an option.
+    for name in (b"\xff\xfe.tml", b"-h"):
+        Path(os.fsdecode(name)).write_bytes(layout)
+    shutil.copy(SAMPLES / "europe.bmp", ".")
+    Path("cut.tml").write_bytes(layout[:-400])
+    Path("alone.tml").write_bytes(layout.replace(b"europe.bmp", b"gone.bmp"))
+    os.mkfifo("pipe.tml")
+    for name, size, status, told in [
+            (b"\xff\xfe.tml", "128", 0, ""),
+            ("-h", "1024", 0, ""),
+            ("cut.tml", "128", 1, "Error reading Map Layout File"),
+            ("alone.tml", "128", 1, "MAP File gone.bmp not found"),
+            ("pipe.tml", "128", 1, "Cannot open Map Layout File"),
+            ("-h", "0", 2, "usage: "),
+            ("-h", "128px", 2, "usage: ")]:
+        png = Path("map.png")
+        png.write_bytes(OLD)
+        run = subprocess.run([PROGRAM, name, png, size], stderr=subprocess.PIPE, text=True)
+        case = f"{name} {size}: {run}"
+        assert run.returncode == status and told in run.stderr, case
+        assert run.stderr.count("\n") == (status != 0), case
+        if status == 0:
+            assert struct.unpack(">2I", png.read_bytes()[16:24])[0] == min(int(size), 546), case
+        else:
+            assert png.read_bytes() == OLD, case
+    assert set(os.listdir()) == {os.fsdecode(b"\xff\xfe.tml"), "-h", "europe.bmp", "cut.tml",
+                                 "alone.tml", "pipe.tml", "map.png"}
