@@ -85,6 +85,8 @@ void SetUpLook(QApplication& application) {
   font.setPointSizeF(DialogPoints);
   QApplication::setFont(font);
   application.setWindowIcon(WindowIcon());
+  // By this name the desktop finds the entry, dist/desktop/terramark.desktop, and its large icon.
+  QApplication::setDesktopFileName("terramark");
 }
 
 QIcon WindowIcon() {
