@@ -13,6 +13,8 @@ Windowless::Windowless() {
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
+  // Where no session runs, Qt would make a folder for one and leave it behind.
+  if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/dev/null/none");
   application_ = std::make_unique<QGuiApplication>(argumentCount, arguments);
 }
 
