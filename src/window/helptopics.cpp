@@ -1,31 +1,40 @@
 #include "window/helptopics.h"
 
+#include <QDir>
+#include <QFile>
 #include <algorithm>
-#include <iterator>
 
 namespace terramark::window {
 
 namespace {
 
-constexpr HelpTopic Topics[] = {
-    {2, "Terramark"},
-    {7, "Validating a map"},
-    {8, "Refreshing the map"},
-    {9, "Adding and deleting Areas"},
-    {10, "Links between Areas"},
-    {11, "Regions"},
-    {12, "Card symbols"},
-    {13, "Swapping territories"},
-    {14, "Colours"},
-    {15, "Map Layouts and pictures"},
-    {16, "Armies of a Region"},
-};
+/// Of the first line, which is the heading.
+QString TitleOf(const QString& text) {
+  return text.section('\n', 0, 0).remove(0, QStringLiteral("# ").size()).trimmed();
+}
 
 }  // namespace
 
-const HelpTopic* FindHelpTopic(std::int32_t number) {
-  const auto* const topic = std::ranges::find(Topics, number, &HelpTopic::Number);
-  return topic == std::end(Topics) ? nullptr : topic;
+std::vector<HelpTopic> ReadHelpTopics() {
+  std::vector<HelpTopic> topics;
+  const QDir folder(":/help");
+  for (const QString& name : folder.entryList({"*.md"}, QDir::Files)) {
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    const QString text = QString::fromUtf8(file.readAll());
+    topics.push_back(
+        {name.section('-', 0, 0).toInt(), TitleOf(text), text, QUrl("qrc:/help/" + name)});
+  }
+  std::ranges::sort(topics, {}, &HelpTopic::Number);
+  return topics;
+}
+
+std::size_t PlaceOfTopic(const std::vector<HelpTopic>& topics, int number) {
+  for (const int wanted : {number, ContentsTopic}) {
+    const auto topic = std::ranges::find(topics, wanted, &HelpTopic::Number);
+    if (topic != topics.end()) return static_cast<std::size_t>(topic - topics.begin());
+  }
+  return 0;
 }
 
 }  // namespace terramark::window

@@ -1,16 +1,26 @@
-// The help viewer's table: what each topic of the help file is about.
+// The topics of the help, as they were built into the program: one Markdown file each.
 #pragma once
 
-#include <cstdint>
+#include <QString>
+#include <QUrl>
+#include <vector>
 
 namespace terramark::window {
 
+/// What a number stands for that is no topic.
+inline constexpr int ContentsTopic = 2;
+
 struct HelpTopic {
-  std::int32_t Number;
-  const char* Subject;
+  int Number;
+  QString Title;
+  QString Text;  // Markdown
+  QUrl Source;
 };
 
-/// Null for a number that is no topic.
-const HelpTopic* FindHelpTopic(std::int32_t number);
+/// In the order of their numbers.
+std::vector<HelpTopic> ReadHelpTopics();
+
+/// The place of a number among the topics, or else that of the contents.
+std::size_t PlaceOfTopic(const std::vector<HelpTopic>& topics, int number);
 
 }  // namespace terramark::window

@@ -1,66 +1,198 @@
 #include "window/helpwindow.h"
 
-#include <QKeyEvent>
+#include <QBoxLayout>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <algorithm>
+#include <iterator>
+#include <memory>
 
-#include "shell/form1controls.h"
 #include "window/accessiblenames.h"
-#include "window/helptopics.h"
+#include "window/look.h"
+#include "window/pagestyle.h"
 
 namespace terramark::window {
 
 namespace {
 
-constexpr QSize FirstSize(420, 300);
+constexpr QSize FirstSize(840, 600);
+constexpr int ContentsWidth = 180;
+constexpr int SearchWidth = 240;
+constexpr int Gap = 6;
+/// What the window manager may put around a window that it has not shown yet.
+constexpr int FrameRoom = 8;
 
-/// The words by which a user knows the controls that open a topic.
-QString OpenersOf(std::int32_t topic) {
-  QString list;
-  for (const ControlRow<Form1>& row : Form1Controls()) {
-    if (row.HelpTopic != topic) continue;
-    const QString words(*row.Caption != '\0' ? row.Caption : row.ToolTipText);
-    list += "<li>" + words.toHtmlEscaped() + "</li>";
-  }
-  return list;
+/// As the page has it, so that places in the one are places in the other.
+QString PlainText(const HelpTopic& topic) {
+  QTextDocument page;
+  page.setMarkdown(topic.Text);
+  StylePage(page);
+  return page.toPlainText();
 }
 
-QString PageOf(std::int32_t number) {
-  const HelpTopic* topic = FindHelpTopic(number);
-  if (topic == nullptr) {
-    return QString("<h2>Topic %1</h2><p>There is no such help topic.</p>").arg(number);
-  }
-  return QString(
-             "<h2>Topic %1: %2</h2><p>Opened with the Shift key, or F1 where it has the keyboard, "
-             "from</p><ul>%3</ul>")
-      .arg(number)
-      .arg(QString(topic->Subject).toHtmlEscaped(), OpenersOf(number));
+QString Counted(std::size_t count, const char* what) {
+  return QStringLiteral("%1 %2%3").arg(count).arg(what, count == 1 ? "" : "s");
 }
 
 }  // namespace
 
-HelpWindow::HelpWindow() : page_(this), layout_(this) {
+HelpWindow::HelpWindow(const QWidget* editor) {
   setWindowTitle("Terramark Help");
   setObjectName("Help");
-  page_.setObjectName("HelpPage");
-  page_.setAccessibleName("Help page");
-  NameScrollBars(page_, "Help page");
-  layout_.setContentsMargins(0, 0, 0, 0);
-  layout_.addWidget(&page_);
-  resize(FirstSize);
+  for (const HelpTopic& topic : topics_) contents_.addItem(topic.Title);
+  contents_.setAccessibleName("Contents");
+  NameScrollBars(contents_, "Contents");
+  search_.setAccessibleName("Search in all topics");
+  search_.setPlaceholderText("Search in all topics");
+  search_.setClearButtonEnabled(true);
+  back_.setToolTip("Alt+Left");
+  forward_.setToolTip("Alt+Right");
+  LayOut();
+  JoinParts();
+  SetKeys();
+  resize(FirstSize.boundedTo(screen()->availableSize()));
+  if (editor != nullptr) StandBeside(*editor);
+}
+
+void HelpWindow::LayOut() {
+  auto bar = std::make_unique<QHBoxLayout>();
+  bar->addWidget(&back_);
+  bar->addWidget(&forward_);
+  bar->addSpacing(Gap);
+  search_.setFixedWidth(SearchWidth);
+  bar->addWidget(&search_);
+  bar->addSpacing(Gap);
+  QSizePolicy staying(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  staying.setRetainSizeWhenHidden(true);
+  told_.setSizePolicy(staying);
+  told_.hide();
+  bar->addWidget(&told_, 1);
+  auto halves = std::make_unique<QHBoxLayout>();
+  contents_.setFixedWidth(ContentsWidth);
+  contents_.setSpacing(2);
+  halves->addWidget(&contents_);
+  halves->addWidget(&page_, 1);
+  auto whole = std::make_unique<QVBoxLayout>(this);
+  whole->setContentsMargins(Gap, Gap, Gap, Gap);
+  whole->setSpacing(Gap);
+  whole->addLayout(bar.release());
+  whole->addLayout(halves.release());
+  whole.release();
+  QWidget* last = &back_;
+  for (QWidget* next : std::initializer_list<QWidget*>{&forward_, &search_, &contents_, &page_}) {
+    setTabOrder(last, next);
+    last = next;
+  }
+}
+
+void HelpWindow::JoinParts() {
+  connect(&back_, &QPushButton::clicked, &page_, &HelpPage::backward);
+  connect(&forward_, &QPushButton::clicked, &page_, &HelpPage::forward);
+  connect(&page_, &HelpPage::backwardAvailable, &back_, &QWidget::setEnabled);
+  connect(&page_, &HelpPage::forwardAvailable, &forward_, &QWidget::setEnabled);
+  back_.setEnabled(false);
+  forward_.setEnabled(false);
+  connect(&page_, &HelpPage::sourceChanged, this, &HelpWindow::PageChanged);
+  connect(&contents_, &QListWidget::currentRowChanged, this,
+          [this](int row) { Show(static_cast<std::size_t>(row)); });
+  connect(&search_, &QLineEdit::textChanged, this, [this] { Search(); });
+  connect(&search_, &QLineEdit::returnPressed, this, [this] { NextFound(); });
+}
+
+void HelpWindow::SetKeys() {
+  const auto on = [this](const char* keys, auto act) {
+    connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, act);
+  };
+  on("Escape", [this] { close(); });
+  on("Alt+Left", [this] { page_.backward(); });
+  on("Alt+Right", [this] { page_.forward(); });
+  on("F3", [this] { NextFound(); });
+  on("Ctrl+F", [this] {
+    search_.setFocus(Qt::ShortcutFocusReason);
+    search_.selectAll();
+  });
+  on("Ctrl++", [this] { page_.Enlarge(); });
+  on("Ctrl+=", [this] { page_.Enlarge(); });
+  on("Ctrl+-", [this] { page_.Shrink(); });
+  on("Ctrl+0", [this] { page_.ActualSize(); });
+}
+
+/// Covers as little of the editor as may be: on the right of it, or else at the screen's right
+/// edge.
+void HelpWindow::StandBeside(const QWidget& editor) {
+  const QRect room = editor.screen()->availableGeometry();
+  const QRect taken = editor.frameGeometry();
+  const int last = std::max(room.left(), room.right() + 1 - width() - FrameRoom);
+  const bool onTheLeft = taken.right() + FrameRoom > last && taken.left() - room.left() >= width();
+  const int left = onTheLeft ? taken.left() - width() - FrameRoom : taken.right() + FrameRoom;
+  move(std::clamp(left, room.left(), last), std::max(room.top(), taken.top()));
 }
 
 void HelpWindow::Open(std::int32_t topic) {
-  page_.setHtml(PageOf(topic));
-  // The page has no caret by which a reader would come to its words.
-  page_.setAccessibleDescription(page_.toPlainText());
+  search_.clear();
+  Show(PlaceOfTopic(topics_, topic));
   setWindowState(windowState() & ~Qt::WindowMinimized);
+  page_.setFocus();
   show();
   raise();
   activateWindow();
 }
 
-void HelpWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) close();
-  QWidget::keyPressEvent(event);
+void HelpWindow::Show(std::size_t topic) {
+  if (topic < topics_.size()) page_.setSource(topics_[topic].Source);
+}
+
+void HelpWindow::PageChanged(const QUrl& source) {
+  const auto topic = std::ranges::find(topics_, source, &HelpTopic::Source);
+  const QSignalBlocker still(contents_);
+  contents_.setCurrentRow(static_cast<int>(topic - topics_.begin()));
+  MarkFound();
+}
+
+void HelpWindow::Search() {
+  if (texts_.isEmpty()) std::ranges::transform(topics_, std::back_inserter(texts_), PlainText);
+  const QString words = search_.text().simplified();
+  found_ = FindWords(texts_, words);
+  std::size_t topics = 0;
+  for (int row = 0; row < contents_.count(); ++row) {
+    const bool has = std::ranges::count(found_, row, &HelpPlace::Topic) > 0;
+    contents_.item(row)->setHidden(!has && !words.isEmpty());
+    if (has) ++topics;
+  }
+  const QString sum = Counted(found_.size(), "place") + " in " + Counted(topics, "topic");
+  Tell(words.isEmpty() ? "" : found_.empty() ? "Not found" : sum);
+  MarkFound();
+}
+
+void HelpWindow::NextFound() {
+  if (found_.empty()) return;
+  const std::size_t next = NextPlace(found_, static_cast<std::size_t>(contents_.currentRow()),
+                                     page_.textCursor().position());
+  const HelpPlace& place = found_[next];
+  Show(place.Topic);
+  page_.GoTo(place);
+  Tell(QStringLiteral("Place %1 of %2: %3")
+           .arg(next + 1)
+           .arg(found_.size())
+           .arg(topics_[place.Topic].Title));
+}
+
+void HelpWindow::MarkFound() {
+  std::vector<HelpPlace> here;
+  const auto topic = static_cast<std::size_t>(contents_.currentRow());
+  std::ranges::copy_if(found_, std::back_inserter(here),
+                       [topic](const HelpPlace& place) { return place.Topic == topic; });
+  page_.Mark(here);
+}
+
+/// Also as what is said of the search box, since a screen reader tells that of where the keyboard
+/// is.
+void HelpWindow::Tell(const QString& news) {
+  told_.setText(news);
+  told_.setVisible(!news.isEmpty());
+  search_.setAccessibleDescription(news);
 }
 
 }  // namespace terramark::window

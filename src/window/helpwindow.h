@@ -1,26 +1,53 @@
-// The help viewer: one window beside the editor, which shows one topic at a time.
+// The help viewer: one window beside the editor, with the contents, a search and one topic.
 #pragma once
 
-#include <QTextBrowser>
-#include <QVBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QWidget>
 #include <cstdint>
+#include <vector>
+
+#include "window/helppage.h"
+#include "window/helpsearch.h"
+#include "window/helptopics.h"
 
 namespace terramark::window {
 
 class HelpWindow : public QWidget {
  public:
-  HelpWindow();
+  /// Stands beside the editor's window where the screen has room; null is none.
+  explicit HelpWindow(const QWidget* editor);
 
-  /// Shows a topic and comes to the front. A number that is no topic is told so.
+  /// Shows a topic and comes to the front; for a number that is no topic, the contents.
   void Open(std::int32_t topic);
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
-  QTextBrowser page_;
-  QVBoxLayout layout_;
+  void LayOut();
+  void JoinParts();
+  void SetKeys();
+  void StandBeside(const QWidget& editor);
+
+  void Show(std::size_t topic);
+  void PageChanged(const QUrl& source);
+  /// The words of the search box have changed.
+  void Search();
+  void NextFound();
+  void MarkFound();
+  void Tell(const QString& news);
+
+  const std::vector<HelpTopic> topics_ = ReadHelpTopics();
+  /// The topics as they are read; empty until the first search.
+  QStringList texts_;
+  std::vector<HelpPlace> found_;
+
+  QPushButton back_{"&Back"};
+  QPushButton forward_{"&Forward"};
+  QLineEdit search_;
+  QLabel told_;
+  QListWidget contents_;
+  HelpPage page_;
 };
 
 }  // namespace terramark::window

@@ -70,7 +70,7 @@ void QtDesktop::ShowModal(forms::Form& form) {
 }
 
 void QtDesktop::ShowHelp(const std::string& /*helpFile*/, std::int32_t topic) {
-  if (!help_) help_ = std::make_unique<HelpWindow>();
+  if (!help_) help_ = std::make_unique<HelpWindow>(window_);
   help_->Open(topic);
 }
 

@@ -1,0 +1,44 @@
+#include "window/helpsearch.h"
+
+#include <algorithm>
+
+namespace terramark::window {
+
+namespace {
+
+/// Empty unless all words are there.
+std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QStringList& words) {
+  std::vector<HelpPlace> places;
+  for (const QString& word : words) {
+    auto at = text.indexOf(word, 0, Qt::CaseInsensitive);
+    if (at < 0) return {};
+    for (; at >= 0; at = text.indexOf(word, at + word.size(), Qt::CaseInsensitive)) {
+      places.push_back({topic, static_cast<int>(at), static_cast<int>(word.size())});
+    }
+  }
+  std::ranges::sort(places);
+  return places;
+}
+
+}  // namespace
+
+std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
+  const QStringList words = query.simplified().split(' ', Qt::SkipEmptyParts);
+  std::vector<HelpPlace> found;
+  for (std::size_t topic = 0; topic < static_cast<std::size_t>(texts.size()); ++topic) {
+    int end = 0;
+    for (const HelpPlace& place : PlacesIn(texts[static_cast<qsizetype>(topic)], topic, words)) {
+      if (place.At < end) continue;
+      found.push_back(place);
+      end = place.At + place.Size;
+    }
+  }
+  return found;
+}
+
+std::size_t NextPlace(const std::vector<HelpPlace>& places, std::size_t topic, int at) {
+  const auto next = std::ranges::lower_bound(places, HelpPlace{topic, at, 0});
+  return next == places.end() ? 0 : static_cast<std::size_t>(next - places.begin());
+}
+
+}  // namespace terramark::window
