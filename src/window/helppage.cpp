@@ -45,7 +45,8 @@ HelpPage::HelpPage() {
 
 void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   const QUrl target = source().resolved(name);
-  if (target.scheme() != "qrc" || !QFile::exists(':' + target.path())) return;
+  if (target.scheme() != "qrc" || !target.path().endsWith(".md")) return;
+  if (!QFile::exists(':' + target.path())) return;
   // It would be dressed once more.
   if (target == source()) return;
   QTextBrowser::doSetSource(target, type);

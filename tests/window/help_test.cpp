@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTextBlock>
+#include <algorithm>
+
+#include "shell/form1controls.h"
+#include "window/helppage.h"
+#include "window/helptopics.h"
+#include "window/qtdesktop.h"
+
+namespace terramark::window {
+namespace {
+
+TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
+  const auto topics = ReadHelpTopics();
+  for (const ControlRow<Form1>& row : Form1Controls()) {
+    if (row.HelpTopic == 0) continue;
+    EXPECT_EQ(topics[PlaceOfTopic(topics, row.HelpTopic)].Number, row.HelpTopic);
+  }
+  int pictures = 0;
+  for (const HelpTopic& topic : topics) {
+    EXPECT_NE(topic.Title, "") << topic.Number;
+    auto targets = QRegularExpression("\\]\\(([^)]*)\\)").globalMatch(topic.Text);
+    while (targets.hasNext()) {
+      const QString target = targets.next().captured(1);
+      EXPECT_TRUE(QFile::exists(":/help/" + target)) << target.toStdString();
+      if (target.endsWith(".png")) ++pictures;
+    }
+  }
+  EXPECT_GT(pictures, 0);
+}
+
+TEST(HelpSearch, TopicsWithAllWordsAreFound) {
+  const QStringList texts{"Red sea", "the sea", "Reddish REDs, sea"};
+  EXPECT_EQ(FindWords(texts, " RED\tsea "),
+            (std::vector<HelpPlace>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
+  EXPECT_EQ(FindWords({"aaa"}, "a aa"), (std::vector<HelpPlace>{{0, 0, 1}, {0, 1, 1}, {0, 2, 1}}));
+  EXPECT_TRUE(FindWords(texts, " ").empty());
+}
+
+struct HelpTest : testing::Test {
+  QtDesktop Desktop;
+  QWidget* Window = nullptr;
+
+  void Open(int topic) {
+    Desktop.ShowHelp("TMRK.HLP", topic);
+    const auto all = QApplication::topLevelWidgets();
+    const auto is = [](const QWidget* window) { return window->objectName() == "Help"; };
+    ASSERT_EQ(std::ranges::count_if(all, is), 1);
+    Window = *std::ranges::find_if(all, is);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Window));
+  }
+  HelpPage& Page() { return *Window->findChild<HelpPage*>(); }
+  QListWidget& Contents() { return *Window->findChild<QListWidget*>(); }
+  std::string Said() { return Window->findChild<QLabel*>()->text().toStdString(); }
+  /// The page's heading, when the contents mark it.
+  std::string Shown() {
+    const QString heading = Page().document()->firstBlock().text();
+    return heading == Contents().currentItem()->text() ? heading.toStdString() : "another";
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(Window->focusWidget(), key, with);
+  }
+};
+
+TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
+  Open(13);
+  Open(12);
+  EXPECT_EQ(Shown(), "Card symbols");
+  Open(-3);
+  EXPECT_EQ(Shown(), "Terramark");
+  for (const char* nowhere : {"99-nowhere.md", "pictures", "https:10-links.md"}) {
+    Page().setSource(QUrl(nowhere));
+    EXPECT_EQ(Shown(), "Terramark") << nowhere;
+  }
+  Page().setSource(QUrl("10-links.md"));
+  Contents().setCurrentRow(0);
+  Key(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Shown(), "Links");
+  Key(Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(Shown(), "Terramark");
+  Window->resize(500, 400);
+  const auto picture =
+      Page().document()->resource(QTextDocument::ImageResource, QUrl("pictures/glance.png"));
+  EXPECT_LE(picture.value<QImage>().deviceIndependentSize().width(), Page().viewport()->width());
+  const double before = Page().font().pointSizeF();
+  Key(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_GT(Page().font().pointSizeF(), before);
+  Key(Qt::Key_F, Qt::ControlModifier);
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(Window->isVisible());
+  Open(16);
+  EXPECT_EQ(Shown(), "Armies");
+}
+
+TEST_F(HelpTest, ASearchNarrowsTheContentsAndGoesRoundTheTopics) {
+  Open(11);
+  Key(Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(Window->focusWidget(), "sample map");
+  std::vector<std::string> having;
+  for (int row = 0; row < Contents().count(); ++row) {
+    if (!Contents().item(row)->isHidden())
+      having.push_back(Contents().item(row)->text().toStdString());
+  }
+  EXPECT_EQ(having.size(), 2U);
+  EXPECT_EQ(Said().substr(Said().find(" in ")), " in 2 topics");
+  std::vector<std::string> visited;
+  const auto places = Said().substr(0, Said().find(' '));
+  for (int i = 0; i < std::stoi(places); ++i) {
+    Key(i % 2 == 0 ? Qt::Key_Return : Qt::Key_F3);
+    const QString found = Page().textCursor().selectedText().toLower();
+    EXPECT_TRUE(found == "sample" || found == "map") << found.toStdString();
+    if (visited.empty() || visited.back() != Shown()) visited.push_back(Shown());
+  }
+  std::ranges::sort(visited);
+  std::ranges::sort(having);
+  EXPECT_EQ(visited, having);
+  EXPECT_GT(Page().extraSelections().size(), 1);
+  QTest::keyClicks(Window->focusWidget(), "x");
+  EXPECT_EQ(Said(), "Not found");
+}
+
+}  // namespace
+}  // namespace terramark::window
