@@ -16,6 +16,7 @@ constexpr int Edge = 129;  // percent of the ground's darkness
 MemoView::MemoView(forms::TextBox& box, QWidget& container)
     : QPlainTextEdit(&container), ControlView(box, *this), box_(box) {
   setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

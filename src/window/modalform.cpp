@@ -1,14 +1,55 @@
 #include "window/modalform.h"
 
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include "window/frames.h"
+
 namespace terramark::window {
 
+namespace {
+
+constexpr int Edge = 2;  // pixels, as are all sizes here
+constexpr int CaptionHeight = 20;
+
+}  // namespace
+
 ModalForm::ModalForm(forms::Form& form, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
-      inside_(form, *this) {
-  inside_.resize(inside_.DesignSize());
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), inside_(form, *this) {
+  const QSize size = inside_.DesignSize();
+  inside_.setGeometry({QPoint(Edge, Edge + CaptionHeight), size});
   inside_.OnUnload = [this] { accept(); };
   inside_.DressWindow();
-  setFixedSize(inside_.DesignSize());
+  caption_.setGeometry(Edge, Edge, size.width(), CaptionHeight);
+  caption_.setText(windowTitle());
+  caption_.setAlignment(Qt::AlignCenter);
+  caption_.setAutoFillBackground(true);
+  caption_.setBackgroundRole(QPalette::Highlight);
+  caption_.setForegroundRole(QPalette::HighlightedText);
+  QFont letters = caption_.font();
+  letters.setBold(true);
+  caption_.setFont(letters);
+  setFixedSize(size + QSize(2 * Edge, 2 * Edge + CaptionHeight));
+}
+
+void ModalForm::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  QPainter painter(this);
+  const QPalette& colours = palette();
+  DrawBevel(painter, rect(),
+            {colours.color(QPalette::Dark), Qt::black, Qt::white, colours.color(QPalette::Dark)});
+}
+
+void ModalForm::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  // Out of sight it would still keep the window behind it from answering.
+  if (event->type() == QEvent::WindowStateChange && isMinimized()) showNormal();
+}
+
+void ModalForm::mousePressEvent(QMouseEvent* event) {
+  if (caption_.geometry().contains(event->position().toPoint())) windowHandle()->startSystemMove();
 }
 
 }  // namespace terramark::window

@@ -2,17 +2,27 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
 
 #include "window/formview.h"
 
 namespace terramark::window {
 
-/// Of a fixed size, with a title and no buttons in it. Escape and the window manager close it too.
+/// Draws its frame and caption itself: some window managers put all their buttons on whatever has a
+/// frame of theirs. It is as large as the form and these, and is never minimised.
 class ModalForm : public QDialog {
  public:
+  /// The form must outlive the dialog.
   ModalForm(forms::Form& form, QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  /// A press on the caption takes the dialog along.
+  void mousePressEvent(QMouseEvent* event) override;
+
  private:
+  QLabel caption_{this};
   FormView inside_;
 };
 
