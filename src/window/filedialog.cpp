@@ -2,6 +2,8 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
@@ -107,6 +109,13 @@ void EndCompletionWith(QFileDialog& chooser) {
   QObject::connect(&chooser, &QDialog::finished, name, [name] { name->setCompleter(nullptr); });
 }
 
+/// The samples that were installed with the program stand beside the usual places.
+void AddSamples(QFileDialog& chooser) {
+  const QDir samples(QCoreApplication::applicationDirPath() + "/../share/terramark/samples");
+  if (!samples.exists()) return;
+  chooser.setSidebarUrls(chooser.sidebarUrls() << QUrl::fromLocalFile(samples.canonicalPath()));
+}
+
 }  // namespace
 
 QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
@@ -118,6 +127,7 @@ QString AskForFile(const std::string& filter, const QString& folder, QWidget* pa
   chooser.setAcceptMode(QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
   chooser.setNameFilters({Worded(filter), "All files (*)"});
+  AddSamples(chooser);
   ShowWholeColumns(chooser);
   NameParts(chooser);
   EndCompletionWith(chooser);

@@ -4,11 +4,11 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QTreeView>
 #include <array>
@@ -20,6 +20,7 @@
 #include "pictures/cp1252.h"
 #include "shell/aboutform.h"
 #include "shell/form1.h"
+#include "window/filedialog.h"
 #include "window/mainwindow.h"
 #include "window/qtdesktop.h"
 
@@ -69,8 +70,11 @@ TEST_F(DesktopTest, TheAboutBoxEndsByItsButtonAndByEscape) {
   for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
     WhileModal([&](QWidget& about) {
       EXPECT_EQ(about.windowTitle(), "About Terramark");
-      EXPECT_EQ(about.minimumSize(), QSize(337, 97));
-      EXPECT_EQ(about.maximumSize(), QSize(337, 97));
+      EXPECT_EQ(about.findChild<QWidget*>("inside")->size(), QSize(337, 97));
+      EXPECT_EQ(about.minimumSize(), about.maximumSize());
+      auto* text = about.findChild<QPlainTextEdit*>();
+      QTest::keyClick(text, Qt::Key_End, Qt::ShiftModifier);
+      EXPECT_TRUE(text->isReadOnly() && text->textCursor().hasSelection());
       ++shown;
       QTest::keyClick(about.focusWidget(), key);
     });
@@ -132,26 +136,23 @@ TEST_F(DesktopTest, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   QDir::setCurrent(before);
 }
 
-TEST_F(DesktopTest, OneHelpWindowShowsTheTopicAskedFor) {
-  const auto pages = [] {
-    QStringList texts;
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-      const auto* page = window->findChild<QTextBrowser*>("HelpPage");
-      if (page != nullptr) texts += page->toPlainText();
-    }
-    return texts.join("|").toStdString();
+TEST_F(DesktopTest, TheSideBarLeadsToTheSamplesThatAreInstalled) {
+  const QString samples =
+      QDir(QApplication::applicationDirPath() + "/..").canonicalPath() + "/share/terramark/samples";
+  const auto places = [] {
+    QStringList paths;
+    WhileModal([&](QWidget& chooser) {
+      for (const QUrl& url : static_cast<QFileDialog&>(chooser).sidebarUrls()) paths += url.path();
+      chooser.close();
+    });
+    AskForFile("*.tml", "/", nullptr);
+    return paths;
   };
-  Desktop.ShowHelp("TMRK.HLP", 13);
-  Desktop.ShowHelp("TMRK.HLP", 12);
-  EXPECT_EQ(pages().substr(0, 22), "Topic 12: Card symbols");
-  EXPECT_EQ(pages().find('|'), std::string::npos);
-  for (const forms::Control* control : Form.Controls()) {
-    if (control->HelpTopic == 0) continue;
-    Desktop.ShowHelp("TMRK.HLP", control->HelpTopic);
-    EXPECT_EQ(pages().find("no such help topic"), std::string::npos) << control->Name();
-  }
-  Desktop.ShowHelp("TMRK.HLP", -3);
-  EXPECT_NE(pages().find("no such help topic"), std::string::npos);
+  const QStringList usual = places();
+  EXPECT_GE(usual.size(), 2);
+  QDir().mkpath(samples);
+  EXPECT_EQ(places(), usual + QStringList(samples));
+  QDir().rmpath(samples);
 }
 
 TEST_F(DesktopTest, DrawsAreBelowOneAndRepeatWithTheirSeed) {
