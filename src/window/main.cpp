@@ -15,8 +15,6 @@ int main(int /*argc*/, char** argv) {
   terramark::window::BeginJoiningDisplay();
   QApplication application(argumentCount, argv);
   terramark::window::EndJoiningDisplay();
-  // The name of the desktop entry, by which a desktop knows whose window it shows.
-  QGuiApplication::setDesktopFileName("terramark");
   terramark::window::SetUpLook(application);
 
   terramark::window::QtDesktop desktop;

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QWindow>
 
-#include "window/frames.h"
+#include "pictures/frames.h"
 
 namespace terramark::window {
 
@@ -38,8 +38,9 @@ void ModalForm::paintEvent(QPaintEvent* event) {
   QDialog::paintEvent(event);
   QPainter painter(this);
   const QPalette& colours = palette();
-  DrawBevel(painter, rect(),
-            {colours.color(QPalette::Dark), Qt::black, Qt::white, colours.color(QPalette::Dark)});
+  pictures::DrawBevel(
+      painter, rect(),
+      {colours.color(QPalette::Dark), Qt::black, Qt::white, colours.color(QPalette::Dark)});
 }
 
 void ModalForm::changeEvent(QEvent* event) {
