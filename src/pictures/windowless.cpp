@@ -1,6 +1,9 @@
 #include "pictures/windowless.h"
 
+#include <QFile>
 #include <QGuiApplication>
+#include <QTemporaryDir>
+#include <optional>
 
 namespace terramark::pictures {
 
@@ -13,8 +16,11 @@ Windowless::Windowless() {
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
-  // Where no session runs, Qt would make a folder for one and leave it behind.
-  if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/dev/null/none");
+  // Where no session runs, Qt would make a folder for one, and leave it behind.
+  std::optional<QTemporaryDir> session;
+  if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(session.emplace().path()));
+  }
   application_ = std::make_unique<QGuiApplication>(argumentCount, arguments);
 }
 
