@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextDocument>
+#include <QToolButton>
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -23,6 +24,7 @@ constexpr int SearchWidth = 240;
 constexpr int Gap = 6;
 /// What the window manager may put around a window that it has not shown yet.
 constexpr int FrameRoom = 8;
+constexpr int TitleRoom = 40;
 
 /// As the page has it, so that places in the one are places in the other.
 QString PlainText(const HelpTopic& topic) {
@@ -47,12 +49,13 @@ HelpWindow::HelpWindow(const QWidget* editor) {
   search_.setAccessibleName("Search in all topics");
   search_.setPlaceholderText("Search in all topics");
   search_.setClearButtonEnabled(true);
+  search_.findChild<QToolButton*>()->setAccessibleName("Clear the search");
   back_.setToolTip("Alt+Left");
   forward_.setToolTip("Alt+Right");
   LayOut();
   JoinParts();
   SetKeys();
-  resize(FirstSize.boundedTo(screen()->availableSize()));
+  resize(FirstSize.boundedTo(screen()->availableSize() - QSize(2 * FrameRoom, TitleRoom)));
   if (editor != nullptr) StandBeside(*editor);
 }
 
@@ -64,7 +67,8 @@ void HelpWindow::LayOut() {
   search_.setFixedWidth(SearchWidth);
   bar->addWidget(&search_);
   bar->addSpacing(Gap);
-  QSizePolicy staying(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  // Whatever it tells, the others stay where they are.
+  QSizePolicy staying(QSizePolicy::Ignored, QSizePolicy::Preferred);
   staying.setRetainSizeWhenHidden(true);
   told_.setSizePolicy(staying);
   told_.hide();
@@ -74,6 +78,7 @@ void HelpWindow::LayOut() {
   contents_.setSpacing(2);
   halves->addWidget(&contents_);
   halves->addWidget(&page_, 1);
+  // Each belongs to the layout that it is in, and the outermost to the window.
   auto whole = std::make_unique<QVBoxLayout>(this);
   whole->setContentsMargins(Gap, Gap, Gap, Gap);
   whole->setSpacing(Gap);
@@ -103,7 +108,9 @@ void HelpWindow::JoinParts() {
 
 void HelpWindow::SetKeys() {
   const auto on = [this](const char* keys, auto act) {
-    connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, act);
+    // The window owns it.
+    auto shortcut = std::make_unique<QShortcut>(QKeySequence(keys), this);
+    connect(shortcut.release(), &QShortcut::activated, this, act);
   };
   on("Escape", [this] { close(); });
   on("Alt+Left", [this] { page_.backward(); });

@@ -9,7 +9,8 @@
 namespace terramark::window {
 
 /// Draws its frame and caption itself: some window managers put all their buttons on whatever has a
-/// frame of theirs. It is as large as the form and these, and is never minimised.
+/// frame of theirs. It is as large as the form and these, and is never minimised. Escape closes it
+/// too.
 class ModalForm : public QDialog {
  public:
   /// The form must outlive the dialog.

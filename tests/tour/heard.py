@@ -205,15 +205,31 @@ class Reader(Editor):
 
     def open_windows(self):
         for button, keys, role, title in (("LoadMap", (), "dialog", FILE_DIALOG),
-                                          ("Cvalid", ["shift"], "frame", HELP),
                                           ("DBPush1", (), "dialog", ABOUT)):
             self.press_control(button, keys)
             self.check_named(role, title)
             self.dialog(title, "key", "Escape")
 
+    def read_help(self):
+        self.press_control("Cvalid", ["shift"])
+        page = self.find("label", "Help page")
+        text = Atspi.Text.get_text(page, 0, -1)
+        check("the page's words", text.startswith("Validating a map") and
+              page.get_description() == text and has(page, "FOCUSED"))
+        self.key("Down")
+        self.wait("the caret in the page", lambda: Atspi.Text.get_caret_offset(page) > 0)
+        search = "text", "Search in all topics"
+        search_box = self.find(*search)
+        self.hears(lambda: self.key("ctrl+f"), (FOCUS, 1, *search))
+        self.hears(lambda: self.screen.tool("type", "shift"), *5 * [(MOVED, 0, *search)])
+        self.key("Return")
+        self.wait("the place told", lambda: search_box.get_description().startswith("Place "))
+        self.check_named("frame", HELP)
+        self.dialog(HELP, "key", "Escape")
+
     def run(self):
         for part in (self.read_window, self.load, self.walk, self.announce, self.magnify,
-                     self.lose, self.open_windows):
+                     self.lose, self.open_windows, self.read_help):
             print(part.__name__, flush=True)
             part()
 
