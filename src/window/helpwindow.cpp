@@ -19,8 +19,10 @@ namespace terramark::window {
 namespace {
 
 constexpr QSize FirstSize(840, 600);
+/// Less would cut off what is told of a search.
+constexpr QSize LeastSize(640, 320);
 constexpr int ContentsWidth = 180;
-constexpr int SearchWidth = 240;
+constexpr int SearchWidth = 200;
 constexpr int Gap = 6;
 /// What the window manager may put around a window that it has not shown yet.
 constexpr int FrameRoom = 8;
@@ -55,6 +57,7 @@ HelpWindow::HelpWindow(const QWidget* editor) {
   LayOut();
   JoinParts();
   SetKeys();
+  setMinimumSize(LeastSize);
   resize(FirstSize.boundedTo(screen()->availableSize() - QSize(2 * FrameRoom, TitleRoom)));
   if (editor != nullptr) StandBeside(*editor);
 }

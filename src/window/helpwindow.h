@@ -3,12 +3,12 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QWidget>
 #include <cstdint>
 #include <vector>
 
+#include "window/helpcontents.h"
 #include "window/helppage.h"
 #include "window/helpsearch.h"
 #include "window/helptopics.h"
@@ -46,7 +46,7 @@ class HelpWindow : public QWidget {
   QPushButton forward_{"&Forward"};
   QLineEdit search_;
   QLabel told_;
-  QListWidget contents_;
+  HelpContents contents_;
   HelpPage page_;
 };
 
