@@ -7,10 +7,11 @@ namespace terramark {
 
 namespace {
 
+/// What has no topic of its own has that of the frame around it.
 void ShowHelpOnActive(Form1& form) {
-  const forms::Control* const active = form.ActiveControl();
-  const bool tells = active != nullptr && active->HelpTopic != 0;
-  ShowHelpTopic(form, tells ? active->HelpTopic : form.TMHelp.HelpTopic);
+  const forms::Control* told = form.ActiveControl();
+  while (told != nullptr && told->HelpTopic == 0) told = told->Container();
+  ShowHelpTopic(form, (told != nullptr ? *told : form.TMHelp).HelpTopic);
 }
 
 void GoToMapOrBack(Form1& form) {

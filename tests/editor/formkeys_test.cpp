@@ -11,7 +11,8 @@ using FormKeysTest = EditorTest;
 
 TEST_F(FormKeysTest, F1OpensTheHelpOnWhatHasTheKeyboard) {
   const std::pair<Control*, std::int16_t> cases[]{
-      {&Form.Text1, 15}, {&Form.EditText, 2}, {nullptr, 2}};
+      {&Form.Text1, 15}, {&Form.EditText, 2}, {nullptr, 2}, {&Form.ColBar(1), 14}};
+  Form.RGBFrame.Enabled = true;
   for (const auto& [control, topic] : cases) {
     Form.Focus(control);
     Key(KeyF1);
