@@ -93,9 +93,12 @@ void HelpPage::GoTo(const HelpPlace& place) {
 
 void HelpPage::Zoom(int zoom) {
   zoom_ = std::clamp(zoom, LeastZoom, MostZoom);
+  const QTextCursor top = cursorForPosition({});
   QFont letters = font();
   letters.setPointSizeF(FirstPoints * std::pow(ZoomStep, zoom_));
   setFont(letters);
+  // What was read goes on being read.
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top());
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {
@@ -109,6 +112,12 @@ void HelpPage::wheelEvent(QWheelEvent* event) {
   Zoom(zoom_ + turned_ / QWheelEvent::DefaultDeltasPerStep);
   turned_ %= QWheelEvent::DefaultDeltasPerStep;
   event->accept();
+}
+
+bool HelpPage::focusNextPrevChild(bool next) {
+  // Backwards from a page of which no link is marked is out of it, and not to its last link.
+  if (!next && !textCursor().hasSelection()) return QWidget::focusNextPrevChild(next);
+  return QTextBrowser::focusNextPrevChild(next);
 }
 
 void HelpPage::keyPressEvent(QKeyEvent* event) {

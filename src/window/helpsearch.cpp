@@ -6,15 +6,21 @@ namespace terramark::window {
 
 namespace {
 
+bool BeginsWord(const QString& text, qsizetype at) {
+  return at == 0 || !text[at - 1].isLetterOrNumber() || !text[at].isLetterOrNumber();
+}
+
 /// Empty unless all words are there.
 std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QStringList& words) {
   std::vector<HelpPlace> places;
   for (const QString& word : words) {
-    auto at = text.indexOf(word, 0, Qt::CaseInsensitive);
-    if (at < 0) return {};
-    for (; at >= 0; at = text.indexOf(word, at + word.size(), Qt::CaseInsensitive)) {
+    const std::size_t before = places.size();
+    for (auto at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(word, at + 1, Qt::CaseInsensitive)) {
+      if (!BeginsWord(text, at)) continue;
       places.push_back({topic, static_cast<int>(at), static_cast<int>(word.size())});
     }
+    if (places.size() == before) return {};
   }
   std::ranges::sort(places);
   return places;

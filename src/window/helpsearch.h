@@ -19,8 +19,8 @@ struct HelpPlace {
 };
 
 /// Where the words of a query stand in those texts that have all of them, in order; one place does
-/// not reach into the next. Case does not matter, and a word may be a part of a longer one. None
-/// for a query without words.
+/// not reach into the next. Case does not matter, and a word may go on. None for a query without
+/// words.
 std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query);
 
 /// The first place that begins there or later, or else the very first: the search goes round.

@@ -106,7 +106,7 @@ void HelpWindow::JoinParts() {
   connect(&contents_, &QListWidget::currentRowChanged, this,
           [this](int row) { Show(static_cast<std::size_t>(row)); });
   connect(&search_, &QLineEdit::textChanged, this, [this] { Search(); });
-  connect(&search_, &QLineEdit::returnPressed, this, [this] { NextFound(); });
+  connect(&search_, &QLineEdit::returnPressed, this, [this] { GoOn(true); });
 }
 
 void HelpWindow::SetKeys() {
@@ -118,7 +118,8 @@ void HelpWindow::SetKeys() {
   on("Escape", [this] { close(); });
   on("Alt+Left", [this] { page_.backward(); });
   on("Alt+Right", [this] { page_.forward(); });
-  on("F3", [this] { NextFound(); });
+  on("F3", [this] { GoOn(true); });
+  on("Shift+F3", [this] { GoOn(false); });
   on("Ctrl+F", [this] {
     search_.setFocus(Qt::ShortcutFocusReason);
     search_.selectAll();
@@ -176,10 +177,12 @@ void HelpWindow::Search() {
   MarkFound();
 }
 
-void HelpWindow::NextFound() {
+void HelpWindow::GoOn(bool forward) {
   if (found_.empty()) return;
-  const std::size_t next = NextPlace(found_, static_cast<std::size_t>(contents_.currentRow()),
-                                     page_.textCursor().position());
+  const QTextCursor now = page_.textCursor();
+  std::size_t next = NextPlace(found_, static_cast<std::size_t>(contents_.currentRow()),
+                               forward ? now.selectionEnd() : now.selectionStart());
+  if (!forward) next = (next + found_.size() - 1) % found_.size();
   const HelpPlace& place = found_[next];
   Show(place.Topic);
   page_.GoTo(place);

@@ -33,7 +33,8 @@ class HelpWindow : public QWidget {
   void PageChanged(const QUrl& source);
   /// The words of the search box have changed.
   void Search();
-  void NextFound();
+  /// To the next place found, or the one before.
+  void GoOn(bool forward);
   void MarkFound();
   void Tell(const QString& news);
 
