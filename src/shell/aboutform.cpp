@@ -10,7 +10,7 @@ namespace terramark {
 namespace {
 
 constexpr char AboutSentence[] =
-    "Terramark 1 by the Terramark developers, see README: good maps win games";
+    "Terramark 1 by the Terramark developers, see Help: good maps win games";
 
 // In tab order; places and sizes in twips.
 // clang-format off

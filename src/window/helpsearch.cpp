@@ -26,10 +26,7 @@ std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QS
   return places;
 }
 
-}  // namespace
-
-std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
-  const QStringList words = query.simplified().split(' ', Qt::SkipEmptyParts);
+std::vector<HelpPlace> FindAll(const QStringList& texts, const QStringList& words) {
   std::vector<HelpPlace> found;
   for (std::size_t topic = 0; topic < static_cast<std::size_t>(texts.size()); ++topic) {
     int end = 0;
@@ -40,6 +37,15 @@ std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query)
     }
   }
   return found;
+}
+
+}  // namespace
+
+std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
+  const QString words = query.simplified();
+  if (words.isEmpty()) return {};
+  std::vector<HelpPlace> found = FindAll(texts, {words});
+  return found.empty() ? FindAll(texts, words.split(' ')) : found;
 }
 
 std::size_t NextPlace(const std::vector<HelpPlace>& places, std::size_t topic, int at) {

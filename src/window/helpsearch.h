@@ -18,9 +18,9 @@ struct HelpPlace {
   auto operator<=>(const HelpPlace&) const = default;
 };
 
-/// Where the words of a query stand in those texts that have all of them, in order; one place does
-/// not reach into the next. Case does not matter, and a word may go on. None for a query without
-/// words.
+/// Where a query stands in the texts as it is; or else its words, in those texts that have all of
+/// them. In order; one place does not reach into the next. Case does not matter, and a word may go
+/// on. None for a query without words.
 std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query);
 
 /// The first place that begins there or later, or else the very first: the search goes round.

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <set>
 
 #include "window/accessiblenames.h"
 #include "window/look.h"
@@ -103,8 +104,10 @@ void HelpWindow::JoinParts() {
   back_.setEnabled(false);
   forward_.setEnabled(false);
   connect(&page_, &HelpPage::sourceChanged, this, &HelpWindow::PageChanged);
-  connect(&contents_, &QListWidget::currentRowChanged, this,
-          [this](int row) { Show(static_cast<std::size_t>(row)); });
+  connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) {
+    Show(static_cast<std::size_t>(row));
+    if (const HelpPlace* const first = FirstFoundIn(row)) page_.GoTo(*first);
+  });
   connect(&search_, &QLineEdit::textChanged, this, [this] { Search(); });
   connect(&search_, &QLineEdit::returnPressed, this, [this] { GoOn(true); });
 }
@@ -159,22 +162,22 @@ void HelpWindow::PageChanged(const QUrl& source) {
   const auto topic = std::ranges::find(topics_, source, &HelpTopic::Source);
   const QSignalBlocker still(contents_);
   contents_.setCurrentRow(static_cast<int>(topic - topics_.begin()));
-  MarkFound();
+  ShowFound();
 }
 
 void HelpWindow::Search() {
   if (texts_.isEmpty()) std::ranges::transform(topics_, std::back_inserter(texts_), PlainText);
   const QString words = search_.text().simplified();
   found_ = FindWords(texts_, words);
-  std::size_t topics = 0;
   for (int row = 0; row < contents_.count(); ++row) {
-    const bool has = std::ranges::count(found_, row, &HelpPlace::Topic) > 0;
-    contents_.item(row)->setHidden(!has && !words.isEmpty());
-    if (has) ++topics;
+    contents_.item(row)->setHidden(!words.isEmpty() && FirstFoundIn(row) == nullptr);
   }
-  const QString sum = Counted(found_.size(), "place") + " in " + Counted(topics, "topic");
-  Tell(words.isEmpty() ? "" : found_.empty() ? "Not found" : sum);
-  MarkFound();
+  ShowFound();
+}
+
+const HelpPlace* HelpWindow::FirstFoundIn(int row) const {
+  const auto first = std::ranges::find(found_, static_cast<std::size_t>(row), &HelpPlace::Topic);
+  return first == found_.end() ? nullptr : &*first;
 }
 
 void HelpWindow::GoOn(bool forward) {
@@ -192,12 +195,16 @@ void HelpWindow::GoOn(bool forward) {
            .arg(topics_[place.Topic].Title));
 }
 
-void HelpWindow::MarkFound() {
+void HelpWindow::ShowFound() {
   std::vector<HelpPlace> here;
-  const auto topic = static_cast<std::size_t>(contents_.currentRow());
-  std::ranges::copy_if(found_, std::back_inserter(here),
-                       [topic](const HelpPlace& place) { return place.Topic == topic; });
+  std::set<std::size_t> topics;
+  for (const HelpPlace& place : found_) {
+    topics.insert(place.Topic);
+    if (static_cast<int>(place.Topic) == contents_.currentRow()) here.push_back(place);
+  }
   page_.Mark(here);
+  const QString sum = Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic");
+  Tell(search_.text().trimmed().isEmpty() ? "" : found_.empty() ? "Not found" : sum);
 }
 
 /// Also as what is said of the search box, since a screen reader tells that of where the keyboard

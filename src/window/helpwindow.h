@@ -35,7 +35,10 @@ class HelpWindow : public QWidget {
   void Search();
   /// To the next place found, or the one before.
   void GoOn(bool forward);
-  void MarkFound();
+  /// Marks on the page what was found, and tells how much there is.
+  void ShowFound();
+  /// Null when a topic has nothing of it.
+  const HelpPlace* FirstFoundIn(int row) const;
   void Tell(const QString& news);
 
   const std::vector<HelpTopic> topics_ = ReadHelpTopics();

@@ -38,9 +38,10 @@ TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
 
 TEST(HelpSearch, TopicsWithAllWordsAreFound) {
   const QStringList texts{"Red sea", "the sea, hundred", "Reddish REDs, sea"};
-  EXPECT_EQ(FindWords(texts, " RED\tsea "),
+  EXPECT_EQ(FindWords(texts, " SEA\tred "),
             (std::vector<HelpPlace>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
   EXPECT_EQ(FindWords({"++a"}, "+ +a"), (std::vector<HelpPlace>{{0, 0, 1}, {0, 1, 1}}));
+  EXPECT_EQ(FindWords(texts, "the  SEA"), (std::vector<HelpPlace>{{1, 0, 7}}));
   EXPECT_TRUE(FindWords(texts, " ").empty());
 }
 
@@ -102,7 +103,7 @@ TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
 TEST_F(HelpTest, ASearchNarrowsTheContentsAndGoesRoundTheTopics) {
   Open(11);
   Key(Qt::Key_F, Qt::ControlModifier);
-  QTest::keyClicks(Window->focusWidget(), "sample map");
+  QTest::keyClicks(Window->focusWidget(), "map sample");
   std::vector<std::string> having;
   for (int row = 0; row < Contents().count(); ++row) {
     if (!Contents().item(row)->isHidden())
@@ -126,6 +127,8 @@ TEST_F(HelpTest, ASearchNarrowsTheContentsAndGoesRoundTheTopics) {
   std::ranges::sort(having);
   EXPECT_EQ(visited, having);
   EXPECT_GT(Page().extraSelections().size(), 1);
+  Key(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Said().substr(Said().find(" in ")), " in 2 topics") << "and not a place elsewhere";
   QTest::keyClicks(Window->focusWidget(), "x");
   EXPECT_EQ(Said(), "Not found");
 }
