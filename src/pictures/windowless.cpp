@@ -1,9 +1,6 @@
 #include "pictures/windowless.h"
 
-#include <QFile>
 #include <QGuiApplication>
-#include <QTemporaryDir>
-#include <optional>
 
 namespace terramark::pictures {
 
@@ -16,11 +13,9 @@ Windowless::Windowless() {
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
-  // Where no session runs, Qt would make a folder for one, and leave it behind.
-  std::optional<QTemporaryDir> session;
-  if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) {
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(session.emplace().path()));
-  }
+  // Qt would make a folder for a session that there is not, and leave it behind. Here it cannot.
+  qunsetenv("XDG_RUNTIME_DIR");
+  qputenv("TMPDIR", "/dev/null");
   application_ = std::make_unique<QGuiApplication>(argumentCount, arguments);
 }
 

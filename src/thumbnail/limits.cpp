@@ -1,11 +1,12 @@
 #include "thumbnail/limits.h"
 
+#include <pthread.h>
 #include <sys/resource.h>
 #include <sys/time.h>
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdio>
+#include <cstddef>
 #include <exception>
 #include <fstream>
 #include <string_view>
@@ -18,7 +19,10 @@ namespace {
 constexpr suseconds_t Patience = 1'800'000;
 /// Bytes beyond what the program begins with: a picture of 8192 x 8192 takes 256 MiB, and all else
 /// under 64.
-constexpr rlim_t MostMemory = rlim_t{384} << 20U;
+constexpr rlim_t MostMemory = rlim_t{360} << 20U;
+/// Bytes. Qt shrinks a picture with a thread for each processor, and the limit counts all of a
+/// thread's stack; the usual size would have a large machine refuse a large picture.
+constexpr std::size_t ThreadStack = std::size_t{256} << 10U;
 
 /// Bytes that the limit counts as taken; a checking allocator has set aside most of them.
 rlim_t PresentMemory() {
@@ -41,10 +45,21 @@ void Refuse(const std::string& why) {
 }
 
 void LimitCost() {
+  std::signal(SIGPIPE, SIG_IGN);  // the status tells those too who do not listen
   std::signal(SIGALRM, [](int) { RefuseAtOnce("terramark-thumbnail: this takes too long\n"); });
   const itimerval once{{0, 0}, {Patience / 1'000'000, Patience % 1'000'000}};
   setitimer(ITIMER_REAL, &once, nullptr);
+  // Whoever calls may have held it up, and that is handed down.
+  sigset_t alarm;
+  sigemptyset(&alarm);
+  sigaddset(&alarm, SIGALRM);
+  sigprocmask(SIG_UNBLOCK, &alarm, nullptr);
 
+  pthread_attr_t threads;
+  pthread_attr_init(&threads);
+  pthread_attr_setstacksize(&threads, ThreadStack);
+  pthread_setattr_default_np(&threads);
+  pthread_attr_destroy(&threads);
   std::set_terminate([] { RefuseAtOnce("terramark-thumbnail: the memory does not reach\n"); });
   const rlim_t most = PresentMemory() + MostMemory;
   const rlimit limit{most, most};

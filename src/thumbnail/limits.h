@@ -13,7 +13,7 @@ inline constexpr int WrongUse = 2;
 [[noreturn]] void Refuse(const std::string& why);
 
 /// From now on the program ends by Refuse: after less than two seconds, whatever it waits for, and
-/// when it takes more memory than the largest picture needs.
+/// when it takes more memory than the largest picture needs. Before any thread is started.
 void LimitCost();
 
 }  // namespace terramark::thumbnail

@@ -34,13 +34,12 @@ std::optional<int> SideOf(const char* text) {
 /// Reading a layout makes its folder the current one, so paths must not begin there.
 std::filesystem::path Absolute(const char* path) {
   std::error_code failed;
-  const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
+  std::filesystem::path absolute = std::filesystem::absolute(path, failed);
   if (failed) Refuse("there is no file of this name");
   return absolute;
 }
 
 void Show(const std::filesystem::path& layout, const std::filesystem::path& png, int side) {
-  LimitCost();
   const pictures::Windowless windowless;
   QuietDesktop desktop(layout);
   Form1 form(desktop);
@@ -60,6 +59,7 @@ void Show(const std::filesystem::path& layout, const std::filesystem::path& png,
 
 int main(int argc, char** argv) {
   using namespace terramark::thumbnail;
+  LimitCost();
   const auto side = argc == 4 ? SideOf(argv[3]) : std::nullopt;
   if (!side) {
     std::fprintf(stderr, "usage: terramark-thumbnail LAYOUT PNG SIZE, a size from 1 to %d\n",

@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <system_error>
 
 #include "forms/regularfile.h"

@@ -1,6 +1,7 @@
 """Shows layouts, good and broken, as a desktop would: thumbnail.py PROGRAM SAMPLES"""
 import os
 import shutil
+import signal
 import struct
 import subprocess
 import sys
@@ -38,5 +39,12 @@ with tempfile.TemporaryDirectory() as folder:
             assert struct.unpack(">2I", png.read_bytes()[16:24])[0] == min(int(size), 546), case
         else:
             assert png.read_bytes() == OLD, case
+    # Fonts that never come, a caller that holds the alarm up, and nobody who listens.
+    heard, told = os.pipe()
+    os.close(heard)
+    assert subprocess.run(
+        [PROGRAM, "-h", png, "64"], stderr=told, env={"FONTCONFIG_FILE": os.path.abspath("pipe.tml")},
+        preexec_fn=lambda: signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM]),
+        timeout=10).returncode == 1
     assert set(os.listdir()) == {os.fsdecode(b"\xff\xfe.tml"), "-h", "europe.bmp", "cut.tml",
                                  "alone.tml", "pipe.tml", "map.png"}
