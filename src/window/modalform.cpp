@@ -50,6 +50,7 @@ void ModalForm::changeEvent(QEvent* event) {
 }
 
 void ModalForm::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
   if (caption_.geometry().contains(event->position().toPoint())) windowHandle()->startSystemMove();
 }
 
