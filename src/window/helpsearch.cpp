@@ -42,10 +42,14 @@ std::vector<HelpPlace> FindAll(const QStringList& texts, const QStringList& word
 }  // namespace
 
 std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
-  const QString words = query.simplified();
-  if (words.isEmpty()) return {};
-  std::vector<HelpPlace> found = FindAll(texts, {words});
-  return found.empty() ? FindAll(texts, words.split(' ')) : found;
+  const QString whole = query.simplified();
+  if (whole.isEmpty()) return {};
+  std::vector<HelpPlace> found = FindAll(texts, {whole});
+  if (!found.empty()) return found;
+  QStringList words = whole.split(' ');
+  // A pasted page has many a word many times.
+  words.removeDuplicates();
+  return FindAll(texts, words);
 }
 
 std::size_t NextPlace(const std::vector<HelpPlace>& places, std::size_t topic, int at) {
