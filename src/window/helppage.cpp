@@ -107,7 +107,7 @@ void HelpPage::resizeEvent(QResizeEvent* event) {
 }
 
 void HelpPage::wheelEvent(QWheelEvent* event) {
-  if (event->modifiers() != Qt::ControlModifier) return QTextBrowser::wheelEvent(event);
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextBrowser::wheelEvent(event);
   turned_ += event->angleDelta().y();
   Zoom(zoom_ + turned_ / QWheelEvent::DefaultDeltasPerStep);
   turned_ %= QWheelEvent::DefaultDeltasPerStep;
