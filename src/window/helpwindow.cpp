@@ -83,12 +83,11 @@ void HelpWindow::LayOut() {
   halves->addWidget(&contents_);
   halves->addWidget(&page_, 1);
   // Each belongs to the layout that it is in, and the outermost to the window.
-  auto whole = std::make_unique<QVBoxLayout>(this);
+  auto* const whole = std::make_unique<QVBoxLayout>(this).release();
   whole->setContentsMargins(Gap, Gap, Gap, Gap);
   whole->setSpacing(Gap);
   whole->addLayout(bar.release());
   whole->addLayout(halves.release());
-  whole.release();
   QWidget* last = &back_;
   for (QWidget* next : std::initializer_list<QWidget*>{&forward_, &search_, &contents_, &page_}) {
     setTabOrder(last, next);
@@ -141,7 +140,8 @@ void HelpWindow::StandBeside(const QWidget& editor) {
   const int last = std::max(room.left(), room.right() + 1 - width() - FrameRoom);
   const bool onTheLeft = taken.right() + FrameRoom > last && taken.left() - room.left() >= width();
   const int left = onTheLeft ? taken.left() - width() - FrameRoom : taken.right() + FrameRoom;
-  move(std::clamp(left, room.left(), last), std::max(room.top(), taken.top()));
+  const int lowest = std::max(room.top(), room.bottom() + 1 - height() - TitleRoom);
+  move(std::clamp(left, room.left(), last), std::clamp(taken.top(), room.top(), lowest));
 }
 
 void HelpWindow::Open(std::int32_t topic) {
