@@ -42,9 +42,9 @@ with tempfile.TemporaryDirectory() as folder:
     # Fonts that never come, a caller that holds the alarm up, and nobody who listens.
     heard, told = os.pipe()
     os.close(heard)
-    assert subprocess.run(
-        [PROGRAM, "-h", png, "64"], stderr=told, env={"FONTCONFIG_FILE": os.path.abspath("pipe.tml")},
-        preexec_fn=lambda: signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM]),
-        timeout=10).returncode == 1
+    block = lambda: signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM])
+    fonts = {"FONTCONFIG_FILE": os.path.abspath("pipe.tml")}
+    run = subprocess.run([PROGRAM, "-h", png, "64"], stderr=told, env=fonts, preexec_fn=block, timeout=10)
+    assert run.returncode == 1, run
     assert set(os.listdir()) == {os.fsdecode(b"\xff\xfe.tml"), "-h", "europe.bmp", "cut.tml",
                                  "alone.tml", "pipe.tml", "map.png"}

@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBlock>
-#include <QWheelEvent>
 #include <algorithm>
 
 #include "shell/form1controls.h"
@@ -93,14 +92,11 @@ TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
   EXPECT_LE(picture.value<QImage>().deviceIndependentSize().width(), Page().viewport()->width());
   const double before = Page().font().pointSizeF();
   Key(Qt::Key_Plus, Qt::ControlModifier);
-  const double larger = Page().font().pointSizeF();
-  EXPECT_GT(larger, before);
-  for (int turn = 0; turn < 99; ++turn) {
-    QWheelEvent wheel({9, 9}, {9, 9}, {}, {0, 120}, {}, Qt::ControlModifier | Qt::ShiftModifier, {},
-                      false);
-    QApplication::sendEvent(Page().viewport(), &wheel);
-  }
-  EXPECT_LT(Page().font().pointSizeF(), 4 * larger);
+  EXPECT_GT(Page().font().pointSizeF(), before);
+  QWheelEvent wheel({9, 9}, {}, {}, {0, 9999}, {}, Qt::ControlModifier | Qt::ShiftModifier, {},
+                    false);
+  QApplication::sendEvent(Page().viewport(), &wheel);
+  EXPECT_LT(Page().font().pointSizeF(), 5 * before);
   Key(Qt::Key_F, Qt::ControlModifier);
   Key(Qt::Key_Escape);
   EXPECT_FALSE(Window->isVisible());
