@@ -8,11 +8,14 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMimeDatabase>
 #include <QScreen>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QTreeView>
 #include <algorithm>
 #include <utility>
@@ -101,6 +104,21 @@ void NameParts(const QFileDialog& chooser) {
   }
 }
 
+/// Each place that opens would take the list's place away, so that the next arrow began anew.
+void KeepPlaceInSideBar(QFileDialog& chooser) {
+  auto* const bar = chooser.findChild<QListView*>("sidebar");
+  if (bar == nullptr) return;
+  QItemSelectionModel* const places = bar->selectionModel();
+  QObject::connect(places, &QItemSelectionModel::selectionChanged, &chooser,
+                   [places](const QItemSelection& opened) {
+                     if (opened.isEmpty()) return;
+                     // It has been opened.
+                     const QSignalBlocker still(places);
+                     places->setCurrentIndex(opened.indexes().front(),
+                                             QItemSelectionModel::NoUpdate);
+                   });
+}
+
 /// Else its list can come up once more while the dialog closes, and would keep the keyboard from
 /// the window behind.
 void EndCompletionWith(QFileDialog& chooser) {
@@ -130,6 +148,7 @@ QString AskForFile(const std::string& filter, const QString& folder, QWidget* pa
   AddSamples(chooser);
   ShowWholeColumns(chooser);
   NameParts(chooser);
+  KeepPlaceInSideBar(chooser);
   EndCompletionWith(chooser);
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
