@@ -15,7 +15,8 @@ DIST = Path(__file__).resolve().parents[2] / "dist"
 NAMED = [
     ("applications/*", r"^Icon=(.*)", "share/icons/hicolor/32x32/apps/{}.png",
      "share/icons/hicolor/scalable/apps/{}.svg"),
-    ("*/terramark.[dt][eh]*", r"^(?:Try)?Exec=([\w-]+)", "bin/{}", "share/man/man1/{}.1.gz"),
+    *((entries, r"^(?:Try)?Exec=([\w-]+)", "bin/{}", "share/man/man1/{}.1.gz")
+      for entries in ("applications/*", "thumbnailers/*")),
     ("mime/packages/*", r'<icon name="([^"]+)"', "share/icons/hicolor/scalable/mimetypes/{}.svg"),
     ("metainfo/*", r"file:///usr/([^<]+)", "{}"),
     ("metainfo/*", r'"desktop-id">([^<]+)', "share/applications/{}"),

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Uses the editor that is installed in a system of its own, as one who works there.
+"""Uses for try-package the editor that is installed in a system of its own, as one who works there.
 
-    trypackage.py ROOT OUTPUT
+    use_editor.py ROOT OUTPUT
 
 ROOT is that system's root, with a program home/mapper/start that starts the editor in it; the
 screenshot goes into the folder OUTPUT. Loads the sample layout and saves it again; exit status 1
