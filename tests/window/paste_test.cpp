@@ -1,5 +1,3 @@
-#include "pictures/cp1252.h"
-
 #include <gtest/gtest.h>
 
 #include <QClipboard>
@@ -10,26 +8,6 @@
 
 namespace terramark::window {
 namespace {
-
-TEST(Cp1252, EveryByteGoesRoundAndOnlyWhatItLacksIsLost) {
-  std::string all;
-  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
-  EXPECT_EQ(pictures::ToCp1252(pictures::FromCp1252(all)), all);
-  EXPECT_EQ(pictures::FromCp1252("\x80\x9F\xA0\x81"), QStringLiteral("\u20AC\u0178\u00A0\u0081"));
-  EXPECT_EQ(pictures::ToCp1252(QStringLiteral("\u0080\u0100\U0001F600")), "???");
-}
-
-TEST(Cp1252, LongTextsComposeInPiecesAsTheyDoWhole) {
-  // The lead moves the seams over every place in a syllable.
-  for (const char16_t* syllable : {u"e\u0323\u0302", u"\u1112\u1161\u11AB"}) {
-    for (const char* lead : {"", "x", "xx"}) {
-      const QString text = lead + QString::fromUtf16(syllable).repeated(300);
-      EXPECT_EQ(pictures::ComposedForm(text), text.normalized(QString::NormalizationForm_C));
-    }
-  }
-  const QString marks(2000, QChar(0x0301));
-  EXPECT_EQ(pictures::ComposedForm("e" + marks), QChar(0xE9) + marks.chopped(1));
-}
 
 struct PasteCase {
   const char* Before;
@@ -47,7 +25,7 @@ const PasteCase Pastes[] = {
     {"a\tz", "\n", "a \tz", 2},
 };
 
-TEST(Cp1252, PastedTextIsShownAsTheFileWillHoldIt) {
+TEST(TextView, PastedTextIsShownAsTheFileWillHoldIt) {
   TestWindow window;
   forms::TextBox& box = window.Form.Text1;
   auto& line = window.Of<QLineEdit>(box);
