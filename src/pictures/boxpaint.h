@@ -18,6 +18,7 @@ inline constexpr int RingWidth = 3;
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
 /// Paints a label into the area that it covers at a scale; its letters are drawn in that size.
+/// Leaves the painter without a transform.
 void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label);
 
 /// Paints a ring around an area, which shows on every colour.

@@ -37,6 +37,7 @@ void PaintLabels(QImage& map, const forms::PictureBox& box, double scale) {
 }  // namespace
 
 std::optional<std::string> MapAsPng(const forms::PictureBox& box, int side) {
+  if (!box.Picture.Get()) return std::nullopt;
   const forms::Raster& picture = *box.Picture.Get();
   const int longer = std::max(picture.Width, picture.Height);
   if (longer < 1 || side < 1) return std::nullopt;
