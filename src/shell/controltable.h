@@ -21,7 +21,7 @@ template <typename FormType>
 struct ControlRow {
   Finder<FormType> Of;
   const char* Caption;
-  std::int16_t HelpTopic;  // opened by a press with the Shift key alone; 0 for none
+  std::int16_t HelpTopic;  // opened by a press with the Shift key alone, and by F1; 0 for none
   Finder<FormType> Container;
   float Left;
   float Top;

@@ -8,6 +8,8 @@ namespace terramark::window {
 
 namespace {
 
+constexpr int ContentsTopic = 2;
+
 /// Of the first line, which is the heading.
 QString TitleOf(const QString& text) {
   return text.section('\n', 0, 0).remove(0, QStringLiteral("# ").size()).trimmed();

@@ -7,9 +7,6 @@
 
 namespace terramark::window {
 
-/// What a number stands for that is no topic.
-inline constexpr int ContentsTopic = 2;
-
 struct HelpTopic {
   int Number;
   QString Title;
