@@ -125,7 +125,6 @@ def main():
     if len(sys.argv) != 2:
         sys.exit(__doc__)
     program = Path(sys.argv[1]).resolve()
-    (HERE / "pictures").mkdir(exist_ok=True)
     if MAPS.exists():
         sys.exit(f"{MAPS} is in the way: the pictures show that name")
     MAPS.mkdir()
