@@ -10,8 +10,4 @@ namespace terramark::pictures {
 /// where more are left out, at the end or in the middle. Costs the same however long the text is.
 QString ShownText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
 
-/// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
-/// characters are blanks.
-QString WrappableText(const std::string& text);
-
 }  // namespace terramark::pictures

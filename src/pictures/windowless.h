@@ -7,8 +7,9 @@ class QGuiApplication;
 
 namespace terramark::pictures {
 
-/// One in a program, before the first text is measured or drawn. Asks for no display and takes no
-/// notice of the desktop's theme.
+/// One in a program, before the first text is measured or drawn. Asks for no display, takes no
+/// notice of the desktop's theme and makes no folders; to that end it changes the environment of
+/// the process, and what Qt has to say is dropped from then on.
 class Windowless {
  public:
   Windowless();

@@ -9,7 +9,8 @@
 #include <cstddef>
 #include <exception>
 #include <fstream>
-#include <string_view>
+
+#include "thumbnail/ending.h"
 
 namespace terramark::thumbnail {
 
@@ -32,21 +33,11 @@ rlim_t PresentMemory() {
   return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
-/// Of what a signal may come in between; calls only what may be called then.
-[[noreturn]] void RefuseAtOnce(std::string_view why) {
-  (void)!write(STDERR_FILENO, why.data(), why.size());
-  _exit(NoThumbnail);
-}
-
 }  // namespace
-
-void Refuse(const std::string& why) {
-  RefuseAtOnce("terramark-thumbnail: " + why + "\n");
-}
 
 void LimitCost() {
   std::signal(SIGPIPE, SIG_IGN);  // the status tells those too who do not listen
-  std::signal(SIGALRM, [](int) { RefuseAtOnce("terramark-thumbnail: this takes too long\n"); });
+  std::signal(SIGALRM, [](int) { Refuse("this takes too long"); });
   const itimerval once{{0, 0}, {Patience / 1'000'000, Patience % 1'000'000}};
   setitimer(ITIMER_REAL, &once, nullptr);
   // Whoever calls may have held it up, and that is handed down.
@@ -60,7 +51,8 @@ void LimitCost() {
   pthread_attr_setstacksize(&threads, ThreadStack);
   pthread_setattr_default_np(&threads);
   pthread_attr_destroy(&threads);
-  std::set_terminate([] { RefuseAtOnce("terramark-thumbnail: the memory does not reach\n"); });
+  // Nothing else is thrown that nobody catches.
+  std::set_terminate([] { Refuse("the memory does not reach"); });
   const rlim_t most = PresentMemory() + MostMemory;
   const rlimit limit{most, most};
   setrlimit(RLIMIT_DATA, &limit);

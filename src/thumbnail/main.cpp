@@ -14,6 +14,7 @@
 #include "shell/colours.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
+#include "thumbnail/ending.h"
 #include "thumbnail/limits.h"
 #include "thumbnail/quietdesktop.h"
 

@@ -8,7 +8,7 @@
 #include "pictures/cp1252.h"
 #include "pictures/lettering.h"
 #include "pictures/pictureloader.h"
-#include "thumbnail/limits.h"
+#include "thumbnail/ending.h"
 
 namespace terramark::thumbnail {
 

@@ -127,7 +127,7 @@ void EndCompletionWith(QFileDialog& chooser) {
   QObject::connect(&chooser, &QDialog::finished, name, [name] { name->setCompleter(nullptr); });
 }
 
-/// The samples that were installed with the program stand beside the usual places.
+/// The samples, where dist/CMakeLists.txt installs them, stand beside the usual places.
 void AddSamples(QFileDialog& chooser) {
   const QDir samples(QCoreApplication::applicationDirPath() + "/../share/terramark/samples");
   if (!samples.exists()) return;

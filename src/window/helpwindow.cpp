@@ -167,10 +167,9 @@ void HelpWindow::PageChanged(const QUrl& source) {
 
 void HelpWindow::Search() {
   if (texts_.isEmpty()) std::ranges::transform(topics_, std::back_inserter(texts_), PlainText);
-  const QString words = search_.text().simplified();
-  found_ = FindWords(texts_, words);
+  found_ = FindWords(texts_, search_.text());
   for (int row = 0; row < contents_.count(); ++row) {
-    contents_.item(row)->setHidden(!words.isEmpty() && FirstFoundIn(row) == nullptr);
+    contents_.item(row)->setHidden(Asked() && FirstFoundIn(row) == nullptr);
   }
   ShowFound();
 }
@@ -204,7 +203,7 @@ void HelpWindow::ShowFound() {
   }
   page_.Mark(here);
   const QString sum = Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic");
-  Tell(search_.text().trimmed().isEmpty() ? "" : found_.empty() ? "Not found" : sum);
+  Tell(!Asked() ? "" : found_.empty() ? "Not found" : sum);
 }
 
 /// Also as what is said of the search box, since a screen reader tells that of where the keyboard

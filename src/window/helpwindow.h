@@ -31,7 +31,9 @@ class HelpWindow : public QWidget {
 
   void Show(std::size_t topic);
   void PageChanged(const QUrl& source);
-  /// The words of the search box have changed.
+  /// Whether the search box has words.
+  bool Asked() const { return !search_.text().trimmed().isEmpty(); }
+  /// They have changed.
   void Search();
   /// To the next place found, or the one before.
   void GoOn(bool forward);

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
 #include <bit>
 #include <cstdio>
@@ -23,6 +24,8 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr float MillisecondsPerSecond = 1000;
+/// Characters of a word that any line has room for.
+constexpr int LongestWord = 40;
 /// Bits that a float holds exactly.
 constexpr unsigned FractionBits = 24;
 
@@ -40,6 +43,18 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
   dialog.FileTitleFits = Fits(title);
 }
 
+/// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
+/// characters are blanks.
+QString WrappableText(const std::string& text) {
+  QString shown = pictures::ShownText(text, Qt::ElideMiddle);
+  for (QChar& character : shown) {
+    if (character < ' ') character = ' ';
+  }
+  // A blank of no width is where a word may break.
+  return shown.replace(QRegularExpression(QStringLiteral("(\\S{%1})").arg(LongestWord)),
+                       QStringLiteral("\\1\u200B"));
+}
+
 }  // namespace
 
 forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
@@ -48,7 +63,7 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
   QMessageBox box(window_);
   box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(pictures::FromCp1252(title));
-  box.setText(pictures::WrappableText(text));
+  box.setText(WrappableText(text));
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
