@@ -94,11 +94,12 @@ void HelpPage::GoTo(const HelpPlace& place) {
 void HelpPage::Zoom(int zoom) {
   zoom_ = std::clamp(zoom, LeastZoom, MostZoom);
   const QTextCursor top = cursorForPosition({});
+  const int before = cursorRect(top).top();
   QFont letters = font();
   letters.setPointSizeF(FirstPoints * std::pow(ZoomStep, zoom_));
   setFont(letters);
   // What was read goes on being read.
-  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top());
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {
