@@ -47,7 +47,8 @@ def main():
             use(screen, root, output)
         except Failure as failure:
             screen.save(output / "failure.png")
-            sys.exit(f"try-package: {failure}\n" + Path(folder, "programs.log").read_text("utf-8", "replace"))
+            log = Path(folder, "programs.log").read_text("utf-8", "replace")
+            sys.exit(f"try-package: {failure}\n{log}")
         finally:
             screen.close()
 

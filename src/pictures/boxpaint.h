@@ -17,6 +17,15 @@ inline constexpr int RingWidth = 3;
 /// image. Beside the image the box has its own colour.
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
+/// Hands over each label that is to be seen on the box, the lowest first.
+template <typename Paint>
+void ForEachLabel(const forms::PictureBox& box, Paint paint) {
+  for (const forms::Control* child : box.Children()) {
+    if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
+    paint(static_cast<const forms::Label&>(*child));
+  }
+}
+
 /// Paints a label into the area that it covers at a scale; its letters are drawn in that size.
 /// Leaves the painter without a transform.
 void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label);

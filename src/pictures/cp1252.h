@@ -1,5 +1,5 @@
-// Text on its way between the 8-bit text of the editor, code page 1252, and the Unicode of the
-// window.
+// Text on its way between the 8-bit text of the editor, code page 1252, and the Unicode of what is
+// shown and of the names of files.
 #pragma once
 
 #include <QString>

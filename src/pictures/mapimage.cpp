@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "pictures/boxpaint.h"
@@ -26,12 +25,11 @@ QRect Shrunk(const forms::PixelRect& area, double scale) {
 void PaintLabels(QImage& map, const forms::PictureBox& box, double scale) {
   QPainter painter(&map);
   painter.setFont(TextFont(box.Owner()->Host));
-  for (const forms::Control* child : box.Children()) {
-    if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
-    const QRect area = Shrunk(PixelBounds(*child), scale);
+  ForEachLabel(box, [&](const forms::Label& label) {
+    const QRect area = Shrunk(PixelBounds(label), scale);
     painter.setClipRect(area);
-    PaintLabel(painter, area, scale, static_cast<const forms::Label&>(*child));
-  }
+    PaintLabel(painter, area, scale, label);
+  });
 }
 
 }  // namespace

@@ -190,13 +190,12 @@ void CanvasView::paintEvent(QPaintEvent* event) {
   }
   painter.setClipRect(view, Qt::IntersectClip);
   pictures::PaintImage(painter, box_, event->rect() & view);
-  for (const forms::Control* child : box_.Children()) {
-    if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
-    const QRect area = InBox(BoundsOf(*child));
-    if (!event->rect().intersects(area)) continue;
+  pictures::ForEachLabel(box_, [&](const forms::Label& label) {
+    const QRect area = InBox(BoundsOf(label));
+    if (!event->rect().intersects(area)) return;
     painter.setClipRect(area & view);
-    PaintMarker(painter, area, static_cast<const forms::Label&>(*child));
-  }
+    PaintMarker(painter, area, label);
+  });
   painter.setClipRect(view);
   PaintFlight(painter);
   if (hasFocus()) PaintKeys(painter);

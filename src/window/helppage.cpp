@@ -38,7 +38,6 @@ HelpPage::HelpPage() {
   QPalette colours = palette();
   colours.setColor(QPalette::Link, LinkInk);
   setPalette(colours);
-  document()->setDocumentMargin(Margin);
   Zoom(0);
   connect(this, &QTextBrowser::sourceChanged, this, [this] { Dress(); });
 }

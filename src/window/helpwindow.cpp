@@ -202,8 +202,9 @@ void HelpWindow::ShowFound() {
     if (static_cast<int>(place.Topic) == contents_.currentRow()) here.push_back(place);
   }
   page_.Mark(here);
-  const QString sum = Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic");
-  Tell(!Asked() ? "" : found_.empty() ? "Not found" : sum);
+  if (!Asked()) return Tell("");
+  if (found_.empty()) return Tell("Not found");
+  Tell(Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic"));
 }
 
 /// Also as what is said of the search box, since a screen reader tells that of where the keyboard
