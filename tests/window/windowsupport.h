@@ -59,31 +59,19 @@ struct TestWindow {
              Qt::KeyboardModifiers keys = {}) {
     ClickAt(Reach(control), button, keys);
   }
-  /// Half a stroke as the platform gives it to a window, so many milliseconds after the last.
-  void Half(QWidget& to, QKeyEvent event, int wait = 40) {
-    event.setTimestamp(Now += static_cast<std::uint64_t>(wait));
-    QCoreApplication::sendEvent(to.windowHandle(), &event);
-  }
   void Stroke(int key, Qt::KeyboardModifiers keys, char text) {
     const QString made = text != 0 ? QString(QLatin1Char(text)) : QString();
-    Half(Window, QKeyEvent(QEvent::KeyPress, key, keys, made));
-    Half(Window, QKeyEvent(QEvent::KeyRelease, key, keys, made));
-  }
-  /// Something happens, so that the last release can be no half of a repeat any more.
-  static void Settle(QEvent::Type by = QEvent::WindowDeactivate) {
-    QObject nobody;
-    QEvent after(by);
-    QCoreApplication::sendEvent(&nobody, &after);
+    for (const auto half : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(half, key, keys, made);
+      QCoreApplication::sendEvent(Window.windowHandle(), &event);
+    }
   }
   void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {
     Stroke(key, keys, QTest::keyToAscii(key));
-    Settle();
   }
   void Type(const char* text) {
     for (; *text != 0; ++text) Stroke(QTest::asciiToKey(*text), {}, *text);
-    Settle();
   }
-  std::uint64_t Now = 1000;
 
   QColor PixelOn(const forms::Control& control, QPoint at) {
     return Of(control).grab().toImage().pixelColor(at);
