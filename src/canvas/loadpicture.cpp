@@ -11,6 +11,7 @@ namespace terramark {
 
 void LoadMap_MouseUp(Form1& form) {
   std::string path;
+  form.CommonDialog1.Purpose = {.Title = "Load a Picture"};
   SelectAFile(form, PictureFiles, path);
   if (path.empty()) return;
   const forms::CommonDialog& chosen = form.CommonDialog1;

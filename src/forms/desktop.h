@@ -31,6 +31,13 @@ struct DateTime {
   int Second = 0;
 };
 
+/// What a file is asked for, as the dialog tells the user: in its title, and by its button, "Open"
+/// or "Save".
+struct FilePurpose {
+  std::string Title;
+  bool Saves = false;
+};
+
 /// The file dialog's properties: Filter is a pattern list such as "*.wmf;*.bmp"; FileName goes in
 /// and comes out, unchanged when the user cancels. FileTitle comes out as FileName without its
 /// folder. Either fits when a Map Layout can hold it: it has no line end and no character that the
@@ -41,6 +48,7 @@ struct CommonDialog {
   std::string FileTitle;
   bool FileNameFits = true;
   bool FileTitleFits = true;
+  FilePurpose Purpose;
 };
 
 class Desktop {
@@ -50,7 +58,9 @@ class Desktop {
   /// Shows a modal box. Closing it by other means than a button answers No, or Ok where that is the
   /// only button.
   virtual Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title) = 0;
-  /// Shows the dialog for opening a file, which also takes a name that does not exist yet.
+  /// Shows the file dialog. For either purpose it takes a file that exists and, where the desktop's
+  /// own dialog does not insist on one for opening, a name that does not; it asks nothing about
+  /// either.
   virtual void ShowOpen(CommonDialog& dialog) = 0;
   /// Shows a form and returns when it has been unloaded.
   virtual void ShowModal(Form& form) = 0;

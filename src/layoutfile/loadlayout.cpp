@@ -23,6 +23,7 @@ constexpr std::size_t MostBytes = 4U << 20U;
 
 void LoadMpa_MouseUp(Form1& form) {
   std::string name;
+  form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
   const auto bytes = forms::RegularFile(form.Host.NativePath(name)).Read(MostBytes);

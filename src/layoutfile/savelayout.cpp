@@ -31,6 +31,7 @@ void ShowWriteFault(Form1& form, const std::string& name, const SafeFile& file) 
 void SaveCFG_MouseUp(Form1& form) {
   if (!MapIsValid(form)) return;
   std::string name;
+  form.CommonDialog1.Purpose = {.Title = "Save a Map Layout", .Saves = true};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
 

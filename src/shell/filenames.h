@@ -12,8 +12,7 @@ struct Form1;
 inline constexpr char LayoutFiles[] = "*.tml";
 inline constexpr char PictureFiles[] = "*.wmf;*.bmp";
 
-/// Asks for a file with the dialog for opening one, also where a file is to be written. filt is one
-/// of the patterns above. s gets the name as the dialog gave it, or the empty text when the user
+/// Asks for a file; CommonDialog1.Purpose says what for. filt is one of the patterns above. s gets the name as the dialog gave it, or the empty text when the user
 /// cancelled, which a name like filt counts as. It may show "?" for what 8-bit text lacks;
 /// CommonDialog1 then says so, and Host knows the file by it all the same.
 void SelectAFile(Form1& form, const std::string& filt, std::string& s);

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -9,20 +10,21 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QLabel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeDatabase>
 #include <QScreen>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QSplitter>
 #include <QTreeView>
 #include <algorithm>
-#include <utility>
 
 #include "pictures/cp1252.h"
 #include "shell/filenames.h"
 #include "window/accessiblenames.h"
+#include "window/screenroom.h"
 
 namespace terramark::window {
 
@@ -70,15 +72,13 @@ void WidenFor(const QTreeView& list, QFileDialog& chooser) {
   const int lack = list.header()->length() - list.viewport()->width();
   if (!chooser.isVisible() || lack <= 0) return;
   const QRect screen = chooser.screen()->availableGeometry();
-  chooser.resize(std::min(chooser.width() + lack, screen.width()), chooser.height());
+  chooser.resize(std::min(chooser.width() + lack, RoomFor(chooser).width()), chooser.height());
   const int beyond = chooser.frameGeometry().right() - screen.right();
   if (beyond > 0) chooser.move(std::max(screen.left(), chooser.x() - beyond), chooser.y());
 }
 
 /// The dialog's own columns are too narrow for a date.
 void ShowWholeColumns(QFileDialog& chooser) {
-  chooser.setViewMode(QFileDialog::Detail);
-  chooser.resize(UsualSize);
   auto* const list = chooser.findChild<QTreeView*>();
   if (list == nullptr) return;
   list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -88,44 +88,71 @@ void ShowWholeColumns(QFileDialog& chooser) {
       [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
 }
 
-/// Joins words to the boxes beside them, and names what has no words, for assistive tools.
+/// Names what has no words of its own for assistive tools.
 void NameParts(const QFileDialog& chooser) {
-  const std::pair<const char*, const char*> joined[] = {{"lookInLabel", "lookInCombo"},
-                                                        {"fileTypeLabel", "fileTypeCombo"}};
-  for (const auto& [words, box] : joined) {
-    auto* const label = chooser.findChild<QLabel*>(words);
-    auto* const named = chooser.findChild<QComboBox*>(box);
-    if (label == nullptr || named == nullptr) continue;
-    label->setBuddy(named);
-    named->view()->setAccessibleName(label->text().remove(':'));
+  for (auto* box : chooser.findChildren<QComboBox*>()) {
+    const bool ofTypes = box->findText(chooser.nameFilters().value(0)) >= 0;
+    const QString words = chooser.labelText(ofTypes ? QFileDialog::FileType : QFileDialog::LookIn);
+    box->setAccessibleName(QString(words).remove(':'));
+    box->view()->setAccessibleName(box->accessibleName());
   }
   for (const auto* area : chooser.findChildren<QAbstractScrollArea*>()) {
     NameScrollBars(*area, area->accessibleName());
   }
 }
 
-/// Each place that opens would take the list's place away, so that the next arrow began anew.
-void KeepPlaceInSideBar(QFileDialog& chooser) {
-  auto* const bar = chooser.findChild<QListView*>("sidebar");
-  if (bar == nullptr) return;
-  QItemSelectionModel* const places = bar->selectionModel();
-  QObject::connect(places, &QItemSelectionModel::selectionChanged, &chooser,
-                   [places](const QItemSelection& opened) {
-                     if (opened.isEmpty()) return;
-                     // It has been opened.
-                     const QSignalBlocker still(places);
-                     places->setCurrentIndex(opened.indexes().front(),
-                                             QItemSelectionModel::NoUpdate);
-                   });
+/// Each place of the side bar that opens would take its list's place away, so that the next arrow
+/// began anew.
+void KeepPlace(const QListView& bar) {
+  QItemSelectionModel* const places = bar.selectionModel();
+  QObject::connect(
+      places, &QItemSelectionModel::selectionChanged, &bar, [places](const QItemSelection& opened) {
+        if (opened.isEmpty()) return;
+        // It has been opened.
+        const QSignalBlocker still(places);
+        places->setCurrentIndex(opened.indexes().front(), QItemSelectionModel::NoUpdate);
+      });
 }
 
-/// Else its list can come up once more while the dialog closes, and would keep the keyboard from
-/// the window behind.
-void EndCompletionWith(QFileDialog& chooser) {
-  auto* const name = chooser.findChild<QLineEdit*>("fileNameEdit");
-  if (name == nullptr) return;
-  QObject::connect(&chooser, &QDialog::finished, name, [name] { name->setCompleter(nullptr); });
+void KeepPlaceInSideBar(const QFileDialog& chooser) {
+  for (const auto* list : chooser.findChildren<QListView*>()) {
+    if (qobject_cast<QSplitter*>(list->parentWidget()) != nullptr) KeepPlace(*list);
+  }
 }
+
+/// The lists of names that come up under a line while one types. They would hand Enter on to the
+/// line, so that the same key took a name and closed the dialog under the list.
+class NamesLists final : public QObject {
+ public:
+  explicit NamesLists(const QFileDialog& chooser) {
+    for (auto* line : chooser.findChildren<QLineEdit*>()) {
+      if (line->completer() == nullptr) continue;
+      line->completer()->popup()->installEventFilter(this);
+      connect(&chooser, &QDialog::finished, line, [line] { End(*line); });
+    }
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    auto& list = *static_cast<QAbstractItemView*>(watched);
+    // A name that is marked in the list stands in the line by now.
+    const bool takes = list.isVisible() && list.currentIndex().isValid();
+    list.hide();
+    return takes;
+  }
+
+ private:
+  /// A folder that has been read only now would bring the list up once more while the dialog
+  /// closes, and keys that were meant for the list would look for the line.
+  static void End(QLineEdit& line) {
+    QCompleter* const completer = line.completer();
+    completer->popup()->hide();
+    completer->popup()->removeEventFilter(completer);
+    line.setCompleter(nullptr);
+  }
+};
 
 /// The samples, where dist/CMakeLists.txt installs them, stand beside the usual places.
 void AddSamples(QFileDialog& chooser) {
@@ -136,20 +163,22 @@ void AddSamples(QFileDialog& chooser) {
 
 }  // namespace
 
-QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent) {
+QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWidget* parent) {
   ForgetSettings();
   KindByName kinds;
-  QFileDialog chooser(parent, QFileDialog::tr("Choose a File"), folder);
-  chooser.setOption(QFileDialog::DontUseNativeDialog);
+  QFileDialog chooser(parent, pictures::FromCp1252(asked.Purpose.Title), folder);
   chooser.setIconProvider(&kinds);
-  chooser.setAcceptMode(QFileDialog::AcceptOpen);
+  chooser.setAcceptMode(asked.Purpose.Saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
-  chooser.setNameFilters({Worded(filter), "All files (*)"});
+  chooser.setOption(QFileDialog::DontConfirmOverwrite);
+  chooser.setNameFilters({Worded(asked.Filter), "All files (*)"});
+  chooser.setViewMode(QFileDialog::Detail);
   AddSamples(chooser);
   ShowWholeColumns(chooser);
   NameParts(chooser);
   KeepPlaceInSideBar(chooser);
-  EndCompletionWith(chooser);
+  NamesLists lists(chooser);
+  chooser.resize(UsualSize.boundedTo(RoomFor(chooser)));
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
 }

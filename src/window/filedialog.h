@@ -2,15 +2,16 @@
 #pragma once
 
 #include <QString>
-#include <string>
+
+#include "forms/desktop.h"
 
 class QWidget;
 
 namespace terramark::window {
 
-/// Shows the dialog with the files of a pattern list in a folder, and gives the full path of the
-/// one chosen, the empty text for a cancel. Takes a file that exists and a name that does not; asks
-/// nothing about either. The process's current folder stays.
-QString AskForFile(const std::string& filter, const QString& folder, QWidget* parent);
+/// Shows the desktop's own dialog, or Qt's where it has none, with the files of the filter in a
+/// folder, and gives the full path of the one chosen, the empty text for a cancel. The process's
+/// current folder stays.
+QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWidget* parent);
 
 }  // namespace terramark::window

@@ -14,6 +14,7 @@
 #include "window/accessiblenames.h"
 #include "window/look.h"
 #include "window/pagestyle.h"
+#include "window/screenroom.h"
 
 namespace terramark::window {
 
@@ -25,9 +26,6 @@ constexpr QSize LeastSize(640, 320);
 constexpr int ContentsWidth = 180;
 constexpr int SearchWidth = 200;
 constexpr int Gap = 6;
-/// What the window manager may put around a window that it has not shown yet.
-constexpr int FrameRoom = 8;
-constexpr int TitleRoom = 40;
 
 /// As the page has it, so that places in the one are places in the other.
 QString PlainText(const HelpTopic& topic) {
@@ -52,14 +50,17 @@ HelpWindow::HelpWindow(const QWidget* editor) {
   search_.setAccessibleName("Search in all topics");
   search_.setPlaceholderText("Search in all topics");
   search_.setClearButtonEnabled(true);
-  search_.findChild<QToolButton*>()->setAccessibleName("Clear the search");
+  for (QToolButton* clear : search_.findChildren<QToolButton*>()) {
+    clear->setAccessibleName("Clear the search");
+  }
   back_.setToolTip("Alt+Left");
   forward_.setToolTip("Alt+Right");
   LayOut();
   JoinParts();
   SetKeys();
-  setMinimumSize(LeastSize);
-  resize(FirstSize.boundedTo(screen()->availableSize() - QSize(2 * FrameRoom, TitleRoom)));
+  const QSize room = RoomFor(*this);
+  setMinimumSize(LeastSize.boundedTo(room));
+  resize(FirstSize.boundedTo(room));
   if (editor != nullptr) StandBeside(*editor);
 }
 

@@ -4,6 +4,7 @@
 #include "editor/handlers.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
+#include "window/closedwindows.h"
 #include "window/displayfault.h"
 #include "window/keyrepeats.h"
 #include "window/look.h"
@@ -23,6 +24,7 @@ int main(int /*argc*/, char** argv) {
   terramark::Form_Load(form);
 
   const terramark::window::KeyRepeats repeats;
+  const terramark::window::ClosedWindows closed;
   terramark::window::MainWindow window(form);
   desktop.StandOver(&window);
   window.show();

@@ -74,7 +74,7 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
 
 void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
   const QString folder = chosen_.isEmpty() ? QDir::currentPath() : QFileInfo(chosen_).path();
-  const QString path = AskForFile(dialog.Filter, folder, window_);
+  const QString path = AskForFile(dialog, folder, window_);
   if (path.isEmpty()) return;
   TakeChosenPath(dialog, path);
   chosen_ = path;

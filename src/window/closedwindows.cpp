@@ -1,0 +1,40 @@
+#include "window/closedwindows.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace terramark::window {
+
+namespace {
+
+bool IsUsers(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+ClosedWindows::ClosedWindows() {
+  qGuiApp->installEventFilter(this);
+}
+
+bool ClosedWindows::eventFilter(QObject* watched, QEvent* event) {
+  if (!IsUsers(event->type())) return false;
+  const auto* const window = qobject_cast<QWindow*>(watched);
+  // A list that hangs from a box hands on what is left for it to the box that it hung from.
+  return window != nullptr && !window->isVisible() && window->type() != Qt::Popup;
+}
+
+}  // namespace terramark::window
