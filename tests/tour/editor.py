@@ -6,7 +6,9 @@ from screen import Rect
 
 FORM = Path(__file__).resolve().parents[2] / "src/shell/form1controls.cpp"
 TITLE = "TERRAMARK 1"
-FILE_DIALOG = "Choose a File"
+# Titles of the file dialog, by the button that asks.
+FILE_DIALOGS = {"LoadMpa": "Load a Map Layout", "LoadMap": "Load a Picture",
+                "SaveCFG": "Save a Map Layout"}
 QUESTION = "Terramark"
 HELP = "Terramark Help"
 ABOUT = "About Terramark"
@@ -177,9 +179,13 @@ class Editor:
     def choose(self, button, name):
         """Presses a button that asks for a file, and types its name."""
         self.press_control(button)
-        self.screen.wait_active(FILE_DIALOG)
+        self.name_file(button, name)
+
+    def name_file(self, button, name):
+        """In the dialog that the button brings up."""
+        self.screen.wait_active(FILE_DIALOGS[button])
         self.screen.tool("type", name)
-        self.dialog(FILE_DIALOG, "key", "Return")
+        self.dialog(FILE_DIALOGS[button], "key", "Return")
 
     def answer(self, key):
         """Answers the question that is up: alt+y is Yes, Escape No, whatever Return would mean."""

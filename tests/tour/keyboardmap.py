@@ -1,7 +1,7 @@
 """The same six lands as with the mouse, made from the keyboard alone."""
 import re
 
-from editor import CONTROLS, FILE_DIALOG, GREEN, QUESTION, Editor
+from editor import CONTROLS, GREEN, QUESTION, Editor
 
 # Where the Tab key stops, from the map backwards: all the way round, but for the boxes behind the
 # map. The bars are among the stops only while a colour is being mixed.
@@ -72,9 +72,7 @@ class KeyboardMap(Editor):
         self.push("DelAll")
         self.dialog(QUESTION, "key", "alt+y")
         self.push("LoadMap")
-        self.screen.wait_active(FILE_DIALOG)
-        self.screen.tool("type", "europe.bmp")
-        self.dialog(FILE_DIALOG, "key", "Return")
+        self.name_file("LoadMap", "europe.bmp")
         self.to_control("Text1")
         self.write("Six lands")
         self.areas, self.regions = {}, {}

@@ -18,7 +18,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 
-from editor import (ABOUT, BLACK, FILE_DIALOG, GREEN, HELP, QUESTION, RED, WHITE,  # noqa: E402
+from editor import (ABOUT, BLACK, FILE_DIALOGS, GREEN, HELP, QUESTION, RED, WHITE,  # noqa: E402
                     WINDOW)
 from keyboardmap import KeyboardMap  # noqa: E402
 from screen import LIMIT, Failure, Screen  # noqa: E402
@@ -324,7 +324,7 @@ class Tour(KeyboardMap):
     def finish(self):
         self.step("Validate once more, by the keyboard alone")
         self.press_control("LoadMap")
-        self.dialog(FILE_DIALOG, "key", "Escape")
+        self.dialog(FILE_DIALOGS["LoadMap"], "key", "Escape")
         self.says(GREEN, lambda: self.key("Tab", "space"))
         self.step("Save, and compare with the layout that must come out")
         self.save_and_compare("lands.tml", HERE / "expected.tml", "europe.bmp")
@@ -338,9 +338,7 @@ class Tour(KeyboardMap):
     def from_keyboard(self):
         self.map_from_keyboard()
         self.push("SaveCFG")
-        self.screen.wait_active(FILE_DIALOG)
-        self.screen.tool("type", "keyboard.tml")
-        self.dialog(FILE_DIALOG, "key", "Return")
+        self.name_file("SaveCFG", "keyboard.tml")
         self.compare("keyboard.tml", HERE / "expected.tml", "europe.bmp")
 
     def leave(self):

@@ -7,10 +7,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <functional>
@@ -136,28 +138,40 @@ TEST_F(DesktopTest, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   QDir::setCurrent(before);
 }
 
-TEST_F(DesktopTest, TheSideBarLeadsToTheSamplesThatAreInstalled) {
-  const QString samples =
-      QDir(QApplication::applicationDirPath() + "/..").canonicalPath() + "/share/terramark/samples";
-  const auto places = [] {
-    QStringList paths;
+TEST_F(DesktopTest, TheFileDialogSaysWhatItIsForAndAsksNothing) {
+  const QTemporaryDir folder;
+  const QString old = folder.filePath("old.tml");
+  EXPECT_TRUE(QFile::copy(SAMPLES "/europe.tml", old));
+  for (const bool saves : {false, true}) {
     WhileModal([&](QWidget& chooser) {
-      auto& dialog = static_cast<QFileDialog&>(chooser);
-      for (const QUrl& url : dialog.sidebarUrls()) {
-        paths += url.path();
-        QTest::keyClick(dialog.findChild<QListView*>("sidebar"), Qt::Key_Down);
-      }
-      EXPECT_EQ(dialog.directory().path(), paths.back()) << "the arrows go from place to place";
-      chooser.close();
+      EXPECT_EQ(chooser.windowTitle(), saves ? "Save a Map Layout" : "Load a Map Layout");
+      const auto buttons = chooser.findChildren<QPushButton*>();
+      EXPECT_EQ(std::ranges::count(buttons, saves ? "&Save" : "&Open", &QPushButton::text), 1);
+      auto* const line = chooser.findChild<QLineEdit*>();
+      line->setText("old.tml");
+      QTest::keyClick(line, Qt::Key_Return);
     });
-    AskForFile("*.tml", "/", nullptr);
-    return paths;
-  };
-  const QStringList usual = places();
-  EXPECT_GE(usual.size(), 2);
-  QDir().mkpath(samples);
-  EXPECT_EQ(places(), usual + QStringList(samples));
-  QDir().rmpath(samples);
+    forms::CommonDialog asked{.Filter = "*.tml"};
+    asked.Purpose = {saves ? "Save a Map Layout" : "Load a Map Layout", saves};
+    EXPECT_EQ(AskForFile(asked, folder.path(), nullptr), old);
+  }
+}
+
+TEST_F(DesktopTest, TheSideBarLeadsToTheSamplesBesideTheProgram) {
+  QStringList places;
+  WhileModal([&](QWidget& chooser) {
+    auto& dialog = static_cast<QFileDialog&>(chooser);
+    auto& bar = *dialog.findChild<QSplitter*>()->findChild<QListView*>();
+    for (const QUrl& url : dialog.sidebarUrls()) {
+      places += url.path();
+      QTest::keyClick(&bar, Qt::Key_Down);
+    }
+    EXPECT_EQ(dialog.directory().path(), places.back()) << "the arrows go from place to place";
+    chooser.close();
+  });
+  AskForFile({.Filter = "*.tml"}, "/", nullptr);
+  EXPECT_GE(places.size(), 3);
+  EXPECT_EQ(places.back(), QDir(SAMPLES).canonicalPath());
 }
 
 TEST_F(DesktopTest, DrawsAreBelowOneAndRepeatWithTheirSeed) {
