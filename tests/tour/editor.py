@@ -34,6 +34,12 @@ CONTROLS = {
         r" +(\d+), +(\d+), +(\d+), +(\d+)", FORM.read_text("utf-8"))}
 
 
+def place_of(name):
+    """Where a control stands in the window."""
+    frame, place = CONTROLS[name]
+    return Rect(*place).moved(*(place_of(frame)[:2] if frame else (0, 0)))
+
+
 class Editor:
     def __init__(self, screen, program):
         self.screen = screen
@@ -48,8 +54,7 @@ class Editor:
     # Places on the screen.
 
     def control(self, name):
-        frame, place = CONTROLS[name]
-        return Rect(*place).moved(*(self.control(frame)[:2] if frame else self.origin))
+        return place_of(name).moved(*self.origin)
 
     @property
     def map(self):

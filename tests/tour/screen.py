@@ -55,19 +55,24 @@ def write_png(path, rows):
 
 
 class Screen:
-    def __init__(self, folder):
-        """Starts it; what its programs write goes into the folder."""
+    def __init__(self, folder, size=(WIDTH, HEIGHT), manager=(), home=None, **rights):
+        """Starts it; what its programs write goes into the folder. The window manager takes more
+        arguments; it and what runs on the screen are at home in a folder of their own, and have
+        rights, as subprocess.Popen knows them."""
+        home = home or folder
+        self.size = size
         self.log = open(os.path.join(folder, "programs.log"), "wb")
-        self.started = []
+        self.started, self.rights = [], {}
         # Nothing that a person set up for their own desktop reaches what runs here.
         self.environment = {key: value for key, value in os.environ.items()
                             if not key.startswith(("XDG_", "QT_", "WAYLAND_"))}
-        self.environment.update(HOME=folder, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=folder,
+        self.environment.update(HOME=home, LC_ALL="C.UTF-8", XDG_RUNTIME_DIR=home,
                                 QT_QPA_PLATFORM="xcb")
         ready, told = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(told), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
+        self.start(["Xvfb", "-displayfd", str(told), "-screen", "0", "{}x{}x24".format(*size),
                     "-dpi", "96", "-nolisten", "tcp", "-noreset", "-fbdir", folder],
                    pass_fds=[told])
+        self.rights = rights
         os.close(told)
         with os.fdopen(ready) as number:
             display = number.readline().strip()
@@ -75,8 +80,8 @@ class Screen:
             raise Failure("Xvfb does not start")
         self.environment["DISPLAY"] = ":" + display
         # It loses windows that come up while it starts, so it has to say when it is through.
-        managed = os.path.join(folder, "managed")
-        self.start(["openbox", "--sm-disable", "--startup", f"touch '{managed}'"])
+        managed = os.path.join(home, "managed")
+        self.start(["openbox", "--sm-disable", "--startup", f"touch '{managed}'", *manager])
         self.wait("the window manager", lambda: os.path.exists(managed))
         with open(os.path.join(folder, "Xvfb_screen0"), "rb") as file:
             self.picture = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
@@ -87,8 +92,9 @@ class Screen:
 
     def start(self, command, **options):
         """Runs a program on the screen."""
-        self.started.append(subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self.log,
-                                             stderr=self.log, env=self.environment, **options))
+        usual = {"stdin": subprocess.DEVNULL, "stdout": self.log, "stderr": self.log,
+                 "env": self.environment}
+        self.started.append(subprocess.Popen(command, **usual | self.rights | options))
         return self.started[-1]
 
     def close(self):
@@ -144,6 +150,7 @@ class Screen:
         pixels = memoryview(self.look(rect)).cast("I")
         return sum(pixel & 0xFFFFFF == colour for pixel in pixels)
 
-    def save(self, path, rect=Rect(0, 0, WIDTH, HEIGHT)):
-        """Writes a part of the screen as a PNG file."""
+    def save(self, path, rect=None):
+        """Writes the screen or a part of it as a PNG file."""
+        rect = rect or Rect(0, 0, *self.size)
         write_png(path, list(rgb_rows(self.look(rect), rect.width)))
