@@ -3,7 +3,7 @@ import re
 from collections import namedtuple
 
 from cage import GOOD, ODD, SAMPLES
-from editor import ABOUT, AREA_SIZE, CONTROLS, FILE_DIALOG, HELP, QUESTION, TITLE, place_of
+from editor import ABOUT, AREA_SIZE, CONTROLS, FILE_DIALOGS, HELP, QUESTION, TITLE, place_of
 from hands import LETTERS
 
 LOADING, POPUP = "TMRK 1.1", "a list"  # the box about a layout that does not load; a menu or list
@@ -133,11 +133,11 @@ GESTURES = {
                  + draw.keys(2, "space:3 Return F1 Down Next shift+F10")),
         "anywhere": (6, lambda draw: draw.press(draw.on(draw.view.rect), "1 3")),
         "repeat": (1, repeat)},
-    FILE_DIALOG: BOX | FRAME | {
+    **dict.fromkeys(FILE_DIALOGS.values(), BOX | FRAME | {
         "name": (30, name_file),
         "anywhere": (12, lambda draw: draw.press(draw.on(draw.view.rect), "1:5 3", times="1:2 2")),
         "list": (8, lambda draw: draw.keys(4, LIST_KEYS + " shift+Tab F2 Delete:0.3")),
-        "wheel": (2, lambda draw: draw.wheel(draw.on(draw.view.rect), "-"))},
+        "wheel": (2, lambda draw: draw.wheel(draw.on(draw.view.rect), "-"))}),
     QUESTION: BOX | {"yes": (8, lambda draw: ["key alt+y"]), "next": FRAME["next"]},
     HELP: BOX | FRAME | {
         "look up": (10, lambda draw: ["key ctrl+f", "key ctrl+a", *draw.text(),
