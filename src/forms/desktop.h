@@ -48,7 +48,7 @@ struct CommonDialog {
   std::string FileTitle;
   bool FileNameFits = true;
   bool FileTitleFits = true;
-  FilePurpose Purpose;
+  FilePurpose Purpose{};
 };
 
 class Desktop {

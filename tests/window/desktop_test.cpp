@@ -151,8 +151,8 @@ TEST_F(DesktopTest, TheFileDialogSaysWhatItIsForAndAsksNothing) {
       line->setText("old.tml");
       QTest::keyClick(line, Qt::Key_Return);
     });
-    forms::CommonDialog asked{.Filter = "*.tml"};
-    asked.Purpose = {saves ? "Save a Map Layout" : "Load a Map Layout", saves};
+    const char* const title = saves ? "Save a Map Layout" : "Load a Map Layout";
+    const forms::CommonDialog asked{"*.tml", "", "", true, true, {title, saves}};
     EXPECT_EQ(AskForFile(asked, folder.path(), nullptr), old);
   }
 }
@@ -169,7 +169,7 @@ TEST_F(DesktopTest, TheSideBarLeadsToTheSamplesBesideTheProgram) {
     EXPECT_EQ(dialog.directory().path(), places.back()) << "the arrows go from place to place";
     chooser.close();
   });
-  AskForFile({.Filter = "*.tml"}, "/", nullptr);
+  AskForFile({"*.tml", "", ""}, "/", nullptr);
   EXPECT_GE(places.size(), 3);
   EXPECT_EQ(places.back(), QDir(SAMPLES).canonicalPath());
 }
