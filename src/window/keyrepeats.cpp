@@ -27,6 +27,8 @@ bool IsNew(const QEvent& surface) {
 
 /// Null where the platform is no X server, or one that does not tell repeats.
 std::unique_ptr<X11Keyboard> JoinX11() {
+  // Other platforms too may have a connection, beside their own keyboards.
+  if (QGuiApplication::platformName() != "xcb") return nullptr;
   const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr) return nullptr;
   auto keyboard = std::make_unique<X11Keyboard>(x11->connection());
