@@ -108,7 +108,7 @@ constexpr PressRow Presses[] = {
 bool Pressed(Form1& form, const forms::KeyEvent& event) {
   for (const PressRow& row : Presses) {
     if (row.Key != event.KeyCode || row.Shift != event.Shift) continue;
-    forms::Control* const target = row.OnMarker ? form.Picture1.Ringed.Get() : &form.Picture1;
+    forms::Control* const target = row.OnMarker ? RingedMarker(form) : &form.Picture1;
     if (target == nullptr || event.Repeat) return true;
     // The map may have been scrolled away from it.
     if (row.OnMarker) BringIntoView(form, *target);
@@ -120,7 +120,7 @@ bool Pressed(Form1& form, const forms::KeyEvent& event) {
 
 bool TookHold(Form1& form, const forms::KeyEvent& event) {
   if (event.KeyCode != forms::KeyReturn || event.Shift != 0) return false;
-  forms::Control* const marker = form.Picture1.Ringed;
+  forms::Control* const marker = RingedMarker(form);
   if (marker == nullptr || event.Repeat) return true;
   BringIntoView(form, *marker);
   form.Pointer.TakeHold(*marker);
@@ -128,6 +128,10 @@ bool TookHold(Form1& form, const forms::KeyEvent& event) {
 }
 
 }  // namespace
+
+void Picture1_GotFocus(Form1& form) {
+  if (forms::Control* const marker = RingedMarker(form)) form.Pointer.PointKey(*marker);
+}
 
 void Picture1_KeyDown(Form1& form, forms::KeyEvent& event) {
   if (event.KeyCode == 0) return;

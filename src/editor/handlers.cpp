@@ -42,6 +42,7 @@ void JoinMarkers(Form1& form) {
 void JoinBackdrop(Form1& form) {
   form.Picture1.MouseUp = [&form](const auto& event) { Picture1_MouseUp(form, event); };
   form.Picture1.DragDrop = [&form](const auto& event) { Picture1_DragDrop(form, event); };
+  form.Picture1.GotFocus = [&form](const auto&) { Picture1_GotFocus(form); };
   form.Picture1.KeyDown = [&form](auto& event) { Picture1_KeyDown(form, event); };
 }
 

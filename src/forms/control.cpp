@@ -8,6 +8,10 @@ Control::~Control() {
   if (form_ != nullptr && form_ != this) form_->Remove(*this);
 }
 
+bool Control::IsSeen() const {
+  return Visible && (container_ == nullptr || container_->IsSeen());
+}
+
 void Control::Drag(DragAction action) {
   if (form_ == nullptr) return;
   if (action == DragAction::Begin) {
@@ -59,6 +63,7 @@ void Control::CopyCommon(const Control& from) {
   KeyDown = from.KeyDown;
   KeyUp = from.KeyUp;
   KeyPress = from.KeyPress;
+  GotFocus = from.GotFocus;
 }
 
 }  // namespace terramark::forms

@@ -61,6 +61,8 @@ class Control : public PropertyOwner {
   Slot<KeyEvent&> KeyDown;
   Slot<KeyEvent> KeyUp;
   Slot<PlainEvent> KeyPress;
+  /// After the control has got the keyboard.
+  Slot<PlainEvent> GotFocus;
 
   ControlKind Kind() const { return kind_; }
   const std::string& Name() const { return name_; }
@@ -71,6 +73,8 @@ class Control : public PropertyOwner {
   Control* Container() const { return container_; }
   /// Contained controls from the back to the front.
   const std::vector<Control*>& Children() const { return children_; }
+  /// Whether it and all that it stands in are visible.
+  bool IsSeen() const;
 
   /// Begins a drag of this control by the pointer that is down, or ends it with nothing moved. Does
   /// nothing where no button is down, none is dragged, or the control is on no form.

@@ -73,7 +73,8 @@ struct KeyEvent {
   bool Taken = false;
 };
 
-/// An event without arguments but the element's number: Click, Change and KeyPress.
+/// An event without arguments but the element's number: Click, Change, KeyPress and
+/// GotFocus.
 struct PlainEvent {
   std::int16_t Index = 0;
 };

@@ -67,6 +67,7 @@ void Form::Focus(Control* control) {
   active_ = control;
   lost_ = nullptr;
   if (observer_ != nullptr) observer_->FocusMoved(control != nullptr ? *control : *this);
+  if (control != nullptr && active_ == control) control->GotFocus.Raise({control->Index()});
 }
 
 void Form::Tell(Control& control, PropertyId id) {
@@ -82,20 +83,21 @@ void Form::Tell(Control& control, PropertyId id) {
 }
 
 bool Form::KeyPressed(KeyEvent key) {
-  Control* const active = active_;
-  const auto held = taken_.find(key.KeyCode);
-  const bool goesOn = key.Repeat && held != taken_.end();
-  if (goesOn && held->second != active) return true;
+  const Taken now{active_, Pointer.HoldNumber()};
+  const auto down = taken_.find(key.KeyCode);
+  const bool goesOn = key.Repeat && down != taken_.end();
+  // An arrow that carried does not begin to walk when the hold has ended under it.
+  if (goesOn && !down->second.GoesOnIn(now)) return true;
   if (key.KeyCode == KeyEscape && Pointer.InFlight()) {
     Pointer.CancelDrag();
     key.Taken = true;
   }
   if (!key.Taken && KeyPreview) KeyDown.Raise(key);
-  if (!key.Taken && active != nullptr) active->KeyDown.Raise(key);
-  // Also where it means nothing by now, as an arrow whose marker was put back under it.
+  if (!key.Taken && now.Active != nullptr) now.Active->KeyDown.Raise(key);
+  // Also where it means nothing by now, as an arrow once the Shift key is down too.
   if (goesOn) key.Taken = true;
   if (key.Taken) {
-    taken_[key.KeyCode] = active;
+    taken_[key.KeyCode] = now;
   } else {
     taken_.erase(key.KeyCode);
   }

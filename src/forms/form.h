@@ -85,9 +85,20 @@ class Form : public Control {
   Control* active_ = nullptr;
   /// What lost the keyboard by its state, while no control has it.
   Control* lost_ = nullptr;
-  /// The keys that are down and were taken, by their codes, and who had the keyboard then; of a
-  /// control only its identity is used.
-  std::map<std::int16_t, const Control*> taken_;
+  /// Of a key that was taken: who had the keyboard at the press, and the hold that the keys had
+  /// then.
+  struct Taken {
+    Control* Active = nullptr;
+    unsigned Hold = 0;
+
+    /// Whether a repeat still means what the press did.
+    bool GoesOnIn(const Taken& now) const {
+      return Active == now.Active && (Hold == 0 || Hold == now.Hold);
+    }
+  };
+  /// The keys that are down and were taken, by their codes; of their controls only the identity is
+  /// used.
+  std::map<std::int16_t, Taken> taken_;
 };
 
 }  // namespace terramark::forms

@@ -103,19 +103,24 @@ void PictureBox::Reveal(const PixelRect& onPicture) {
            StepInto(part.Top, part.Height, ViewHeight()));
 }
 
-void PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
+bool PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
   const Raster& image = Image();
   const auto opens = [&](PixelPoint at) {
     return PixelRect{0, 0, image.Width, image.Height}.Contains(at) &&
            image.Pixels[image.At(at.X, at.Y)] != PixelOf(border);
   };
-  if (std::ranges::none_of(seeds, opens)) return;
+  if (std::ranges::none_of(seeds, opens)) return true;
   try {
-    if (own_) return BorderFill(*own_, seeds, FillColor, border);
-    Raster painted = *Picture.Get();
-    BorderFill(painted, seeds, FillColor, border);
-    own_ = std::move(painted);
+    if (own_) {
+      BorderFill(*own_, seeds, FillColor, border);
+    } else {
+      Raster painted = *Picture.Get();
+      BorderFill(painted, seeds, FillColor, border);
+      own_ = std::move(painted);
+    }
+    return true;
   } catch (const std::bad_alloc&) {
+    return false;
   }
 }
 

@@ -71,8 +71,8 @@ class PictureBox : public Control {
 
   /// Paints FillColor on the persistent image from points of it outward up to pixels of the border
   /// colour. A point outside the image or on the border paints nothing. When the memory does not
-  /// reach, nothing is painted. Refresh shows it.
-  void FillToBorder(std::span<const PixelPoint> seeds, Color border);
+  /// reach, nothing is painted and it gives false. Refresh shows it.
+  bool FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
   void ChildGone(const Control& child) override;

@@ -152,6 +152,7 @@ void PointerRouter::TakeHold(Control& control) {
   if (buttonsDown_ != 0 || dragged_ != nullptr) return;
   buttonsDown_ = LeftButton;
   held_ = true;
+  ++holds_;
   carried_ = {};
   control.MouseDown.Raise(EventFor(control, {}, LeftButton, 0));
   buttonsDown_ = 0;

@@ -45,6 +45,8 @@ class PointerRouter {
   void PutBack();
   /// Whether a control is in the air in that way, or by the mouse.
   bool Holds() const { return held_ && dragged_ != nullptr; }
+  /// A number of its own for each such hold; 0 while nothing is held.
+  unsigned HoldNumber() const { return Holds() ? holds_ : 0; }
   bool DragsByMouse() const { return dragged_ != nullptr && !held_; }
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
@@ -94,8 +96,10 @@ class PointerRouter {
   std::int16_t buttonsDown_ = 0;
   std::int16_t lastButton_ = 0;
   std::int16_t dragButton_ = 0;
-  /// Whether what is dragged is held without the mouse, and how far it has been carried.
+  /// Whether what is dragged is held without the mouse, how many such holds there have been, and
+  /// how far it has been carried.
   bool held_ = false;
+  unsigned holds_ = 0;
   PixelPoint carried_;
 };
 

@@ -16,8 +16,13 @@ forms::Label* RegionMarker(Form1& form, std::int16_t region) {
   return region < 1 ? nullptr : form.Continent.Find(region);
 }
 
+forms::Control* RingedMarker(Form1& form) {
+  forms::Control* const marker = form.Picture1.Ringed;
+  return marker != nullptr && marker->IsSeen() ? marker : nullptr;
+}
+
 void BringIntoView(Form1& form, const forms::Control& marker) {
-  form.Picture1.Reveal(PixelBounds(marker));
+  if (marker.IsSeen()) form.Picture1.Reveal(PixelBounds(marker));
 }
 
 Look LookOf(const forms::Label& marker) {

@@ -21,7 +21,10 @@ forms::Label* AreaMarker(Form1& form, std::int16_t area);
 /// The marker of a Region, likewise.
 forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
-/// Scrolls a marker into view, with some ground around it.
+/// The marker that the keys on the map act on; null where none has the ring, or it is hidden.
+forms::Control* RingedMarker(Form1& form);
+
+/// Scrolls a marker into view, with some ground around it; not to one that is hidden.
 void BringIntoView(Form1& form, const forms::Control& marker);
 
 /// What is selected lives in the looks of the markers and nowhere else.

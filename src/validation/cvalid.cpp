@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "document/corner.h"
+#include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
 #include "validation/validatemap.h"
@@ -33,7 +34,9 @@ void Cvalid_MouseUp(Form1& form) {
   std::vector<forms::PixelPoint> points;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) points.push_back(FillPoint(form, i));
   form.Picture1.FillColor = ClrRed;
-  form.Picture1.FillToBorder(points, ClrBlack);
+  if (!form.Picture1.FillToBorder(points, ClrBlack)) {
+    ShowMessage(form, "There is not enough memory to flood the map", ClrRed);
+  }
   form.Picture1.Refresh();
 }
 

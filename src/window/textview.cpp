@@ -1,5 +1,6 @@
 #include "window/textview.h"
 
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -74,6 +75,7 @@ void TextView::NoteCaret() {
 }
 
 void TextView::Edited(const QString& edited) {
+  if (composing_) return;
   const QScopedValueRollback<bool> still(editing_, true);
   const QString before = ShownPart();
   const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
@@ -82,13 +84,10 @@ void TextView::Edited(const QString& edited) {
     // Less may have come in than the line shows.
     const auto size = static_cast<qsizetype>(box_.Text.Get().size());
     const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
-    ShowText();
     if (now == before) {
-      // An edit that was refused leaves the caret and the mark as they were.
-      const bool backwards = caret_ == markedFrom_;
-      setSelection(backwards ? markedFrom_ + markedSize_ : markedFrom_,
-                   backwards ? -markedSize_ : markedSize_);
+      Restore();
     } else {
+      ShowText();
       setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
     }
   }
@@ -107,13 +106,56 @@ void TextView::Take(const QString& before, const QString& edited) {
               Cleaned(edit.Insert));
 }
 
+/// An edit that was refused, or came to nothing, leaves the caret and the mark as they were.
+void TextView::Restore() {
+  ShowText();
+  const bool backwards = caret_ == markedFrom_;
+  setSelection(backwards ? markedFrom_ + markedSize_ : markedFrom_,
+               backwards ? -markedSize_ : markedSize_);
+}
+
 void TextView::inputMethodEvent(QInputMethodEvent* event) {
+  if (event->commitString().isEmpty() && event->replacementLength() == 0) return Compose(*event);
+  if (event->preeditString().isEmpty()) return Commit(*event);
+  // One after the other: where the text is set anew over the first, the line forgets the second.
+  QInputMethodEvent first;
+  first.setCommitString(event->commitString(), event->replacementStart(),
+                        event->replacementLength());
+  Commit(first);
+  QInputMethodEvent second(event->preeditString(), event->attributes());
+  Compose(second);
+}
+
+void TextView::Commit(QInputMethodEvent& event) {
+  // To the control it is a key that makes a character.
+  box_.KeyPress.Raise({box_.Index()});
   {
     // It moves the caret before it tells of the edit.
     const QScopedValueRollback<bool> still(editing_, true);
-    QLineEdit::inputMethodEvent(event);
+    QLineEdit::inputMethodEvent(&event);
   }
   NoteCaret();
+}
+
+/// The line takes a marked part out at once. The control hears of it with what comes in its place,
+/// as with a key, or not at all.
+void TextView::Compose(QInputMethodEvent& event) {
+  const QScopedValueRollback<bool> still(editing_, true);
+  {
+    const QScopedValueRollback<bool> open(composing_, true);
+    QLineEdit::inputMethodEvent(&event);
+  }
+  if (text() != ShownPart()) {
+    if (!event.preeditString().isEmpty()) return;
+    Restore();
+  }
+  NoteCaret();
+}
+
+void TextView::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  // What was composed over a mark and has not come in is gone.
+  if (!editing_) ShowText();
 }
 
 void TextView::ShowOwn(forms::PropertyId id) {

@@ -18,11 +18,15 @@ class TextView : public QLineEdit, public ControlView {
  protected:
   void ShowOwn(forms::PropertyId id) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void Edited(const QString& edited);
   void Take(const QString& before, const QString& edited);
+  void Commit(QInputMethodEvent& event);
+  void Compose(QInputMethodEvent& event);
+  void Restore();
   void NoteCaret();
   /// The beginning of the control's text, as much of it as the box holds.
   QString ShownPart() const;
@@ -37,6 +41,8 @@ class TextView : public QLineEdit, public ControlView {
   int markedFrom_ = 0;
   int markedSize_ = 0;
   bool editing_ = false;
+  /// While an input method shows what may yet come to nothing.
+  bool composing_ = false;
 };
 
 }  // namespace terramark::window

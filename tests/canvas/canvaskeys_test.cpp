@@ -106,17 +106,21 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
   EXPECT_EQ(Form.ArmyAt(1).Top.Get(), top - 9);
   const std::pair<const char*, std::function<void()>> ends[]{
       {"Escape", [&] { Key(KeyEscape); }},
-      {"the keyboard goes", [&] { Form.Focus(&Form.Symb); }},
+      {"the keyboard goes", [&] { Key(KeyF6); }},
+      {"and comes back", [&] { Key(KeyF6), Key(KeyF6); }},
       {"a press of the mouse", [&] {
-         Form.KeyPressed({KeyUpArrow, 0});
          Press({620, 440}), Release({620, 440});
-         EXPECT_TRUE(Form.KeyPressed({KeyUpArrow, 0, true}));
-         Form.KeyReleased({KeyUpArrow, 0});
        }}};
+  const auto down = {KeyRightArrow, KeyUpArrow, KeyHome};
   for (const auto& [end, act] : ends) {
     Form.Focus(&Form.Picture1);
     carry();
+    for (const std::int16_t key : down) Form.KeyPressed({key, 0});
     act();
+    Form.Helpbar.Caption = "";
+    for (const std::int16_t key : down) EXPECT_TRUE(Form.KeyPressed({key, 0, true})) << end;
+    for (const std::int16_t key : down) Form.KeyReleased({key, 0});
+    EXPECT_EQ(Ringed() + Form.Helpbar.Caption.Get(), "ArmyAt1") << end;
     EXPECT_FALSE(Form.Pointer.InFlight()) << end;
     EXPECT_EQ(Form.ArmyAt(1).Left.Get(), left + 2) << end;
     EXPECT_EQ(Selected(), before) << end;
@@ -127,9 +131,30 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
   Key(KeyReturn);
   Form.KeyReleased({KeyDownArrow, 0});
   Key(KeyHome);
-  Key(KeyLeftArrow);
-  Key(KeyReturn);
+  Form.KeyPressed({KeyLeftArrow, 0});
+  for (int i = 0; i < 3; ++i) {
+    Key(KeyReturn);
+    Form.KeyPressed({KeyLeftArrow, 0, true});
+    EXPECT_EQ(Ringed(), "ArmyAt1");
+  }
   EXPECT_EQ(Form.ArmyAt(1).Left.Get(), 272) << "brought back to the middle, and one to the left";
+}
+
+TEST_F(CanvasKeysTest, LeavesAloneWhatIsHidden) {
+  Form.Picture1.Picture = BlankPicture(2000, 1000);
+  Click(Form.ArmyAt(2));
+  Form.ArmyAt(3).Move(1500, 700);
+  Form.ArmyAt(3).Visible = false;
+  Key(KeyUpArrow);
+  Hover(Form.ArmyAt(1));
+  Key(KeyF6);
+  const std::string before = Selected() + Area(3);
+  for (const std::int16_t key : {KeySpace, KeyC, KeyMenu, KeyReturn}) {
+    for (const std::int16_t shift : {std::int16_t{0}, ShiftKey}) Key(key, shift);
+    EXPECT_EQ(Selected() + Area(3), before) << key;
+    EXPECT_TRUE(OnMap() && !Form.Pointer.InFlight() && Form.Picture1.ScrollLeft == 0) << key;
+  }
+  EXPECT_EQ(Ringed() + Form.Helpbar.Caption.Get(), "ArmyAt3 1: Area 1 in Region *UNKNOWN*");
 }
 
 TEST_F(CanvasKeysTest, WhatTheKeysComeToIsScrolledIntoView) {

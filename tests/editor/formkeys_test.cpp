@@ -31,6 +31,7 @@ TEST_F(FormKeysTest, F6GoesToTheMapAndBack) {
   Click(Form.AddCont);
   Form.Focus(&Form.Armypc);
   Key(KeyF6);
+  EXPECT_EQ(Form.Helpbar.Caption.Get(), " 1:  Region 1") << "the ring is on it";
   Form.Armypc.Enabled = false;
   Key(KeyF6);
   EXPECT_EQ(Form.ActiveControl(), &Form.EditText);

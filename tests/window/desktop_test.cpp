@@ -22,6 +22,7 @@
 #include "pictures/cp1252.h"
 #include "shell/aboutform.h"
 #include "shell/form1.h"
+#include "support/editortest.h"
 #include "window/filedialog.h"
 #include "window/mainwindow.h"
 #include "window/qtdesktop.h"
@@ -228,6 +229,13 @@ TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {
   EXPECT_EQ(&box.Image(), box.Picture.Get().get()) << "the image takes none";
   EXPECT_EQ(blocks(fill), 3) << "the image, and two bits a pixel";
   EXPECT_EQ(blocks(grow), 1);
+}
+
+TEST_F(ChainTest, AFloodThatHasNoMemoryIsToldInRed) {
+  LargeBlocksLeft = 0;
+  EXPECT_EQ(Click(Form.Cvalid), "red: There is not enough memory to flood the map");
+  LargeBlocksLeft = INT_MAX;
+  EXPECT_EQ(Click(Form.Cvalid), "This map has no errors");
 }
 
 TEST_F(DesktopTest, AFailureAndTheClosedWindowEndTheProcess) {

@@ -170,7 +170,7 @@ TEST_F(WindowKeys, ARefusedEditShowsAtOnceWithTheCaretWhereItWas) {
   std::string atCharacters;
   std::string carets;
   box.KeyDown = [&](const forms::KeyEvent&) { last = box.Text; };
-  box.KeyPress = [&](const forms::PlainEvent&) { atCharacters += box.Text.Get() + " "; };
+  box.KeyPress = [&](const forms::PlainEvent&) { atCharacters += (last = box.Text) + " "; };
   box.Change = [&](const forms::PlainEvent&) {
     if (ReadNumber(box.Text.Get()) == 0) box.Text = last;
   };
@@ -188,6 +188,24 @@ TEST_F(WindowKeys, ARefusedEditShowsAtOnceWithTheCaretWhereItWas) {
   Type("x8");
   EXPECT_EQ(line.text(), "8") << "the mark outlives a refusal";
   EXPECT_EQ(atCharacters, "15 5 5 57 57 ") << "the text before each key that makes a character";
+  box.Text = "59";
+  line.setSelection(1, -1);
+  const auto compose = [&](const char* preedit, const char* commit) {
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(commit);
+    QCoreApplication::sendEvent(&line, &event);
+    return box.Text.Get() + " " + (line.text() + "/" + line.selectedText()).toStdString();
+  };
+  EXPECT_EQ(compose("", "x"), "59 59/5") << "by an input method";
+  EXPECT_EQ(compose("q", ""), "59 9/") << "not the control's yet";
+  EXPECT_EQ(compose("q", "x"), "59 9/") << "refused, and composed on";
+  EXPECT_EQ(compose("", ""), "59 59/5") << "given up";
+  compose("q", "");
+  EXPECT_EQ(compose("", "8"), "89 89/");
+  line.selectAll();
+  compose("q", "");
+  Form.Text1.SetFocus();
+  EXPECT_EQ(line.text(), "89") << "the keyboard went";
 }
 
 TEST_F(WindowKeys, TheMouseSelectsTextAndIsHeardByTheForm) {
