@@ -41,7 +41,8 @@ struct ShownEditor : Editor {
 /// Shows a picture and puts the Areas in its upper left corner, where all are seen at once.
 inline void MakeMap(Form1& form, const QString& picture) {
   form.PictureFile = picture.toStdString();
-  if (!ShowPicture(form, form.PictureFile)) qFatal("cannot show %s", qPrintable(picture));
+  const forms::Fault fault = ShowPicture(form, form.PictureFile);
+  if (!fault.empty()) qFatal("cannot show %s: %s", qPrintable(picture), fault.c_str());
   for (int i = 0; i < CountLimit; ++i) {
     const auto x = static_cast<float>(10 + 44 * (i % 12));
     const auto y = static_cast<float>(40 + 33 * (i / 12));

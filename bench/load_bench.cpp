@@ -14,9 +14,10 @@ constexpr int TimedRounds = 25;
 constexpr int MemoryRounds = 5;
 
 forms::Picture Load(const QString& path) {
-  forms::Picture picture = pictures::LoadPictureFile(forms::RegularFile(path.toStdString()), 0, 0);
-  if (!picture) qFatal("cannot load %s", qPrintable(path));
-  return picture;
+  const forms::RegularFile file(path.toStdString());
+  forms::LoadedPicture loaded = pictures::LoadPictureFile(file, 0, 0);
+  if (!loaded.Picture) qFatal("cannot load %s: %s", qPrintable(path), loaded.Fault.c_str());
+  return loaded.Picture;
 }
 
 QImage Read(const QString& path) {

@@ -46,9 +46,9 @@ int main(int argc, char** argv) {
     const QString base = name.chopped(4);
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
-    const terramark::forms::Picture picture = terramark::pictures::LoadPictureFile(
-        terramark::forms::RegularFile(folder.filePath(name).toStdString()), wanted.width(),
-        wanted.height());
+    const terramark::forms::RegularFile file(folder.filePath(name).toStdString());
+    const auto picture =
+        terramark::pictures::LoadPictureFile(file, wanted.width(), wanted.height()).Picture;
     QImage drawn;
     if (picture) {
       drawn = QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,

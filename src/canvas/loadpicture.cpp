@@ -19,8 +19,9 @@ void LoadMap_MouseUp(Form1& form) {
     ShowNameFault(form, path);
     return;
   }
-  if (!ShowNewPicture(form, path)) {
-    ShowPictureFault(form, path);
+  const forms::Fault fault = ShowNewPicture(form, path);
+  if (!fault.empty()) {
+    ShowPictureFault(form, path, fault);
     return;
   }
   form.Host.EnterFolderOf(path);

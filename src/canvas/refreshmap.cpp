@@ -8,9 +8,9 @@
 
 namespace terramark {
 
-bool RefreshMap(Form1& form) {
+forms::Fault RefreshMap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt(i).Visible = false;
-  const bool readable = ShowPicture(form, form.PictureFile);
+  forms::Fault fault = ShowPicture(form, form.PictureFile);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
@@ -24,8 +24,8 @@ bool RefreshMap(Form1& form) {
   }
   form.EditText.SetFocus();
   ShowMessage(form, "", ClrGreen);
-  if (!readable) ShowPictureFault(form, form.PictureFile);
-  return readable;
+  if (!fault.empty()) ShowPictureFault(form, form.PictureFile, fault);
+  return fault;
 }
 
 void RefMap_MouseUp(Form1& form) {

@@ -14,9 +14,9 @@ void Picture1_MouseUp(Form1& form, const forms::MouseEvent& event) {
     above.Y -= form.ArmyAt(0).Height;
     AddTer_MouseUp(form, above);
   } else if (event.Shift == 0) {
-    const bool readable = RefreshMap(form);
+    const forms::Fault fault = RefreshMap(form);
     ClearSelection(form);
-    if (!readable) ShowPictureFault(form, form.PictureFile);
+    if (!fault.empty()) ShowPictureFault(form, form.PictureFile, fault);
   }
 }
 

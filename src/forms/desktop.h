@@ -84,9 +84,9 @@ class Desktop {
   virtual TextExtent MeasureText(const std::string& text) = 0;
 
   /// Reads a bitmap at its own size, or a metafile drawn into width x height pixels. The empty path
-  /// gives the empty picture; null when the file is missing or cannot be decoded. Throws
-  /// std::bad_alloc when the memory does not reach.
-  virtual Picture LoadPicture(const std::string& path, int width, int height) = 0;
+  /// gives the empty picture; null, with the fault, when the file is missing or cannot be decoded.
+  /// Throws std::bad_alloc when the memory does not reach.
+  virtual LoadedPicture LoadPicture(const std::string& path, int width, int height) = 0;
   /// The file system's name of a path held in 8-bit text. The FileName that the dialog gave last
   /// stands for the file chosen there, whatever characters "?" hides.
   virtual std::filesystem::path NativePath(const std::string& path) = 0;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/color.h"
+#include "forms/fault.h"
 
 namespace terramark::forms {
 
@@ -31,5 +32,11 @@ inline std::uint32_t PixelOf(Color color) {
 
 /// A loaded picture, shared and never written to; null stands for a picture that cannot be read.
 using Picture = std::shared_ptr<const Raster>;
+
+/// What became of reading a picture: where it is null, the fault says why.
+struct LoadedPicture {
+  forms::Picture Picture;
+  forms::Fault Fault;
+};
 
 }  // namespace terramark::forms

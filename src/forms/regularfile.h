@@ -9,6 +9,7 @@
 #include <string>
 
 #include "forms/descriptor.h"
+#include "forms/fault.h"
 #include "forms/fileversion.h"
 
 namespace terramark::forms {
@@ -21,11 +22,14 @@ class RegularFile {
 
   /// Whether the path names such a file and it may be read.
   bool IsOpen() const { return file_.IsOpen(); }
+  /// Why it is not open, or why a read or the like has failed since; empty when neither is so. A
+  /// file that merely ends early is no such failure.
+  const Fault& Why() const { return why_; }
   /// Bytes at the time of opening; 0 when it is not open.
   std::uintmax_t Size() const { return size_; }
 
   /// The file as it is now; nothing when it is not open.
-  std::optional<FileVersion> Version() const { return VersionOf(file_.Number()); }
+  std::optional<FileVersion> Version() const;
 
   /// From the beginning up to the size, and at most so many bytes. Nothing when it is not open or a
   /// read fails: a disk's fault does not look like a short file.
@@ -35,11 +39,16 @@ class RegularFile {
   bool ReadAt(std::uintmax_t offset, std::span<char> room) const;
 
  private:
-  /// False for what only looks like a plain file.
-  bool TakeSize();
+  /// Why it is none of those that are taken; empty when it is open.
+  Fault Open(const std::filesystem::path& path);
+  /// Finds out those that only look like a plain file.
+  Fault TakeSize();
+  /// Keeps why a call of the system has failed just now.
+  void Failed() const;
 
   Descriptor file_;
   std::uintmax_t size_ = 0;
+  mutable Fault why_;
 };
 
 }  // namespace terramark::forms

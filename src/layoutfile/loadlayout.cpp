@@ -6,9 +6,8 @@
 #include "forms/regularfile.h"
 #include "layoutfile/fieldreader.h"
 #include "layoutfile/readmapfile.h"
-#include "shell/bars.h"
 #include "shell/clearmap.h"
-#include "shell/colours.h"
+#include "shell/filefault.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
 
@@ -26,9 +25,10 @@ void LoadMpa_MouseUp(Form1& form) {
   form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
-  const auto bytes = forms::RegularFile(form.Host.NativePath(name)).Read(MostBytes);
+  const forms::RegularFile layout(form.Host.NativePath(name));
+  const auto bytes = layout.Read(MostBytes);
   if (!bytes) {
-    ShowMessage(form, "Cannot open Map Layout File " + name, ClrRed);
+    ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + layout.Why());
     return;
   }
   form.LayoutFile = name;

@@ -182,7 +182,7 @@ bool ShowMap(Form1& form) {
     form.ArmyAt(i).Visible = false;
     form.ArmyAt(i).ZOrder(forms::StackEnd::Back);
   }
-  if (!ShowNewPicture(form, form.PictureFile)) return false;
+  if (!ShowNewPicture(form, form.PictureFile).empty()) return false;
   form.Picture1.ZOrder(forms::StackEnd::Front);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) form.Continent(r).Visible = true;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {

@@ -35,7 +35,7 @@ void SaveCFG_MouseUp(Form1& form) {
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
 
-  const bool pictureRead = RefreshMap(form);
+  const forms::Fault fault = RefreshMap(form);
   SafeFile file(form.Host.NativePath(name));
   if (!file.Open()) {
     ShowWriteFault(form, name, file);
@@ -45,7 +45,7 @@ void SaveCFG_MouseUp(Form1& form) {
   LayoutText text;
   const bool whole = WriteMapFile(form, text);
   // Clearing the selection blanked the bar; what stopped the writing says so after that.
-  if (whole && !pictureRead) ShowPictureFault(form, form.PictureFile);
+  if (whole && !fault.empty()) ShowPictureFault(form, form.PictureFile, fault);
   // A text that was stopped in mid-file takes its place like any other.
   if (!file.Replace(text.Text())) {
     form.Text1.Text = header;

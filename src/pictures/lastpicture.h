@@ -15,7 +15,7 @@ class LastPicture {
  public:
   /// What LoadPictureFile gives, and the very object that it gave last when that is still held
   /// elsewhere, the box is the same and the file, under whatever name, has not changed.
-  forms::Picture Load(const std::filesystem::path& path, int boxWidth, int boxHeight);
+  forms::LoadedPicture Load(const std::filesystem::path& path, int boxWidth, int boxHeight);
 
  private:
   /// What a picture is decoded from: a metafile is drawn for its box.

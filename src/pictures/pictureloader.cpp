@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "pictures/dib.h"
 #include "pictures/limits.h"
@@ -33,8 +34,14 @@ forms::Picture LoadBitmap(QByteArrayView fileHeader, ByteSource& dib) {
 }
 
 forms::Picture LoadMetafile(QByteArrayView bytes, QSize box) {
-  if (!MetafileReader::Recognises(bytes)) return nullptr;
   return PlayMetafile(bytes, box.boundedTo(QSize(MaxPictureBoxSide, MaxPictureBoxSide)));
+}
+
+/// The picture, or a read of the file that has failed, or else what is wrong with its bytes.
+forms::LoadedPicture Loaded(forms::Picture picture, const forms::RegularFile& file,
+                            const char* otherwise) {
+  if (picture) return {std::move(picture), {}};
+  return {nullptr, file.Why().empty() ? otherwise : file.Why()};
 }
 
 }  // namespace
@@ -47,15 +54,19 @@ forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHei
   return LoadBitmap(fileHeader, dib);
 }
 
-forms::Picture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight) {
+forms::LoadedPicture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight) {
   std::array<char, FileHeaderBytes> fileHeader{};
   if (file.ReadAt(0, fileHeader) && IsBitmap(fileHeader)) {
     FileBytes dib(file, FileHeaderBytes);
-    return LoadBitmap(fileHeader, dib);
+    return Loaded(LoadBitmap(fileHeader, dib), file, "the bitmap is damaged, too large or unusual");
   }
-  if (file.Size() > MaxMetafileBytes) return nullptr;
-  const std::optional<std::string> bytes = file.Read(MaxMetafileBytes);
-  return bytes ? LoadMetafile(*bytes, QSize(boxWidth, boxHeight)) : nullptr;
+  if (file.Size() > MaxMetafileBytes)
+    return Loaded(nullptr, file, "it is too large for a metafile");
+  const std::string bytes = file.Read(MaxMetafileBytes).value_or("");
+  if (!MetafileReader::Recognises(bytes)) {
+    return Loaded(nullptr, file, "it is no bitmap or metafile");
+  }
+  return Loaded(LoadMetafile(bytes, QSize(boxWidth, boxHeight)), file, "nothing is drawn in it");
 }
 
 }  // namespace terramark::pictures

@@ -11,12 +11,12 @@ namespace terramark::pictures {
 
 /// The picture in the file, told by its content and never by its name. A bitmap has its own size
 /// and takes no notice of the box; its file is read in pieces. A metafile fills the box, in pixels.
-/// Limits stand in limits.h. Null when the file is not open or cannot be read, is cut short
-/// meanwhile, is too large or holds neither kind, or when the box of a metafile is empty;
+/// Limits stand in limits.h. Null, with the fault, when the file is not open or cannot be read, is
+/// cut short meanwhile, is too large or holds neither kind, or when the box of a metafile is empty;
 /// std::bad_alloc when the memory does not reach.
-forms::Picture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight);
+forms::LoadedPicture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight);
 
-/// The same from memory.
+/// The same from memory, and null without a word.
 forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight);
 
 }  // namespace terramark::pictures

@@ -4,6 +4,7 @@
 
 #include "shell/bars.h"
 #include "shell/colours.h"
+#include "shell/filefault.h"
 #include "shell/form1.h"
 
 namespace terramark {
@@ -20,39 +21,38 @@ void ForgetFaults(Form1& form) {
   if (ours && form.Message.BackColor == ClrRed) ShowMessage(form, "", ClrGreen);
 }
 
-bool LoadBackdrop(Form1& form, const std::string& path) {
+forms::Fault LoadBackdrop(Form1& form, const std::string& path) {
   forms::PictureBox& box = form.Picture1;
-  const forms::Picture picture = form.Host.LoadPicture(path, box.BoxWidth(), box.BoxHeight());
-  if (!picture) return false;
-  box.Picture = picture;
-  return true;
+  const auto loaded = form.Host.LoadPicture(path, box.BoxWidth(), box.BoxHeight());
+  if (loaded.Picture) box.Picture = loaded.Picture;
+  return loaded.Fault;
 }
 
 }  // namespace
 
-bool ShowPicture(Form1& form, const std::string& path) {
+forms::Fault ShowPicture(Form1& form, const std::string& path) {
   try {
-    if (!LoadBackdrop(form, path)) return false;
+    forms::Fault fault = LoadBackdrop(form, path);
+    if (!fault.empty()) return fault;
   } catch (const std::bad_alloc&) {
-    return false;
+    return "not enough memory";
   }
   ForgetFaults(form);
-  return true;
+  return {};
 }
 
-bool ShowNewPicture(Form1& form, const std::string& path) {
-  if (!ShowPicture(form, path)) return false;
-  form.Picture1.ZoomTo(forms::ActualSize, {});
-  return true;
+forms::Fault ShowNewPicture(Form1& form, const std::string& path) {
+  forms::Fault fault = ShowPicture(form, path);
+  if (fault.empty()) form.Picture1.ZoomTo(forms::ActualSize, {});
+  return fault;
 }
 
-void ShowPictureFault(Form1& form, const std::string& path) {
-  ShowMessage(form, PictureFault + path, ClrRed);
+void ShowPictureFault(Form1& form, const std::string& path, const forms::Fault& fault) {
+  ShowFileFault(form, PictureFault, path, ": " + fault);
 }
 
 void ShowNameFault(Form1& form, const std::string& name) {
-  ShowMessage(form, NameFault + name + " (it has characters that a Map Layout cannot hold)",
-              ClrRed);
+  ShowFileFault(form, NameFault, name, " (not all its letters fit)");
 }
 
 }  // namespace terramark

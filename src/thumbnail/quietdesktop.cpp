@@ -29,7 +29,7 @@ forms::TextExtent QuietDesktop::MeasureText(const std::string& text) {
   return pictures::ExtentOf(text, *this);
 }
 
-forms::Picture QuietDesktop::LoadPicture(const std::string& path, int width, int height) {
+forms::LoadedPicture QuietDesktop::LoadPicture(const std::string& path, int width, int height) {
   return pictures::LoadPictureFile(forms::RegularFile(NativePath(path)), width, height);
 }
 

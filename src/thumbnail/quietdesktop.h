@@ -31,7 +31,7 @@ class QuietDesktop : public forms::Desktop {
   float TwipsPerPixelY() override { return UsualTwips; }
   forms::TextExtent MeasureText(const std::string& text) override;
 
-  forms::Picture LoadPicture(const std::string& path, int width, int height) override;
+  forms::LoadedPicture LoadPicture(const std::string& path, int width, int height) override;
   std::filesystem::path NativePath(const std::string& path) override;
   void EnterFolderOf(const std::string& path) override;
 

@@ -121,8 +121,8 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
   return pictures::ExtentOf(text, *this);
 }
 
-forms::Picture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
-  if (path.empty()) return std::make_shared<forms::Raster>();
+forms::LoadedPicture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
+  if (path.empty()) return {std::make_shared<forms::Raster>(), {}};
   return picture_.Load(NativePath(path), width, height);
 }
 

@@ -35,7 +35,7 @@ class QtDesktop : public forms::Desktop {
   float TwipsPerPixelY() override;
   forms::TextExtent MeasureText(const std::string& text) override;
 
-  forms::Picture LoadPicture(const std::string& path, int width, int height) override;
+  forms::LoadedPicture LoadPicture(const std::string& path, int width, int height) override;
   std::filesystem::path NativePath(const std::string& path) override;
   void EnterFolderOf(const std::string& path) override;
 

@@ -98,17 +98,18 @@ TEST_F(BackdropTest, AnUnreadablePictureIsSaidAndLosesNothing) {
   EXPECT_EQ(Screen.Filters, std::vector<std::string>{"*.wmf;*.bmp"});
   MakeChain();
   Screen.FileNames.push_back("text.wmf");
-  EXPECT_EQ(Click(Form.LoadMap), "red: Cannot read picture text.wmf");
+  EXPECT_EQ(Click(Form.LoadMap), "red: Cannot read picture text.wmf: gone");
   EXPECT_EQ(Form.PictureFile, "map.bmp");
   EXPECT_EQ(Form.LoadMap.Caption.Get(), "map.bmp");
   EXPECT_EQ(Screen.Entered, std::vector<std::string>{"map.bmp"});
   Screen.Pictures.clear();
   Click(Form.ArmyAt(1));
-  EXPECT_EQ(ClickMap(5, 300), "red: Cannot read picture map.bmp")
+  EXPECT_EQ(ClickMap(5, 300), "red: Cannot read picture map.bmp: gone")
       << "outlives the blanking of the bar";
   EXPECT_EQ(Form.CurArea, 0);
   EXPECT_EQ(Form.Picture1.Picture.Get()->Width, 546);
-  EXPECT_EQ(Click(Form.RefMap), "red: Cannot read picture map.bmp");
+  Screen.Loading = [] { throw std::bad_alloc(); };
+  EXPECT_EQ(Click(Form.RefMap), "red: Cannot read picture map.bmp: not enough memory");
 }
 
 TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
@@ -124,11 +125,11 @@ TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
   EXPECT_EQ(load(true, true), "/?/a map red: Cannot");
   EXPECT_EQ(load(false, true), "a map red: Cannot");
   EXPECT_EQ(load(false, false),
-            "a map red: Cannot use this file name in a Map Layout: /?/a map (it "
-            "has characters that a Map Layout cannot hold)");
+            "a map red: Cannot use this file name in a Map Layout: /?/a map "
+            "(not all its letters fit)");
   EXPECT_EQ(Screen.Entered, (std::vector<std::string>{"/?/a map", "/?/a map"}));
   EXPECT_EQ(load(true, true), "/?/a map ") << "a text about an earlier picture goes";
-  ShowMessage(Form, "Cannot read picture b.bmp", ClrRed);
+  ShowMessage(Form, "Cannot read picture b.bmp: gone", ClrRed);
   EXPECT_EQ(load(true, true), "/?/a map ");
 }
 

@@ -116,9 +116,10 @@ TEST_F(LoadLayout, MissingPictureStopsTheReadButNotTheEditor) {
 TEST_F(LoadLayout, AFileThatCannotBeOpenedChangesNothing) {
   LoadBytes(Tiny);
   Entered.clear();
-  for (const char* name : {"nowhere.tml", ".", "/proc/self/status"}) {
-    Load(name);
-    EXPECT_EQ(Form.Message.Caption.Get(), std::string("Cannot open Map Layout File ") + name);
+  for (const std::string fault : {"nowhere.tml: no such file or directory", ".: it is a folder",
+                                  "/proc/self/status: it is no plain file"}) {
+    Load(fault.substr(0, fault.find(':')));
+    EXPECT_EQ(Form.Message.Caption.Get(), "Cannot open Map Layout File " + fault);
     EXPECT_EQ(Form.Message.BackColor, ClrRed);
     EXPECT_EQ(Form.LayoutFile, "map.tml");
     EXPECT_EQ(Form.AreaName(6), "Fir");

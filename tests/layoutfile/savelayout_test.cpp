@@ -39,7 +39,7 @@ TEST_F(SaveLayout, HeaderAndSymbolsThatAreMissingAreFilledIn) {
 TEST_F(SaveLayout, ALostPictureIsSaidUnlessTheWritingStops) {
   Pictures.clear();
   EXPECT_EQ(Saved("new.tml"), Tiny);
-  ExpectRed("Cannot read picture " + TinyPicture);
+  ExpectRed("Cannot read picture " + TinyPicture + ": gone");
   Form.AreaLinks(5) = "0104";
   Form.AreaLinks(6) = "00";
   EXPECT_EQ(Saved("map.tml"),

@@ -157,7 +157,7 @@ struct PictureFile : testing::Test {
   QTemporaryDir Folder;
 
   std::filesystem::path Path(const char* name) const { return Folder.filePath(name).toStdString(); }
-  forms::Picture LoadFile(const char* name) const {
+  forms::LoadedPicture LoadFile(const char* name) const {
     return LoadPictureFile(forms::RegularFile(Path(name)), 60, 40);
   }
   void Write(const char* name, const QByteArray& bytes) const {
@@ -167,23 +167,24 @@ struct PictureFile : testing::Test {
 };
 
 TEST_F(PictureFile, IsToldByContentAndNotByName) {
-  const auto widthOf = [&](const char* name, const QByteArray& bytes) {
-    Write(name, bytes);
-    const forms::Picture picture = LoadFile(name);
-    return picture ? picture->Width : 0;
+  const auto told = [&](const char* name, const QByteArray& bytes = {}) {
+    if (!bytes.isNull()) Write(name, bytes);
+    const forms::LoadedPicture loaded = LoadFile(name);
+    return loaded.Picture ? std::to_string(loaded.Picture->Width) : loaded.Fault;
   };
-  EXPECT_EQ(widthOf("map.wmf", Sound.File()), 4);
-  EXPECT_EQ(widthOf("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), 60);
-  EXPECT_EQ(widthOf("text.wmf", "Some text, no picture"), 0);
-  EXPECT_EQ(widthOf("start.bmp", "BM"), 0);
-  EXPECT_EQ(widthOf("empty.bmp", ""), 0);
-  EXPECT_EQ(LoadFile("missing.bmp"), nullptr);
-  EXPECT_EQ(LoadFile("."), nullptr);
+  EXPECT_EQ(told("map.wmf", Sound.File()), "4");
+  EXPECT_EQ(told("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), "60");
+  EXPECT_EQ(told("blank.wmf", MetafileBytes().Plain()), "nothing is drawn in it");
+  EXPECT_EQ(told("text.wmf", "Some text, no picture"), "it is no bitmap or metafile");
+  EXPECT_EQ(told("start.bmp", "BM"), "it is no bitmap or metafile");
+  EXPECT_EQ(told("cut.bmp", Sound.File().first(20)), "the bitmap is damaged, too large or unusual");
+  EXPECT_EQ(told("missing.bmp"), "no such file or directory");
+  EXPECT_EQ(told("."), "it is a folder");
   for (const char* name : {"map.wmf", "map.bmp"}) {
     ASSERT_TRUE(QFile::resize(Folder.filePath(name), qint64{MaxMetafileBytes} + 1));
   }
-  EXPECT_NE(LoadFile("map.wmf"), nullptr) << "a bitmap";
-  EXPECT_EQ(LoadFile("map.bmp"), nullptr);
+  EXPECT_EQ(told("map.wmf"), "4") << "a bitmap";
+  EXPECT_EQ(told("map.bmp"), "it is too large for a metafile");
 }
 
 TEST_F(PictureFile, IsReadInBandsThatMeet) {
@@ -196,7 +197,7 @@ TEST_F(PictureFile, IsReadInBandsThatMeet) {
   for (const int height : {Height, -Height}) {
     for (const int cut : {0, Height / 3}) {
       Write("map.bmp", DibBytes{Width, height, 32, 0, {}, rows}.File().chopped(cut * Width * 4));
-      const forms::Picture picture = LoadFile("map.bmp");
+      const forms::Picture picture = LoadFile("map.bmp").Picture;
       ASSERT_TRUE(picture);
       for (int y = 0; y < Height; ++y) {
         const int stored = height < 0 ? y : Height - 1 - y;

@@ -3,6 +3,7 @@
 
 #include "shell/aboutform.h"
 #include "shell/bars.h"
+#include "shell/filefault.h"
 #include "shell/filenames.h"
 #include "support/editortest.h"
 
@@ -60,6 +61,19 @@ TEST_F(ShellTest, ExitAsksAndClosingDoesNot) {
   EXPECT_THROW(Click(Form.Quit), Ended);
   EXPECT_THROW(Form_Unload(Form), Ended);
   EXPECT_EQ(Screen.Boxes.size(), 2U);
+}
+
+TEST_F(ShellTest, AFaultLeavesOutTheMiddleOfALongPath) {
+  const std::string f(3'000'000, 'f');
+  const std::string name = "/" + std::string(50, 'n');
+  const auto shown = [&](const std::string& path, const std::string& rest) {
+    ShowFileFault(Form, "Cannot ", path, rest);
+    return Message().substr(std::size("red: Cannot"));
+  };
+  // Of the bar's 543 pixels each character takes 7.
+  EXPECT_EQ(shown("/f" + name, "? No more room."), "/f" + name + "? No more room.");
+  EXPECT_EQ(shown(f + name, "?"), f.substr(0, 15) + "..." + name + "?");
+  EXPECT_EQ(shown(f + name + f, name), "nnnnnnnnnnnn...ffffffffffff" + name);
 }
 
 TEST_F(ShellTest, OnlyARegularFileThatCanBeReadIsThere) {

@@ -107,12 +107,13 @@ class ScriptedDesktop : public forms::Desktop {
   forms::TextExtent MeasureText(const std::string& text) override {
     return {7 * static_cast<int>(text.size()), 14};
   }
-  forms::Picture LoadPicture(const std::string& path, int, int) override {
+  forms::LoadedPicture LoadPicture(const std::string& path, int, int) override {
     ++PictureReads;
     Loading();
-    if (path.empty()) return std::make_shared<forms::Raster>();
+    if (path.empty()) return {std::make_shared<forms::Raster>(), {}};
     const auto found = Pictures.find(path);
-    return found == Pictures.end() ? nullptr : found->second;
+    if (found == Pictures.end()) return {nullptr, "gone"};
+    return {found->second, {}};
   }
   std::filesystem::path NativePath(const std::string& path) override { return path; }
   void EnterFolderOf(const std::string& path) override { Entered.push_back(path); }
@@ -131,7 +132,7 @@ class ScriptedDesktop : public forms::Desktop {
 /// Every picture is there, and so is every file.
 class StockedDesktop : public ScriptedDesktop {
  public:
-  forms::Picture LoadPicture(const std::string&, int, int) override { return picture_; }
+  forms::LoadedPicture LoadPicture(const std::string&, int, int) override { return {picture_, {}}; }
   std::filesystem::path NativePath(const std::string&) override { return "/proc/self/exe"; }
 
  private:
