@@ -12,8 +12,13 @@ enum class InPlace {
   Damaged,  // neither: the old bytes could not be put back
 };
 
+struct InPlaceResult {
+  InPlace State;
+  int Error;  // the errno that stopped the writing, 0 for none
+};
+
 /// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or is far larger
 /// than any layout, is not written. A process that is killed in the middle leaves a mix.
-InPlace WriteInPlace(const std::filesystem::path& path, std::string_view text);
+InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view text);
 
 }  // namespace terramark

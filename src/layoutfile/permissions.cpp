@@ -10,6 +10,8 @@ namespace terramark {
 namespace {
 
 constexpr const char* AccessList = "system.posix_acl_access";
+/// Reading, writing and executing; of the rest of a mode a layout has no use.
+constexpr mode_t ModeBits = 0777;
 
 /// The user may not, or the file system has no such thing; the file itself is sound.
 bool CannotBeSet(int error) {
@@ -32,7 +34,7 @@ int SetList(int file, const std::string& list) {
 bool Permissions::Read(const std::filesystem::path& path, const struct stat& status) {
   owner_ = status.st_uid;
   group_ = status.st_gid;
-  mode_ = status.st_mode & 0777U;
+  mode_ = status.st_mode & ModeBits;
   constexpr std::size_t MostBytes = 65536;
   list_.resize(MostBytes);
   const ssize_t size = forms::Uninterrupted(
@@ -40,43 +42,29 @@ bool Permissions::Read(const std::filesystem::path& path, const struct stat& sta
   const int error = size >= 0 ? 0 : errno;
   list_.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
   listsKnown_ = error == 0 || error == ENODATA;
+  errno = error;
   return listsKnown_ || error == ENOTSUP || error == ENOSYS;
 }
 
-mode_t Permissions::ModeFor(bool sameOwner, bool sameGroup) const {
-  const mode_t user = mode_ >> 6U & 7U;
-  mode_t group = mode_ >> 3U & 7U;
-  mode_t other = mode_ & 7U;
-  // A list speaks of this owner and this group, and may deny to some what it allows to others.
-  if (!list_.empty() && !(sameOwner && sameGroup)) group = other = 0;
-  // The old owner is one of the group or of the others now.
-  if (!sameOwner) {
-    group &= user;
-    other &= user;
-  }
-  // The old group's members are among the others, and some of the others in the new group.
-  if (!sameGroup) group = other = group & other;
-  return user << 6U | group << 3U | other;
+bool Permissions::GroupCounts() const {
+  // A list speaks of this group, and may deny to some what it allows to others.
+  return !list_.empty() || (mode_ >> 3U & 7U) != (mode_ & 7U);
 }
 
-bool Permissions::GiveTo(int file) const {
-  if (forms::Uninterrupted([&] { return ::fchown(file, owner_, group_); }) != 0) {
-    if (!CannotBeSet(errno)) return false;
-    // The old file is another's; its group at least may be one of the user's own.
-    const auto regroup = [&] { return ::fchown(file, static_cast<uid_t>(-1), group_); };
-    if (forms::Uninterrupted(regroup) != 0 && !CannotBeSet(errno)) return false;
-  }
+Given Permissions::GiveTo(int file) const {
+  const auto own = [&] { return ::fchown(file, owner_, group_); };
+  if (forms::Uninterrupted(own) != 0 && !CannotBeSet(errno)) return Given::Failed;
+  // Where they cannot be set they may be right all the same.
   struct stat now {};
-  if (forms::Uninterrupted([&] { return ::fstat(file, &now); }) != 0) return false;
-  const bool sameOwner = now.st_uid == owner_;
-  const bool sameGroup = now.st_gid == group_;
-  // With another list than the old one the mode that is safe for all has to do.
+  if (forms::Uninterrupted([&] { return ::fstat(file, &now); }) != 0) return Given::Failed;
+  if (now.st_uid != owner_ || (now.st_gid != group_ && GroupCounts())) return Given::Less;
   if (listsKnown_) {
-    const int error = SetList(file, sameOwner && sameGroup ? list_ : std::string());
-    if (error != 0) return CannotBeSet(error);
+    errno = SetList(file, list_);
+    if (errno != 0) return CannotBeSet(errno) ? Given::Less : Given::Failed;
   }
-  const mode_t mode = ModeFor(sameOwner, sameGroup);
-  return forms::Uninterrupted([&] { return ::fchmod(file, mode); }) == 0 || CannotBeSet(errno);
+  if (forms::Uninterrupted([&] { return ::fchmod(file, mode_); }) == 0) return Given::All;
+  if (!CannotBeSet(errno)) return Given::Failed;
+  return (now.st_mode & ModeBits) == mode_ ? Given::All : Given::Less;
 }
 
 }  // namespace terramark

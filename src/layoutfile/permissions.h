@@ -8,22 +8,29 @@
 
 namespace terramark {
 
-/// Owner, group, mode and access list of a file. A new file that cannot be given all of them gets
-/// what is left of the mode: nobody gains a right that the old file denied.
+/// Whether a new file has got what the old one has.
+enum class Given {
+  All,     // who could read or write the old file can the new one, and nobody else
+  Less,    // somebody would lose a right; nobody has gained one
+  Failed,  // errno tells why
+};
+
+/// Owner, group, mode and access list of a file.
 class Permissions {
  public:
-  /// Of the file whose status is given; false when its access list cannot be read.
+  /// The mode to create the new file with: safe whatever its owner and group turn out to be.
+  static constexpr mode_t StartMode = 0600;
+
+  /// Of the file whose status is given; false, with errno, when its access list cannot be read.
   bool Read(const std::filesystem::path& path, const struct stat& status);
 
-  /// The mode to create the new file with, safe whatever its owner and group turn out to be.
-  mode_t StartMode() const { return ModeFor(false, false); }
-
   /// Gives them to a file that was created with StartMode, as far as the user and the file system
-  /// can; false on any other failure.
-  bool GiveTo(int file) const;
+  /// can. Another owner than the old one is always Less. Another group is not where the group had
+  /// the rights of all others: then nobody loses or gains one by it.
+  Given GiveTo(int file) const;
 
  private:
-  mode_t ModeFor(bool sameOwner, bool sameGroup) const;
+  bool GroupCounts() const;
 
   uid_t owner_ = 0;
   gid_t group_ = 0;

@@ -18,16 +18,25 @@ namespace {
 
 /// Links that may lead to one another before they are taken for a ring.
 constexpr int MostLinks = 40;
+/// Of a file that was not there; the umask and the folder say how much of it holds.
+constexpr mode_t NewMode = 0666;
 
 /// The folder takes no new file, or does not let it take the name.
 bool FolderRefuses(int error) {
   return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
 }
 
-/// Files without a name, or naming them later, may not be had here; a named file tells.
-bool NeedsName(int error) {
+/// Files without a name, naming them later, or a new name that replaces nothing may not be had
+/// here; the next, simpler way tells what is really wrong.
+bool NeedsSimplerWay(int error) {
   return FolderRefuses(error) || error == EOPNOTSUPP || error == ENOSYS || error == EISDIR ||
-         error == EINVAL || error == ENOENT || error == EXDEV;
+         error == EINVAL || error == ENOENT || error == EXDEV || error == EMLINK;
+}
+
+/// 0 or an errno.
+template <typename Call>
+int ErrorOf(Call call) {
+  return forms::Uninterrupted(call) < 0 ? errno : 0;
 }
 
 /// Where the user's limit on the size of files is reached, a call fails like any other instead of
@@ -63,57 +72,71 @@ SafeFile::~SafeFile() {
 bool SafeFile::Open() {
   if (!FindTarget()) return false;
   refusal_ = OpenUnnamed();
-  if (NeedsName(refusal_)) refusal_ = OpenNamed();
-  return refusal_ == 0 || (old_ && FolderRefuses(refusal_));
+  if (NeedsSimplerWay(refusal_)) refusal_ = OpenNamed();
+  const bool able = refusal_ == 0 || (old_ && FolderRefuses(refusal_));
+  return able || Fail(forms::FaultOf(refusal_));
 }
 
 bool SafeFile::Replace(std::string_view text) {
   const LimitFails whileWriting;
-  int refusal = refusal_;
-  if (refusal == 0) {
+  int error = refusal_;
+  if (error == 0) {
     if (!Complete(text)) return false;
-    refusal = TakeTarget(text);
+    error = TakeTarget(text);
   }
-  if (refusal == 0) {
+  if (error == 0) {
     FlushFolder(Folder());
     return true;
   }
-  if (!old_ || !FolderRefuses(refusal)) return false;
-  const InPlace result = WriteInPlace(target_, text);
-  if (result == InPlace::Damaged) {
+  return old_ && FolderRefuses(error) ? WriteOver(text) : Fail(forms::FaultOf(error));
+}
+
+bool SafeFile::WriteOver(std::string_view text) {
+  // So that the text is beside a mix even when the power fails.
+  if (!temporary_.empty()) FlushFolder(Folder());
+  const InPlaceResult result = WriteInPlace(target_, text);
+  if (result.State == InPlace::Written) return true;
+  if (result.State == InPlace::Damaged) {
     damaged_ = true;
     kept_ = std::exchange(temporary_, {});
-    FlushFolder(Folder());
   }
-  return result == InPlace::Written;
+  return Fail(forms::FaultOf(result.Error));
+}
+
+bool SafeFile::Fail(const forms::Fault& why) {
+  if (why_.empty()) why_ = why;
+  return false;
 }
 
 bool SafeFile::FindTarget() {
   for (int links = 0; links < MostLinks; ++links) {
     struct stat status {};
-    if (forms::Uninterrupted([&] { return ::lstat(target_.c_str(), &status); }) != 0) {
-      return errno == ENOENT;
-    }
+    int error = ErrorOf([&] { return ::lstat(target_.c_str(), &status); });
+    if (error == ENOENT) return true;
+    if (error != 0) return Fail(forms::FaultOf(error));
     if (!S_ISLNK(status.st_mode)) {
-      const auto mayWrite = [&] {
-        return ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS);
-      };
-      if (!S_ISREG(status.st_mode) || forms::Uninterrupted(mayWrite) != 0) return false;
-      return old_.emplace().Read(target_, status);
+      if (!S_ISREG(status.st_mode)) return Fail(forms::FaultOfKind(status.st_mode));
+      error = ErrorOf([&] { return ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS); });
+      if (error == 0 && !old_.emplace().Read(target_, status)) error = errno;
+      return error == 0 || Fail(forms::FaultOf(error));
     }
     std::array<char, PATH_MAX> text{};
     const ssize_t size =
         forms::Uninterrupted([&] { return ::readlink(target_.c_str(), text.data(), text.size()); });
-    if (size <= 0 || size == PATH_MAX) return false;
+    if (size < 0) return Fail(forms::FaultOf(errno));
+    if (size == PATH_MAX) return Fail(forms::FaultOf(ENAMETOOLONG));
     // A relative link starts at its own folder; an absolute one takes the whole path over.
     target_ = target_.parent_path() / std::string(text.data(), static_cast<std::size_t>(size));
   }
-  return false;
+  return Fail(forms::FaultOf(ELOOP));
 }
 
 bool SafeFile::Complete(std::string_view text) {
-  if (old_ && !old_->GiveTo(file_.Number())) return false;
-  return WriteAll(file_.Number(), text) == text.size() && Flush(file_.Number());
+  const Given given = old_ ? old_->GiveTo(file_.Number()) : Given::All;
+  mayReplace_ = given == Given::All;
+  const bool whole = given != Given::Failed && WriteAll(file_.Number(), text) == text.size() &&
+                     Flush(file_.Number());
+  return whole || Fail(forms::FaultOf(errno));
 }
 
 int SafeFile::OpenUnnamed() {
@@ -125,7 +148,7 @@ int SafeFile::OpenNamed() {
 }
 
 int SafeFile::OpenTemporary(const std::filesystem::path& path, int flags) {
-  const mode_t mode = old_ ? old_->StartMode() : 0666;
+  const mode_t mode = old_ ? Permissions::StartMode : NewMode;
   const auto open = [&] { return ::open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, mode); };
   const int number = forms::Uninterrupted(open);
   const int error = number >= 0 ? 0 : errno;
@@ -135,28 +158,60 @@ int SafeFile::OpenTemporary(const std::filesystem::path& path, int flags) {
 
 int SafeFile::TakeTarget(std::string_view text) {
   if (temporary_.empty()) {
-    int error =
-        old_ ? MakeTemporary([&](const auto& name) { return LinkTo(name); }) : LinkTo(target_);
-    if (error == 0 && !old_) return 0;
-    if (NeedsName(error)) {
-      error = OpenNamed();
-      if (error == 0 && !Complete(text)) error = EIO;
-    }
-    if (error != 0) return error;
+    const int error = NameTemporary(text);
+    // One that replaces nothing has been given the target's name at once.
+    if (error != 0 || temporary_.empty()) return error;
   }
   file_.Close();
-  const auto rename = [&] { return std::rename(temporary_.c_str(), target_.c_str()); };
-  if (forms::Uninterrupted(rename) != 0) return errno;
-  temporary_.clear();
-  return 0;
+  return old_ ? TakeOldName() : TakeNewName();
+}
+
+int SafeFile::NameTemporary(std::string_view text) {
+  int error =
+      old_ ? MakeTemporary([&](const auto& name) { return LinkTo(name); }) : LinkTo(target_);
+  if (!NeedsSimplerWay(error)) return error;
+  error = OpenNamed();
+  if (error == 0 && !Complete(text)) error = EIO;
+  return error;
+}
+
+int SafeFile::TakeOldName() {
+  if (!mayReplace_) return EPERM;
+  const int error = ErrorOf([&] { return std::rename(temporary_.c_str(), target_.c_str()); });
+  if (error == 0) temporary_.clear();
+  return error;
+}
+
+int SafeFile::TakeNewName() {
+  const char* const from = temporary_.c_str();
+  const char* const to = target_.c_str();
+  int error = ErrorOf([&] { return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE); });
+  if (NeedsSimplerWay(error)) {
+    error = ErrorOf([&] { return ::link(from, to); });
+    // The other name goes in the end.
+    if (error == 0) return 0;
+  }
+  if (NeedsSimplerWay(error)) error = TakeReservedName();
+  if (error == 0) temporary_.clear();
+  return error;
+}
+
+int SafeFile::TakeReservedName() {
+  // An empty file takes the name, if no other has it, and is the one that is replaced.
+  constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+  const auto reserve = [&] { return ::open(target_.c_str(), Flags, NewMode); };
+  forms::Descriptor reserved(forms::Uninterrupted(reserve));
+  if (!reserved.IsOpen()) return errno;
+  reserved.Close();
+  const int error = ErrorOf([&] { return std::rename(temporary_.c_str(), target_.c_str()); });
+  if (error != 0) forms::Uninterrupted([&] { return ::unlink(target_.c_str()); });
+  return error;
 }
 
 int SafeFile::LinkTo(const std::filesystem::path& name) const {
   const std::string open = "/proc/self/fd/" + std::to_string(file_.Number());
-  const auto link = [&] {
-    return ::linkat(AT_FDCWD, open.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW);
-  };
-  return forms::Uninterrupted(link) == 0 ? 0 : errno;
+  return ErrorOf(
+      [&] { return ::linkat(AT_FDCWD, open.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW); });
 }
 
 template <typename Make>

@@ -6,8 +6,7 @@
 #include "layoutfile/safefile.h"
 #include "layoutfile/writemapfile.h"
 #include "shell/backdrop.h"
-#include "shell/bars.h"
-#include "shell/colours.h"
+#include "shell/filefault.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
 #include "validation/validatemap.h"
@@ -17,13 +16,13 @@ namespace terramark {
 namespace {
 
 void ShowWriteFault(Form1& form, const std::string& name, const SafeFile& file) {
-  std::string message = "Cannot write Map Layout File " + name;
-  if (file.Damaged()) message += "; the old file is damaged";
+  std::string rest = ": " + file.Why();
+  if (file.Damaged()) rest += "; the old file is damaged";
   // The name alone: it is plain in any encoding, which the folder's need not be.
   if (!file.Kept().empty()) {
-    message += ", and the map is kept beside it in " + file.Kept().filename().string();
+    rest += ", and the map is kept beside it in " + file.Kept().filename().string();
   }
-  ShowMessage(form, message, ClrRed);
+  ShowFileFault(form, "Cannot write Map Layout File ", name, rest);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ std::size_t WriteAll(int file, std::string_view text) {
     const ssize_t written = forms::Uninterrupted([&] {
       return ::pwrite(file, text.data() + done, text.size() - done, static_cast<off_t>(done));
     });
+    if (written == 0) errno = EIO;  // no reason is given
     if (written <= 0) break;
     done += static_cast<std::size_t>(written);
   }
