@@ -3,9 +3,13 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <system_error>
 
+#include "forms/fault.h"
 #include "layoutfile/loadlayout.h"
 #include "layoutfile/safefile.h"
 #include "pictures/cp1252.h"
@@ -40,6 +44,28 @@ std::filesystem::path Absolute(const char* path) {
   return absolute;
 }
 
+/// Writes the PNG, or ends the program. A map or picture that it was made from is not written over,
+/// whatever name leads there.
+void Write(const std::filesystem::path& png, std::string_view bytes,
+           std::initializer_list<std::filesystem::path> sources) {
+  const std::string cannot = "cannot write " + png.string() + ": ";
+  for (const std::filesystem::path& source : sources) {
+    std::error_code none;
+    if (std::filesystem::equivalent(png, source, none)) {
+      Refuse(cannot + "it is the layout or its picture");
+    }
+  }
+  forms::Fault why;
+  {
+    // Gone before the program ends, and its temporary file with it.
+    SafeFile file(png);
+    if (file.Open() && file.Replace(bytes)) return;
+    why = file.Why();
+    if (file.Damaged()) why += "; the old file is damaged";
+  }
+  Refuse(cannot + why);
+}
+
 void Show(const std::filesystem::path& layout, const std::filesystem::path& png, int side) {
   const pictures::Windowless windowless;
   QuietDesktop desktop(layout);
@@ -51,8 +77,7 @@ void Show(const std::filesystem::path& layout, const std::filesystem::path& png,
   }
   const auto bytes = pictures::MapAsPng(form.Picture1, side);
   if (!bytes) Refuse("there is no picture to show");
-  SafeFile file(png);
-  if (!file.Open() || !file.Replace(*bytes)) Refuse("cannot write " + png.string());
+  Write(png, *bytes, {layout, desktop.NativePath(form.PictureFile)});
 }
 
 }  // namespace

@@ -39,12 +39,19 @@ with tempfile.TemporaryDirectory() as folder:
             assert struct.unpack(">2I", png.read_bytes()[16:24])[0] == min(int(size), 546), case
         else:
             assert png.read_bytes() == OLD, case
+    # What the map is made from is not written over, whatever the name.
+    os.symlink("-h", "link")
+    os.link("europe.bmp", "twin")
+    for png, told in [("link", "layout"), ("twin", "picture"), (".", "folder"), ("gone/map.png", "no such")]:
+        run = subprocess.run([PROGRAM, "-h", png, "64"], stderr=subprocess.PIPE, text=True)
+        assert run.returncode == 1 and ": cannot write /" in run.stderr and told in run.stderr, run
+        assert Path("-h").read_bytes() == layout and os.path.samefile("twin", "europe.bmp"), run
     # Fonts that never come, a caller that holds the alarm up, and nobody who listens.
     heard, told = os.pipe()
     os.close(heard)
     block = lambda: signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM])
     fonts = {"FONTCONFIG_FILE": os.path.abspath("pipe.tml")}
-    run = subprocess.run([PROGRAM, "-h", png, "64"], stderr=told, env=fonts, preexec_fn=block, timeout=10)
+    run = subprocess.run([PROGRAM, "-h", "map.png", "64"], stderr=told, env=fonts, preexec_fn=block, timeout=10)
     assert run.returncode == 1, run
     assert set(os.listdir()) == {os.fsdecode(b"\xff\xfe.tml"), "-h", "europe.bmp", "cut.tml",
-                                 "alone.tml", "pipe.tml", "map.png"}
+                                 "alone.tml", "pipe.tml", "map.png", "link", "twin"}
