@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "forms/geometry.h"
+#include "pictures/devicepixels.h"
 #include "pictures/frames.h"
 #include "pictures/labelpaint.h"
 #include "pictures/screencolour.h"
@@ -16,17 +17,18 @@ namespace terramark::pictures {
 
 namespace {
 
-/// A part of the box as it is seen; it must lie on the image.
-QImage Magnified(const forms::PictureBox& box, const QRect& part) {
+/// What a part of the device shows, which must lie on the image.
+QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
   const forms::Raster& image = box.Image();
   std::vector<int> columns;
   for (int x = part.left(); x <= part.right(); ++x) {
-    columns.push_back(OnPicture(box, {x, 0}).X);
+    columns.push_back(OnPicture(box, {ShownBy(x, toDevice.m11(), toDevice.dx()), 0}).X);
   }
   QImage seen(part.size(), QImage::Format_RGB32);
   int shown = -1;
   for (int y = 0; y < part.height(); ++y) {
-    const int row = OnPicture(box, {0, part.top() + y}).Y;
+    const int below = ShownBy(part.top() + y, toDevice.m22(), toDevice.dy());
+    const int row = OnPicture(box, {0, below}).Y;
     auto* const to = reinterpret_cast<std::uint32_t*>(seen.scanLine(y));
     if (row == shown) {
       std::memcpy(to, seen.constScanLine(y - 1), columns.size() * sizeof *to);
@@ -48,9 +50,13 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
                     ToScreen(zoom, raster.Height));
   const QRect seen = part & sheet;
   if (seen != part) painter.fillRect(part, ScreenColour(box.BackColor));
-  if (zoom != forms::ActualSize) {
-    painter.drawImage(seen.topLeft(), Magnified(box, seen));
-    return;
+  const QTransform toDevice = painter.deviceTransform();
+  if (zoom != forms::ActualSize || toDevice.isScaling()) {
+    // Not left to the painter, which rounds by the edges of what it paints.
+    const QRect part = OnDevice(toDevice, seen);
+    painter.setTransform(toDevice.inverted(), true);
+    painter.drawImage(part.topLeft(), Magnified(box, toDevice, part));
+    return painter.resetTransform();
   }
   // Shares the raster's memory; nothing is copied but what goes on the screen.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,

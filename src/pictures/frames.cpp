@@ -5,17 +5,13 @@
 #include <QTransform>
 #include <algorithm>
 
+#include "pictures/devicepixels.h"
+
 namespace terramark::pictures {
 
 namespace {
 
 constexpr int Dash = 2;  // lines thick
-
-/// Each edge by itself, as Qt rounds what it fills and what it clips; QRectF::toRect rounds sizes.
-QRect RoundedEdges(const QRectF& area) {
-  return {QPoint(qRound(area.left()), qRound(area.top())),
-          QPoint(qRound(area.right()) - 1, qRound(area.bottom()) - 1)};
-}
 
 /// Paints an area's edges, counted in pixels of the device.
 class Edges {
@@ -24,7 +20,7 @@ class Edges {
       : painter_(painter),
         toDevice_(painter.deviceTransform()),
         fromDevice_(toDevice_.inverted()),
-        area_(RoundedEdges(toDevice_.mapRect(QRectF(area)))),
+        area_(OnDevice(toDevice_, area)),
         thick_(std::max(1, qRound(toDevice_.m11()))) {}
 
   /// One line; what comes next lies within it. Two corners are shade's. No pixel is painted twice,

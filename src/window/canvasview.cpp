@@ -189,7 +189,8 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
   painter.setClipRect(view, Qt::IntersectClip);
-  pictures::PaintImage(painter, box_, event->rect() & view);
+  // Where the scale is no whole number, what is painted may reach a line beyond.
+  pictures::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
   pictures::ForEachLabel(box_, [&](const forms::Label& label) {
     const QRect area = InBox(BoundsOf(label));
     if (!event->rect().intersects(area)) return;
@@ -231,7 +232,7 @@ void CanvasView::PaintKeys(QPainter& painter) const {
 void CanvasView::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta();
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    return TurnZoom(turn.y(), PixelAt(event->position()));
+    return TurnZoom(turn.y(), PixelAt(*this, event->position()));
   }
   zoomTurn_ = 0;
   const bool across = event->modifiers().testFlag(Qt::ShiftModifier);

@@ -1,10 +1,12 @@
 #include "window/controlview.h"
 
+#include <QWindow>
 #include <QtMath>
 
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "pictures/cp1252.h"
+#include "pictures/devicepixels.h"
 #include "pictures/lettering.h"
 #include "window/barview.h"
 #include "window/buttonview.h"
@@ -17,6 +19,9 @@
 namespace terramark::window {
 
 namespace {
+
+/// Of a device pixel, by which its place may come out too small when it is scaled there and back.
+constexpr double Slack = 1e-4;
 
 /// Control arrays begin at element 0, so a name alone does not tell one from a lone control.
 bool InArray(const forms::Control& control) {
@@ -76,8 +81,16 @@ QRect BoundsOf(const forms::Control& control) {
   return {bounds.Left, bounds.Top, bounds.Width, bounds.Height};
 }
 
-QPoint PixelAt(const QPointF& place) {
-  return {qFloor(place.x()), qFloor(place.y())};
+QPoint PixelAt(const QWidget& widget, const QPointF& place) {
+  const QWidget& window = *widget.window();
+  const QPointF inside = widget.mapTo(&window, place);
+  // The events' scale is the window's own; the painter's is rounded.
+  const double told = window.windowHandle()->devicePixelRatio();
+  const double painted = window.devicePixelRatioF();
+  const auto shown = [&](double at) {
+    return pictures::ShownBy(qFloor(told * at + Slack), painted, 0);
+  };
+  return widget.mapFrom(&window, QPoint(shown(inside.x()), shown(inside.y())));
 }
 
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& container) {

@@ -40,8 +40,9 @@ class ControlView {
 /// Where a control stands in its container, in pixels.
 QRect BoundsOf(const forms::Control& control);
 
-/// The pixel that a place lies in; on a screen with a finer grid that is no whole number.
-QPoint PixelAt(const QPointF& place);
+/// The pixel of a widget that is seen at a place in it, as an event tells it: where a pixel of the
+/// device begins. The widget's window must have been shown.
+QPoint PixelAt(const QWidget& widget, const QPointF& place);
 
 /// Makes the view of a control inside its container's widget, by its kind; null for a form. It must
 /// go before the container's widget does.

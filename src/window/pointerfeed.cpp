@@ -48,12 +48,12 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
       forHelp = asksHelp_;
       break;
     case QEvent::MouseMove:
-      Move(*static_cast<QMouseEvent*>(event));
+      Move(widget, *static_cast<QMouseEvent*>(event));
       break;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
       forHelp = forHelp || (heard_ && forms::AsksForHelp(KeyMask(mouse.modifiers())));
-      Release(In(mouse), mouse.button(), mouse.modifiers());
+      Release(In(widget, mouse), mouse.button(), mouse.modifiers());
       break;
     }
     case QEvent::ContextMenu:
@@ -68,14 +68,18 @@ bool PointerFeed::IsDown(Qt::MouseButton button) const {
   return (form_.Pointer.ButtonsDown() & CodeOf(button)) != 0;
 }
 
-QPoint PointerFeed::In(const QMouseEvent& event) const {
-  return PixelAt(inside_.mapFromGlobal(event.globalPosition()));
+/// The window's place is exact, and the widget's is the same in whole pixels. They differ while a
+/// button that went down here is held over another window, whose place it then is.
+QPoint PointerFeed::In(const QWidget& widget, const QMouseEvent& event) const {
+  QPointF at = widget.mapTo(inside_.window(), event.position());
+  if ((event.scenePosition() - at).manhattanLength() <= 1) at = event.scenePosition();
+  return PixelAt(inside_, inside_.mapFrom(inside_.window(), at));
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (CodeOf(event.button()) == 0) return;
-  ReleaseLost(event);
-  const QPoint at = In(event);
+  ReleaseLost(widget, event);
+  const QPoint at = In(widget, event);
   if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
     heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
@@ -85,9 +89,9 @@ void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));
 }
 
-void PointerFeed::Move(const QMouseEvent& event) {
-  ReleaseLost(event);
-  const QPoint at = In(event);
+void PointerFeed::Move(const QWidget& widget, const QMouseEvent& event) {
+  ReleaseLost(widget, event);
+  const QPoint at = In(widget, event);
   if (held_) held_->setDown(held_->rect().contains(held_->mapFrom(&inside_, at)));
   form_.Pointer.Move(at.x(), at.y(), KeyMask(event.modifiers()));
 }
@@ -114,22 +118,22 @@ bool PointerFeed::Shows(QPoint at) const {
 }
 
 /// A menu or a box that came up while a button was down has swallowed its release.
-void PointerFeed::ReleaseLost(const QMouseEvent& event) {
+void PointerFeed::ReleaseLost(const QWidget& widget, const QMouseEvent& event) {
   for (const Qt::MouseButton button : Buttons) {
     const bool pressedNow = event.type() != QEvent::MouseMove && event.button() == button;
     if (!IsDown(button) || (event.buttons().testFlag(button) && !pressedNow)) continue;
     form_.Pointer.CancelDrag();
-    Release(In(event), button, event.modifiers());
+    Release(In(widget, event), button, event.modifiers());
   }
 }
 
 /// Text boxes have a menu, which swallows the release; with the Shift key a press asks for help
 /// instead.
-bool PointerFeed::ContextMenu(QWidget& widget, const QContextMenuEvent& event) {
+bool PointerFeed::ContextMenu(const QWidget& widget, const QContextMenuEvent& event) {
   if (event.modifiers().testFlag(Qt::ShiftModifier)) return true;
   if (!widget.property(OwnMouse).toBool()) return true;
-  const QPoint at = inside_.mapFromGlobal(event.globalPos());
-  if (IsDown(Qt::RightButton)) Release(at, Qt::RightButton, event.modifiers());
+  const forms::PixelPoint at = form_.Pointer.At();
+  if (IsDown(Qt::RightButton)) Release({at.X, at.Y}, Qt::RightButton, event.modifiers());
   return false;
 }
 

@@ -28,12 +28,12 @@ class PointerFeed : public QObject {
 
  private:
   void Press(QWidget& widget, const QMouseEvent& event);
-  void Move(const QMouseEvent& event);
+  void Move(const QWidget& widget, const QMouseEvent& event);
   void Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys);
-  bool ContextMenu(QWidget& widget, const QContextMenuEvent& event);
-  void ReleaseLost(const QMouseEvent& event);
+  bool ContextMenu(const QWidget& widget, const QContextMenuEvent& event);
+  void ReleaseLost(const QWidget& widget, const QMouseEvent& event);
   bool IsDown(Qt::MouseButton button) const;
-  QPoint In(const QMouseEvent& event) const;
+  QPoint In(const QWidget& widget, const QMouseEvent& event) const;
   bool Shows(QPoint at) const;
 
   forms::Form& form_;

@@ -1,0 +1,169 @@
+// That a gesture means what is seen under it. How many pixels of the device one of the editor's
+// measures is the process's own: ctest runs these at each scale.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QScreen>
+#include <QWheelEvent>
+#include <cmath>
+#include <random>
+
+#include "window/windowsupport.h"
+
+namespace terramark::window {
+namespace {
+
+/// A picture whose pixels tell their place by their colour, and a marker of 32 x 16 on it.
+struct ScaleTest : testing::Test, TestWindow {
+  static constexpr QPoint Canvas{0, 58};
+  static constexpr QPoint Marker{1003, 751};
+  static constexpr QPoint OnMarker{0xFF, 0xFFF};
+  static constexpr QPoint Beside{0xFFF, 0xFFF};
+
+  forms::PictureBox& Box = Form.Picture1;
+  const double Scale = Window.windowHandle()->devicePixelRatio();
+  QImage Screen;
+  QPoint Meant;
+  std::mt19937 Lots{7};
+
+  ScaleTest() {
+    auto picture = std::make_shared<forms::Raster>(*BlankPicture(2000, 1500));
+    for (std::uint32_t i = 0; i < picture->Pixels.size(); ++i) {
+      picture->Pixels[i] = 0xFF000000U | (i / 2000) << 12U | i % 2000;
+    }
+    Box.Picture = picture;
+    const auto means = [this](const auto& event) { Meant = QPointF(event.X, event.Y).toPoint(); };
+    Box.MouseDown = means;
+    Box.DragDrop = means;
+    Form.ArmyAt(0).Visible = Form.Continent(0).Visible = false;
+    Form.ArmyAt.Load(1);
+    forms::Label& marker = Form.ArmyAt(1);
+    marker.BorderStyle = forms::Border::None;
+    marker.BackColor = 0x00FFF0FF;
+    marker.Caption = "";
+    marker.Width = 32;
+    marker.Height = 16;
+    marker.Move(Marker.x(), Marker.y());
+    marker.Visible = true;
+    marker.MouseDown = [this](const forms::MouseEvent&) { Meant = OnMarker; };
+    // The corner in which the zoom is told shows no picture.
+    Of(Box).findChild<QLabel*>("Zoom")->setMaximumSize(0, 0);
+    Window.resize(Window.Inside().DesignSize());
+  }
+
+  /// Paints what has changed and looks at the pixels of the device.
+  void Look() {
+    QCoreApplication::processEvents();
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&Window, &update);
+    Screen = Window.screen()->grabWindow(Window.winId()).toImage();
+  }
+  void ShowAt(forms::Magnification zoom) {
+    Box.ZoomTo(zoom, {});
+    Box.Reveal(PixelBounds(Form.ArmyAt(1)));
+    Look();
+  }
+  static QPoint Place(const QImage& screen, QPoint at) {
+    const QRgb pixel = screen.pixel(at);
+    return {static_cast<int>(pixel & 0xFFFU), static_cast<int>(pixel >> 12U & 0xFFFU)};
+  }
+  QPoint Seen(QPoint at) const { return Place(Screen, at); }
+
+  int Any(double from, double to) {
+    return std::uniform_int_distribution(static_cast<int>(std::ceil(from)),
+                                         static_cast<int>(std::ceil(to)) - 1)(Lots);
+  }
+  /// A pixel of the device in the view, so far from its edges.
+  QPoint AnyPixel(int inside = 0) {
+    const QRectF view(Canvas + QPoint(inside, inside),
+                      QSize(Box.ViewWidth(), Box.ViewHeight()) - 2 * QSize(inside, inside));
+    return {Any(Scale * view.left() - 0.5, Scale * view.right() - 0.5),
+            Any(Scale * view.top() - 0.49, Scale * view.bottom() - 0.49)};
+  }
+
+  void Send(QEvent::Type type, QPoint at, Qt::MouseButtons buttons) {
+    const QPointF place = QPointF(at) / Scale;
+    const bool move = type == QEvent::MouseMove;
+    QMouseEvent event(type, place, place, Window.geometry().topLeft() + place,
+                      move ? Qt::NoButton : Qt::LeftButton, buttons, {});
+    QCoreApplication::sendEvent(Window.windowHandle(), &event);
+  }
+  void PressAt(QPoint at) { Send(QEvent::MouseButtonPress, at, Qt::LeftButton); }
+  void MoveTo(QPoint at) { Send(QEvent::MouseMove, at, Qt::LeftButton); }
+  void ReleaseAt(QPoint at) { Send(QEvent::MouseButtonRelease, at, {}); }
+};
+
+TEST_F(ScaleTest, APressMeansThePixelThatIsSeen) {
+  for (const forms::Magnification zoom : forms::ZoomSteps) {
+    ShowAt(zoom);
+    for (int i = 0; i < 30; ++i) {
+      Of(Box).update(QRect(Any(0, 400), Any(0, 250), Any(1, 99), Any(1, 99)));
+      Form.ArmyAt(1).Move(Marker.x(), static_cast<float>(Marker.y() + i % 2));
+      Look();
+    }
+    int off = 0;
+    for (int i = 0; i < 1000; ++i) {
+      const QPoint at = AnyPixel();
+      PressAt(at);
+      ReleaseAt(at);
+      off += Meant.x() >= 2000 ? Seen(at) != Beside : Seen(at) != Meant;
+    }
+    EXPECT_EQ(off, 0) << zoom.Screen << " : " << zoom.Picture;
+  }
+}
+
+TEST_F(ScaleTest, TheWheelZoomsAboutThePixelThatIsSeen) {
+  for (std::size_t i = 1; i + 1 < std::size(forms::ZoomSteps); ++i) {
+    int off = 0;
+    for (int n = 0; n < 50; ++n) {
+      ShowAt(forms::ZoomSteps[i]);
+      const QPoint at = AnyPixel();
+      for (const int turn : {120, -120}) {
+        const QPoint seen = Seen(at);
+        const QPointF place = QPointF(at) / Scale;
+        QWheelEvent event(place, Window.geometry().topLeft() + place, {}, {0, turn}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(Window.windowHandle(), &event);
+        Look();
+        const QPoint by = Seen(at) - seen;
+        const int half = Box.Zoom.Get().Picture / 2;
+        off += std::max(std::abs(by.x()), std::abs(by.y())) > half;
+      }
+    }
+    EXPECT_EQ(off, 0) << forms::ZoomSteps[i].Screen;
+  }
+}
+
+TEST_F(ScaleTest, AMarkerIsTakenCarriedAndDroppedByThePixelThatIsSeen) {
+  forms::Label& marker = Form.ArmyAt(1);
+  marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(forms::DragAction::Begin); };
+  for (const forms::Magnification zoom : forms::ZoomSteps) {
+    marker.Visible = false;
+    ShowAt(zoom);
+    const QImage bare = Screen;
+    marker.Visible = true;
+    int off = 0;
+    for (int i = 0; i < 10; ++i) {
+      QPoint from;
+      do from = AnyPixel();
+      while (!QRect(Marker, QSize(32, 16)).contains(Place(bare, from)));
+      const QPoint to = AnyPixel(30);
+      PressAt(from);
+      MoveTo(to);
+      Look();
+      const QRect air(Place(bare, to) - Place(bare, from) + Marker, QSize(32, 16));
+      for (int n = 0; n < 1000; ++n) {
+        const QPoint at = AnyPixel();
+        const QPoint place = Place(bare, at);
+        const bool covered = air.contains(place) || QRect(Marker, QSize(32, 16)).contains(place);
+        off += covered != (bare.pixel(at) != Screen.pixel(at));
+      }
+      ReleaseAt(to);
+      off += Meant != Place(bare, to);
+    }
+    EXPECT_EQ(off, 0) << zoom.Screen << " : " << zoom.Picture;
+  }
+}
+
+}  // namespace
+}  // namespace terramark::window
