@@ -45,6 +45,8 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       Press(widget, *static_cast<QMouseEvent*>(event));
+      // On a scaled screen a press just before a widget may be given to it.
+      if (!IsOn(widget, *static_cast<QMouseEvent*>(event))) return true;
       forHelp = asksHelp_;
       break;
     case QEvent::MouseMove:
@@ -74,6 +76,11 @@ QPoint PointerFeed::In(const QWidget& widget, const QMouseEvent& event) const {
   QPointF at = widget.mapTo(inside_.window(), event.position());
   if ((event.scenePosition() - at).manhattanLength() <= 1) at = event.scenePosition();
   return PixelAt(inside_, inside_.mapFrom(inside_.window(), at));
+}
+
+/// Whether the pixel that is meant is the widget's.
+bool PointerFeed::IsOn(const QWidget& widget, const QMouseEvent& event) const {
+  return widget.rect().contains(widget.mapFrom(&inside_, In(widget, event)));
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {

@@ -34,6 +34,7 @@ class PointerFeed : public QObject {
   void ReleaseLost(const QWidget& widget, const QMouseEvent& event);
   bool IsDown(Qt::MouseButton button) const;
   QPoint In(const QWidget& widget, const QMouseEvent& event) const;
+  bool IsOn(const QWidget& widget, const QMouseEvent& event) const;
   bool Shows(QPoint at) const;
 
   forms::Form& form_;
