@@ -24,7 +24,7 @@ class Hands:
         self.root = self.display.screen().root
         # The editor tells its answers to those who hear of the root itself.
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask | X.StructureNotifyMask)
-        self.pings = self.answer = 0
+        self.pings = self.answer = 1 << 16  # beyond the numbers of the window manager's own
         self.popups = {}  # open lists and menus, the topmost last
         self.stirred = False  # windows have come or gone
         self.boxes = 0  # windows in a frame that have come up so far
@@ -85,7 +85,7 @@ class Hands:
             self.stirred |= event.type in (X.MapNotify, X.UnmapNotify)
             if event.type == X.ClientMessage:
                 if event.client_type == self.display.intern_atom("WM_PROTOCOLS"):
-                    self.answer = event.data[1][1]
+                    self.answer = max(self.answer, event.data[1][1])
             elif event.type == X.UnmapNotify:
                 self.popups.pop(event.window.id, None)
             elif event.type == X.MapNotify and event.override:
