@@ -148,6 +148,7 @@ class NamesLists final : public QObject {
   /// closes, and keys that were meant for the list would look for the line.
   static void End(QLineEdit& line) {
     QCompleter* const completer = line.completer();
+    if (completer == nullptr) return;
     completer->popup()->hide();
     completer->popup()->removeEventFilter(completer);
     line.setCompleter(nullptr);

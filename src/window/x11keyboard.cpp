@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <cstdlib>
 #include <memory>
+#include <type_traits>
 
 // A field in it has the name of a C++ keyword.
 #define explicit explicit_
@@ -21,11 +22,8 @@ constexpr std::uint8_t TypeBits = 0x7F;
 constexpr std::size_t KeysInAByte = 8;
 
 /// Replies are the caller's to free.
-struct Free {
-  void operator()(void* reply) const { std::free(reply); }
-};
 template <typename Reply>
-using Owned = std::unique_ptr<Reply, Free>;
+using Owned = std::unique_ptr<Reply, std::integral_constant<void (*)(void*), &std::free>>;
 
 }  // namespace
 
