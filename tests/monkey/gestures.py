@@ -18,6 +18,7 @@ BUTTONS = " ".join(name for name in CONTROLS if not re.match(
 OFTEN = " LoadMpa:6 LoadMap:3 SaveCFG:4 TMHelp DBPush1 DelControl:2 AddTer AddCont Quit:0.3"
 BOXES, PLAYERS, BARS = (" ".join(name for name in CONTROLS if re.match(words, name)) for words in (
     "Text|Edit|Symb|Armypc", "PlColor", "ColBar"))
+BAR_BUTTONS = 90  # pixels of a title bar
 WORDS = "Region", "12", "h", "0", "-1", "99999", "Sea of Azov", "links", *LETTERS
 
 
@@ -62,9 +63,10 @@ class Draw:
         return self.in_window(*at)
 
     def on_bar(self, from_right=None):
-        """The title bar, or its button so far from the right edge."""
+        """The title bar beside its buttons, or its button so far from the right edge."""
         left, top, width, _ = self.view.rect
-        return left + width - (from_right or self.rng.randrange(width)), top - 10
+        right = from_right or self.rng.randrange(BAR_BUTTONS, max(width, BAR_BUTTONS + 1))
+        return left + width - right, top - 10
 
     # Mouse.
 
