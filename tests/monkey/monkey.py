@@ -97,7 +97,8 @@ class Monkey:
         """If it was asked to end, in the box that was there at the last look or has come since."""
         self.hands.listen(SLICE)
         box = self.view and self.hands.boxes == self.boxes and self.view.title
-        asked = {0: self.closing or box in (QUESTION, False), 1: box in (LOADING, False)}
+        # A window that was just going had no title any more.
+        asked = {0: self.closing or box in (QUESTION, False, ""), 1: box in (LOADING, False, "")}
         if not asked.get(self.process.returncode):
             raise Failure(f"it ended with status {self.process.returncode}")
         self.screen.started.remove(self.process)
