@@ -4,7 +4,7 @@
 tool=$(basename "$0")
 
 # What building takes, and what a window needs on a screen that nobody sees.
-build_packages=(cmake ninja-build g++ qt6-base-dev libxcb-xkb-dev fonts-liberation)
+build_packages=(cmake ninja-build g++ qt6-base-dev libxcb-xkb-dev libexpected-dev fonts-liberation)
 screen_packages=(xvfb openbox xdotool python3)
 
 say_and_stop() {

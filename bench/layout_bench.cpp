@@ -8,10 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "canvas/readmapfile.h"
+#include "canvas/writemapfile.h"
 #include "document/numbers.h"
-#include "layoutfile/readmapfile.h"
+#include "layoutfile/layoutreader.h"
 #include "layoutfile/routes.h"
-#include "layoutfile/writemapfile.h"
 #include "shell/clearmap.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
@@ -66,9 +67,9 @@ struct Bench {
   Bench() {
     Form_Load(Form);
     MakeMap(Form);
-    LayoutText file;
-    if (JudgeMap(Form).Status != 0 || !WriteMapFile(Form, file)) std::abort();
-    Text = file.Text();
+    const LayoutWritten file = WriteMapFile(Form);
+    if (JudgeMap(Form).Status != 0 || file.BrokenOffAt != 0) std::abort();
+    Text = file.Text;
   }
 
   StockedDesktop Desktop;
@@ -139,12 +140,16 @@ void ReadFields(benchmark::State& state) {
   }
 }
 
+void ReadValue(benchmark::State& state) {
+  const std::string& text = TheBench().Text;
+  for (auto _ : state) benchmark::DoNotOptimize(ReadLayout(text));
+}
+
 void ReadIntoWindow(benchmark::State& state) {
   Bench& bench = TheBench();
   for (auto _ : state) {
     ClearMap(bench.Form);
-    FieldReader file(bench.Text);
-    ReadMapFile(bench.Form, file);
+    ReadMapFile(bench.Form, bench.Text);
   }
   if (!bench.Desktop.Boxes.empty()) std::abort();
 }
@@ -152,9 +157,9 @@ void ReadIntoWindow(benchmark::State& state) {
 void WriteLayout(benchmark::State& state) {
   Bench& bench = TheBench();
   for (auto _ : state) {
-    LayoutText file;
-    if (!WriteMapFile(bench.Form, file)) std::abort();
-    benchmark::DoNotOptimize(file.Text().data());
+    const LayoutWritten file = WriteMapFile(bench.Form);
+    if (file.BrokenOffAt != 0) std::abort();
+    benchmark::DoNotOptimize(file.Text.data());
   }
 }
 
@@ -175,6 +180,7 @@ void JudgeGoodMap(benchmark::State& state) {
 
 BENCHMARK(CopyLines);
 BENCHMARK(ReadFields);
+BENCHMARK(ReadValue);
 BENCHMARK(ReadIntoWindow);
 BENCHMARK(WriteLayout);
 BENCHMARK(AllBlitzRoutes);

@@ -14,10 +14,11 @@ constexpr int TimedRounds = 25;
 constexpr int MemoryRounds = 5;
 
 forms::Picture Load(const QString& path) {
-  const forms::RegularFile file(path.toStdString());
-  forms::LoadedPicture loaded = pictures::LoadPictureFile(file, 0, 0);
-  if (!loaded.Picture) qFatal("cannot load %s: %s", qPrintable(path), loaded.Fault.c_str());
-  return loaded.Picture;
+  const auto file = files::RegularFile::Open(path.toStdString());
+  if (!file) qFatal("cannot open %s: %s", qPrintable(path), file.error().Words().c_str());
+  forms::LoadedPicture loaded = pictures::LoadPictureFile(*file, 0, 0);
+  if (!loaded) qFatal("cannot load %s: %s", qPrintable(path), loaded.error().c_str());
+  return *loaded;
 }
 
 QImage Read(const QString& path) {

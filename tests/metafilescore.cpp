@@ -46,9 +46,10 @@ int main(int argc, char** argv) {
     const QString base = name.chopped(4);
     const QImage wanted(folder.filePath(base + ".png"));
     if (wanted.isNull()) continue;
-    const terramark::forms::RegularFile file(folder.filePath(name).toStdString());
-    const auto picture =
-        terramark::pictures::LoadPictureFile(file, wanted.width(), wanted.height()).Picture;
+    const auto file =
+        terramark::files::RegularFile::Open(folder.filePath(name).toStdString()).value();
+    const auto picture = terramark::pictures::LoadPictureFile(file, wanted.width(), wanted.height())
+                             .value_or(nullptr);
     QImage drawn;
     if (picture) {
       drawn = QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,

@@ -19,9 +19,8 @@ void LoadMap_MouseUp(Form1& form) {
     ShowNameFault(form, path);
     return;
   }
-  const forms::Fault fault = ShowNewPicture(form, path);
-  if (!fault.empty()) {
-    ShowPictureFault(form, path, fault);
+  if (const Shown shown = ShowNewPicture(form, path); !shown) {
+    ShowPictureFault(form, path, shown.error());
     return;
   }
   form.Host.EnterFolderOf(path);

@@ -22,7 +22,7 @@ std::int16_t WholePixels(float twips, std::int16_t twipsPerPixel, std::int16_t l
 void Grab(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
   form.DragOffX = WholePixels(event.X, form.TwipsX);
   form.DragOffY = WholePixels(event.Y, form.TwipsY);
-  marker.Drag(forms::DragAction::Begin);
+  marker.Drag();
 }
 
 void TurnCorner(Form1& form, std::int16_t area) {
@@ -38,7 +38,6 @@ void TurnCorner(Form1& form, std::int16_t area) {
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.
 bool MovedByTravel(Form1& form, forms::Label& marker, const forms::DropEvent& event) {
-  marker.Drag(forms::DragAction::End);
   const std::int16_t dx = WholePixels(event.X, form.TwipsX, form.DragOffX);
   const std::int16_t dy = WholePixels(event.Y, form.TwipsY, form.DragOffY);
   if (dx == 0 && dy == 0) return false;
@@ -90,7 +89,6 @@ void Continent_DragDrop(Form1& form, const forms::DropEvent& event) {
 }
 
 void Picture1_DragDrop(Form1& form, const forms::DropEvent& event) {
-  event.Source.Drag(forms::DragAction::End);
   event.Source.Move(event.X - form.DragOffX, event.Y - form.DragOffY);
 }
 

@@ -1,6 +1,5 @@
 #include "canvas/refreshmap.h"
 
-#include "shell/backdrop.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
@@ -8,9 +7,9 @@
 
 namespace terramark {
 
-forms::Fault RefreshMap(Form1& form) {
+Shown RefreshMap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt(i).Visible = false;
-  forms::Fault fault = ShowPicture(form, form.PictureFile);
+  Shown shown = ShowPicture(form, form.PictureFile);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
@@ -24,8 +23,8 @@ forms::Fault RefreshMap(Form1& form) {
   }
   form.EditText.SetFocus();
   ShowMessage(form, "", ClrGreen);
-  if (!fault.empty()) ShowPictureFault(form, form.PictureFile, fault);
-  return fault;
+  if (!shown) ShowPictureFault(form, form.PictureFile, shown.error());
+  return shown;
 }
 
 void RefMap_MouseUp(Form1& form) {

@@ -53,9 +53,7 @@ void TakeOver(Form1& form, std::int16_t k) {
   marker.Tag = from.Tag;
   marker.ForeColor = from.ForeColor;
   marker.Move(from.Left, from.Top);
-  form.RegionName(k) = form.RegionName(next);
-  form.RegionArmies(k) = form.RegionArmies(next);
-  form.RegionRGB(k) = form.RegionRGB(next);
+  form.Regions(k) = form.Regions(next);
 }
 
 void CloseGap(Form1& form) {

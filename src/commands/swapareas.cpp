@@ -67,10 +67,11 @@ void SwapTer_MouseUp(Form1& form) {
   ReplacePair(form, TwoDigit(a), PlaceHolder);
   ReplacePair(form, TwoDigit(b), TwoDigit(a));
   ReplacePair(form, PlaceHolder, TwoDigit(b));
-  std::swap(form.AreaLinks(a), form.AreaLinks(b));
   SwapPlaces(form.ArmyAt(a), form.ArmyAt(b));
-  std::swap(form.AreaCorner(a), form.AreaCorner(b));
-  std::swap(form.AreaRegion(a), form.AreaRegion(b));
+  std::swap(form.Areas(a), form.Areas(b));
+  // These belong to the number, all else to the place on the map.
+  std::swap(form.AreaName(a), form.AreaName(b));
+  std::swap(form.AreaSymbol(a), form.AreaSymbol(b));
   Repaint(form, a);
   Repaint(form, b);
   ShowMessage(form, NumberText(a) + " and " + NumberText(b) + " swapped", ClrGreen);

@@ -29,6 +29,7 @@ class Table {
   const T& operator()(std::int16_t number) const {
     return elements_.at(static_cast<std::size_t>(number));
   }
+  bool operator==(const Table&) const = default;
 
  private:
   std::array<T, TableSize> elements_{};
@@ -40,30 +41,64 @@ using Components = std::array<std::int16_t, ComponentCount>;
 /// Player1, Player2, Player3, Neutral.
 inline constexpr std::int16_t PlayerColours = 4;
 
+struct Area {
+  std::string Name;
+  /// Two digits of count, then two digits a neighbour, in the order in which they were linked.
+  std::string Links;
+  /// The card symbol's code is the first character; what follows has no meaning.
+  std::string Symbol;
+  /// 0 for an Area in no Region.
+  std::int16_t Region = 0;
+  /// The marker's corner that is the fill point, 0 to 3: 1 for the right edge plus 2 for the bottom
+  /// edge. Other codes from a layout name no corner.
+  std::int16_t Corner = 0;
+
+  bool operator==(const Area&) const = default;
+};
+
+struct Region {
+  std::string Name;
+  std::int16_t Armies = 0;
+  Components RGB{};
+
+  bool operator==(const Region&) const = default;
+};
+
 struct Tables {
   /// 0 to 96 by the commands, to 99 from a layout.
   std::int16_t AreaCount = 0;
   std::int16_t RegionCount = 0;
 
-  Table<std::string> AreaName;
-  /// Two digits of count, then two digits a neighbour, in the order in which they were linked.
-  Table<std::string> AreaLinks;
-  /// The card symbol's code is the first character; what follows has no meaning.
-  Table<std::string> AreaSymbol;
-  /// 0 for an Area in no Region.
-  Table<std::int16_t> AreaRegion;
-  /// The marker's corner that is the fill point, 0 to 3: 1 for the right edge plus 2 for the bottom
-  /// edge. Other codes from a layout name no corner.
-  Table<std::int16_t> AreaCorner;
-
-  Table<std::string> RegionName;
-  Table<std::int16_t> RegionArmies;
-  Table<Components> RegionRGB;
+  Table<Area> Areas;
+  Table<Region> Regions;
 
   std::array<Components, PlayerColours> PlayerRGB{};
   /// Path of the backdrop as the file dialog or the layout gave it; empty for none.
   std::string PictureFile;
+
+  bool operator==(const Tables&) const = default;
+
+  // One field of a row, for what reads or changes no other.
+  std::string& AreaName(std::int16_t i) { return Areas(i).Name; }
+  std::string& AreaLinks(std::int16_t i) { return Areas(i).Links; }
+  std::string& AreaSymbol(std::int16_t i) { return Areas(i).Symbol; }
+  std::int16_t& AreaRegion(std::int16_t i) { return Areas(i).Region; }
+  std::int16_t& AreaCorner(std::int16_t i) { return Areas(i).Corner; }
+  std::string& RegionName(std::int16_t r) { return Regions(r).Name; }
+  std::int16_t& RegionArmies(std::int16_t r) { return Regions(r).Armies; }
+  Components& RegionRGB(std::int16_t r) { return Regions(r).RGB; }
+  const std::string& AreaName(std::int16_t i) const { return Areas(i).Name; }
+  const std::string& AreaLinks(std::int16_t i) const { return Areas(i).Links; }
+  const std::string& AreaSymbol(std::int16_t i) const { return Areas(i).Symbol; }
+  std::int16_t AreaRegion(std::int16_t i) const { return Areas(i).Region; }
+  std::int16_t AreaCorner(std::int16_t i) const { return Areas(i).Corner; }
+  const std::string& RegionName(std::int16_t r) const { return Regions(r).Name; }
+  std::int16_t RegionArmies(std::int16_t r) const { return Regions(r).Armies; }
+  const Components& RegionRGB(std::int16_t r) const { return Regions(r).RGB; }
 };
+
+/// Gives rows 1 to 99 what they hold on an empty map, but for the fill corners, which stay.
+void ClearRows(Tables& tables);
 
 /// The number of a Region's Areas.
 inline std::int16_t MembersOf(const Tables& tables, std::int16_t region) {

@@ -14,9 +14,9 @@ void Picture1_MouseUp(Form1& form, const forms::MouseEvent& event) {
     above.Y -= form.ArmyAt(0).Height;
     AddTer_MouseUp(form, above);
   } else if (event.Shift == 0) {
-    const forms::Fault fault = RefreshMap(form);
+    const Shown shown = RefreshMap(form);
     ClearSelection(form);
-    if (!fault.empty()) ShowPictureFault(form, form.PictureFile, fault);
+    if (!shown) ShowPictureFault(form, form.PictureFile, shown.error());
   }
 }
 

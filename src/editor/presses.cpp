@@ -1,7 +1,9 @@
 #include "editor/presses.h"
 
+#include "canvas/loadlayout.h"
 #include "canvas/loadpicture.h"
 #include "canvas/refreshmap.h"
+#include "canvas/savelayout.h"
 #include "commands/addmarkers.h"
 #include "commands/clearlinks.h"
 #include "commands/clearwhole.h"
@@ -10,8 +12,6 @@
 #include "commands/setregion.h"
 #include "commands/swapareas.h"
 #include "forms/broken.h"
-#include "layoutfile/loadlayout.h"
-#include "layoutfile/savelayout.h"
 #include "shell/aboutform.h"
 #include "shell/bars.h"
 #include "shell/controltable.h"

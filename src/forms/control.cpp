@@ -12,13 +12,8 @@ bool Control::IsSeen() const {
   return Visible && (container_ == nullptr || container_->IsSeen());
 }
 
-void Control::Drag(DragAction action) {
-  if (form_ == nullptr) return;
-  if (action == DragAction::Begin) {
-    form_->Pointer.BeginDrag(*this);
-  } else {
-    form_->Pointer.CancelDrag();
-  }
+void Control::Drag() {
+  if (form_ != nullptr) form_->Pointer.BeginDrag(*this);
 }
 
 void Control::Move(float left, float top) {

@@ -20,7 +20,6 @@ enum class ControlKind { Form, Label, TextBox, CommandButton, PictureBox, Frame,
 /// Unit of a container's inside, for the places of its children and for its own mouse events.
 enum class Scale { Twips, Pixels };
 
-enum class DragAction { End, Begin };
 enum class StackEnd { Front, Back };
 
 class Control : public PropertyOwner {
@@ -76,9 +75,9 @@ class Control : public PropertyOwner {
   /// Whether it and all that it stands in are visible.
   bool IsSeen() const;
 
-  /// Begins a drag of this control by the pointer that is down, or ends it with nothing moved. Does
-  /// nothing where no button is down, none is dragged, or the control is on no form.
-  void Drag(DragAction action);
+  /// Begins a drag of this control by the pointer that is down; a drop ends it. Does nothing where
+  /// no button is down, or the control is on no form.
+  void Drag();
   /// Sets Left and Top, in the container's scale. Any place will do; nothing is clamped.
   void Move(float left, float top);
   /// Puts the control at one end of its container's stack; one on no form stays as it is.

@@ -42,15 +42,16 @@ class ControlArray {
   }
 
   /// Creates an element as an invisible copy of element 0, which must be on a form, in front of its
-  /// container's stack. An element that exists stays as it is.
-  void Load(std::int16_t index) {
-    if (Find(index) != nullptr) return;
+  /// container's stack. False where it exists already: it stays as it is.
+  bool Load(std::int16_t index) {
+    if (Find(index) != nullptr) return false;
     T& pattern = (*this)(0);
     T& element = Design(index);
     element.Visible = false;
     // On the form first: a caption is measured there.
     pattern.Owner()->Add(element, *pattern.Container());
     element.CopyTemplate(pattern);
+    return true;
   }
 
   /// Destroys an element; one that does not exist is passed over, whatever the index.

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 
 #include "forms/raster.h"
@@ -65,7 +64,7 @@ class Desktop {
   /// Shows a form and returns when it has been unloaded.
   virtual void ShowModal(Form& form) = 0;
   /// Opens the help viewer on a topic. Nothing comes back, not even a failure.
-  virtual void ShowHelp(const std::string& helpFile, std::int32_t topic) = 0;
+  virtual void ShowHelp(std::int32_t topic) = 0;
 
   /// Local time.
   virtual DateTime Now() = 0;
@@ -84,12 +83,12 @@ class Desktop {
   virtual TextExtent MeasureText(const std::string& text) = 0;
 
   /// Reads a bitmap at its own size, or a metafile drawn into width x height pixels. The empty path
-  /// gives the empty picture; null, with the fault, when the file is missing or cannot be decoded.
+  /// gives the empty picture; a fault when the file is missing or cannot be decoded.
   /// Throws std::bad_alloc when the memory does not reach.
   virtual LoadedPicture LoadPicture(const std::string& path, int width, int height) = 0;
-  /// The file system's name of a path held in 8-bit text. The FileName that the dialog gave last
-  /// stands for the file chosen there, whatever characters "?" hides.
-  virtual std::filesystem::path NativePath(const std::string& path) = 0;
+  /// The file system's name, in its own bytes, of a path held in 8-bit text. The FileName that the
+  /// dialog gave last stands for the file chosen there, whatever characters "?" hides.
+  virtual std::string NativePath(const std::string& path) = 0;
   /// Makes the folder of a file the current one, where relative paths begin. A path without a
   /// folder changes nothing, and neither does a folder that cannot be entered.
   virtual void EnterFolderOf(const std::string& path) = 0;

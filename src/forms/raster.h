@@ -4,10 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <tl/expected.hpp>
 #include <vector>
 
 #include "forms/color.h"
-#include "forms/fault.h"
 
 namespace terramark::forms {
 
@@ -30,13 +31,10 @@ inline std::uint32_t PixelOf(Color color) {
   return 0xFF000000U | (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
 }
 
-/// A loaded picture, shared and never written to; null stands for a picture that cannot be read.
+/// A loaded picture, shared and never written to; null stands for none.
 using Picture = std::shared_ptr<const Raster>;
 
-/// What became of reading a picture: where it is null, the fault says why.
-struct LoadedPicture {
-  forms::Picture Picture;
-  forms::Fault Fault;
-};
+/// A picture, never null, or why it cannot be read: words that stand behind a colon.
+using LoadedPicture = tl::expected<Picture, std::string>;
 
 }  // namespace terramark::forms

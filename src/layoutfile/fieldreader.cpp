@@ -10,10 +10,6 @@ namespace terramark {
 
 namespace {
 
-bool EndsLine(char c) {
-  return c == '\r' || c == '\n';
-}
-
 /// The number when the text is nothing but digits and fits the type, as nearly all are.
 template <typename Number>
 std::optional<Number> ReadDigits(std::string_view text) {
@@ -26,7 +22,8 @@ std::optional<Number> ReadDigits(std::string_view text) {
 }  // namespace
 
 std::optional<std::string_view> FieldReader::Line() {
-  failed_ = failed_ || AtEnd();
+  began_ = place_;
+  if (AtEnd()) FailAtEnd();
   if (failed_) return std::nullopt;
   const std::size_t start = place_;
   while (!AtEnd() && !EndsLine(At())) ++place_;
@@ -86,19 +83,24 @@ std::string_view FieldReader::Quoted() {
   const std::size_t start = place_ + 1;
   const std::size_t close = bytes_.find('"', start);
   if (close == std::string_view::npos) {
-    failed_ = true;
+    FailAtEnd();
     return {};
   }
   place_ = close + 1;
-  Until(false);
+  if (Until(false).find_first_not_of(' ') != std::string_view::npos) losses_.push_back(start);
   PassSeparator();
   return bytes_.substr(start, close - start);
 }
 
 bool FieldReader::BeginField() {
   PassBlanks();
-  failed_ = failed_ || AtEnd();
-  return !AtEnd();
+  return !AtEnd() || FailAtEnd();
+}
+
+bool FieldReader::FailAtEnd() {
+  ended_ = ended_ || !failed_;
+  failed_ = true;
+  return false;
 }
 
 std::string_view FieldReader::Until(bool blankEnds) {
@@ -123,6 +125,15 @@ void FieldReader::PassLineEnd() {
   if (AtEnd() || !EndsLine(At())) return;
   if (bytes_.substr(place_, 2) == "\r\n") ++place_;
   ++place_;
+}
+
+int FieldReader::LineOf(std::size_t place) const {
+  FieldReader before(bytes_.substr(0, place));
+  int line = 1;
+  while (before.Line()) {
+    if (before.AtLineStart()) ++line;
+  }
+  return line;
 }
 
 }  // namespace terramark

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 #include "document/tables.h"
 
@@ -26,6 +27,7 @@ class FieldReader {
   /// float; three whole numbers. A number without digits is 0. Nothing when one of them fails.
   template <typename... Types>
   std::optional<std::tuple<Types...>> Fields() {
+    began_ = place_;
     // In braces they are read in this order.
     std::optional<std::tuple<Types...>> fields(std::tuple<Types...>{Next<Types>()...});
     if (failed_) fields.reset();
@@ -35,9 +37,24 @@ class FieldReader {
   /// The next field alone.
   template <typename Type>
   std::optional<Type> Field() {
+    began_ = place_;
     const Type field = Next<Type>();
     return failed_ ? std::nullopt : std::optional(field);
   }
+
+  // Where it stands, for what is told of the file.
+
+  /// Bytes before the next field, and before the first of the read that was last.
+  std::size_t Place() const { return place_; }
+  std::size_t Began() const { return began_; }
+  bool AtLineStart() const { return place_ == 0 || EndsLine(bytes_[place_ - 1]); }
+  bool AtEnd() const { return place_ == bytes_.size(); }
+  /// Whether a read has failed because the file ends.
+  bool Ended() const { return ended_; }
+  /// The line, from 1, on which a byte stands.
+  int LineOf(std::size_t place) const;
+  /// The places of the quoted texts behind which something was dropped.
+  const std::vector<std::size_t>& Losses() const { return losses_; }
 
  private:
   /// Any value after a failure.
@@ -51,12 +68,16 @@ class FieldReader {
   void PassBlanks();
   void PassSeparator();
   void PassLineEnd();
-  bool AtEnd() const { return place_ == bytes_.size(); }
+  static bool EndsLine(char c) { return c == '\r' || c == '\n'; }
   char At() const { return bytes_[place_]; }
+  bool FailAtEnd();
 
   std::string_view bytes_;
   std::size_t place_ = 0;
+  std::size_t began_ = 0;
   bool failed_ = false;
+  bool ended_ = false;
+  std::vector<std::size_t> losses_;
 };
 
 template <>

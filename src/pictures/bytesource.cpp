@@ -1,7 +1,5 @@
 #include "pictures/bytesource.h"
 
-#include "forms/regularfile.h"
-
 namespace terramark::pictures {
 
 std::optional<QByteArrayView> MemoryBytes::At(qint64 offset, qint64 count) {
@@ -17,7 +15,9 @@ std::optional<QByteArrayView> FileBytes::At(qint64 offset, qint64 count) {
   if (offset > Size() || count > Size() - offset) return std::nullopt;
   if (piece_.size() < count) piece_ = QByteArray(count, Qt::Uninitialized);
   const std::span bytes(piece_.data(), static_cast<std::size_t>(count));
-  if (!file_.ReadAt(static_cast<std::uintmax_t>(start_ + offset), bytes)) return std::nullopt;
+  const auto got = file_.ReadAt(static_cast<std::uintmax_t>(start_ + offset), bytes);
+  if (!got) fault_ = got.error();
+  if (got != bytes.size()) return std::nullopt;
   return QByteArrayView(piece_.constData(), count);
 }
 

@@ -6,9 +6,7 @@
 #include <QByteArrayView>
 #include <optional>
 
-namespace terramark::forms {
-class RegularFile;
-}
+#include "files/regularfile.h"
 
 namespace terramark::pictures {
 
@@ -41,15 +39,19 @@ class MemoryBytes final : public ByteSource {
 /// short.
 class FileBytes final : public ByteSource {
  public:
-  FileBytes(const forms::RegularFile& file, qint64 start) : file_(file), start_(start) {}
+  FileBytes(const files::RegularFile& file, qint64 start) : file_(file), start_(start) {}
 
   qint64 Size() const override;
   std::optional<QByteArrayView> At(qint64 offset, qint64 count) override;
 
+  /// Why a read has failed; nothing when none has.
+  const std::optional<files::Fault>& Fault() const { return fault_; }
+
  private:
-  const forms::RegularFile& file_;
+  const files::RegularFile& file_;
   qint64 start_;
   QByteArray piece_;
+  std::optional<files::Fault> fault_;
 };
 
 }  // namespace terramark::pictures

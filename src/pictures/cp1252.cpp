@@ -3,36 +3,14 @@
 #include <QFile>
 #include <QList>
 #include <algorithm>
-#include <array>
+
+#include "document/codepage.h"
 
 namespace terramark::pictures {
 
 namespace {
 
-constexpr char32_t FirstOfOwn = 0x80;
 constexpr qsizetype PieceLength = 200;
-
-// Bytes 0x80 to 0x9F; all others stand for the character of the same number.
-// clang-format off
-constexpr auto OwnCharacters = std::to_array<char16_t>({
-    // 0/8   1/9     2/A     3/B     4/C     5/D     6/E     7/F
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  // 88
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  // 90
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,  // 98
-});
-// clang-format on
-
-bool OwnByte(char32_t number) {
-  return number >= FirstOfOwn && number < FirstOfOwn + OwnCharacters.size();
-}
-
-char ByteOf(char32_t character) {
-  if (character <= 0xFF && !OwnByte(character)) return static_cast<char>(character);
-  const auto* const own = std::find(OwnCharacters.begin(), OwnCharacters.end(), character);
-  if (own == OwnCharacters.end()) return '?';
-  return static_cast<char>(FirstOfOwn + static_cast<char32_t>(own - OwnCharacters.begin()));
-}
 
 /// Whether a character may be one with what stands before it: marks, halves of a character, and the
 /// vowels and finals of Korean syllables.
@@ -46,10 +24,7 @@ bool MayCompose(QChar character) {
 QString FromCp1252(const std::string& text) {
   QString unicode;
   unicode.reserve(static_cast<qsizetype>(text.size()));
-  for (const char byte : text) {
-    const char32_t number = static_cast<unsigned char>(byte);
-    unicode += OwnByte(number) ? QChar(OwnCharacters[number - FirstOfOwn]) : QChar(number);
-  }
+  for (const char byte : text) unicode += QChar(CharacterOf(byte));
   return unicode;
 }
 

@@ -1,25 +1,26 @@
 #include "pictures/lastpicture.h"
 
-#include "forms/regularfile.h"
+#include "files/regularfile.h"
 #include "pictures/pictureloader.h"
 
 namespace terramark::pictures {
 
 forms::LoadedPicture LastPicture::Load(const std::filesystem::path& path, int boxWidth,
                                        int boxHeight) {
-  const forms::Moment now = forms::Moment::Now();
-  const forms::RegularFile file(path);
-  const auto version = file.Version();
-  if (!version) return {nullptr, file.Why()};
+  const files::Moment now = files::Moment::Now();
+  const auto file = files::RegularFile::Open(path);
+  if (!file) return tl::unexpected(file.error().Words());
+  const auto version = file->Version();
+  if (!version) return tl::unexpected(version.error().Words());
   const Source source{*version, boxWidth, boxHeight};
   if (source == source_) {
-    if (forms::Picture picture = picture_.lock()) return {picture, {}};
+    if (forms::Picture picture = picture_.lock()) return picture;
   }
   source_.reset();
-  forms::LoadedPicture loaded = LoadPictureFile(file, boxWidth, boxHeight);
-  picture_ = loaded.Picture;
+  forms::LoadedPicture loaded = LoadPictureFile(*file, boxWidth, boxHeight);
+  picture_ = loaded.value_or(nullptr);
   // One that changes while it is read may give a picture of neither version.
-  if (version->SettledBy(now) && file.Version() == version) source_ = source;
+  if (version->SettledBy(now) && file->Version() == *version) source_ = source;
   return loaded;
 }
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "forms/fileversion.h"
+#include "files/fileversion.h"
 #include "forms/raster.h"
 
 namespace terramark::pictures {
@@ -20,7 +20,7 @@ class LastPicture {
  private:
   /// What a picture is decoded from: a metafile is drawn for its box.
   struct Source {
-    forms::FileVersion File;
+    files::FileVersion File;
     int BoxWidth = 0;
     int BoxHeight = 0;
 

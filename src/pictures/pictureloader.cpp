@@ -37,11 +37,14 @@ forms::Picture LoadMetafile(QByteArrayView bytes, QSize box) {
   return PlayMetafile(bytes, box.boundedTo(QSize(MaxPictureBoxSide, MaxPictureBoxSide)));
 }
 
-/// The picture, or a read of the file that has failed, or else what is wrong with its bytes.
-forms::LoadedPicture Loaded(forms::Picture picture, const forms::RegularFile& file,
-                            const char* otherwise) {
-  if (picture) return {std::move(picture), {}};
-  return {nullptr, file.Why().empty() ? otherwise : file.Why()};
+/// The picture, or else what is wrong with the bytes that it was to come from.
+forms::LoadedPicture PictureOr(const char* fault, forms::Picture picture) {
+  if (!picture) return tl::unexpected<std::string>(fault);
+  return picture;
+}
+
+forms::LoadedPicture Unreadable(const files::Fault& fault) {
+  return tl::unexpected(fault.Words());
 }
 
 }  // namespace
@@ -54,19 +57,23 @@ forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHei
   return LoadBitmap(fileHeader, dib);
 }
 
-forms::LoadedPicture LoadPictureFile(const forms::RegularFile& file, int boxWidth, int boxHeight) {
+forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidth, int boxHeight) {
   std::array<char, FileHeaderBytes> fileHeader{};
-  if (file.ReadAt(0, fileHeader) && IsBitmap(fileHeader)) {
+  const auto begun = file.ReadAt(0, fileHeader);
+  if (!begun) return Unreadable(begun.error());
+  if (*begun == fileHeader.size() && IsBitmap(fileHeader)) {
     FileBytes dib(file, FileHeaderBytes);
-    return Loaded(LoadBitmap(fileHeader, dib), file, "the bitmap is damaged, too large or unusual");
+    forms::Picture picture = LoadBitmap(fileHeader, dib);
+    if (!picture && dib.Fault()) return Unreadable(*dib.Fault());
+    return PictureOr("the bitmap is damaged, too large or unusual", std::move(picture));
   }
   if (file.Size() > MaxMetafileBytes)
-    return Loaded(nullptr, file, "it is too large for a metafile");
-  const std::string bytes = file.Read(MaxMetafileBytes).value_or("");
-  if (!MetafileReader::Recognises(bytes)) {
-    return Loaded(nullptr, file, "it is no bitmap or metafile");
-  }
-  return Loaded(LoadMetafile(bytes, QSize(boxWidth, boxHeight)), file, "nothing is drawn in it");
+    return tl::unexpected<std::string>("it is too large for a metafile");
+  const auto bytes = file.Read(MaxMetafileBytes);
+  if (!bytes) return Unreadable(bytes.error());
+  if (!MetafileReader::Recognises(*bytes))
+    return tl::unexpected<std::string>("it is no bitmap or metafile");
+  return PictureOr("nothing is drawn in it", LoadMetafile(*bytes, QSize(boxWidth, boxHeight)));
 }
 
 }  // namespace terramark::pictures

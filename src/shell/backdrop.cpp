@@ -21,33 +21,33 @@ void ForgetFaults(Form1& form) {
   if (ours && form.Message.BackColor == ClrRed) ShowMessage(form, "", ClrGreen);
 }
 
-forms::Fault LoadBackdrop(Form1& form, const std::string& path) {
+Shown LoadBackdrop(Form1& form, const std::string& path) {
   forms::PictureBox& box = form.Picture1;
   const auto loaded = form.Host.LoadPicture(path, box.BoxWidth(), box.BoxHeight());
-  if (loaded.Picture) box.Picture = loaded.Picture;
-  return loaded.Fault;
+  if (!loaded) return tl::unexpected(loaded.error());
+  box.Picture = *loaded;
+  return {};
 }
 
 }  // namespace
 
-forms::Fault ShowPicture(Form1& form, const std::string& path) {
+Shown ShowPicture(Form1& form, const std::string& path) {
   try {
-    forms::Fault fault = LoadBackdrop(form, path);
-    if (!fault.empty()) return fault;
+    if (auto shown = LoadBackdrop(form, path); !shown) return shown;
   } catch (const std::bad_alloc&) {
-    return "not enough memory";
+    return tl::unexpected<std::string>("not enough memory");
   }
   ForgetFaults(form);
   return {};
 }
 
-forms::Fault ShowNewPicture(Form1& form, const std::string& path) {
-  forms::Fault fault = ShowPicture(form, path);
-  if (fault.empty()) form.Picture1.ZoomTo(forms::ActualSize, {});
-  return fault;
+Shown ShowNewPicture(Form1& form, const std::string& path) {
+  Shown shown = ShowPicture(form, path);
+  if (shown) form.Picture1.ZoomTo(forms::ActualSize, {});
+  return shown;
 }
 
-void ShowPictureFault(Form1& form, const std::string& path, const forms::Fault& fault) {
+void ShowPictureFault(Form1& form, const std::string& path, const std::string& fault) {
   ShowFileFault(form, PictureFault, path, ": " + fault);
 }
 

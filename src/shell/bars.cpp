@@ -43,7 +43,7 @@ void UpdateRegionCount(Form1& form) {
 }
 
 void ShowHelpTopic(Form1& form, std::int16_t topic) {
-  form.Host.ShowHelp(form.HelpFile, topic);
+  form.Host.ShowHelp(topic);
 }
 
 }  // namespace terramark

@@ -1,6 +1,5 @@
 #include "shell/clearmap.h"
 
-#include "document/links.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
@@ -9,14 +8,7 @@
 namespace terramark {
 
 void ClearMap(Form1& form) {
-  for (std::int16_t i = 1; i <= LastNumber; ++i) {
-    form.AreaLinks(i) = ClearedLinks;
-    form.RegionName(i) = UnknownName;
-    form.AreaName(i) = UnknownName;
-    form.RegionArmies(i) = NewArmies;
-    form.AreaSymbol(i).clear();
-    form.AreaRegion(i) = 0;
-  }
+  ClearRows(form);
   ShowMessage(form, "", ClrGreen);
   form.Text1.Text = "";
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt.Unload(i);
@@ -26,9 +18,7 @@ void ClearMap(Form1& form) {
   form.MarkCount = 0;
   form.ArmyAt(0).Visible = false;
   form.Continent(0).Visible = false;
-  for (std::int16_t r = 0; r <= LastNumber; ++r) {
-    form.RegionRGB(r).fill(UnsetComponent);
-  }
+  form.RegionRGB(0).fill(UnsetComponent);
   SetOwnColour(form.Continent(0), ClrWhite, TagForm::WithoutBlank);
   form.RGBFrame.Enabled = false;
   UpdateCounts(form);

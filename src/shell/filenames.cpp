@@ -1,6 +1,6 @@
 #include "shell/filenames.h"
 
-#include "forms/regularfile.h"
+#include "files/regularfile.h"
 #include "shell/form1.h"
 
 namespace terramark {
@@ -15,7 +15,7 @@ void SelectAFile(Form1& form, const std::string& filt, std::string& s) {
 }
 
 std::int16_t FileExists(Form1& form, const std::string& path) {
-  return forms::RegularFile(form.Host.NativePath(path)).IsOpen() ? 1 : 0;
+  return files::RegularFile::Open(form.Host.NativePath(path)) ? 1 : 0;
 }
 
 }  // namespace terramark

@@ -23,7 +23,6 @@ struct Form1 : forms::Form, Tables {
   std::int16_t MarkCount = 0;
   // Path of the layout last opened or saved.
   std::string LayoutFile;
-  std::string HelpFile;
 
   // Of the mouse on the markers (canvas/markermouse): twips per screen pixel in whole numbers, and
   // where a drag took hold, in pixels from the marker's corner.

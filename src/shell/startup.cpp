@@ -32,7 +32,6 @@ void Form_Load(Form1& form) {
   form.AreaCount = 0;
   form.RegionCount = 0;
   form.MarkCount = 0;
-  form.HelpFile = "TMRK.HLP";
   form.Move(0, 0);
   form.RGBFrame.Enabled = false;
   form.PlayerRGB = DefaultPlayerRGB;

@@ -9,13 +9,16 @@
 #include <string_view>
 #include <system_error>
 
-#include "forms/fault.h"
-#include "layoutfile/loadlayout.h"
-#include "layoutfile/safefile.h"
+#include "canvas/showlayout.h"
+#include "files/currentfolder.h"
+#include "files/regularfile.h"
+#include "files/safefile.h"
+#include "layoutfile/layoutreader.h"
 #include "pictures/cp1252.h"
 #include "pictures/mapimage.h"
 #include "pictures/windowless.h"
-#include "shell/colours.h"
+#include "shell/backdrop.h"
+#include "shell/clearmap.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
 #include "thumbnail/ending.h"
@@ -55,29 +58,49 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
       Refuse(cannot + "it is the layout or its picture");
     }
   }
-  forms::Fault why;
+  std::string why;
   {
     // Gone before the program ends, and its temporary file with it.
-    SafeFile file(png);
-    if (file.Open() && file.Replace(bytes)) return;
-    why = file.Why();
+    files::SafeFile file(png);
+    const auto written = file.Open().and_then([&] { return file.Replace(bytes); });
+    if (written) return;
+    why = written.error().Words();
     if (file.Damaged()) why += "; the old file is damaged";
   }
   Refuse(cannot + why);
 }
 
-void Show(const std::filesystem::path& layout, const std::filesystem::path& png, int side) {
+/// The map in a layout; ends the program where there is none.
+MapLayout Read(const std::filesystem::path& path) {
+  const auto bytes = files::RegularFile::Open(path).and_then(
+      [](const auto& file) { return file.Read(MostLayoutBytes); });
+  if (!bytes) Refuse("cannot open " + path.string() + ": " + bytes.error().Words());
+  auto layout = ReadLayout(*bytes);
+  if (!layout) {
+    const LayoutFault& fault = layout.error();
+    Refuse(path.string() + ":" + std::to_string(fault.Line) + ": " + fault.Words());
+  }
+  return *std::move(layout);
+}
+
+void Show(const std::filesystem::path& path, const std::filesystem::path& png, int side) {
+  const MapLayout layout = Read(path);
+  // The picture may be named by its bare name, and then lies where the layout does.
+  files::EnterFolderOf(path);
   const pictures::Windowless windowless;
-  QuietDesktop desktop(layout);
+  QuietDesktop desktop;
   Form1 form(desktop);
   Form_Load(form);
-  LoadMpa_MouseUp(form);
-  if (form.Message.BackColor == ClrRed) {
-    Refuse(pictures::InSystemEncoding(form.Message.Caption));
+  ClearMap(form);
+  ShowHead(form, layout);
+  if (!PlaceMarkers(form, layout)) Refuse("a marker lies out of all reach");
+  if (const Shown shown = ShowMap(form); !shown) {
+    Refuse("cannot read picture " + pictures::InSystemEncoding(form.PictureFile) + ": " +
+           shown.error());
   }
   const auto bytes = pictures::MapAsPng(form.Picture1, side);
   if (!bytes) Refuse("there is no picture to show");
-  Write(png, *bytes, {layout, desktop.NativePath(form.PictureFile)});
+  Write(png, *bytes, {path, desktop.NativePath(form.PictureFile)});
 }
 
 }  // namespace

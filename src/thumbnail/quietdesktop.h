@@ -1,8 +1,6 @@
-// A desktop that nobody sits at: it opens the one layout that it was given, and what the editor
-// would tell in a box ends the program.
+// A desktop that nobody sits at: what the editor would tell in a box ends the program.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "forms/desktop.h"
@@ -11,15 +9,11 @@ namespace terramark::thumbnail {
 
 class QuietDesktop : public forms::Desktop {
  public:
-  /// An absolute path, of whatever bytes.
-  explicit QuietDesktop(const std::filesystem::path& layout);
-
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
                        const std::string& title) override;
-  /// Chooses the layout.
-  void ShowOpen(forms::CommonDialog& dialog) override;
+  void ShowOpen(forms::CommonDialog& /*dialog*/) override {}
   void ShowModal(forms::Form& /*form*/) override {}
-  void ShowHelp(const std::string& /*helpFile*/, std::int32_t /*topic*/) override {}
+  void ShowHelp(std::int32_t /*topic*/) override {}
 
   // Nothing that depends on these is shown.
   forms::DateTime Now() override { return {}; }
@@ -32,7 +26,7 @@ class QuietDesktop : public forms::Desktop {
   forms::TextExtent MeasureText(const std::string& text) override;
 
   forms::LoadedPicture LoadPicture(const std::string& path, int width, int height) override;
-  std::filesystem::path NativePath(const std::string& path) override;
+  std::string NativePath(const std::string& path) override;
   void EnterFolderOf(const std::string& path) override;
 
   [[noreturn]] void End(int status) override;
@@ -40,10 +34,6 @@ class QuietDesktop : public forms::Desktop {
  private:
   /// Of a screen of 96 dots an inch.
   static constexpr float UsualTwips = 15;
-
-  const std::filesystem::path layout_;
-  /// The layout's path in the 8-bit text of the editor.
-  const std::string name_;
 };
 
 }  // namespace terramark::thumbnail

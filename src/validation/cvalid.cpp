@@ -30,7 +30,7 @@ forms::PixelPoint FillPoint(Form1& form, std::int16_t area) {
 }  // namespace
 
 void Cvalid_MouseUp(Form1& form) {
-  if (!MapIsValid(form)) return;
+  if (!ValidateMap(form)) return;
   std::vector<forms::PixelPoint> points;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) points.push_back(FillPoint(form, i));
   form.Picture1.FillColor = ClrRed;

@@ -10,13 +10,25 @@ namespace terramark {
 
 namespace {
 
-using Fault = std::optional<std::string>;
+/// A text, and the number of the Area or the Region at fault.
+struct Fault {
+  std::string Text;
+  std::int16_t Number = 0;
+};
+
+using Finding = std::optional<Fault>;
+using Text = std::optional<std::string>;
+
+/// Whether the map has this fault as a whole.
+Finding If(bool faulty, const char* text) {
+  return faulty ? Finding(Fault{text}) : std::nullopt;
+}
 
 /// The first number from 1 to last for which faulty gives a text.
 template <typename Faulty>
-Fault FirstOf(std::int16_t last, Faulty faulty) {
+Finding FirstOf(std::int16_t last, Faulty faulty) {
   for (std::int16_t number = 1; number <= last; ++number) {
-    if (Fault fault = faulty(number)) return fault;
+    if (Text text = faulty(number)) return Fault{*std::move(text), number};
   }
   return std::nullopt;
 }
@@ -34,43 +46,39 @@ std::string AreaInBrackets(const Tables& t, std::int16_t i, const char* gap) {
   return AreaAt(i) + gap + "(" + t.AreaName(i) + ")";
 }
 
-Fault Picture(const Tables& t) {
-  if (!t.PictureFile.empty()) return std::nullopt;
-  return "No Map file (.WMF/.BMP)";
+Finding Picture(const Tables& t) {
+  return If(t.PictureFile.empty(), "No Map file (.WMF/.BMP)");
 }
 
-Fault EnoughAreas(const Tables& t) {
-  if (t.AreaCount >= 2) return std::nullopt;
-  return "Number of Areas must be more than 1";
+Finding EnoughAreas(const Tables& t) {
+  return If(t.AreaCount < 2, "Number of Areas must be more than 1");
 }
 
-Fault EnoughRegions(const Tables& t) {
-  if (t.RegionCount >= 2) return std::nullopt;
-  return "Number of Regions must be more than 1";
+Finding EnoughRegions(const Tables& t) {
+  return If(t.RegionCount < 2, "Number of Regions must be more than 1");
 }
 
-Fault WholeHands(const Tables& t) {
-  if (t.AreaCount % 6 == 0) return std::nullopt;
-  return "Number of Areas must be divisible by 2 and 3";
+Finding WholeHands(const Tables& t) {
+  return If(t.AreaCount % 6 != 0, "Number of Areas must be divisible by 2 and 3");
 }
 
-Fault AreasInRegions(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Fault {
+Finding AreasInRegions(const Tables& t) {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
     if (t.AreaRegion(i) != 0) return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no Region";
   });
 }
 
 // Looks at the string and not at its count.
-Fault AreasLinked(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Fault {
+Finding AreasLinked(const Tables& t) {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
     if (!t.AreaLinks(i).empty() && t.AreaLinks(i)[0] != ' ') return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no neighbour";
   });
 }
 
-Fault RegionSizes(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Fault {
+Finding RegionSizes(const Tables& t) {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
     if (MembersOf(t, r) >= 2) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " has <2 Areas";
   });
@@ -87,22 +95,22 @@ bool HasLink(const Tables& t, std::int16_t r, bool inside) {
   return false;
 }
 
-Fault RegionsLinkedOutward(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Fault {
+Finding RegionsLinkedOutward(const Tables& t) {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
     if (HasLink(t, r, false)) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " is not linked to another Region";
   });
 }
 
-Fault RegionsLinkedInside(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Fault {
+Finding RegionsLinkedInside(const Tables& t) {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
     if (HasLink(t, r, true)) return std::nullopt;
     return "None of the Areas in " + RegionAt(r) + " : " + t.RegionName(r) + " are linked";
   });
 }
 
-Fault LinksMutual(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Fault {
+Finding LinksMutual(const Tables& t) {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
     for (const std::int16_t j : Neighbours(t.AreaLinks(i))) {
       if (IsNeighbour(t, j, i) != 0) continue;
       return AreaInBrackets(t, i, "") + " is not in the neighbour list of " +
@@ -112,22 +120,22 @@ Fault LinksMutual(const Tables& t) {
   });
 }
 
-Fault LinksNumbered(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Fault {
+Finding LinksNumbered(const Tables& t) {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
     if (!Neighbours(t.AreaLinks(i)).List(0)) return std::nullopt;
     return AreaInBrackets(t, i, "") + " Please respecify its Neighbours";
   });
 }
 
-Fault AreasNamed(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Fault {
+Finding AreasNamed(const Tables& t) {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
     if (!t.AreaName(i).empty()) return std::nullopt;
     return AreaAt(i) + " has no name";
   });
 }
 
-Fault RegionsNamed(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Fault {
+Finding RegionsNamed(const Tables& t) {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
     if (!t.RegionName(r).empty()) return std::nullopt;
     return RegionAt(r) + " has no name";
   });
@@ -135,26 +143,27 @@ Fault RegionsNamed(const Tables& t) {
 
 struct Rule {
   std::int16_t Status;
-  Fault (*Test)(const Tables&);
+  Subject About;
+  Finding (*Test)(const Tables&);
 };
 
 // In the order of testing, which is not that of the numbers.
 // clang-format off
 constexpr Rule Rules[] = {
-    // status  test
-    {15, Picture},
-    {1, EnoughAreas},
-    {2, EnoughRegions},
-    {10, WholeHands},
-    {11, AreasInRegions},
-    {3, AreasLinked},
-    {4, RegionSizes},
-    {5, RegionsLinkedOutward},
-    {6, RegionsLinkedInside},
-    {7, LinksMutual},
-    {12, LinksNumbered},
-    {8, AreasNamed},
-    {9, RegionsNamed},
+    // status  about  test
+    {15, Subject::Picture, Picture},
+    {1, Subject::Counts, EnoughAreas},
+    {2, Subject::Counts, EnoughRegions},
+    {10, Subject::Counts, WholeHands},
+    {11, Subject::Area, AreasInRegions},
+    {3, Subject::Area, AreasLinked},
+    {4, Subject::Region, RegionSizes},
+    {5, Subject::Region, RegionsLinkedOutward},
+    {6, Subject::Region, RegionsLinkedInside},
+    {7, Subject::Area, LinksMutual},
+    {12, Subject::Area, LinksNumbered},
+    {8, Subject::Area, AreasNamed},
+    {9, Subject::Region, RegionsNamed},
 };
 // clang-format on
 
@@ -162,7 +171,9 @@ constexpr Rule Rules[] = {
 
 Verdict JudgeMap(const Tables& tables) {
   for (const Rule& rule : Rules) {
-    if (Fault fault = rule.Test(tables)) return {rule.Status, *std::move(fault)};
+    if (Finding fault = rule.Test(tables)) {
+      return {rule.Status, std::move(fault->Text), rule.About, fault->Number};
+    }
   }
   return {0, "This map has no errors"};
 }

@@ -7,19 +7,11 @@
 
 namespace terramark {
 
-void ValidateMap(Form1& form, std::int16_t& status, std::string& message) {
-  Verdict verdict = JudgeMap(form);
-  status = verdict.Status;
-  message = std::move(verdict.Message);
-  if (status == 0) ShowMessage(form, message, ClrGreen);
-}
-
-bool MapIsValid(Form1& form) {
-  std::int16_t status = 0;
-  std::string message;
-  ValidateMap(form, status, message);
-  if (status != 0) ShowMessage(form, message, ClrRed);
-  return status == 0;
+bool ValidateMap(Form1& form) {
+  const Verdict verdict = JudgeMap(form);
+  const bool good = verdict.Status == 0;
+  ShowMessage(form, verdict.Message, good ? ClrGreen : ClrRed);
+  return good;
 }
 
 }  // namespace terramark

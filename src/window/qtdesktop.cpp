@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "files/currentfolder.h"
 #include "pictures/cp1252.h"
 #include "pictures/lettering.h"
 #include "pictures/showntext.h"
@@ -84,7 +85,7 @@ void QtDesktop::ShowModal(forms::Form& form) {
   ModalForm(form, window_).exec();
 }
 
-void QtDesktop::ShowHelp(const std::string& /*helpFile*/, std::int32_t topic) {
+void QtDesktop::ShowHelp(std::int32_t topic) {
   if (!help_) help_ = std::make_unique<HelpWindow>(window_);
   help_->Open(topic);
 }
@@ -122,18 +123,17 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
 }
 
 forms::LoadedPicture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
-  if (path.empty()) return {std::make_shared<forms::Raster>(), {}};
+  if (path.empty()) return std::make_shared<forms::Raster>();
   return picture_.Load(NativePath(path), width, height);
 }
 
-std::filesystem::path QtDesktop::NativePath(const std::string& path) {
+std::string QtDesktop::NativePath(const std::string& path) {
   if (path == pictures::ToCp1252(chosen_)) return QFile::encodeName(chosen_).toStdString();
   return pictures::InSystemEncoding(path);
 }
 
 void QtDesktop::EnterFolderOf(const std::string& path) {
-  std::error_code ignored;
-  std::filesystem::current_path(NativePath(path).parent_path(), ignored);
+  files::EnterFolderOf(NativePath(path));
 }
 
 void QtDesktop::End(int status) {

@@ -23,8 +23,7 @@ class QtDesktop : public forms::Desktop {
                        const std::string& title) override;
   void ShowOpen(forms::CommonDialog& dialog) override;
   void ShowModal(forms::Form& form) override;
-  /// The help is built in: the file's name is not looked at.
-  void ShowHelp(const std::string& helpFile, std::int32_t topic) override;
+  void ShowHelp(std::int32_t topic) override;
 
   forms::DateTime Now() override;
   float Timer() override;
@@ -36,7 +35,7 @@ class QtDesktop : public forms::Desktop {
   forms::TextExtent MeasureText(const std::string& text) override;
 
   forms::LoadedPicture LoadPicture(const std::string& path, int width, int height) override;
-  std::filesystem::path NativePath(const std::string& path) override;
+  std::string NativePath(const std::string& path) override;
   void EnterFolderOf(const std::string& path) override;
 
   [[noreturn]] void End(int status) override;

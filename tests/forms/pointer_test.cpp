@@ -23,7 +23,7 @@ class PointerTest : public testing::Test {
     Box.Picture = BlankPicture(200, 100);
     for (Label* label : {&Under, &Over}) {
       label->MouseDown = [this, label](const MouseEvent& event) {
-        if (event.Shift == 0) label->Drag(DragAction::Begin);
+        if (event.Shift == 0) label->Drag();
       };
       label->MouseUp = [this](const MouseEvent&) { Log += "up "; };
       label->DragDrop = [this, label](const DropEvent& event) {
@@ -104,7 +104,7 @@ TEST_F(PointerTest, OtherButtonsLeaveThePressThatHoldsThePointer) {
   Pointer.Release(305, 15, RightButton, ShiftKey);
   EXPECT_TRUE(Pointer.InFlight());
   Pointer.Release(46, 33, LeftButton, 0);
-  Under.Drag(DragAction::Begin);
+  Under.Drag();
   EXPECT_FALSE(Pointer.InFlight()) << "no button is down";
   EXPECT_EQ(Stroke(45, 32, 400, 400, LeftButton, ShiftKey), "self up ")
       << "the release reaches what was pressed";
@@ -124,7 +124,7 @@ TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
   {
     Label passing{"passing"};
     Put(passing, Box, 100, 50, 20, 10);
-    passing.MouseDown = [&](const MouseEvent&) { passing.Drag(DragAction::Begin); };
+    passing.MouseDown = [&](const MouseEvent&) { passing.Drag(); };
     Pointer.Press(115, 65, LeftButton, 0);
     Pointer.Release(115, 65, LeftButton, 0);
     passing.MouseDown = nullptr;

@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
+#include "canvas/readmapfile.h"
+#include "canvas/writemapfile.h"
 #include "document/links.h"
-#include "layoutfile/readmapfile.h"
-#include "layoutfile/writemapfile.h"
 #include "shell/clearmap.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
@@ -29,19 +29,12 @@ void Check(bool holds, const char* what) {
 /// False when the file failed and the process would have ended.
 bool Read(Form1& form, std::string_view bytes) {
   ClearMap(form);
-  FieldReader file(bytes);
   try {
-    ReadMapFile(form, file);
+    ReadMapFile(form, bytes);
     return true;
   } catch (const Ended&) {
     return false;
   }
-}
-
-std::string Write(Form1& form) {
-  LayoutText file;
-  WriteMapFile(form, file);
-  return file.Text();
 }
 
 void CheckMarkers(forms::ControlArray<forms::Label>& markers, std::int16_t count) {
@@ -76,12 +69,12 @@ void TryOne(Form1& form, const ScriptedDesktop& desktop, std::string_view bytes)
   }
   if (!read) return;
   Check(desktop.Boxes.empty(), "a picture that is there");
-  const std::string first = Write(form);
+  const std::string first = WriteMapFile(form).Text;
   if (!ComesBack(form)) return;
   Check(Read(form, first), "a good map that can be read again");
   // The first writing may have rounded a place; from there on nothing may change.
-  const std::string second = Write(form);
-  Check(Read(form, second) && Write(form) == second, "a map that stays as it is");
+  const std::string second = WriteMapFile(form).Text;
+  Check(Read(form, second) && WriteMapFile(form).Text == second, "a map that stays as it is");
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ struct LastPictureTest : testing::Test {
     const QByteArray bytes = DibBytes{4, 4, 24, 0, {}, QByteArray(48, shade)}.File();
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
   }
-  forms::Picture Load(int width = 60) { return Last.Load(Path, width, 40).Picture; }
+  forms::Picture Load(int width = 60) { return Last.Load(Path, width, 40).value_or(nullptr); }
   std::uint32_t Shade() { return Load()->Pixels.at(0) & 0xFFU; }
 
   QTemporaryDir Folder;

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "forms/regularfile.h"
+#include "files/regularfile.h"
 #include "pictures/dib.h"
 #include "pictures/limits.h"
 #include "pictures/picturebytes.h"
@@ -158,7 +158,9 @@ struct PictureFile : testing::Test {
 
   std::filesystem::path Path(const char* name) const { return Folder.filePath(name).toStdString(); }
   forms::LoadedPicture LoadFile(const char* name) const {
-    return LoadPictureFile(forms::RegularFile(Path(name)), 60, 40);
+    const auto file = files::RegularFile::Open(Path(name));
+    if (!file) return tl::unexpected(file.error().Words());
+    return LoadPictureFile(*file, 60, 40);
   }
   void Write(const char* name, const QByteArray& bytes) const {
     QFile file(Folder.filePath(name));
@@ -170,7 +172,7 @@ TEST_F(PictureFile, IsToldByContentAndNotByName) {
   const auto told = [&](const char* name, const QByteArray& bytes = {}) {
     if (!bytes.isNull()) Write(name, bytes);
     const forms::LoadedPicture loaded = LoadFile(name);
-    return loaded.Picture ? std::to_string(loaded.Picture->Width) : loaded.Fault;
+    return loaded ? std::to_string((*loaded)->Width) : loaded.error();
   };
   EXPECT_EQ(told("map.wmf", Sound.File()), "4");
   EXPECT_EQ(told("map.bmp", MetafileBytes().Placeable(0, 0, 9, 9)), "60");
@@ -197,7 +199,7 @@ TEST_F(PictureFile, IsReadInBandsThatMeet) {
   for (const int height : {Height, -Height}) {
     for (const int cut : {0, Height / 3}) {
       Write("map.bmp", DibBytes{Width, height, 32, 0, {}, rows}.File().chopped(cut * Width * 4));
-      const forms::Picture picture = LoadFile("map.bmp").Picture;
+      const forms::Picture picture = LoadFile("map.bmp").value();
       ASSERT_TRUE(picture);
       for (int y = 0; y < Height; ++y) {
         const int stored = height < 0 ? y : Height - 1 - y;
@@ -214,8 +216,8 @@ TEST_F(PictureFile, CannotBeReadWhenItIsCutShortMeanwhile) {
   for (const DibBytes& bitmap : Bitmaps) {
     const QByteArray bytes = bitmap.File();
     Write("map.bmp", bytes);
-    const forms::RegularFile file(Path("map.bmp"));
-    FileBytes dib(file, 14);
+    const auto file = files::RegularFile::Open(Path("map.bmp"));
+    FileBytes dib(*file, 14);
     EXPECT_NE(DecodeDib(dib, std::nullopt), nullptr);
     ASSERT_TRUE(QFile::resize(Folder.filePath("map.bmp"), bytes.size() - 1));
     EXPECT_EQ(DecodeDib(dib, std::nullopt), nullptr) << bitmap.Bits;

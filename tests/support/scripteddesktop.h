@@ -91,12 +91,12 @@ class ScriptedDesktop : public forms::Desktop {
   void ShowOpen(forms::CommonDialog& dialog) override {
     Filters.push_back(dialog.Filter);
     dialog.FileName = Next(FileNames, dialog.FileName);
-    dialog.FileTitle = std::filesystem::path(dialog.FileName).filename();
+    dialog.FileTitle = dialog.FileName.substr(dialog.FileName.rfind('/') + 1);
     dialog.FileNameFits = FileNameFits;
     dialog.FileTitleFits = FileTitleFits;
   }
   void ShowModal(forms::Form&) override { ++ModalForms; }
-  void ShowHelp(const std::string&, std::int32_t topic) override { Topics.push_back(topic); }
+  void ShowHelp(std::int32_t topic) override { Topics.push_back(topic); }
   forms::DateTime Now() override { return Clock; }
   float Timer() override { return SecondsOfDay; }
   void Randomize(float seed) override { Seeds.push_back(seed); }
@@ -110,12 +110,12 @@ class ScriptedDesktop : public forms::Desktop {
   forms::LoadedPicture LoadPicture(const std::string& path, int, int) override {
     ++PictureReads;
     Loading();
-    if (path.empty()) return {std::make_shared<forms::Raster>(), {}};
+    if (path.empty()) return std::make_shared<forms::Raster>();
     const auto found = Pictures.find(path);
-    if (found == Pictures.end()) return {nullptr, "gone"};
-    return {found->second, {}};
+    if (found == Pictures.end()) return tl::unexpected<std::string>("gone");
+    return found->second;
   }
-  std::filesystem::path NativePath(const std::string& path) override { return path; }
+  std::string NativePath(const std::string& path) override { return path; }
   void EnterFolderOf(const std::string& path) override { Entered.push_back(path); }
   [[noreturn]] void End(int status) override { throw Ended(status); }
 
@@ -132,8 +132,8 @@ class ScriptedDesktop : public forms::Desktop {
 /// Every picture is there, and so is every file.
 class StockedDesktop : public ScriptedDesktop {
  public:
-  forms::LoadedPicture LoadPicture(const std::string&, int, int) override { return {picture_, {}}; }
-  std::filesystem::path NativePath(const std::string&) override { return "/proc/self/exe"; }
+  forms::LoadedPicture LoadPicture(const std::string&, int, int) override { return picture_; }
+  std::string NativePath(const std::string&) override { return "/proc/self/exe"; }
 
  private:
   const forms::Picture picture_ = BlankPicture(4, 3);

@@ -133,7 +133,7 @@ TEST_F(DesktopTest, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   QFile::copy(SAMPLES "/europe.bmp", "\u4E2D/\u0141.bmp");
   EXPECT_EQ(choose("\u0141.bmp", Qt::Key_Return), here + "/?/?.bmp");
   EXPECT_FALSE(dialog.FileTitleFits);
-  EXPECT_NE(Desktop.LoadPicture(dialog.FileName, 60, 40).Picture, nullptr);
+  EXPECT_TRUE(Desktop.LoadPicture(dialog.FileName, 60, 40));
   Desktop.EnterFolderOf(dialog.FileName);
   EXPECT_EQ(QDir::currentPath().toStdString(), here + "/\u4E2D");
   QDir::setCurrent(before);
@@ -192,12 +192,12 @@ TEST_F(DesktopTest, PicturesComeRowByRowFromTheNamedFile) {
   image.setPixel(2, 1, 0xFF123456);
   const QString path = folder.filePath(QStringLiteral("\u00FC.bmp"));
   ASSERT_TRUE(image.save(path));
-  const forms::Picture picture = Desktop.LoadPicture(pictures::ToCp1252(path), 60, 40).Picture;
+  const forms::Picture picture = Desktop.LoadPicture(pictures::ToCp1252(path), 60, 40).value();
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Pixels, (std::vector<std::uint32_t>{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF,
                                                          0xFFFFFFFF, 0xFFFFFFFF, 0xFF123456}));
-  EXPECT_EQ(Desktop.LoadPicture("", 60, 40).Picture->Width, 0);
-  EXPECT_EQ(Desktop.LoadPicture(pictures::ToCp1252(folder.path()), 60, 40).Picture, nullptr);
+  EXPECT_EQ((*Desktop.LoadPicture("", 60, 40))->Width, 0);
+  EXPECT_FALSE(Desktop.LoadPicture(pictures::ToCp1252(folder.path()), 60, 40));
 }
 
 TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {

@@ -50,7 +50,7 @@ struct HelpTest : testing::Test {
   QWidget* Window = nullptr;
 
   void Open(int topic) {
-    Desktop.ShowHelp("TMRK.HLP", topic);
+    Desktop.ShowHelp(topic);
     const auto all = QApplication::topLevelWidgets();
     const auto is = [](const QWidget* window) { return window->objectName() == "Help"; };
     ASSERT_EQ(std::ranges::count_if(all, is), 1);

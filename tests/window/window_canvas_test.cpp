@@ -28,9 +28,7 @@ struct MarkerTest : testing::Test, TestWindow {
     marker.Height = 16;
     marker.Move(100, 50);
     marker.Visible = true;
-    marker.MouseDown = [&marker](const forms::MouseEvent&) {
-      marker.Drag(forms::DragAction::Begin);
-    };
+    marker.MouseDown = [&marker](const forms::MouseEvent&) { marker.Drag(); };
     Form.Picture1.DragDrop = [this](const forms::DropEvent& event) {
       Drops.emplace_back(static_cast<int>(event.X), static_cast<int>(event.Y));
     };

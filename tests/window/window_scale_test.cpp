@@ -141,7 +141,7 @@ TEST_F(ScaleTest, TheWheelZoomsAboutThePixelThatIsSeen) {
 
 TEST_F(ScaleTest, AMarkerIsTakenCarriedAndDroppedByThePixelThatIsSeen) {
   forms::Label& marker = Form.ArmyAt(1);
-  marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(forms::DragAction::Begin); };
+  marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(); };
   const QRect atHome(Marker, QSize(32, 16));
   for (const forms::Magnification zoom : forms::ZoomSteps) {
     marker.Visible = false;

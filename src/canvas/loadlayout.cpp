@@ -1,0 +1,37 @@
+#include "canvas/loadlayout.h"
+
+#include <string>
+
+#include "canvas/readmapfile.h"
+#include "files/regularfile.h"
+#include "layoutfile/layoutreader.h"
+#include "shell/clearmap.h"
+#include "shell/filefault.h"
+#include "shell/filenames.h"
+#include "shell/form1.h"
+
+namespace terramark {
+
+void LoadMpa_MouseUp(Form1& form) {
+  std::string name;
+  form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
+  SelectAFile(form, LayoutFiles, name);
+  if (name.empty()) return;
+  const auto bytes =
+      files::RegularFile::Open(form.Host.NativePath(name)).and_then([](const auto& layout) {
+        return layout.Read(MostLayoutBytes);
+      });
+  if (!bytes) {
+    ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + bytes.error().Words());
+    return;
+  }
+  form.LayoutFile = name;
+  // The picture may be named by its bare name, and then lies where the layout does.
+  form.Host.EnterFolderOf(name);
+  ClearMap(form);
+  ReadMapFile(form, *bytes);
+  form.LoadMpa.Caption = form.LayoutFile;
+  form.Picture1.Refresh();
+}
+
+}  // namespace terramark

@@ -1,0 +1,86 @@
+#include "canvas/showlayout.h"
+
+#include <cmath>
+
+#include "shell/colours.h"
+#include "shell/colourtarget.h"
+#include "shell/form1.h"
+#include "shell/markers.h"
+
+namespace terramark {
+
+namespace {
+
+void MakeMarkers(Form1& form) {
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt.Load(i);
+  for (std::int16_t r = 1; r <= form.RegionCount; ++r) form.Continent.Load(r);
+  for (std::int16_t i = 0; i <= form.AreaCount; ++i) {
+    forms::Label& marker = form.ArmyAt(i);
+    marker.BorderStyle = forms::Border::FixedSingle;
+    marker.Width = AreaMarkerWidth;
+    marker.Height = AreaMarkerHeight;
+  }
+}
+
+/// From pixels of the saving screen to pixels of this one.
+struct Scale {
+  float X;
+  float Y;
+};
+
+bool Place(forms::Label& marker, const LaidMarker& laid, Scale scale) {
+  if (laid.Place) marker.Move(scale.X * laid.Place->Left, scale.Y * laid.Place->Top);
+  return std::isfinite(marker.Left) && std::isfinite(marker.Top);
+}
+
+}  // namespace
+
+void ShowHead(Form1& form, const MapLayout& layout) {
+  static_cast<Tables&>(form) = layout;
+  form.Text1.Text = layout.Header;
+  MakeMarkers(form);
+}
+
+bool PlaceMarkers(Form1& form, const MapLayout& layout) {
+  static_cast<Tables&>(form) = layout;
+  const Scale scale{layout.TwipsX / form.Host.TwipsPerPixelX(),
+                    layout.TwipsY / form.Host.TwipsPerPixelY()};
+  bool within = true;
+  for (std::int16_t r = 0; r <= layout.RegionCount; ++r) {
+    const LaidMarker& laid = layout.RegionMarkers(r);
+    forms::Label& marker = form.Continent(r);
+    if (laid.RGB) {
+      marker.Caption = layout.RegionName(r);
+      PaintMarker(marker, ColourOf(*laid.RGB));
+    }
+    within = Place(marker, laid, scale) && within;
+  }
+  for (std::int16_t i = 0; i <= layout.AreaCount; ++i) {
+    const LaidMarker& laid = layout.AreaMarkers(i);
+    forms::Label& marker = form.ArmyAt(i);
+    if (laid.RGB) {
+      PaintMarker(marker, ColourOf(*laid.RGB));
+      SetCorner(form, i, layout.AreaCorner(i));
+    }
+    within = Place(marker, laid, scale) && within;
+  }
+  return within;
+}
+
+Shown ShowMap(Form1& form) {
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    form.ArmyAt(i).Visible = false;
+    form.ArmyAt(i).ZOrder(forms::StackEnd::Back);
+  }
+  Shown shown = ShowNewPicture(form, form.PictureFile);
+  if (!shown) return shown;
+  form.Picture1.ZOrder(forms::StackEnd::Front);
+  for (std::int16_t r = 1; r <= form.RegionCount; ++r) form.Continent(r).Visible = true;
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    form.ArmyAt(i).Visible = true;
+    form.ArmyAt(i).ZOrder(forms::StackEnd::Front);
+  }
+  return shown;
+}
+
+}  // namespace terramark

@@ -1,0 +1,68 @@
+#include "canvas/writemapfile.h"
+
+#include <string>
+
+#include "selection/selection.h"
+#include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
+#include "shell/randomcard.h"
+
+namespace terramark {
+
+namespace {
+
+constexpr char DefaultHeader[] = "MAP Layout File";
+
+SavingTime Now(Form1& form) {
+  using namespace std::chrono;
+  const forms::DateTime now = form.Host.Now();
+  return {year(now.Year) / now.Month / now.Day,
+          hh_mm_ss(hours(now.Hour) + minutes(now.Minute) + seconds(now.Second))};
+}
+
+/// In the order of the file: each draws by itself.
+void DrawSymbols(Form1& form, MapLayout& map) {
+  for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
+    for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
+      Area& area = map.Areas(i);
+      if (area.Region == r && area.Symbol.empty()) area.Symbol = RandomCardSymbol(form);
+    }
+  }
+}
+
+LaidMarker Laid(const forms::Label& marker, const Components& rgb) {
+  return {rgb, MarkerPlace{marker.Left, marker.Top}};
+}
+
+MapLayout LayoutOf(Form1& form) {
+  MapLayout map;
+  static_cast<Tables&>(map) = form;
+  map.Header = form.Text1.Text;
+  map.TwipsX = form.Host.TwipsPerPixelX();
+  map.TwipsY = form.Host.TwipsPerPixelY();
+  for (std::int16_t i = 0; i <= form.AreaCount; ++i) {
+    map.AreaMarkers(i) = Laid(form.ArmyAt(i), form.RegionRGB(form.AreaRegion(i)));
+  }
+  for (std::int16_t r = 0; r <= form.RegionCount; ++r) {
+    map.RegionMarkers(r) = Laid(form.Continent(r), form.RegionRGB(r));
+  }
+  return map;
+}
+
+}  // namespace
+
+LayoutWritten WriteMapFile(Form1& form) {
+  ClearSelection(form);
+  if (form.Text1.Text.Get().empty()) form.Text1.Text = DefaultHeader;
+  const SavingTime now = Now(form);
+  MapLayout map = LayoutOf(form);
+  DrawSymbols(form, map);
+  LayoutWritten file = WriteLayout(map, now);
+  if (file.BrokenOffAt != 0) {
+    ShowMessage(form, "Area " + form.AreaName(file.BrokenOffAt) + " has no neighbours", ClrRed);
+  }
+  return file;
+}
+
+}  // namespace terramark

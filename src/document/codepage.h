@@ -1,0 +1,18 @@
+// The characters of code page 1252, in which the editor and its files keep texts.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace terramark {
+
+/// The Unicode character of a byte. The five bytes that the code page leaves open give the control
+/// characters of the same number.
+char16_t CharacterOf(char byte);
+
+/// The byte of a Unicode character; "?" for one that the code page lacks.
+char ByteOf(char32_t character);
+
+std::string Utf8Of(std::string_view text);
+
+}  // namespace terramark

@@ -1,0 +1,44 @@
+// What a Map Layout holds: a map with the places of its markers, as a value.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "document/tables.h"
+
+namespace terramark {
+
+/// The top left corner of a marker, in pixels of the picture box on the screen on which the layout
+/// was saved. It may lie outside.
+struct MarkerPlace {
+  float Left = 0;
+  float Top = 0;
+
+  bool operator==(const MarkerPlace&) const = default;
+};
+
+/// What the lines of a layout tell of a marker.
+struct LaidMarker {
+  /// That of its Region's line; of an Area's marker that of the line which stands above it, though
+  /// another line of the same Region follow. Nothing where the Area or Region has no line.
+  std::optional<Components> RGB;
+  /// Nothing where no line places it.
+  std::optional<MarkerPlace> Place;
+
+  bool operator==(const LaidMarker&) const = default;
+};
+
+struct MapLayout : Tables {
+  /// The first line, any text.
+  std::string Header;
+  /// Of the screen on which it was saved, across and down; whole numbers when they have been read.
+  float TwipsX = 0;
+  float TwipsY = 0;
+  /// By number; 0 is the hidden marker that new ones copy.
+  Table<LaidMarker> AreaMarkers;
+  Table<LaidMarker> RegionMarkers;
+
+  bool operator==(const MapLayout&) const = default;
+};
+
+}  // namespace terramark

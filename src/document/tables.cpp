@@ -1,0 +1,21 @@
+#include "document/tables.h"
+
+#include "document/links.h"
+
+namespace terramark {
+
+namespace {
+
+constexpr Components UnsetRGB{UnsetComponent, UnsetComponent, UnsetComponent};
+
+}  // namespace
+
+void ClearRows(Tables& tables) {
+  for (std::int16_t i = 1; i <= LastNumber; ++i) {
+    tables.Areas(i) = {
+        .Name = UnknownName, .Links = ClearedLinks, .Symbol{}, .Corner = tables.AreaCorner(i)};
+    tables.Regions(i) = {.Name = UnknownName, .Armies = NewArmies, .RGB = UnsetRGB};
+  }
+}
+
+}  // namespace terramark

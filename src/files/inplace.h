@@ -1,0 +1,24 @@
+// Writes over a file that cannot be replaced, and puts its old bytes back when that fails.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace terramark::files {
+
+enum class InPlace {
+  Written,  // the text is the file's content
+  Kept,     // the file is as it was
+  Damaged,  // neither: the old bytes could not be put back
+};
+
+struct InPlaceResult {
+  InPlace State;
+  int Error;  // the errno that stopped the writing, 0 for none
+};
+
+/// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or is far larger
+/// than any layout, is not written. A process that is killed in the middle leaves a mix.
+InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view text);
+
+}  // namespace terramark::files

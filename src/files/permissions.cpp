@@ -1,0 +1,70 @@
+#include "files/permissions.h"
+
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include "files/descriptor.h"
+
+namespace terramark::files {
+
+namespace {
+
+constexpr const char* AccessList = "system.posix_acl_access";
+/// Reading, writing and executing; of the rest of a mode a layout has no use.
+constexpr mode_t ModeBits = 0777;
+
+/// The user may not, or the file system has no such thing; the file itself is sound.
+bool CannotBeSet(int error) {
+  return error == EPERM || error == EACCES || error == ENOTSUP || error == ENOSYS ||
+         error == EINVAL;
+}
+
+/// 0, or why the file has another list than this one. A new file may have its folder's.
+int SetList(int file, const std::string& list) {
+  if (!list.empty()) {
+    const auto set = [&] { return ::fsetxattr(file, AccessList, list.data(), list.size(), 0); };
+    return ErrorOf(set);
+  }
+  const int error = ErrorOf([&] { return ::fremovexattr(file, AccessList); });
+  return error == ENODATA ? 0 : error;
+}
+
+}  // namespace
+
+int Permissions::Read(const std::filesystem::path& path, const struct stat& status) {
+  owner_ = status.st_uid;
+  group_ = status.st_gid;
+  mode_ = status.st_mode & ModeBits;
+  constexpr std::size_t MostBytes = 65536;
+  list_.resize(MostBytes);
+  const ssize_t size = Uninterrupted(
+      [&] { return ::getxattr(path.c_str(), AccessList, list_.data(), list_.size()); });
+  const int error = size >= 0 ? 0 : errno;
+  list_.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+  listsKnown_ = error == 0 || error == ENODATA;
+  return listsKnown_ || error == ENOTSUP || error == ENOSYS ? 0 : error;
+}
+
+bool Permissions::GroupCounts() const {
+  // A list speaks of this group, and may deny to some what it allows to others.
+  return !list_.empty() || (mode_ >> 3U & 7U) != (mode_ & 7U);
+}
+
+Giving Permissions::GiveTo(int file) const {
+  int error = ErrorOf([&] { return ::fchown(file, owner_, group_); });
+  if (error != 0 && !CannotBeSet(error)) return {Given::Failed, error};
+  // Where they cannot be set they may be right all the same.
+  struct stat now {};
+  error = ErrorOf([&] { return ::fstat(file, &now); });
+  if (error != 0) return {Given::Failed, error};
+  if (now.st_uid != owner_ || (now.st_gid != group_ && GroupCounts())) return {Given::Less};
+  error = listsKnown_ ? SetList(file, list_) : 0;
+  if (error != 0 && !CannotBeSet(error)) return {Given::Failed, error};
+  if (error != 0) return {Given::Less};
+  error = ErrorOf([&] { return ::fchmod(file, mode_); });
+  if (error == 0) return {Given::All};
+  if (!CannotBeSet(error)) return {Given::Failed, error};
+  return {(now.st_mode & ModeBits) == mode_ ? Given::All : Given::Less};
+}
+
+}  // namespace terramark::files

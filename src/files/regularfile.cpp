@@ -1,0 +1,63 @@
+#include "files/regularfile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "files/readbytes.h"
+
+namespace terramark::files {
+
+namespace {
+
+/// Nothing for a regular file.
+Result<> Regular(int error, const struct stat& status) {
+  if (error != 0) return Failed(error);
+  if (!S_ISREG(status.st_mode)) return tl::unexpected(Fault::OfKind(status.st_mode));
+  return {};
+}
+
+}  // namespace
+
+Result<RegularFile> RegularFile::Open(const std::filesystem::path& path) {
+  // The system's call would take the path for one that ends at the NUL.
+  if (path.native().find('\0') != std::string::npos) return Failed(ENOENT);
+  // Asked before opening: that alone can stir a pipe's writer or a device.
+  struct stat status {};
+  const int error = ErrorOf([&] { return ::stat(path.c_str(), &status); });
+  if (const auto regular = Regular(error, status); !regular) {
+    return tl::unexpected(regular.error());
+  }
+  constexpr int Flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+  Descriptor opened(Uninterrupted([&] { return ::open(path.c_str(), Flags); }));
+  if (!opened.IsOpen()) return Failed(errno);
+  RegularFile file(std::move(opened));
+  if (const auto sized = file.TakeSize(); !sized) return tl::unexpected(sized.error());
+  return file;
+}
+
+Result<> RegularFile::TakeSize() {
+  struct stat status {};
+  const int error = ErrorOf([&] { return ::fstat(file_.Number(), &status); });
+  if (auto regular = Regular(error, status); !regular) return regular;
+  size_ = static_cast<std::uintmax_t>(status.st_size);
+  if (size_ > 0) return {};
+  // The kernel's own files call themselves empty; then they give bytes, or let the reader wait.
+  const auto byte = ReadBytes(file_.Number(), 1);
+  if (!byte) return tl::unexpected(byte.error());
+  if (!byte->empty()) return tl::unexpected(Fault::OfKind(S_IFCHR));
+  return {};
+}
+
+Result<std::string> RegularFile::Read(std::size_t most) const {
+  const auto count = static_cast<std::size_t>(std::min<std::uintmax_t>(size_, most));
+  return ReadBytes(file_.Number(), count);
+}
+
+Result<std::size_t> RegularFile::ReadAt(std::uintmax_t offset, std::span<char> room) const {
+  return ReadInto(file_.Number(), offset, room);
+}
+
+}  // namespace terramark::files

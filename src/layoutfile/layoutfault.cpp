@@ -1,0 +1,9 @@
+#include "layoutfile/layoutfault.h"
+
+namespace terramark {
+
+std::string LayoutFault::Words() const {
+  return (AtEnd ? "the file ends, expected " : "expected ") + Expected;
+}
+
+}  // namespace terramark

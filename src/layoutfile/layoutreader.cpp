@@ -1,0 +1,197 @@
+#include "layoutfile/layoutreader.h"
+
+#include <string>
+#include <utility>
+
+#include "document/cardsymbol.h"
+#include "document/numbers.h"
+
+namespace terramark {
+
+namespace {
+
+/// Pairs that are looked through for the end of the bridge lines.
+constexpr int MostBridgeLines = 99;
+
+bool IsWithin(std::int16_t number, std::int16_t last) {
+  return number >= 0 && number <= last;
+}
+
+std::string SymbolCode(std::string_view letter, std::string_view name) {
+  const CardSymbol* symbol = letter.size() == 1 ? SymbolOfLetter(letter[0]) : nullptr;
+  return symbol != nullptr ? std::string(1, symbol->Code) : std::string(name.substr(0, 1));
+}
+
+std::string NumberUpTo(const char* what, std::int16_t last) {
+  return std::string("the number of ") + what + ", at most " + PlainNumber(last);
+}
+
+}  // namespace
+
+LayoutReader::LayoutReader(std::string_view bytes, const Tables& start) : file_(bytes) {
+  static_cast<Tables&>(layout_) = start;
+}
+
+LayoutStep LayoutReader::ReadHead() {
+  const auto header = file_.Line();
+  if (!header) return Expected("a header");
+  layout_.Header = *header;
+  if (!file_.Line()) return Expected("the time of saving");
+  const auto counts = file_.Fields<std::int16_t, std::int16_t>();
+  if (!counts || !IsWithin(std::get<0>(*counts), LastNumber) ||
+      !IsWithin(std::get<1>(*counts), LastNumber)) {
+    return Expected("the numbers of Regions and of Areas, each from 0 to 99");
+  }
+  std::tie(layout_.RegionCount, layout_.AreaCount) = *counts;
+  const auto picture = file_.Field<std::string_view>();
+  if (!picture) return Expected("the path of the picture");
+  layout_.PictureFile = *picture;
+  return {};
+}
+
+LayoutStep LayoutReader::ReadPlayerColours() {
+  for (Components& rgb : layout_.PlayerRGB) {
+    const auto read = file_.Field<Components>();
+    if (!read) return Expected("the twelve numbers of the player colours");
+    rgb = *read;
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::ReadMap() {
+  return ReadRegionGroups().and_then([this] { return PassComputedSections(); }).and_then([this] {
+    return ReadPlaces();
+  });
+}
+
+LayoutStep LayoutReader::ReadRegionGroups() {
+  for (std::int16_t k = 0; k < layout_.RegionCount; ++k) {
+    if (auto read = ReadRegionGroup(); !read) return read;
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::ReadRegionGroup() {
+  const auto line =
+      file_.Fields<std::int16_t, std::int16_t, Components, std::string_view, std::int16_t>();
+  if (!line) return Expected("a Region: number, Areas, red, green, blue, name, armies");
+  const auto& [r, members, rgb, name, armies] = *line;
+  if (!IsWithin(r, layout_.RegionCount)) {
+    return Expected(NumberUpTo("a Region", layout_.RegionCount));
+  }
+  regionAt_(r) = file_.Began();
+  layout_.Regions(r) = {.Name = std::string(name), .Armies = armies, .RGB = rgb};
+  layout_.RegionMarkers(r).RGB = rgb;
+  for (std::int16_t k = 0; k < members; ++k) {
+    if (auto read = ReadArea(r, rgb); !read) return read;
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::ReadArea(std::int16_t region, const Components& rgb) {
+  using Text = std::string_view;
+  const auto line = file_.Fields<std::int16_t, Text, Text, Text, std::int16_t>();
+  if (!line) return Expected("an Area: number, symbol, name, neighbours, corner");
+  const auto& [a, letter, name, links, corner] = *line;
+  if (!IsWithin(a, layout_.AreaCount)) return Expected(NumberUpTo("an Area", layout_.AreaCount));
+  areaAt_(a) = file_.Began();
+  layout_.Areas(a) = {.Name = std::string(name),
+                      .Links = std::string(links),
+                      .Symbol = SymbolCode(letter, name),
+                      .Region = region,
+                      .Corner = corner};
+  layout_.AreaMarkers(a).RGB = rgb;
+  return {};
+}
+
+LayoutStep LayoutReader::PassComputedSections() {
+  return PassBridges()
+      .and_then(
+          [this] { return PassPairs("the head of the routes", "a route", layout_.AreaCount); })
+      .and_then(
+          [this] { return PassPairs("the head of the breaks", "a break", layout_.RegionCount); });
+}
+
+LayoutStep LayoutReader::PassBridges() {
+  if (!file_.Line()) return Expected("the head of the bridges");
+  for (int k = 0; k < MostBridgeLines; ++k) {
+    const auto pair = file_.Fields<std::int16_t, std::string_view>();
+    if (!pair || !IsWithin(std::get<0>(*pair), LastNumber)) {
+      return Expected(
+          "a bridge or the 0 behind the last (a save breaks off here at an Area "
+          "without neighbours)");
+    }
+    if (std::get<0>(*pair) == 0) break;
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::PassPairs(const char* head, const char* pair, std::int16_t count) {
+  if (!file_.Line()) return Expected(head);
+  for (std::int16_t k = 0; k < count; ++k) {
+    const auto read = file_.Fields<std::int16_t, std::string_view>();
+    if (!read || !IsWithin(std::get<0>(*read), LastNumber)) {
+      return Expected(pair + std::string(": a number from 0 to 99 and a text"));
+    }
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::ReadPlaces() {
+  if (!file_.Line()) return Expected("the head of the places of the Areas");
+  const auto twips = file_.Fields<std::int16_t, std::int16_t>();
+  if (!twips) return Expected("the twips of a pixel, across and down");
+  std::tie(layout_.TwipsX, layout_.TwipsY) = *twips;
+  for (std::int16_t k = 0; k <= layout_.AreaCount; ++k) {
+    auto read = ReadPlace(layout_.AreaMarkers, layout_.AreaCount, "an Area");
+    if (!read) return read;
+  }
+  if (!file_.Line()) return Expected("the head of the places of the Regions");
+  for (std::int16_t k = 0; k < layout_.RegionCount; ++k) {
+    auto read = ReadPlace(layout_.RegionMarkers, layout_.RegionCount, "a Region");
+    if (!read) return read;
+  }
+  return {};
+}
+
+LayoutStep LayoutReader::ReadPlace(Table<LaidMarker>& markers, std::int16_t count,
+                                   const char* expected) {
+  const auto line = file_.Fields<std::int16_t, float, float>();
+  if (!line) {
+    return Expected("the place of " + std::string(expected) + ": number, left, top");
+  }
+  const auto& [k, left, top] = *line;
+  if (!IsWithin(k, count)) return Expected(NumberUpTo(expected, count));
+  markers(k).Place = {left, top};
+  return {};
+}
+
+std::vector<int> LayoutReader::LinesWithLoss() const {
+  std::vector<int> lines;
+  for (const std::size_t place : file_.Losses()) lines.push_back(file_.LineOf(place));
+  return lines;
+}
+
+tl::unexpected<LayoutFault> LayoutReader::Expected(std::string what) const {
+  return tl::unexpected(LayoutFault{file_.LineOf(file_.Began()), std::move(what), file_.Ended()});
+}
+
+Tables EmptyMap() {
+  Tables tables;
+  tables.AreaName(0) = UnknownName;
+  tables.RegionName(0) = UnknownName;
+  ClearRows(tables);
+  return tables;
+}
+
+tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes) {
+  LayoutReader reader(bytes, EmptyMap());
+  const LayoutStep read =
+      reader.ReadHead().and_then([&] { return reader.ReadPlayerColours(); }).and_then([&] {
+        return reader.ReadMap();
+      });
+  if (!read) return tl::unexpected(read.error());
+  return reader.Layout();
+}
+
+}  // namespace terramark

@@ -1,0 +1,83 @@
+// Reads the bytes of a Map Layout into a value.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <tl/expected.hpp>
+#include <vector>
+
+#include "document/maplayout.h"
+#include "layoutfile/fieldreader.h"
+#include "layoutfile/layoutfault.h"
+
+namespace terramark {
+
+/// A hundred times what the largest map needs; of a longer file no more than this is read.
+inline constexpr std::size_t MostLayoutBytes = 4U << 20U;
+
+/// Nothing, or where and why the reading has stopped.
+using LayoutStep = tl::expected<void, LayoutFault>;
+
+/// Reads in three steps, in this order, since something can be seen of the map behind each; none
+/// after one that has failed. A number is never outside the tables or above the file's own count.
+class LayoutReader {
+ public:
+  /// The bytes must outlive it. What the file has no line for stays as in `start`.
+  LayoutReader(std::string_view bytes, const Tables& start);
+
+  /// The header, the counts and the picture's path, which a comma ends: what stands behind it is
+  /// the first of the colours.
+  LayoutStep ReadHead();
+  LayoutStep ReadPlayerColours();
+  /// The Regions with their Areas, and the places. The sections that are computed afresh at each
+  /// save are passed over. The last line is not read.
+  LayoutStep ReadMap();
+
+  /// What has been read; after a fault what stood before it.
+  const MapLayout& Layout() const { return layout_; }
+
+  // For those who look for what a reader of the map does not see.
+
+  /// Whether, after ReadHead, a comma has left something of the picture's line.
+  bool PictureIsCut() const { return !file_.AtLineStart(); }
+  /// Passes over that, which the editor does not.
+  void PassPictureLine() { file_.Line(); }
+  /// The lines on which a double quote has ended a text early and cost what stood behind it.
+  std::vector<int> LinesWithLoss() const;
+  /// The line of an Area or a Region, 0 where it has none.
+  int LineOfArea(std::int16_t area) const { return LineOf(areaAt_(area)); }
+  int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
+  /// Whether the file ends where the reading stands.
+  bool AtEnd() const { return file_.AtEnd(); }
+  /// The line at which the reading stands.
+  int Line() const { return file_.LineOf(file_.Place()); }
+
+ private:
+  LayoutStep ReadRegionGroups();
+  LayoutStep ReadRegionGroup();
+  LayoutStep ReadArea(std::int16_t region, const Components& rgb);
+  LayoutStep PassComputedSections();
+  LayoutStep PassBridges();
+  LayoutStep PassPairs(const char* head, const char* pair, std::int16_t count);
+  LayoutStep ReadPlaces();
+  LayoutStep ReadPlace(Table<LaidMarker>& markers, std::int16_t count, const char* expected);
+
+  /// That this stands where the last read began is expected.
+  tl::unexpected<LayoutFault> Expected(std::string what) const;
+  int LineOf(std::size_t place) const { return place == 0 ? 0 : file_.LineOf(place); }
+
+  FieldReader file_;
+  MapLayout layout_;
+  // Where their lines begin; 0, where the header is, for none.
+  Table<std::size_t> areaAt_;
+  Table<std::size_t> regionAt_;
+};
+
+/// All of a layout, the rows without a line as on an empty map.
+tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes);
+
+/// The tables of a map without anything.
+Tables EmptyMap();
+
+}  // namespace terramark

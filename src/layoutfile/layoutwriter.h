@@ -1,0 +1,28 @@
+// Writes a map as the text of a Map Layout.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+#include "document/maplayout.h"
+
+namespace terramark {
+
+/// A moment by the clock and the calendar of where the user is.
+struct SavingTime {
+  std::chrono::year_month_day Day;
+  std::chrono::hh_mm_ss<std::chrono::seconds> Clock;
+};
+
+struct LayoutWritten {
+  std::string Text;
+  /// The Area without neighbours at whose bridge line the text breaks off; 0 when it is whole.
+  std::int16_t BrokenOffAt = 0;
+};
+
+/// A marker without a place gets 0, 0. A card symbol without a letter of its own is written as "G",
+/// and so is an Area without one.
+LayoutWritten WriteLayout(const MapLayout& map, const SavingTime& time);
+
+}  // namespace terramark

@@ -1,0 +1,51 @@
+#include "canvas/layoutfolder.h"
+#include "shell/colours.h"
+
+namespace terramark {
+namespace {
+
+class SaveLayout : public LayoutFolder {
+ public:
+  SaveLayout() { LoadBytes(Tiny); }
+  void ExpectRed(const std::string& text) {
+    EXPECT_EQ(Form.Message.Caption.Get(), text);
+    EXPECT_EQ(Form.Message.BackColor, ClrRed);
+  }
+};
+
+TEST_F(SaveLayout, AFaultAsksForNoName) {
+  Filters.clear();
+  Form.AreaRegion(2) = 0;
+  EXPECT_EQ(Saved("new.tml"), "");
+  ExpectRed("Area# 2 : Birch has no Region");
+  EXPECT_TRUE(Filters.empty());
+}
+
+TEST_F(SaveLayout, HeaderAndSymbolsThatAreMissingAreFilledIn) {
+  Form.Text1.Text = "";
+  Form.AreaSymbol(1) = "9";
+  for (std::int16_t i = 2; i <= 4; ++i) Form.AreaSymbol(i).clear();
+  Draws = {0.1F, 0.5F, 0.9F};
+  Form.MarkCount = 1;
+  EXPECT_EQ(Saved("new.tml"), TinyWith({{1, "MAP Layout File"},
+                                        {8, "2,\"G\",\"Birch\",\"020103\",0"},
+                                        {9, "3,\"H\",\"Cedar\",\"020204\",3"},
+                                        {11, "4,\"S\",\"Dale\",\"020305\",2"}}));
+  EXPECT_EQ(Form.Text1.Text.Get(), "MAP Layout File");
+  EXPECT_EQ(Form.AreaSymbol(3), "");
+  EXPECT_EQ(Form.MarkCount, 0);
+}
+
+TEST_F(SaveLayout, ALostPictureIsSaidUnlessTheWritingStops) {
+  Pictures.clear();
+  EXPECT_EQ(Saved("new.tml"), Tiny);
+  ExpectRed("Cannot read picture " + TinyPicture + ": gone");
+  Form.AreaLinks(5) = "0104";
+  Form.AreaLinks(6) = "00";
+  EXPECT_EQ(Saved("map.tml"),
+            TinyWith({{12, "5,\"H\",\"Elm\",\"0104\",1"}, {13, "6,\"S\",\"Fir\",\"00\",2"}}, 16));
+  ExpectRed("Area Fir has no neighbours");
+}
+
+}  // namespace
+}  // namespace terramark
