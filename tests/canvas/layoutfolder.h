@@ -6,8 +6,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
-#include <sstream>
 #include <string>
 
 #include "canvas/loadlayout.h"
@@ -16,15 +14,9 @@
 #include "shell/startup.h"
 #include "support/markertext.h"
 #include "support/scripteddesktop.h"
+#include "support/tinylayout.h"
 
 namespace terramark {
-
-inline std::string BytesOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
-}
 
 class LayoutFolder : public testing::Test, public ScriptedDesktop {
  public:
@@ -48,16 +40,6 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
     Put(name, "a picture");
     Pictures[name] = BlankPicture(4, 3);
   }
-  /// So many lines of the chain's file, some of them, counted from 1, with another text.
-  std::string TinyWith(const std::map<int, std::string>& changes, int count = 40) {
-    std::istringstream lines(Tiny);
-    std::string bytes;
-    std::string line;
-    for (int n = 1; n <= count && std::getline(lines, line); ++n) {
-      bytes += (changes.contains(n) ? changes.at(n) + "\r" : line) + "\n";
-    }
-    return bytes;
-  }
   void Load(const std::string& name) {
     FileNames = {name};
     LoadMpa_MouseUp(Form);
@@ -73,7 +55,7 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
     return BytesOf(Folder / name);
   }
 
-  const std::string Tiny = BytesOf(SAMPLES "/../tests/layoutfile/tiny.tml");
+  const std::string Tiny = TinyWith({});
   const std::string TinyPicture = "C:\\MAPS\\TINY.BMP";
   std::filesystem::path Folder;
   Form1 Form{*this};

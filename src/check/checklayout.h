@@ -1,0 +1,36 @@
+// What there is to say of one file that is to be a Map Layout.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace terramark::check {
+
+/// From what is least to what is worst; also the statuses of the program.
+enum class Grade { Good = 0, Faulty = 1, Unreadable = 2 };
+
+struct Remark {
+  /// From 1; 0 where no line shows it.
+  int Line = 0;
+  /// UTF-8, ready to print.
+  std::string Text;
+};
+
+struct Report {
+  Grade Of = Grade::Good;
+  /// By line, warnings among them; empty for a map of which there is nothing to say.
+  std::vector<Remark> Remarks;
+  std::int16_t Areas = 0;
+  std::int16_t Regions = 0;
+};
+
+/// Reads the file as the editor does, without its picture, and judges the map by the editor's
+/// rules. A file whose picture is not there, of which the editor shows no more than the head, is
+/// judged as it is read once the picture is.
+Report CheckLayout(const std::string& path);
+
+/// The lines that tell it, each with the file's name in front.
+std::string LinesOf(const std::string& name, const Report& report);
+
+}  // namespace terramark::check

@@ -1,0 +1,22 @@
+// Tells of Map Layouts whether they can be read and what is wrong with them.
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include "check/checklayout.h"
+
+int main(int argc, char** argv) {
+  using namespace terramark::check;
+  if (argc < 2) {
+    std::fputs("usage: terramark-check LAYOUT...\n", stderr);
+    return static_cast<int>(Grade::Unreadable);
+  }
+  Grade worst = Grade::Good;
+  for (int i = 1; i < argc; ++i) {
+    const Report report = CheckLayout(argv[i]);
+    std::fputs(LinesOf(argv[i], report).c_str(), stdout);
+    worst = std::max(worst, report.Of);
+  }
+  // Lines that nobody gets must not look like lines that say nothing.
+  return std::fflush(stdout) == 0 ? static_cast<int>(worst) : static_cast<int>(Grade::Unreadable);
+}
