@@ -19,6 +19,7 @@ NAMED = [
       for entries in ("applications/*", "thumbnailers/*")),
     ("mime/packages/*", r'<icon name="([^"]+)"', "share/icons/hicolor/scalable/mimetypes/{}.svg"),
     ("metainfo/*", r"file:///usr/([^<]+)", "{}"),
+    ("metainfo/*", r"<binary>([^<]+)", "bin/{}", "share/man/man1/{}.1.gz"),
     ("metainfo/*", r'"desktop-id">([^<]+)', "share/applications/{}"),
     ("terramark/samples/*.tml", r"\A.*\n.*\n.*\n(.*)", "share/terramark/samples/{}"),
 ]
