@@ -14,23 +14,27 @@ def tiny(changes, count=40):
     return b"".join(changes.get(n, LINES[n - 1]) + b"\r\n" for n in range(1, count + 1))
 
 
+def line(n, old, new):
+    """A line with something else in it."""
+    return {n: LINES[n - 1].replace(old, new)}
+
+
 GONE, COMMA, QUOTE, END = (f": warning: {text}" for text in (
     "the picture {} is not there", "a comma ends the path of the picture",
     "a double quote ends a text before its end; the rest is lost", "the file ends before its last line"))
-LOST = b'3,"S","The "old" Cedar","020204",3'
 # Name of the file, its bytes, status, what is said of it behind its name.
 FILES = [
     ("good", tiny({}), 0, [": good, 6 Areas, 2 Regions"]),
     ("euro", tiny({4: b"\x80\xfc.bmp"}), 0, [": good, 6 Areas, 2 Regions"]),
     ("gone", tiny({4: b"g\xf6ne.bmp"}), 0, [":4" + GONE.format("g\u00f6ne.bmp")]),
     ("comma", tiny({4: b"a, b.bmp"}), 0, [":4" + COMMA, ":4" + GONE.format("a")]),
-    ("quote", tiny({9: LOST}), 0, [":9" + QUOTE]),
+    ("quote", tiny(line(9, b"Cedar", b'The "old" Cedar')), 0, [":9" + QUOTE]),
     ("end", tiny({}, 39), 0, [":40" + END]),
-    ("name", tiny({9: b'3,"S","","020204",3'}), 1, [":9: Area# 3 has no name"]),
-    ("link", tiny({7: b'1,"G","Stra\xdfe","0103",2', 4: b"x"}), 1,
+    ("name", tiny(line(9, b"Cedar", b"")), 1, [":9: Area# 3 has no name"]),
+    ("link", tiny({4: b"x"} | line(7, b'Ash","0102', b'Stra\xdfe","0103')), 1,
      [":4" + GONE.format("x"),
       ":7: Area# 1(Stra\u00dfe) is not in the neighbour list of Area# 3 (Cedar)"]),
-    ("region", tiny({10: b'2,3,0,0,255,"",2'}), 1, [":10: Region# 2 has no name"]),
+    ("region", tiny(line(10, b"South", b"")), 1, [":10: Region# 2 has no name"]),
     ("count", b"".join(b"%s\r\n" % line for line in [
         b"", b"", b"0,0", b"tiny.bmp", b"0," * 11 + b"0", b"", b"0,", b"", b"", b"", b"15,15",
         b"0,0,0", b"", b"end"]), 1, [":3: Number of Areas must be more than 1"]),

@@ -24,9 +24,9 @@ with tempfile.TemporaryDirectory() as folder:
     for name, size, status, told in [
             (b"\xff\xfe.tml", "128", 0, ""),
             ("-h", "1024", 0, ""),
-            ("cut.tml", "128", 1, "Error reading Map Layout File"),
-            ("alone.tml", "128", 1, "MAP File gone.bmp not found"),
-            ("pipe.tml", "128", 1, "Cannot open Map Layout File"),
+            ("cut.tml", "128", 1, "/cut.tml:164: the file ends, expected the place of an Area"),
+            ("alone.tml", "128", 1, "cannot read picture gone.bmp: no such file"),
+            ("pipe.tml", "128", 1, "/pipe.tml: it is no plain file"),
             ("-h", "0", 2, "usage: "),
             ("-h", "128px", 2, "usage: ")]:
         png = Path("map.png")
