@@ -17,10 +17,7 @@ void LoadMpa_MouseUp(Form1& form) {
   form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
-  const auto bytes =
-      files::RegularFile::Open(form.Host.NativePath(name)).and_then([](const auto& layout) {
-        return layout.Read(MostLayoutBytes);
-      });
+  const auto bytes = files::ReadRegularFile(form.Host.NativePath(name), MostLayoutBytes);
   if (!bytes) {
     ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + bytes.error().Words());
     return;

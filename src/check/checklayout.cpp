@@ -90,8 +90,7 @@ Report CheckBytes(std::string_view bytes, const std::string& layout) {
 }  // namespace
 
 Report CheckLayout(const std::string& path) {
-  const auto bytes = files::RegularFile::Open(path).and_then(
-      [](const auto& file) { return file.Read(MostLayoutBytes); });
+  const auto bytes = files::ReadRegularFile(path, MostLayoutBytes);
   if (!bytes) return Unreadable({}, 0, bytes.error().Words());
   Report report = CheckBytes(*bytes, path);
   std::ranges::stable_sort(report.Remarks, {}, &Remark::Line);

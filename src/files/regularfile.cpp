@@ -60,4 +60,8 @@ Result<std::size_t> RegularFile::ReadAt(std::uintmax_t offset, std::span<char> r
   return ReadInto(file_.Number(), offset, room);
 }
 
+Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size_t most) {
+  return RegularFile::Open(path).and_then([&](const auto& file) { return file.Read(most); });
+}
+
 }  // namespace terramark::files

@@ -41,4 +41,7 @@ class RegularFile {
   std::uintmax_t size_ = 0;
 };
 
+/// The bytes of such a file from its beginning, at most so many.
+Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size_t most);
+
 }  // namespace terramark::files

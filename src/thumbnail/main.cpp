@@ -72,8 +72,7 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
 
 /// The map in a layout; ends the program where there is none.
 MapLayout Read(const std::filesystem::path& path) {
-  const auto bytes = files::RegularFile::Open(path).and_then(
-      [](const auto& file) { return file.Read(MostLayoutBytes); });
+  const auto bytes = files::ReadRegularFile(path, MostLayoutBytes);
   if (!bytes) Refuse("cannot open " + path.string() + ": " + bytes.error().Words());
   auto layout = ReadLayout(*bytes);
   if (!layout) {
