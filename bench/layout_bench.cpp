@@ -154,7 +154,7 @@ void ReadIntoWindow(benchmark::State& state) {
   if (!bench.Desktop.Boxes.empty()) std::abort();
 }
 
-void WriteLayout(benchmark::State& state) {
+void WriteFromWindow(benchmark::State& state) {
   Bench& bench = TheBench();
   for (auto _ : state) {
     const LayoutWritten file = WriteMapFile(bench.Form);
@@ -182,7 +182,7 @@ BENCHMARK(CopyLines);
 BENCHMARK(ReadFields);
 BENCHMARK(ReadValue);
 BENCHMARK(ReadIntoWindow);
-BENCHMARK(WriteLayout);
+BENCHMARK(WriteFromWindow);
 BENCHMARK(AllBlitzRoutes);
 BENCHMARK(JudgeGoodMap);
 

@@ -40,6 +40,7 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
 void ReadMapFile(Form1& form, std::string_view bytes) {
   LayoutReader file(bytes, form);
   if (ReadAndShow(form, file)) return;
+  // The box names the file alone; terramark-check tells the line and what is wrong there.
   form.Host.MsgBox("Error reading Map Layout File " + form.LayoutFile, forms::Buttons::Ok,
                    BoxTitle);
   form.Host.End(ExitFailed);

@@ -1,5 +1,6 @@
 #include "canvas/writemapfile.h"
 
+#include <chrono>
 #include <string>
 
 #include "selection/selection.h"
@@ -21,7 +22,7 @@ SavingTime Now(Form1& form) {
           hh_mm_ss(hours(now.Hour) + minutes(now.Minute) + seconds(now.Second))};
 }
 
-/// In the order of the file: each draws by itself.
+/// In the order of the file, in which the lots have always been drawn.
 void DrawSymbols(Form1& form, MapLayout& map) {
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
@@ -31,8 +32,8 @@ void DrawSymbols(Form1& form, MapLayout& map) {
   }
 }
 
-LaidMarker Laid(const forms::Label& marker, const Components& rgb) {
-  return {rgb, MarkerPlace{marker.Left, marker.Top}};
+MarkerPlace PlaceOf(const forms::Label& marker) {
+  return {marker.Left, marker.Top};
 }
 
 MapLayout LayoutOf(Form1& form) {
@@ -41,11 +42,12 @@ MapLayout LayoutOf(Form1& form) {
   map.Header = form.Text1.Text;
   map.TwipsX = form.Host.TwipsPerPixelX();
   map.TwipsY = form.Host.TwipsPerPixelY();
-  for (std::int16_t i = 0; i <= form.AreaCount; ++i) {
-    map.AreaMarkers(i) = Laid(form.ArmyAt(i), form.RegionRGB(form.AreaRegion(i)));
+  map.AreaMarkers(0).Place = PlaceOf(form.ArmyAt(0));
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
+    map.AreaMarkers(i) = {form.RegionRGB(form.AreaRegion(i)), PlaceOf(form.ArmyAt(i))};
   }
-  for (std::int16_t r = 0; r <= form.RegionCount; ++r) {
-    map.RegionMarkers(r) = Laid(form.Continent(r), form.RegionRGB(r));
+  for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
+    map.RegionMarkers(r) = {form.RegionRGB(r), PlaceOf(form.Continent(r))};
   }
   return map;
 }

@@ -13,21 +13,18 @@ namespace terramark::check {
 
 namespace {
 
-// Lines of every layout.
-constexpr int CountsLine = 3;
-constexpr int PictureLine = 4;
-
 void Say(Report& report, int line, const std::string& text) {
   report.Remarks.push_back({line, Utf8Of(text)});
 }
 
 Report Unreadable(Report report, int line, const std::string& why) {
-  report.Of = Grade::Unreadable;
+  report.Worst = Grade::Unreadable;
   Say(report, line, "cannot be read: " + why);
   return report;
 }
 
-/// Bare names begin in the folder of the layout, which the editor enters.
+/// Bare names begin in the folder of the layout, which the editor enters. Names of files are UTF-8,
+/// as they are to the editor.
 bool IsThere(const std::string& picture, const std::string& layout) {
   const auto folder = std::filesystem::path(layout).parent_path();
   return files::RegularFile::Open(folder / Utf8Of(picture)).has_value();
@@ -36,10 +33,11 @@ bool IsThere(const std::string& picture, const std::string& layout) {
 /// What is wrong with the picture's line, and where the reading goes on after it.
 void CheckPicture(Report& report, LayoutReader& reader, const std::string& layout) {
   const std::string& picture = reader.Layout().PictureFile;
+  const int line = reader.LineOfPicture();
   const bool cut = reader.PictureIsCut();
-  if (cut) Say(report, PictureLine, "warning: a comma ends the path of the picture");
+  if (cut) Say(report, line, "warning: a comma ends the path of the picture");
   if (picture.empty() || IsThere(picture, layout)) return;
-  Say(report, PictureLine, "warning: the picture " + picture + " is not there");
+  Say(report, line, "warning: the picture " + picture + " is not there");
   if (cut) reader.PassPictureLine();
 }
 
@@ -53,9 +51,9 @@ void CheckLosses(Report& report, const LayoutReader& reader) {
 int LineAtFault(const Verdict& verdict, const LayoutReader& reader) {
   switch (verdict.About) {
     case Subject::Picture:
-      return PictureLine;
+      return reader.LineOfPicture();
     case Subject::Counts:
-      return CountsLine;
+      return reader.LineOfCounts();
     case Subject::Area:
       return reader.LineOfArea(verdict.Number);
     case Subject::Region:
@@ -67,7 +65,7 @@ int LineAtFault(const Verdict& verdict, const LayoutReader& reader) {
 void CheckRules(Report& report, const LayoutReader& reader) {
   const Verdict verdict = JudgeMap(reader.Layout());
   if (verdict.Status == 0) return;
-  report.Of = Grade::Faulty;
+  report.Worst = Grade::Faulty;
   Say(report, LineAtFault(verdict, reader), verdict.Message);
 }
 

@@ -18,7 +18,7 @@ struct Remark {
 };
 
 struct Report {
-  Grade Of = Grade::Good;
+  Grade Worst = Grade::Good;
   /// By line, warnings among them; empty for a map of which there is nothing to say.
   std::vector<Remark> Remarks;
   std::int16_t Areas = 0;
@@ -26,8 +26,9 @@ struct Report {
 };
 
 /// Reads the file as the editor does, without its picture, and judges the map by the editor's
-/// rules. A file whose picture is not there, of which the editor shows no more than the head, is
-/// judged as it is read once the picture is.
+/// rules. A file whose picture is not there, of which the editor reads no more than the head, is
+/// read on all the same, and then from the line behind the picture's, where a comma has ended the
+/// path.
 Report CheckLayout(const std::string& path);
 
 /// The lines that tell it, each with the file's name in front.

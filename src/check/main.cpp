@@ -15,8 +15,9 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     const Report report = CheckLayout(argv[i]);
     std::fputs(LinesOf(argv[i], report).c_str(), stdout);
-    worst = std::max(worst, report.Of);
+    worst = std::max(worst, report.Worst);
   }
-  // Lines that nobody gets must not look like lines that say nothing.
-  return std::fflush(stdout) == 0 ? static_cast<int>(worst) : static_cast<int>(Grade::Unreadable);
+  // A full disk must not look like good maps.
+  const bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+  return static_cast<int>(written ? worst : Grade::Unreadable);
 }

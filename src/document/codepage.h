@@ -13,6 +13,7 @@ char16_t CharacterOf(char byte);
 /// The byte of a Unicode character; "?" for one that the code page lacks.
 char ByteOf(char32_t character);
 
+/// The text in UTF-8, for terminals and for the names of files.
 std::string Utf8Of(std::string_view text);
 
 }  // namespace terramark

@@ -19,8 +19,9 @@ struct MarkerPlace {
 
 /// What the lines of a layout tell of a marker.
 struct LaidMarker {
-  /// That of its Region's line; of an Area's marker that of the line which stands above it, though
-  /// another line of the same Region follow. Nothing where the Area or Region has no line.
+  /// The colour on the line of its Region; of an Area's marker, on the Region's line above it. A
+  /// file may have several lines of one Region, so that this is not always the Region's colour.
+  /// Nothing where the Area or the Region has no line.
   std::optional<Components> RGB;
   /// Nothing where no line places it.
   std::optional<MarkerPlace> Place;

@@ -18,4 +18,12 @@ void ClearRows(Tables& tables) {
   }
 }
 
+Tables EmptyMap() {
+  Tables tables;
+  tables.AreaName(0) = UnknownName;
+  tables.RegionName(0) = UnknownName;
+  ClearRows(tables);
+  return tables;
+}
+
 }  // namespace terramark

@@ -21,7 +21,8 @@ inline constexpr std::int16_t NewArmies = 5;
 /// The name of element 0 and of whatever lost its name.
 inline constexpr char UnknownName[] = "*UNKNOWN*";
 
-/// A fixed table; numbers outside it must not reach it.
+/// A fixed table. A number outside it is a mistake in the program and ends it: nobody catches what
+/// is thrown then.
 template <typename T>
 class Table {
  public:
@@ -78,7 +79,7 @@ struct Tables {
 
   bool operator==(const Tables&) const = default;
 
-  // One field of a row, for what reads or changes no other.
+  // The fields of a row by names of their own, where only the one is meant.
   std::string& AreaName(std::int16_t i) { return Areas(i).Name; }
   std::string& AreaLinks(std::int16_t i) { return Areas(i).Links; }
   std::string& AreaSymbol(std::int16_t i) { return Areas(i).Symbol; }
@@ -99,6 +100,9 @@ struct Tables {
 
 /// Gives rows 1 to 99 what they hold on an empty map, but for the fill corners, which stay.
 void ClearRows(Tables& tables);
+
+/// The tables of a map without anything.
+Tables EmptyMap();
 
 /// The number of a Region's Areas.
 inline std::int16_t MembersOf(const Tables& tables, std::int16_t region) {

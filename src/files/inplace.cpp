@@ -68,7 +68,7 @@ bool PutBack(int file, std::string_view old, const Progress& done) {
   if (gone == 0 && !done.Cut) return true;
   const std::size_t put = WriteAll(file, old).Bytes;
   const bool sized = gone <= old.size() || Truncate(file, old.size()) == 0;
-  // A bad spot that stopped the new text stops the old one too, but has it still.
+  // Where the disk took none of the new text it has the old one still, and will take none of that.
   const std::size_t lost = done.Cut ? old.size() : std::min(gone, old.size());
   return put >= lost && sized && Flush(file) == 0;
 }

@@ -17,8 +17,8 @@ struct InPlaceResult {
   int Error;  // the errno that stopped the writing, 0 for none
 };
 
-/// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or is far larger
-/// than any layout, is not written. A process that is killed in the middle leaves a mix.
+/// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or has more than
+/// 64 MiB, is not written. A process that is killed in the middle leaves a mix.
 InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view text);
 
 }  // namespace terramark::files

@@ -10,7 +10,7 @@ namespace terramark::files {
 namespace {
 
 constexpr const char* AccessList = "system.posix_acl_access";
-/// Reading, writing and executing; of the rest of a mode a layout has no use.
+/// Reading, writing and executing; the rest of a mode is for programs and folders.
 constexpr mode_t ModeBits = 0777;
 
 /// The user may not, or the file system has no such thing; the file itself is sound.

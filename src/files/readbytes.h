@@ -14,8 +14,8 @@ namespace terramark::files {
 /// fewer than the room where the file ends.
 Result<std::size_t> ReadInto(int file, std::uintmax_t offset, std::span<char> room);
 
-/// The file's bytes from its start on, at most so many, and fewer where it ends. A disk's fault
-/// does not look like a short file.
+/// The file's bytes from its start on, at most so many, and fewer where it ends. A read that fails
+/// is a fault, never a short result.
 Result<std::string> ReadBytes(int file, std::size_t most);
 
 }  // namespace terramark::files

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "files/descriptor.h"
 #include "files/fault.h"
@@ -26,7 +27,7 @@ class RegularFile {
   Result<FileVersion> Version() const { return VersionOf(file_.Number()); }
 
   /// From the beginning up to the size, and at most so many bytes. Fewer when another program has
-  /// cut the file short in the meantime; a disk's fault does not look like that.
+  /// cut the file short in the meantime; a read that fails is a fault, never a short result.
   Result<std::string> Read(std::size_t most) const;
   /// Fills the room with the bytes from so many after the beginning; how many there were, fewer
   /// than the room where the file ends.

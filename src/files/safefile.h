@@ -12,8 +12,9 @@
 
 namespace terramark::files {
 
-/// Qt's QSaveFile does not serve: it keeps neither the old file's owner nor its access list, nor a
-/// link that leads to it; and what saves is built without Qt.
+/// Qt's QSaveFile does not serve: it keeps neither the owner nor the access list of the old file,
+/// and where it writes in place it does not put the old bytes back. And the editor saves without
+/// Qt.
 ///
 /// The new text goes into a temporary file in the target's folder and takes the target's name when
 /// all of it has reached the disk; what a link names is replaced, not the link. An old file that
@@ -80,7 +81,7 @@ class SafeFile {
   std::optional<Permissions> old_;   // of the target, when there is one
   Descriptor file_;                  // the temporary file while it is open
   std::filesystem::path temporary_;  // its name, once it has one
-  bool whole_ = true;                // no temporary file is without a part of the text
+  bool whole_ = true;                // no temporary file holds but a part of the text
   bool mayReplace_ = true;           // whether nobody would lose a right by it
   bool damaged_ = false;
   std::filesystem::path kept_;

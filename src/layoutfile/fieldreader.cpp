@@ -98,6 +98,7 @@ bool FieldReader::BeginField() {
 }
 
 bool FieldReader::FailAtEnd() {
+  // What fails after another failure does not tell why.
   ended_ = ended_ || !failed_;
   failed_ = true;
   return false;
@@ -127,13 +128,18 @@ void FieldReader::PassLineEnd() {
   ++place_;
 }
 
-int FieldReader::LineOf(std::size_t place) const {
-  FieldReader before(bytes_.substr(0, place));
+std::vector<int> FieldReader::LinesOf(const std::vector<std::size_t>& places) const {
+  std::vector<int> lines;
+  std::size_t at = 0;
   int line = 1;
-  while (before.Line()) {
-    if (before.AtLineStart()) ++line;
+  for (const std::size_t place : places) {
+    for (; at < place; ++at) {
+      const bool pair = bytes_[at] == '\r' && at + 1 < bytes_.size() && bytes_[at + 1] == '\n';
+      if (EndsLine(bytes_[at]) && !pair) ++line;
+    }
+    lines.push_back(line);
   }
-  return line;
+  return lines;
 }
 
 }  // namespace terramark

@@ -13,9 +13,8 @@
 namespace terramark {
 
 /// A line end is CR LF, a lone CR or a lone LF, and separates fields as a comma does. Every read
-/// gives nothing when the file ends before it and for a number that its type cannot hold; the
-/// reader stands anywhere then and is done with. Texts point into the bytes, which must outlive
-/// them.
+/// gives nothing when the file ends before it and for a number that its type cannot hold; after
+/// that nothing more can be read. Texts point into the bytes, which must outlive them.
 class FieldReader {
  public:
   explicit FieldReader(std::string_view bytes) : bytes_(bytes) {}
@@ -42,17 +41,20 @@ class FieldReader {
     return failed_ ? std::nullopt : std::optional(field);
   }
 
-  // Where it stands, for what is told of the file.
+  // What can be told of the file; a place is the number of bytes before it.
 
-  /// Bytes before the next field, and before the first of the read that was last.
+  /// The place of the next field.
   std::size_t Place() const { return place_; }
+  /// The place where the last call of Line, Fields or Field began.
   std::size_t Began() const { return began_; }
-  bool AtLineStart() const { return place_ == 0 || EndsLine(bytes_[place_ - 1]); }
+  bool BehindComma() const { return place_ > 0 && bytes_[place_ - 1] == ','; }
   bool AtEnd() const { return place_ == bytes_.size(); }
   /// Whether a read has failed because the file ends.
   bool Ended() const { return ended_; }
-  /// The line, from 1, on which a byte stands.
-  int LineOf(std::size_t place) const;
+  /// The line, from 1, in which a place lies.
+  int LineOf(std::size_t place) const { return LinesOf({place}).front(); }
+  /// The same for many places, which must rise.
+  std::vector<int> LinesOf(const std::vector<std::size_t>& places) const;
   /// The places of the quoted texts behind which something was dropped.
   const std::vector<std::size_t>& Losses() const { return losses_; }
 

@@ -1,6 +1,8 @@
 #include "layoutfile/layoutreader.h"
 
+#include <algorithm>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "document/cardsymbol.h"
@@ -37,12 +39,14 @@ LayoutStep LayoutReader::ReadHead() {
   if (!header) return Expected("a header");
   layout_.Header = *header;
   if (!file_.Line()) return Expected("the time of saving");
+  countsAt_ = file_.Place();
   const auto counts = file_.Fields<std::int16_t, std::int16_t>();
   if (!counts || !IsWithin(std::get<0>(*counts), LastNumber) ||
       !IsWithin(std::get<1>(*counts), LastNumber)) {
     return Expected("the numbers of Regions and of Areas, each from 0 to 99");
   }
   std::tie(layout_.RegionCount, layout_.AreaCount) = *counts;
+  pictureAt_ = file_.Place();
   const auto picture = file_.Field<std::string_view>();
   if (!picture) return Expected("the path of the picture");
   layout_.PictureFile = *picture;
@@ -167,21 +171,13 @@ LayoutStep LayoutReader::ReadPlace(Table<LaidMarker>& markers, std::int16_t coun
 }
 
 std::vector<int> LayoutReader::LinesWithLoss() const {
-  std::vector<int> lines;
-  for (const std::size_t place : file_.Losses()) lines.push_back(file_.LineOf(place));
+  std::vector<int> lines = file_.LinesOf(file_.Losses());
+  lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
   return lines;
 }
 
 tl::unexpected<LayoutFault> LayoutReader::Expected(std::string what) const {
   return tl::unexpected(LayoutFault{file_.LineOf(file_.Began()), std::move(what), file_.Ended()});
-}
-
-Tables EmptyMap() {
-  Tables tables;
-  tables.AreaName(0) = UnknownName;
-  tables.RegionName(0) = UnknownName;
-  ClearRows(tables);
-  return tables;
 }
 
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes) {

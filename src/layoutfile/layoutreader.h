@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <tl/expected.hpp>
 #include <vector>
@@ -19,8 +20,8 @@ inline constexpr std::size_t MostLayoutBytes = 4U << 20U;
 /// Nothing, or where and why the reading has stopped.
 using LayoutStep = tl::expected<void, LayoutFault>;
 
-/// Reads in three steps, in this order, since something can be seen of the map behind each; none
-/// after one that has failed. A number is never outside the tables or above the file's own count.
+/// Reads in three steps, in this order, since the window shows what each has read. After one has
+/// failed there is no other. A number is never outside the tables or above the file's own count.
 class LayoutReader {
  public:
   /// The bytes must outlive it. What the file has no line for stays as in `start`.
@@ -37,15 +38,18 @@ class LayoutReader {
   /// What has been read; after a fault what stood before it.
   const MapLayout& Layout() const { return layout_; }
 
-  // For those who look for what a reader of the map does not see.
+  // For those who judge the file.
 
-  /// Whether, after ReadHead, a comma has left something of the picture's line.
-  bool PictureIsCut() const { return !file_.AtLineStart(); }
-  /// Passes over that, which the editor does not.
+  /// Whether, after ReadHead, a comma has ended the picture's path.
+  bool PictureIsCut() const { return file_.BehindComma(); }
+  /// Passes over what stands behind it, which the editor does not.
   void PassPictureLine() { file_.Line(); }
-  /// The lines on which a double quote has ended a text early and cost what stood behind it.
+  /// The lines, each once, on which a double quote has ended a text early and cost what stood
+  /// behind it.
   std::vector<int> LinesWithLoss() const;
-  /// The line of an Area or a Region, 0 where it has none.
+  /// The line of the counts, of the picture, of an Area or a Region; 0 where there is none.
+  int LineOfCounts() const { return LineOf(countsAt_); }
+  int LineOfPicture() const { return LineOf(pictureAt_); }
   int LineOfArea(std::int16_t area) const { return LineOf(areaAt_(area)); }
   int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
   /// Whether the file ends where the reading stands.
@@ -70,14 +74,13 @@ class LayoutReader {
   FieldReader file_;
   MapLayout layout_;
   // Where their lines begin; 0, where the header is, for none.
+  std::size_t countsAt_ = 0;
+  std::size_t pictureAt_ = 0;
   Table<std::size_t> areaAt_;
   Table<std::size_t> regionAt_;
 };
 
 /// All of a layout, the rows without a line as on an empty map.
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes);
-
-/// The tables of a map without anything.
-Tables EmptyMap();
 
 }  // namespace terramark

@@ -7,11 +7,8 @@
 
 namespace terramark::pictures {
 
-/// Every byte gives one character; the five bytes that the code page does not assign give the
-/// control characters of the same number.
+// Byte by byte as document/codepage.h tells.
 QString FromCp1252(const std::string& text);
-
-/// A character that the code page lacks becomes one "?".
 std::string ToCp1252(const QString& text);
 
 /// The text with letters and their marks composed where they can be; linear in its length.

@@ -51,7 +51,7 @@ void LimitCost() {
   pthread_attr_setstacksize(&threads, ThreadStack);
   pthread_setattr_default_np(&threads);
   pthread_attr_destroy(&threads);
-  // Nothing else is thrown that nobody catches.
+  // But for a mistake in the program nothing else is thrown that nobody catches.
   std::set_terminate([] { Refuse("the memory does not reach"); });
   const rlim_t most = PresentMemory() + MostMemory;
   const rlimit limit{most, most};

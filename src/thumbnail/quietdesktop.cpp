@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <memory>
+
 #include "files/currentfolder.h"
 #include "files/regularfile.h"
 #include "pictures/cp1252.h"
@@ -21,6 +23,7 @@ forms::TextExtent QuietDesktop::MeasureText(const std::string& text) {
 }
 
 forms::LoadedPicture QuietDesktop::LoadPicture(const std::string& path, int width, int height) {
+  if (path.empty()) return std::make_shared<forms::Raster>();
   const auto file = files::RegularFile::Open(NativePath(path));
   if (!file) return tl::unexpected(file.error().Words());
   return pictures::LoadPictureFile(*file, width, height);

@@ -1,4 +1,5 @@
-// A desktop that nobody sits at: what the editor would tell in a box ends the program.
+// A desktop that nobody sits at, for a form that is filled and drawn and has no events. What a box
+// would tell ends the program.
 #pragma once
 
 #include <string>

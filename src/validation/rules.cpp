@@ -17,7 +17,7 @@ struct Fault {
 };
 
 using Finding = std::optional<Fault>;
-using Text = std::optional<std::string>;
+using Message = std::optional<std::string>;
 
 /// Whether the map has this fault as a whole.
 Finding If(bool faulty, const char* text) {
@@ -28,7 +28,7 @@ Finding If(bool faulty, const char* text) {
 template <typename Faulty>
 Finding FirstOf(std::int16_t last, Faulty faulty) {
   for (std::int16_t number = 1; number <= last; ++number) {
-    if (Text text = faulty(number)) return Fault{*std::move(text), number};
+    if (Message text = faulty(number)) return Fault{*std::move(text), number};
   }
   return std::nullopt;
 }
@@ -63,22 +63,22 @@ Finding WholeHands(const Tables& t) {
 }
 
 Finding AreasInRegions(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
     if (t.AreaRegion(i) != 0) return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no Region";
   });
 }
 
-// Looks at the string and not at its count.
+// Looks at the string and not at its count: "00" passes here, and stops a save.
 Finding AreasLinked(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
     if (!t.AreaLinks(i).empty() && t.AreaLinks(i)[0] != ' ') return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no neighbour";
   });
 }
 
 Finding RegionSizes(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
     if (MembersOf(t, r) >= 2) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " has <2 Areas";
   });
@@ -96,21 +96,21 @@ bool HasLink(const Tables& t, std::int16_t r, bool inside) {
 }
 
 Finding RegionsLinkedOutward(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
     if (HasLink(t, r, false)) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " is not linked to another Region";
   });
 }
 
 Finding RegionsLinkedInside(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
     if (HasLink(t, r, true)) return std::nullopt;
     return "None of the Areas in " + RegionAt(r) + " : " + t.RegionName(r) + " are linked";
   });
 }
 
 Finding LinksMutual(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
     for (const std::int16_t j : Neighbours(t.AreaLinks(i))) {
       if (IsNeighbour(t, j, i) != 0) continue;
       return AreaInBrackets(t, i, "") + " is not in the neighbour list of " +
@@ -121,21 +121,21 @@ Finding LinksMutual(const Tables& t) {
 }
 
 Finding LinksNumbered(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
     if (!Neighbours(t.AreaLinks(i)).List(0)) return std::nullopt;
     return AreaInBrackets(t, i, "") + " Please respecify its Neighbours";
   });
 }
 
 Finding AreasNamed(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Text {
+  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
     if (!t.AreaName(i).empty()) return std::nullopt;
     return AreaAt(i) + " has no name";
   });
 }
 
 Finding RegionsNamed(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Text {
+  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
     if (!t.RegionName(r).empty()) return std::nullopt;
     return RegionAt(r) + " has no name";
   });

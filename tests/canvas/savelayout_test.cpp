@@ -1,5 +1,5 @@
-#include "canvas/layoutfolder.h"
 #include "shell/colours.h"
+#include "support/layoutfolder.h"
 
 namespace terramark {
 namespace {

@@ -14,8 +14,8 @@
 #include <cstring>
 #include <set>
 
-#include "canvas/layoutfolder.h"
 #include "shell/colours.h"
+#include "support/layoutfolder.h"
 
 namespace {
 
