@@ -30,7 +30,9 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
   if (!colours) return false;
   ShowPlayerColours(form);
   const LayoutStep map = file.ReadMap();
-  if (!PlaceMarkers(form, file.Layout()) || !map || !ShowMap(form)) return false;
+  PlaceMarkers(form, file.Layout());
+  if (!map || !file.IsInReach(form.Host.TwipsPerPixelX(), form.Host.TwipsPerPixelY())) return false;
+  if (!ShowMap(form)) return false;
   UpdateCounts(form);
   return true;
 }

@@ -1,7 +1,5 @@
 #include "canvas/showlayout.h"
 
-#include <cmath>
-
 #include "shell/colours.h"
 #include "shell/colourtarget.h"
 #include "shell/form1.h"
@@ -28,9 +26,8 @@ struct Scale {
   float Y;
 };
 
-bool Place(forms::Label& marker, const LaidMarker& laid, Scale scale) {
+void Place(forms::Label& marker, const LaidMarker& laid, Scale scale) {
   if (laid.Place) marker.Move(scale.X * laid.Place->Left, scale.Y * laid.Place->Top);
-  return std::isfinite(marker.Left) && std::isfinite(marker.Top);
 }
 
 }  // namespace
@@ -41,11 +38,10 @@ void ShowHead(Form1& form, const MapLayout& layout) {
   MakeMarkers(form);
 }
 
-bool PlaceMarkers(Form1& form, const MapLayout& layout) {
+void PlaceMarkers(Form1& form, const MapLayout& layout) {
   static_cast<Tables&>(form) = layout;
   const Scale scale{layout.TwipsX / form.Host.TwipsPerPixelX(),
                     layout.TwipsY / form.Host.TwipsPerPixelY()};
-  bool within = true;
   for (std::int16_t r = 0; r <= layout.RegionCount; ++r) {
     const LaidMarker& laid = layout.RegionMarkers(r);
     forms::Label& marker = form.Continent(r);
@@ -53,7 +49,7 @@ bool PlaceMarkers(Form1& form, const MapLayout& layout) {
       marker.Caption = layout.RegionName(r);
       PaintMarker(marker, ColourOf(*laid.RGB));
     }
-    within = Place(marker, laid, scale) && within;
+    Place(marker, laid, scale);
   }
   for (std::int16_t i = 0; i <= layout.AreaCount; ++i) {
     const LaidMarker& laid = layout.AreaMarkers(i);
@@ -62,9 +58,8 @@ bool PlaceMarkers(Form1& form, const MapLayout& layout) {
       PaintMarker(marker, ColourOf(*laid.RGB));
       SetCorner(form, i, layout.AreaCorner(i));
     }
-    within = Place(marker, laid, scale) && within;
+    Place(marker, laid, scale);
   }
-  return within;
 }
 
 Shown ShowMap(Form1& form) {

@@ -13,9 +13,8 @@ struct Form1;
 void ShowHead(Form1& form, const MapLayout& layout);
 
 /// Takes over the tables, names and paints the markers that have a line in the layout, and places
-/// them, in the pixels of this screen. False when one would lie out of all reach. ShowHead has made
-/// the markers.
-bool PlaceMarkers(Form1& form, const MapLayout& layout);
+/// them, in the pixels of this screen. ShowHead has made the markers.
+void PlaceMarkers(Form1& form, const MapLayout& layout);
 
 /// Shows the picture and, over it, the Region markers and then the Area markers in rising order.
 /// Where the picture cannot be read, the markers stay hidden.

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 #include "document/codepage.h"
+#include "document/numbers.h"
 #include "files/regularfile.h"
 #include "layoutfile/layoutreader.h"
 #include "validation/rules.h"
@@ -13,8 +15,22 @@ namespace terramark::check {
 
 namespace {
 
-void Say(Report& report, int line, const std::string& text) {
-  report.Remarks.push_back({line, Utf8Of(text)});
+/// Of a screen of 96 dots an inch.
+constexpr float UsualTwips = 15;
+
+/// Without what could steer a terminal or begin a line of its own.
+std::string Printable(std::string text) {
+  std::ranges::replace_if(
+      text, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; }, '?');
+  return text;
+}
+
+void Say(Report& report, int line, std::string text) {
+  // The bytes that the code page leaves open would be control characters too.
+  constexpr std::string_view Open = "\x81\x8D\x8F\x90\x9D";
+  std::ranges::replace_if(
+      text, [&](char byte) { return Open.find(byte) != std::string_view::npos; }, '?');
+  report.Remarks.push_back({line, Utf8Of(Printable(std::move(text)))});
 }
 
 Report Unreadable(Report report, int line, const std::string& why) {
@@ -48,6 +64,26 @@ void CheckLosses(Report& report, const LayoutReader& reader) {
   }
 }
 
+/// A reading out of step: lines that are missing or too many show here, if anywhere.
+void CheckSteps(Report& report, const LayoutReader& reader) {
+  if (reader.LineOfOddHead() != 0) {
+    Say(report, reader.LineOfOddHead(),
+        std::string("warning: this is not the head ") + reader.UsualHead() +
+            "; a line may be missing above, or be too much");
+  }
+  const MapLayout& map = reader.Layout();
+  const std::string noPlace = " is given no place";
+  for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
+    if (map.AreaMarkers(i).Place) continue;
+    Say(report, reader.LineOfArea(i), "warning: Area" + NumberText(i) + noPlace);
+  }
+  for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
+    if (map.RegionMarkers(r).Place) continue;
+    Say(report, reader.LineOfRegion(r), "warning: Region" + NumberText(r) + noPlace);
+  }
+  if (reader.AtEnd()) Say(report, reader.Line(), "warning: the file ends before its last line");
+}
+
 int LineAtFault(const Verdict& verdict, const LayoutReader& reader) {
   switch (verdict.About) {
     case Subject::Picture:
@@ -78,7 +114,10 @@ Report CheckBytes(std::string_view bytes, const std::string& layout) {
                               .and_then([&] { return reader.ReadMap(); });
   CheckLosses(report, reader);
   if (!read) return Unreadable(std::move(report), read.error().Line, read.error().Words());
-  if (reader.AtEnd()) Say(report, reader.Line(), "warning: the file ends before its last line");
+  if (!reader.IsInReach(UsualTwips, UsualTwips)) {
+    return Unreadable(std::move(report), 0, "a marker lies out of all reach");
+  }
+  CheckSteps(report, reader);
   CheckRules(report, reader);
   report.Areas = reader.Layout().AreaCount;
   report.Regions = reader.Layout().RegionCount;
@@ -95,7 +134,8 @@ Report CheckLayout(const std::string& path) {
   return report;
 }
 
-std::string LinesOf(const std::string& name, const Report& report) {
+std::string LinesOf(const std::string& path, const Report& report) {
+  const std::string name = Printable(path);
   if (report.Remarks.empty()) {
     return name + ": good, " + std::to_string(report.Areas) + " Areas, " +
            std::to_string(report.Regions) + " Regions\n";

@@ -31,7 +31,7 @@ struct Report {
 /// path.
 Report CheckLayout(const std::string& path);
 
-/// The lines that tell it, each with the file's name in front.
-std::string LinesOf(const std::string& name, const Report& report);
+/// The lines that tell it, each with the file's name in front, control characters as "?".
+std::string LinesOf(const std::string& path, const Report& report);
 
 }  // namespace terramark::check

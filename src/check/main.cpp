@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
   Grade worst = Grade::Good;
   for (int i = 1; i < argc; ++i) {
     const Report report = CheckLayout(argv[i]);
-    std::fputs(LinesOf(argv[i], report).c_str(), stdout);
+    const std::string lines = LinesOf(argv[i], report);
+    std::fwrite(lines.data(), 1, lines.size(), stdout);
     worst = std::max(worst, report.Worst);
   }
   // A full disk must not look like good maps.

@@ -11,6 +11,7 @@ constexpr Components UnsetRGB{UnsetComponent, UnsetComponent, UnsetComponent};
 }  // namespace
 
 void ClearRows(Tables& tables) {
+  tables.RegionRGB(0) = UnsetRGB;
   for (std::int16_t i = 1; i <= LastNumber; ++i) {
     tables.Areas(i) = {
         .Name = UnknownName, .Links = ClearedLinks, .Symbol{}, .Corner = tables.AreaCorner(i)};

@@ -98,7 +98,8 @@ struct Tables {
   const Components& RegionRGB(std::int16_t r) const { return Regions(r).RGB; }
 };
 
-/// Gives rows 1 to 99 what they hold on an empty map, but for the fill corners, which stay.
+/// Gives rows 1 to 99 what they hold on an empty map, but for the fill corners, which stay; and
+/// Region 0 the colour.
 void ClearRows(Tables& tables);
 
 /// The tables of a map without anything.

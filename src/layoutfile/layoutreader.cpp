@@ -1,12 +1,14 @@
 #include "layoutfile/layoutreader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <tuple>
 #include <utility>
 
 #include "document/cardsymbol.h"
 #include "document/numbers.h"
+#include "layoutfile/heads.h"
 
 namespace terramark {
 
@@ -25,7 +27,7 @@ std::string SymbolCode(std::string_view letter, std::string_view name) {
 }
 
 std::string NumberUpTo(const char* what, std::int16_t last) {
-  return std::string("the number of ") + what + ", at most " + PlainNumber(last);
+  return std::string("the number of ") + what + ", 0 to " + PlainNumber(last);
 }
 
 }  // namespace
@@ -109,15 +111,25 @@ LayoutStep LayoutReader::ReadArea(std::int16_t region, const Components& rgb) {
 }
 
 LayoutStep LayoutReader::PassComputedSections() {
-  return PassBridges()
-      .and_then(
-          [this] { return PassPairs("the head of the routes", "a route", layout_.AreaCount); })
-      .and_then(
-          [this] { return PassPairs("the head of the breaks", "a break", layout_.RegionCount); });
+  return PassHead(BridgesHead)
+      .and_then([this] { return PassBridges(); })
+      .and_then([this] { return PassHead(RoutesHead); })
+      .and_then([this] { return PassPairs("a route", layout_.AreaCount); })
+      .and_then([this] { return PassHead(BreaksHead); })
+      .and_then([this] { return PassPairs("a break", layout_.RegionCount); });
+}
+
+LayoutStep LayoutReader::PassHead(const char* text) {
+  const auto line = file_.Line();
+  if (!line) return Expected(std::string("the head ") + text);
+  if (*line != text && oddHeadAt_ == 0) {
+    oddHeadAt_ = file_.Began();
+    usualHead_ = text;
+  }
+  return {};
 }
 
 LayoutStep LayoutReader::PassBridges() {
-  if (!file_.Line()) return Expected("the head of the bridges");
   for (int k = 0; k < MostBridgeLines; ++k) {
     const auto pair = file_.Fields<std::int16_t, std::string_view>();
     if (!pair || !IsWithin(std::get<0>(*pair), LastNumber)) {
@@ -130,8 +142,7 @@ LayoutStep LayoutReader::PassBridges() {
   return {};
 }
 
-LayoutStep LayoutReader::PassPairs(const char* head, const char* pair, std::int16_t count) {
-  if (!file_.Line()) return Expected(head);
+LayoutStep LayoutReader::PassPairs(const char* pair, std::int16_t count) {
   for (std::int16_t k = 0; k < count; ++k) {
     const auto read = file_.Fields<std::int16_t, std::string_view>();
     if (!read || !IsWithin(std::get<0>(*read), LastNumber)) {
@@ -142,32 +153,36 @@ LayoutStep LayoutReader::PassPairs(const char* head, const char* pair, std::int1
 }
 
 LayoutStep LayoutReader::ReadPlaces() {
-  if (!file_.Line()) return Expected("the head of the places of the Areas");
+  if (const auto head = PassHead(AreaPlacesHead); !head) return head;
   const auto twips = file_.Fields<std::int16_t, std::int16_t>();
   if (!twips) return Expected("the twips of a pixel, across and down");
   std::tie(layout_.TwipsX, layout_.TwipsY) = *twips;
-  for (std::int16_t k = 0; k <= layout_.AreaCount; ++k) {
-    auto read = ReadPlace(layout_.AreaMarkers, layout_.AreaCount, "an Area");
-    if (!read) return read;
-  }
-  if (!file_.Line()) return Expected("the head of the places of the Regions");
-  for (std::int16_t k = 0; k < layout_.RegionCount; ++k) {
-    auto read = ReadPlace(layout_.RegionMarkers, layout_.RegionCount, "a Region");
-    if (!read) return read;
+  // One more than there are Areas: the hidden marker has a place too.
+  const std::int16_t areas = layout_.AreaCount;
+  const auto lines = static_cast<std::int16_t>(areas + 1);
+  const std::int16_t regions = layout_.RegionCount;
+  return ReadPlaces(layout_.AreaMarkers, lines, areas, "an Area")
+      .and_then([this] { return PassHead(RegionPlacesHead); })
+      .and_then([&] { return ReadPlaces(layout_.RegionMarkers, regions, regions, "a Region"); });
+}
+
+LayoutStep LayoutReader::ReadPlaces(Table<LaidMarker>& markers, std::int16_t lines,
+                                    std::int16_t last, const char* what) {
+  for (std::int16_t i = 0; i < lines; ++i) {
+    const auto line = file_.Fields<std::int16_t, float, float>();
+    if (!line) return Expected(std::string("the place of ") + what + ": number, left, top");
+    const auto& [k, left, top] = *line;
+    if (!IsWithin(k, last)) return Expected(NumberUpTo(what, last));
+    markers(k).Place = {left, top};
+    farthest_.Left = std::max(farthest_.Left, std::abs(left));
+    farthest_.Top = std::max(farthest_.Top, std::abs(top));
   }
   return {};
 }
 
-LayoutStep LayoutReader::ReadPlace(Table<LaidMarker>& markers, std::int16_t count,
-                                   const char* expected) {
-  const auto line = file_.Fields<std::int16_t, float, float>();
-  if (!line) {
-    return Expected("the place of " + std::string(expected) + ": number, left, top");
-  }
-  const auto& [k, left, top] = *line;
-  if (!IsWithin(k, count)) return Expected(NumberUpTo(expected, count));
-  markers(k).Place = {left, top};
-  return {};
+bool LayoutReader::IsInReach(float twipsX, float twipsY) const {
+  return std::isfinite(layout_.TwipsX / twipsX * farthest_.Left) &&
+         std::isfinite(layout_.TwipsY / twipsY * farthest_.Top);
 }
 
 std::vector<int> LayoutReader::LinesWithLoss() const {

@@ -38,6 +38,10 @@ class LayoutReader {
   /// What has been read; after a fault what stood before it.
   const MapLayout& Layout() const { return layout_; }
 
+  /// Whether every place that has been read, also one that a later line replaces, is in the range
+  /// of a float on a screen of so many twips a pixel.
+  bool IsInReach(float twipsX, float twipsY) const;
+
   // For those who judge the file.
 
   /// Whether, after ReadHead, a comma has ended the picture's path.
@@ -52,6 +56,10 @@ class LayoutReader {
   int LineOfPicture() const { return LineOf(pictureAt_); }
   int LineOfArea(std::int16_t area) const { return LineOf(areaAt_(area)); }
   int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
+  /// The line of the first head that is not as it is written, and that head; 0 for none. The
+  /// reading may be out of step then.
+  int LineOfOddHead() const { return LineOf(oddHeadAt_); }
+  const char* UsualHead() const { return usualHead_; }
   /// Whether the file ends where the reading stands.
   bool AtEnd() const { return file_.AtEnd(); }
   /// The line at which the reading stands.
@@ -63,9 +71,11 @@ class LayoutReader {
   LayoutStep ReadArea(std::int16_t region, const Components& rgb);
   LayoutStep PassComputedSections();
   LayoutStep PassBridges();
-  LayoutStep PassPairs(const char* head, const char* pair, std::int16_t count);
+  LayoutStep PassPairs(const char* pair, std::int16_t count);
+  LayoutStep PassHead(const char* text);
   LayoutStep ReadPlaces();
-  LayoutStep ReadPlace(Table<LaidMarker>& markers, std::int16_t count, const char* expected);
+  LayoutStep ReadPlaces(Table<LaidMarker>& markers, std::int16_t lines, std::int16_t last,
+                        const char* what);
 
   /// That this stands where the last read began is expected.
   tl::unexpected<LayoutFault> Expected(std::string what) const;
@@ -78,6 +88,9 @@ class LayoutReader {
   std::size_t pictureAt_ = 0;
   Table<std::size_t> areaAt_;
   Table<std::size_t> regionAt_;
+  std::size_t oddHeadAt_ = 0;
+  const char* usualHead_ = nullptr;
+  MarkerPlace farthest_;  // the largest distances of all places
 };
 
 /// All of a layout, the rows without a line as on an empty map.

@@ -5,6 +5,7 @@
 
 #include "document/cardsymbol.h"
 #include "document/links.h"
+#include "layoutfile/heads.h"
 #include "layoutfile/layouttext.h"
 #include "layoutfile/regionlinks.h"
 #include "layoutfile/routes.h"
@@ -52,7 +53,7 @@ void WriteRegionGroups(const MapLayout& map, LayoutText& file) {
 
 /// 0, or the Area without neighbours that has stopped it.
 std::int16_t WriteBridges(const MapLayout& map, LayoutText& file) {
-  file.Raw("BRIDGES BETWEEN REGIONS");
+  file.Raw(BridgesHead);
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
     if (LinkCount(map.AreaLinks(i)) == 0) return i;
     const std::string bridge = BridgeText(map, i);
@@ -63,13 +64,13 @@ std::int16_t WriteBridges(const MapLayout& map, LayoutText& file) {
 }
 
 void WriteRoutes(const MapLayout& map, LayoutText& file) {
-  file.Raw("BLITZ");
+  file.Raw(RoutesHead);
   const RouteFinder routes(map);
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) file.Fields(i, routes.BlitzRoute(i));
 }
 
 void WriteBreaks(const MapLayout& map, LayoutText& file) {
-  file.Raw("BREAKS");
+  file.Raw(BreaksHead);
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     const std::string breaks = BreakText(map, r);
     if (!breaks.empty()) file.Fields(r, breaks);
@@ -81,12 +82,12 @@ void WritePlaces(const MapLayout& map, LayoutText& file) {
     const MarkerPlace at = marker.Place.value_or(MarkerPlace{});
     file.Fields(number, at.Left, at.Top);
   };
-  file.Raw("X,Y Coordinates for Areas");
+  file.Raw(AreaPlacesHead);
   file.Fields(map.TwipsX, map.TwipsY);
   for (std::int16_t i = 0; i <= map.AreaCount; ++i) place(i, map.AreaMarkers(i));
-  file.Raw("X,Y Coordinates for Regions");
+  file.Raw(RegionPlacesHead);
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) place(r, map.RegionMarkers(r));
-  file.Raw("END OF MAP DEFINITION");
+  file.Raw(LastLine);
 }
 
 }  // namespace

@@ -18,7 +18,6 @@ void ClearMap(Form1& form) {
   form.MarkCount = 0;
   form.ArmyAt(0).Visible = false;
   form.Continent(0).Visible = false;
-  form.RegionRGB(0).fill(UnsetComponent);
   SetOwnColour(form.Continent(0), ClrWhite, TagForm::WithoutBlank);
   form.RGBFrame.Enabled = false;
   UpdateCounts(form);

@@ -92,7 +92,7 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
   Form_Load(form);
   ClearMap(form);
   ShowHead(form, layout);
-  if (!PlaceMarkers(form, layout)) Refuse("a marker lies out of all reach");
+  PlaceMarkers(form, layout);
   if (const Shown shown = ShowMap(form); !shown) {
     Refuse("cannot read picture " + pictures::InSystemEncoding(form.PictureFile) + ": " +
            shown.error());

@@ -36,17 +36,28 @@ FILES = [
       ":7: Area# 1(Stra\u00dfe) is not in the neighbour list of Area# 3 (Cedar)"]),
     ("region", tiny(line(10, b"South", b"")), 1, [":10: Region# 2 has no name"]),
     ("count", b"".join(b"%s\r\n" % line for line in [
-        b"", b"", b"0,0", b"tiny.bmp", b"0," * 11 + b"0", b"", b"0,", b"", b"", b"", b"15,15",
-        b"0,0,0", b"", b"end"]), 1, [":3: Number of Areas must be more than 1"]),
+        b"", b"", b"0,0", b"tiny.bmp", b"0," * 11 + b"0", b"BRIDGES BETWEEN REGIONS", b"0,",
+        b"BLITZ", b"BREAKS", b"X,Y Coordinates for Areas", b"15,15", b"0,0,0",
+        b"X,Y Coordinates for Regions", b"end"]), 1, [":3: Number of Areas must be more than 1"]),
+    # A line too few: the rest is read out of step, and to the end.
+    ("place", tiny({}, 40).replace(b"5,360,150\r\n", b""), 0, [
+        ":12: warning: Area 5 is given no place",
+        ":36: warning: this is not the head X,Y Coordinates for Regions; a line may be missing "
+        "above, or be too much"]),
+    ("reach", tiny({29: b"32767,15", 31: b"1,3" + b"0" * 38 + b",1"}), 2,
+     [": cannot be read: a marker lies out of all reach"]),
+    # What a terminal would obey, or take for a line of its own.
+    ("controls", tiny(line(7, b'Ash","0102', b'\x1b[2J\0\x9d\nx: good","0103')), 1,
+     [":7: Area# 1(?[2J???x: good) is not in the neighbour list of Area# 3 (Cedar)"]),
     ("none", tiny({4: b'""'}), 1, [":4: No Map file (.WMF/.BMP)"]),
     ("stop", tiny({4: b"tiny.bmp, b"}), 2,
-     [":4" + COMMA, ":5: cannot be read: expected the number of a Region, at most 2"]),
+     [":4" + COMMA, ":5: cannot be read: expected the number of a Region, 0 to 2"]),
     # As a save leaves it that an Area without neighbours has stopped.
     ("broken", tiny({}, 15), 2, [
         ":16: cannot be read: the file ends, expected a bridge or the 0 behind the last (a save "
         "breaks off here at an Area without neighbours)"]),
     ("bridges", tiny({}, 17), 2, [
-        ":18: cannot be read: the file ends, expected the head of the routes"]),
+        ":18: cannot be read: the file ends, expected the head BLITZ"]),
     ("empty", b"", 2, [":1: cannot be read: the file ends, expected a header"]),
     ("lost", None, 2, [": cannot be read: no such file or directory"]),
 ]
@@ -76,6 +87,6 @@ with tempfile.TemporaryDirectory() as folder:
     assert check("maps") == (2, "maps: cannot be read: it is a folder\n", "")
     assert check()[0] == 2 and check()[2].startswith("usage: ")
     with open("/dev/full", "w") as full:
-        assert subprocess.run([PROGRAM, paths[0]], stdout=full).returncode == 2
+        assert subprocess.run([PROGRAM, *4000 * paths[:1]], stdout=full).returncode == 2
 for sample in SAMPLES.glob("*.tml"):
     assert check(sample) == (0, f"{sample}: good, 42 Areas, 8 Regions\n", ""), sample

@@ -46,16 +46,16 @@ TEST(MapLayout, AFaultTellsItsLineAndWhatWasExpected) {
   const std::pair<std::map<int, std::string>, const char*> faults[]{
       {{{3, "100,6"}}, "3: expected the numbers of Regions and of Areas, each from 0 to 99"},
       {{{5, "0,256,40000"}}, "5: expected the twelve numbers of the player colours"},
-      {{{6, "9,3,1,2,3,\"\",3"}}, "6: expected the number of a Region, at most 2"},
+      {{{6, "9,3,1,2,3,\"\",3"}}, "6: expected the number of a Region, 0 to 2"},
       {{{8, "2,,\"Bir\rch\",0,0"}, {9, "7,\"S\",\"Cedar\",\"020204\",3"}},
-       "10: expected the number of an Area, at most 6"},
+       "10: expected the number of an Area, 0 to 6"},
       {{{8, "2,,,,40000"}}, "8: expected an Area: number, symbol, name, neighbours, corner"},
       {{{26, "100,"}}, "26: expected a break: a number from 0 to 99 and a text"},
       {{{39, "2,1,\"1"}}, "39: the file ends, expected the place of a Region: number, left, top"}};
   EXPECT_EQ(FaultOf(""), "1: the file ends, expected a header");
   EXPECT_EQ(FaultOf(TinyWith({}, 12)),
             "13: the file ends, expected an Area: number, symbol, name, neighbours, corner");
-  EXPECT_EQ(FaultOf(TinyWith({}, 17)), "18: the file ends, expected the head of the routes");
+  EXPECT_EQ(FaultOf(TinyWith({}, 17)), "18: the file ends, expected the head BLITZ");
   for (const auto& [changes, fault] : faults) EXPECT_EQ(FaultOf(TinyWith(changes)), fault);
   for (int lines = 0; lines < 39; ++lines) {
     EXPECT_EQ(FaultOf(TinyWith({}, lines)).find(std::to_string(lines + 1) + ": the file ends"), 0U);
