@@ -33,10 +33,9 @@ void Say(Report& report, int line, std::string text) {
   report.Remarks.push_back({line, Utf8Of(Printable(std::move(text)))});
 }
 
-Report Unreadable(Report report, int line, const std::string& why) {
+void SayUnreadable(Report& report, int line, const std::string& why) {
   report.Worst = Grade::Unreadable;
   Say(report, line, "cannot be read: " + why);
-  return report;
 }
 
 /// Bare names begin in the folder of the layout, which the editor enters. Names of files are UTF-8,
@@ -105,31 +104,38 @@ void CheckRules(Report& report, const LayoutReader& reader) {
   Say(report, LineAtFault(verdict, reader), verdict.Message);
 }
 
-Report CheckBytes(std::string_view bytes, const std::string& layout) {
-  Report report;
-  LayoutReader reader(bytes, EmptyMap());
+void CheckAll(Report& report, LayoutReader& reader, const std::string& path) {
   const LayoutStep read = reader.ReadHead()
-                              .map([&] { CheckPicture(report, reader, layout); })
+                              .map([&] { CheckPicture(report, reader, path); })
                               .and_then([&] { return reader.ReadPlayerColours(); })
                               .and_then([&] { return reader.ReadMap(); });
   CheckLosses(report, reader);
-  if (!read) return Unreadable(std::move(report), read.error().Line, read.error().Words());
-  if (!reader.IsInReach(UsualTwips, UsualTwips)) {
-    return Unreadable(std::move(report), 0, "a marker lies out of all reach");
+  if (!read) {
+    SayUnreadable(report, read.error().Line, read.error().Words());
+  } else if (!reader.IsInReach(UsualTwips, UsualTwips)) {
+    SayUnreadable(report, 0, "a marker lies out of all reach");
+  } else {
+    CheckSteps(report, reader);
+    CheckRules(report, reader);
+    report.Areas = reader.Layout().AreaCount;
+    report.Regions = reader.Layout().RegionCount;
   }
-  CheckSteps(report, reader);
-  CheckRules(report, reader);
-  report.Areas = reader.Layout().AreaCount;
-  report.Regions = reader.Layout().RegionCount;
-  return report;
 }
 
 }  // namespace
 
 Report CheckLayout(const std::string& path) {
   const auto bytes = files::ReadRegularFile(path, MostLayoutBytes);
-  if (!bytes) return Unreadable({}, 0, bytes.error().Words());
-  Report report = CheckBytes(*bytes, path);
+  if (bytes) return CheckBytes(*bytes, path);
+  Report report;
+  SayUnreadable(report, 0, bytes.error().Words());
+  return report;
+}
+
+Report CheckBytes(std::string_view bytes, const std::string& path) {
+  Report report;
+  LayoutReader reader(bytes, EmptyMap());
+  CheckAll(report, reader, path);
   std::ranges::stable_sort(report.Remarks, {}, &Remark::Line);
   return report;
 }

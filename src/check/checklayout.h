@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace terramark::check {
@@ -30,6 +31,8 @@ struct Report {
 /// read on all the same, and then from the line behind the picture's, where a comma has ended the
 /// path.
 Report CheckLayout(const std::string& path);
+/// The same of bytes that stand under this path, or would.
+Report CheckBytes(std::string_view bytes, const std::string& path);
 
 /// The lines that tell it, each with the file's name in front, control characters as "?".
 std::string LinesOf(const std::string& path, const Report& report);

@@ -10,6 +10,7 @@
 
 #include "canvas/readmapfile.h"
 #include "canvas/writemapfile.h"
+#include "check/checklayout.h"
 #include "document/links.h"
 #include "shell/clearmap.h"
 #include "shell/form1.h"
@@ -60,8 +61,24 @@ bool ComesBack(const Tables& map) {
          map.PictureFile[0] != ' ' && map.PictureFile.find_first_of(",\"\r\n") == std::string::npos;
 }
 
+/// What the checker prints is lines that begin with the file's name, and nothing that a terminal
+/// obeys. It reads what the window reads.
+void CheckReport(std::string_view bytes, bool read) {
+  const check::Report report = check::CheckBytes(bytes, "map.tml");
+  const std::string lines = check::LinesOf("map.tml", report);
+  const bool cut = lines.find("a comma ends the path") != std::string::npos;
+  Check(cut || read == (report.Worst != check::Grade::Unreadable), "what the window reads");
+  std::size_t begun = 0;
+  for (std::size_t end; (end = lines.find('\n', begun)) != std::string::npos; begun = end + 1) {
+    Check(lines.compare(begun, 8, "map.tml:") == 0, "a line with the file's name");
+  }
+  Check(begun == lines.size(), "lines that end");
+  for (const char c : lines) Check(c == '\n' || static_cast<unsigned char>(c) >= ' ', "plain text");
+}
+
 void TryOne(Form1& form, const ScriptedDesktop& desktop, std::string_view bytes) {
   const bool read = Read(form, bytes);
+  CheckReport(bytes, read);
   CheckMarkers(form.ArmyAt, form.AreaCount);
   CheckMarkers(form.Continent, form.RegionCount);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
