@@ -31,7 +31,8 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
   ShowPlayerColours(form);
   const LayoutStep map = file.ReadMap();
   PlaceMarkers(form, file.Layout());
-  if (!map || !file.IsInReach(form.Host.TwipsPerPixelX(), form.Host.TwipsPerPixelY())) return false;
+  if (!map || !file.CheckReach(form.Host.TwipsPerPixelX(), form.Host.TwipsPerPixelY()))
+    return false;
   if (!ShowMap(form)) return false;
   UpdateCounts(form);
   return true;

@@ -15,9 +15,6 @@ namespace terramark::check {
 
 namespace {
 
-/// Of a screen of 96 dots an inch.
-constexpr float UsualTwips = 15;
-
 /// Without what could steer a terminal or begin a line of its own.
 std::string Printable(std::string text) {
   std::ranges::replace_if(
@@ -108,12 +105,11 @@ void CheckAll(Report& report, LayoutReader& reader, const std::string& path) {
   const LayoutStep read = reader.ReadHead()
                               .map([&] { CheckPicture(report, reader, path); })
                               .and_then([&] { return reader.ReadPlayerColours(); })
-                              .and_then([&] { return reader.ReadMap(); });
+                              .and_then([&] { return reader.ReadMap(); })
+                              .and_then([&] { return reader.CheckReach(UsualTwips, UsualTwips); });
   CheckLosses(report, reader);
   if (!read) {
     SayUnreadable(report, read.error().Line, read.error().Words());
-  } else if (!reader.IsInReach(UsualTwips, UsualTwips)) {
-    SayUnreadable(report, 0, "a marker lies out of all reach");
   } else {
     CheckSteps(report, reader);
     CheckRules(report, reader);

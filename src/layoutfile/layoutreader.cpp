@@ -174,15 +174,24 @@ LayoutStep LayoutReader::ReadPlaces(Table<LaidMarker>& markers, std::int16_t lin
     const auto& [k, left, top] = *line;
     if (!IsWithin(k, last)) return Expected(NumberUpTo(what, last));
     markers(k).Place = {left, top};
-    farthest_.Left = std::max(farthest_.Left, std::abs(left));
-    farthest_.Top = std::max(farthest_.Top, std::abs(top));
+    farthestLeft_.Take(left, file_.Began());
+    farthestTop_.Take(top, file_.Began());
   }
   return {};
 }
 
-bool LayoutReader::IsInReach(float twipsX, float twipsY) const {
-  return std::isfinite(layout_.TwipsX / twipsX * farthest_.Left) &&
-         std::isfinite(layout_.TwipsY / twipsY * farthest_.Top);
+LayoutStep LayoutReader::CheckReach(float twipsX, float twipsY) const {
+  const bool left = std::isfinite(layout_.TwipsX / twipsX * farthestLeft_.Distance);
+  const bool top = std::isfinite(layout_.TwipsY / twipsY * farthestTop_.Distance);
+  if (left && top) return {};
+  const std::size_t at = left ? farthestTop_.At : farthestLeft_.At;
+  return tl::unexpected(LayoutFault{LineOf(at), "a place that can be reached"});
+}
+
+void LayoutReader::Farthest::Take(float coordinate, std::size_t at) {
+  if (std::abs(coordinate) <= Distance) return;
+  Distance = std::abs(coordinate);
+  At = at;
 }
 
 std::vector<int> LayoutReader::LinesWithLoss() const {
@@ -197,10 +206,10 @@ tl::unexpected<LayoutFault> LayoutReader::Expected(std::string what) const {
 
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes) {
   LayoutReader reader(bytes, EmptyMap());
-  const LayoutStep read =
-      reader.ReadHead().and_then([&] { return reader.ReadPlayerColours(); }).and_then([&] {
-        return reader.ReadMap();
-      });
+  const LayoutStep read = reader.ReadHead()
+                              .and_then([&] { return reader.ReadPlayerColours(); })
+                              .and_then([&] { return reader.ReadMap(); })
+                              .and_then([&] { return reader.CheckReach(UsualTwips, UsualTwips); });
   if (!read) return tl::unexpected(read.error());
   return reader.Layout();
 }

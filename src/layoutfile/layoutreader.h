@@ -38,9 +38,9 @@ class LayoutReader {
   /// What has been read; after a fault what stood before it.
   const MapLayout& Layout() const { return layout_; }
 
-  /// Whether every place that has been read, also one that a later line replaces, is in the range
-  /// of a float on a screen of so many twips a pixel.
-  bool IsInReach(float twipsX, float twipsY) const;
+  /// Fails where a place that has been read, though a later line replace it, leaves the range of a
+  /// float on a screen of so many twips a pixel.
+  LayoutStep CheckReach(float twipsX, float twipsY) const;
 
   // For those who judge the file.
 
@@ -66,6 +66,14 @@ class LayoutReader {
   int Line() const { return file_.LineOf(file_.Place()); }
 
  private:
+  /// The largest distance of all places, and where its line begins.
+  struct Farthest {
+    float Distance = 0;
+    std::size_t At = 0;
+
+    void Take(float coordinate, std::size_t at);
+  };
+
   LayoutStep ReadRegionGroups();
   LayoutStep ReadRegionGroup();
   LayoutStep ReadArea(std::int16_t region, const Components& rgb);
@@ -90,10 +98,14 @@ class LayoutReader {
   Table<std::size_t> regionAt_;
   std::size_t oddHeadAt_ = 0;
   const char* usualHead_ = nullptr;
-  MarkerPlace farthest_;  // the largest distances of all places
+  Farthest farthestLeft_;
+  Farthest farthestTop_;
 };
 
-/// All of a layout, the rows without a line as on an empty map.
+/// Of a screen of 96 dots an inch, across and down.
+inline constexpr float UsualTwips = 15;
+
+/// All of a layout, the rows without a line as on an empty map. It can be shown on a usual screen.
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes);
 
 }  // namespace terramark

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/desktop.h"
+#include "layoutfile/layoutreader.h"
 
 namespace terramark::thumbnail {
 
@@ -31,10 +32,6 @@ class QuietDesktop : public forms::Desktop {
   void EnterFolderOf(const std::string& path) override;
 
   [[noreturn]] void End(int status) override;
-
- private:
-  /// Of a screen of 96 dots an inch.
-  static constexpr float UsualTwips = 15;
 };
 
 }  // namespace terramark::thumbnail

@@ -45,7 +45,7 @@ FILES = [
         ":36: warning: this is not the head X,Y Coordinates for Regions; a line may be missing "
         "above, or be too much"]),
     ("reach", tiny({29: b"32767,15", 31: b"1,3" + b"0" * 38 + b",1"}), 2,
-     [": cannot be read: a marker lies out of all reach"]),
+     [":31: cannot be read: expected a place that can be reached"]),
     # What a terminal would obey, or take for a line of its own.
     ("controls", tiny(line(7, b'Ash","0102', b'\x1b[2J\0\x9d\nx: good","0103')), 1,
      [":7: Area# 1(?[2J???x: good) is not in the neighbour list of Area# 3 (Cedar)"]),
