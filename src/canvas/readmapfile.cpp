@@ -31,9 +31,9 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
   ShowPlayerColours(form);
   const LayoutStep map = file.ReadMap();
   PlaceMarkers(form, file.Layout());
-  if (!map || !file.CheckReach(form.Host.TwipsPerPixelX(), form.Host.TwipsPerPixelY()))
-    return false;
-  if (!ShowMap(form)) return false;
+  forms::Desktop& screen = form.Host;
+  const LayoutStep reach = file.CheckReach(screen.TwipsPerPixelX(), screen.TwipsPerPixelY());
+  if (!map || !reach || !ShowMap(form)) return false;
   UpdateCounts(form);
   return true;
 }

@@ -56,8 +56,8 @@ class LayoutReader {
   int LineOfPicture() const { return LineOf(pictureAt_); }
   int LineOfArea(std::int16_t area) const { return LineOf(areaAt_(area)); }
   int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
-  /// The line of the first head that is not as it is written, and that head; 0 for none. The
-  /// reading may be out of step then.
+  /// The line of the first head that is not as the editor writes it, 0 for none, and how it does.
+  /// The reading may be out of step then.
   int LineOfOddHead() const { return LineOf(oddHeadAt_); }
   const char* UsualHead() const { return usualHead_; }
   /// Whether the file ends where the reading stands.
