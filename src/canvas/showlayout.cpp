@@ -1,7 +1,6 @@
 #include "canvas/showlayout.h"
 
 #include "shell/colours.h"
-#include "shell/colourtarget.h"
 #include "shell/form1.h"
 #include "shell/markers.h"
 

@@ -29,10 +29,14 @@ struct LaidMarker {
   bool operator==(const LaidMarker&) const = default;
 };
 
+/// Twips a pixel, across and down, of a screen of 96 dots an inch.
+inline constexpr float UsualTwips = 15;
+
 struct MapLayout : Tables {
   /// The first line, any text.
   std::string Header;
-  /// Of the screen on which it was saved, across and down; whole numbers when they have been read.
+  /// Twips a pixel of the screen on which it was saved, across and down; whole numbers when they
+  /// have been read.
   float TwipsX = 0;
   float TwipsY = 0;
   /// By number; 0 is the hidden marker that new ones copy.

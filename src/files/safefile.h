@@ -81,7 +81,7 @@ class SafeFile {
   std::optional<Permissions> old_;   // of the target, when there is one
   Descriptor file_;                  // the temporary file while it is open
   std::filesystem::path temporary_;  // its name, once it has one
-  bool whole_ = true;                // no temporary file holds but a part of the text
+  bool whole_ = true;                // false while the temporary file has a part of the text
   bool mayReplace_ = true;           // whether nobody would lose a right by it
   bool damaged_ = false;
   std::filesystem::path kept_;

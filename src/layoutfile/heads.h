@@ -1,4 +1,4 @@
-// The heads of a layout's sections, as they are written. A reader does not look at them.
+// The heads of a layout's sections, as the editor writes them. Reading, it takes any other too.
 #pragma once
 
 namespace terramark {

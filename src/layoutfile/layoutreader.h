@@ -39,7 +39,7 @@ class LayoutReader {
   const MapLayout& Layout() const { return layout_; }
 
   /// Fails where a place that has been read, though a later line replace it, leaves the range of a
-  /// float on a screen of so many twips a pixel.
+  /// float on a screen of so many twips a pixel, above 0.
   LayoutStep CheckReach(float twipsX, float twipsY) const;
 
   // For those who judge the file.
@@ -101,9 +101,6 @@ class LayoutReader {
   Farthest farthestLeft_;
   Farthest farthestTop_;
 };
-
-/// Of a screen of 96 dots an inch, across and down.
-inline constexpr float UsualTwips = 15;
 
 /// All of a layout, the rows without a line as on an empty map. It can be shown on a usual screen.
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes);

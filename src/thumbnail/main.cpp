@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "canvas/showlayout.h"
 #include "files/currentfolder.h"

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "document/maplayout.h"
 #include "forms/desktop.h"
-#include "layoutfile/layoutreader.h"
 
 namespace terramark::thumbnail {
 
