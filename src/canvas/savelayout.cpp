@@ -9,7 +9,7 @@
 #include "shell/filefault.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
-#include "validation/validatemap.h"
+#include "shell/validatemap.h"
 
 namespace terramark {
 

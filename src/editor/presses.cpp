@@ -4,19 +4,19 @@
 #include "canvas/loadpicture.h"
 #include "canvas/refreshmap.h"
 #include "canvas/savelayout.h"
+#include "commands/aboutform.h"
 #include "commands/addmarkers.h"
 #include "commands/clearlinks.h"
 #include "commands/clearwhole.h"
+#include "commands/cvalid.h"
 #include "commands/deletemarkers.h"
 #include "commands/setneighbours.h"
 #include "commands/setregion.h"
 #include "commands/swapareas.h"
 #include "forms/broken.h"
-#include "shell/aboutform.h"
 #include "shell/bars.h"
 #include "shell/controltable.h"
 #include "shell/form1.h"
-#include "validation/cvalid.h"
 
 namespace terramark {
 

@@ -9,10 +9,10 @@
 #include <string>
 #include <utility>
 
-#include "pictures/dib.h"
-#include "pictures/limits.h"
-#include "pictures/metafileplayer.h"
-#include "pictures/metafilereader.h"
+#include "bitmap/dib.h"
+#include "metafile/limits.h"
+#include "metafile/metafileplayer.h"
+#include "metafile/metafilereader.h"
 
 namespace terramark::pictures {
 namespace {
@@ -25,16 +25,19 @@ bool IsBitmap(QByteArrayView fileHeader) {
   return fileHeader.size() == FileHeaderBytes && fileHeader.startsWith("BM");
 }
 
-forms::Picture LoadBitmap(QByteArrayView fileHeader, ByteSource& dib) {
+forms::Picture LoadBitmap(QByteArrayView fileHeader, bitmap::ByteSource& dib) {
+  const std::optional<bitmap::DibHeader> header = bitmap::ReadDibHeader(dib);
+  if (!header) return nullptr;
   const auto offset = qFromLittleEndian<std::uint32_t>(fileHeader.data() + BitsOffsetAt);
   // Some writers leave the offset empty: the rows then follow the colour table.
   std::optional<qint64> bitsAt;
   if (offset != 0) bitsAt = offset - FileHeaderBytes;
-  return DecodeDib(dib, bitsAt);
+  return bitmap::DecodeDib(dib, *header, bitsAt);
 }
 
-forms::Picture LoadMetafile(QByteArrayView bytes, QSize box) {
-  return PlayMetafile(bytes, box.boundedTo(QSize(MaxPictureBoxSide, MaxPictureBoxSide)));
+forms::Picture DrawMetafile(const metafile::Metafile& read, int boxWidth, int boxHeight) {
+  return metafile::PlayMetafile(read, {std::min(boxWidth, metafile::MaxPictureBoxSide),
+                                       std::min(boxHeight, metafile::MaxPictureBoxSide)});
 }
 
 /// The picture, or else what is wrong with the bytes that it was to come from.
@@ -52,8 +55,11 @@ forms::LoadedPicture Unreadable(const files::Fault& fault) {
 forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight) {
   const QByteArrayView all(bytes.data(), std::ssize(bytes));
   const QByteArrayView fileHeader = all.first(std::min(all.size(), FileHeaderBytes));
-  if (!IsBitmap(fileHeader)) return LoadMetafile(all, QSize(boxWidth, boxHeight));
-  MemoryBytes dib(all.sliced(FileHeaderBytes));
+  if (!IsBitmap(fileHeader)) {
+    const auto read = metafile::ReadMetafile(all);
+    return read ? DrawMetafile(*read, boxWidth, boxHeight) : nullptr;
+  }
+  bitmap::MemoryBytes dib(all.sliced(FileHeaderBytes));
   return LoadBitmap(fileHeader, dib);
 }
 
@@ -62,18 +68,18 @@ forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidt
   const auto begun = file.ReadAt(0, fileHeader);
   if (!begun) return Unreadable(begun.error());
   if (*begun == fileHeader.size() && IsBitmap(fileHeader)) {
-    FileBytes dib(file, FileHeaderBytes);
+    bitmap::FileBytes dib(file, FileHeaderBytes);
     forms::Picture picture = LoadBitmap(fileHeader, dib);
     if (!picture && dib.Fault()) return Unreadable(*dib.Fault());
     return PictureOr("the bitmap is damaged, too large or unusual", std::move(picture));
   }
-  if (file.Size() > MaxMetafileBytes)
+  if (file.Size() > metafile::MaxMetafileBytes)
     return tl::unexpected<std::string>("it is too large for a metafile");
-  const auto bytes = file.Read(MaxMetafileBytes);
+  const auto bytes = file.Read(metafile::MaxMetafileBytes);
   if (!bytes) return Unreadable(bytes.error());
-  if (!MetafileReader::Recognises(*bytes))
-    return tl::unexpected<std::string>("it is no bitmap or metafile");
-  return PictureOr("nothing is drawn in it", LoadMetafile(*bytes, QSize(boxWidth, boxHeight)));
+  const auto read = metafile::ReadMetafile(*bytes);
+  if (!read) return tl::unexpected<std::string>("it is no bitmap or metafile");
+  return PictureOr("nothing is drawn in it", DrawMetafile(*read, boxWidth, boxHeight));
 }
 
 }  // namespace terramark::pictures

@@ -11,9 +11,9 @@ namespace terramark::pictures {
 
 /// The picture in the file, told by its content and never by its name. A bitmap has its own size
 /// and takes no notice of the box; its file is read in pieces. A metafile fills the box, in pixels.
-/// Limits stand in limits.h. A fault when the file cannot be read, is cut short meanwhile, is too
-/// large or holds neither kind, or when the box of a metafile is empty; std::bad_alloc when the
-/// memory does not reach.
+/// The limits are in bitmap/limits.h and metafile/limits.h. A fault when the file cannot be read,
+/// is cut short meanwhile, is too large or holds neither kind, or when the box of a metafile is
+/// empty; std::bad_alloc when the memory does not reach.
 forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidth, int boxHeight);
 
 /// The same from memory, and null without a word.

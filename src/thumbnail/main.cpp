@@ -15,9 +15,9 @@
 #include "files/regularfile.h"
 #include "files/safefile.h"
 #include "layoutfile/layoutreader.h"
-#include "pictures/cp1252.h"
-#include "pictures/mapimage.h"
-#include "pictures/windowless.h"
+#include "paint/cp1252.h"
+#include "paint/mapimage.h"
+#include "paint/windowless.h"
 #include "shell/backdrop.h"
 #include "shell/clearmap.h"
 #include "shell/form1.h"
@@ -87,7 +87,7 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
   const MapLayout layout = Read(path);
   // The picture may be named by its bare name, and then lies where the layout does.
   files::EnterFolderOf(path);
-  const pictures::Windowless windowless;
+  const paint::Windowless windowless;
   QuietDesktop desktop;
   Form1 form(desktop);
   Form_Load(form);
@@ -95,10 +95,10 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
   ShowHead(form, layout);
   PlaceMarkers(form, layout);
   if (const Shown shown = ShowMap(form); !shown) {
-    Refuse("cannot read picture " + pictures::InSystemEncoding(form.PictureFile) + ": " +
+    Refuse("cannot read picture " + paint::InSystemEncoding(form.PictureFile) + ": " +
            shown.error());
   }
-  const auto bytes = pictures::MapAsPng(form.Picture1, side);
+  const auto bytes = paint::MapAsPng(form.Picture1, side);
   if (!bytes) Refuse("there is no picture to show");
   Write(png, *bytes, {path, desktop.NativePath(form.PictureFile)});
 }

@@ -6,8 +6,8 @@
 
 #include "files/currentfolder.h"
 #include "files/regularfile.h"
-#include "pictures/cp1252.h"
-#include "pictures/lettering.h"
+#include "paint/cp1252.h"
+#include "paint/lettering.h"
 #include "pictures/pictureloader.h"
 #include "thumbnail/ending.h"
 
@@ -15,11 +15,11 @@ namespace terramark::thumbnail {
 
 forms::Answer QuietDesktop::MsgBox(const std::string& text, forms::Buttons /*buttons*/,
                                    const std::string& /*title*/) {
-  Refuse(pictures::InSystemEncoding(text));
+  Refuse(paint::InSystemEncoding(text));
 }
 
 forms::TextExtent QuietDesktop::MeasureText(const std::string& text) {
-  return pictures::ExtentOf(text, *this);
+  return paint::ExtentOf(text, *this);
 }
 
 forms::LoadedPicture QuietDesktop::LoadPicture(const std::string& path, int width, int height) {
@@ -30,7 +30,7 @@ forms::LoadedPicture QuietDesktop::LoadPicture(const std::string& path, int widt
 }
 
 std::string QuietDesktop::NativePath(const std::string& path) {
-  return pictures::InSystemEncoding(path);
+  return paint::InSystemEncoding(path);
 }
 
 void QuietDesktop::EnterFolderOf(const std::string& path) {

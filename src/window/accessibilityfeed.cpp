@@ -3,29 +3,19 @@
 #include <QAccessible>
 #include <memory>
 
-#include "pictures/cp1252.h"
-#include "window/accessiblenames.h"
+#include "paint/cp1252.h"
+#include "widgets/scrollbarnames.h"
 #include "window/canvasaccessible.h"
 #include "window/canvasview.h"
-#include "window/helpwindow.h"
 #include "window/messageaccessible.h"
 
 namespace terramark::window {
 
 namespace {
 
-/// Of a window that is no dialog, which would pass for a part of one.
-class WindowAccessible final : public QAccessibleWidget {
- public:
-  explicit WindowAccessible(HelpWindow& window) : QAccessibleWidget(&window, QAccessible::Window) {}
-};
-
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
   if (auto* canvas = dynamic_cast<CanvasView*>(object)) {
     return std::make_unique<CanvasAccessible>(*canvas).release();
-  }
-  if (auto* window = dynamic_cast<HelpWindow*>(object)) {
-    return std::make_unique<WindowAccessible>(*window).release();
   }
   auto* label = dynamic_cast<LabelView*>(object);
   if (label == nullptr) return nullptr;
@@ -61,7 +51,7 @@ AccessibilityFeed::AccessibilityFeed() {
 
 void AccessibilityFeed::Added(ControlView& view) {
   ForgetEarlyAccessible(view.Widget());
-  NameScrollBars(view.Widget(), pictures::FromCp1252(view.Shown().AccessibleName));
+  widgets::NameScrollBars(view.Widget(), paint::FromCp1252(view.Shown().AccessibleName));
   if (auto* canvas = dynamic_cast<CanvasView*>(&view)) {
     canvases_.push_back(canvas);
     canvas->installEventFilter(this);

@@ -6,7 +6,7 @@
 #include <QStyleOptionSlider>
 #include <QToolTip>
 
-#include "pictures/frames.h"
+#include "paint/frames.h"
 
 namespace terramark::window {
 
@@ -54,7 +54,7 @@ void BarView::paintEvent(QPaintEvent* event) {
   QScrollBar::paintEvent(event);
   if (!hasFocus()) return;
   QPainter painter(this);
-  pictures::DrawFocusRing(painter, Thumb().adjusted(2, 2, -2, -2));
+  paint::DrawFocusRing(painter, Thumb().adjusted(2, 2, -2, -2));
 }
 
 }  // namespace terramark::window

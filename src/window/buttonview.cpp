@@ -5,10 +5,10 @@
 #include <QPainter>
 
 #include "forms/form.h"
-#include "pictures/frames.h"
-#include "pictures/lettering.h"
-#include "pictures/screencolour.h"
-#include "pictures/showntext.h"
+#include "paint/frames.h"
+#include "paint/lettering.h"
+#include "paint/screencolour.h"
+#include "paint/showntext.h"
 #include "window/keyfeed.h"
 #include "window/look.h"
 
@@ -37,7 +37,7 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
 void ButtonView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption) {
     // A single "&" would make a shortcut.
-    const QString caption = pictures::ShownText(button_.Caption, Qt::ElideMiddle);
+    const QString caption = paint::ShownText(button_.Caption, Qt::ElideMiddle);
     setText(QString(caption).replace('&', "&&"));
     // A file's name, which is no word for what the button does.
     const bool named = button_.Caption.Get() == button_.AccessibleName;
@@ -64,16 +64,16 @@ void ButtonView::keyReleaseEvent(QKeyEvent* event) {
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = pictures::ScreenColour(button_.BackColor);
+  const QColor face = paint::ScreenColour(button_.BackColor);
   painter.fillRect(rect(), face);
   DrawEdge(painter);
   QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
   if (isDown()) inside.translate(1, 1);
   painter.setPen(InkOn(face));
   // Of a file's path both ends are worth seeing.
-  pictures::DrawCaption(painter, inside, pictures::ShownText(button_.Caption, Qt::ElideMiddle),
-                        Qt::ElideMiddle);
-  if (hasFocus()) pictures::DrawFocusRing(painter, inside);
+  paint::DrawCaption(painter, inside, paint::ShownText(button_.Caption, Qt::ElideMiddle),
+                     Qt::ElideMiddle);
+  if (hasFocus()) paint::DrawFocusRing(painter, inside);
 }
 
 void ButtonView::DrawEdge(QPainter& painter) const {
@@ -82,10 +82,10 @@ void ButtonView::DrawEdge(QPainter& painter) const {
   const QColor button = colour(QPalette::Button);
   const QColor dark = colour(QPalette::Dark);
   const QColor shadow = colour(QPalette::Shadow);
-  if (!isEnabled()) return pictures::DrawFrame(painter, rect(), dark);
-  const pictures::Bevel up{light, shadow, button, dark};
-  const pictures::Bevel down{shadow, light, dark, button};
-  pictures::DrawBevel(painter, rect(), isDown() ? down : up);
+  if (!isEnabled()) return paint::DrawFrame(painter, rect(), dark);
+  const paint::Bevel up{light, shadow, button, dark};
+  const paint::Bevel down{shadow, light, dark, button};
+  paint::DrawBevel(painter, rect(), isDown() ? down : up);
 }
 
 }  // namespace terramark::window

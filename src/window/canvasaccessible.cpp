@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "forms/form.h"
-#include "pictures/showntext.h"
+#include "paint/showntext.h"
 #include "shell/markers.h"
 #include "window/accessibleitem.h"
 #include "window/canvasview.h"
@@ -99,8 +99,8 @@ void CanvasAccessible::Gone(const forms::Control& label) {
 }
 
 QString CanvasAccessible::NameOf(const forms::Label& label) const {
-  return pictures::ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
-                                                    : label.Caption.Get());
+  return paint::ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
+                                                 : label.Caption.Get());
 }
 
 QString CanvasAccessible::WhereaboutsOf(const forms::Label& label) const {

@@ -9,8 +9,8 @@
 
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "pictures/boxpaint.h"
-#include "pictures/frames.h"
+#include "paint/boxpaint.h"
+#include "paint/frames.h"
 
 namespace terramark::window {
 
@@ -34,7 +34,7 @@ void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value
 /// A pixel wider than the ring: of what is to be painted anew, Qt may leave out a line at the edge
 /// where the screen's scale is no whole number.
 QRect Widened(const QRect& area) {
-  const int by = pictures::RingWidth + 1;
+  const int by = paint::RingWidth + 1;
   return area.adjusted(-by, -by, by, by);
 }
 
@@ -190,8 +190,8 @@ void CanvasView::paintEvent(QPaintEvent* event) {
   }
   painter.setClipRect(view, Qt::IntersectClip);
   // Where the scale is no whole number, what is painted may reach a line beyond.
-  pictures::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
-  pictures::ForEachLabel(box_, [&](const forms::Label& label) {
+  paint::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
+  paint::ForEachLabel(box_, [&](const forms::Label& label) {
     const QRect area = InBox(BoundsOf(label));
     if (!event->rect().intersects(area)) return;
     painter.setClipRect(area & view);
@@ -205,7 +205,7 @@ void CanvasView::paintEvent(QPaintEvent* event) {
 void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
                              const forms::Label& label) const {
   const forms::Magnification zoom = box_.Zoom;
-  pictures::PaintLabel(painter, area, static_cast<double>(zoom.Screen) / zoom.Picture, label);
+  paint::PaintLabel(painter, area, static_cast<double>(zoom.Screen) / zoom.Picture, label);
 }
 
 void CanvasView::PaintFlight(QPainter& painter) const {
@@ -217,16 +217,16 @@ void CanvasView::PaintFlight(QPainter& painter) const {
     PaintMarker(painter, area, static_cast<const forms::Label&>(source));
   }
   painter.setOpacity(1);
-  pictures::DrawFocusRing(painter, area);
+  paint::DrawFocusRing(painter, area);
 }
 
 /// That the box has the keyboard, and what its keys act on.
 void CanvasView::PaintKeys(QPainter& painter) const {
   if (const forms::Control* const ringed = ShownRinged()) {
     const bool held = box_.Owner()->Pointer.Holds();
-    pictures::PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
+    paint::PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
   }
-  pictures::DrawFocusRing(painter, View());
+  paint::DrawFocusRing(painter, View());
 }
 
 void CanvasView::wheelEvent(QWheelEvent* event) {

@@ -5,9 +5,9 @@
 
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "pictures/cp1252.h"
-#include "pictures/devicepixels.h"
-#include "pictures/lettering.h"
+#include "paint/cp1252.h"
+#include "paint/devicepixels.h"
+#include "paint/lettering.h"
 #include "window/barview.h"
 #include "window/buttonview.h"
 #include "window/canvasview.h"
@@ -32,24 +32,24 @@ bool InArray(const forms::Control& control) {
 }
 
 QString NameOf(const forms::Control& control) {
-  const QString name = pictures::FromCp1252(control.Name());
+  const QString name = paint::FromCp1252(control.Name());
   return InArray(control) ? QString("%1(%2)").arg(name).arg(control.Index()) : name;
 }
 
 QFont FontOf(const forms::Control& control) {
   const bool formsOwn = control.Kind() == forms::ControlKind::CommandButton ||
                         control.Kind() == forms::ControlKind::Frame;
-  return (formsOwn ? pictures::FormFont : pictures::TextFont)(control.Owner()->Host);
+  return (formsOwn ? paint::FormFont : paint::TextFont)(control.Owner()->Host);
 }
 
 }  // namespace
 
 ControlView::ControlView(forms::Control& control, QWidget& widget)
     : control_(control), widget_(widget) {
-  const QString hint = pictures::FromCp1252(control.ToolTipText);
+  const QString hint = paint::FromCp1252(control.ToolTipText);
   widget.setObjectName(NameOf(control));
   widget.setToolTip(hint);
-  widget.setAccessibleName(pictures::FromCp1252(control.AccessibleName));
+  widget.setAccessibleName(paint::FromCp1252(control.AccessibleName));
   widget.setAccessibleDescription(hint);
   widget.setFont(FontOf(control));
   widget.setGeometry(BoundsOf(control));
@@ -88,7 +88,7 @@ QPoint PixelAt(const QWidget& widget, const QPointF& place) {
   const double told = window.windowHandle()->devicePixelRatio();
   const double painted = window.devicePixelRatioF();
   const auto shown = [&](double at) {
-    return pictures::ShownBy(qFloor(told * at + Slack), painted, 0);
+    return paint::ShownBy(qFloor(told * at + Slack), painted, 0);
   };
   return widget.mapFrom(&window, QPoint(shown(inside.x()), shown(inside.y())));
 }

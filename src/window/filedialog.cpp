@@ -21,10 +21,10 @@
 #include <QTreeView>
 #include <algorithm>
 
-#include "pictures/cp1252.h"
+#include "paint/cp1252.h"
 #include "shell/filenames.h"
-#include "window/accessiblenames.h"
-#include "window/screenroom.h"
+#include "widgets/screenroom.h"
+#include "widgets/scrollbarnames.h"
 
 namespace terramark::window {
 
@@ -42,7 +42,7 @@ constexpr FileKind Kinds[] = {{LayoutFiles, "Map Layouts"}, {PictureFiles, "Pict
 
 QString Worded(const std::string& filter) {
   // Patterns stand between semicolons here and between blanks there.
-  QString patterns = pictures::FromCp1252(filter).replace(';', ' ');
+  QString patterns = paint::FromCp1252(filter).replace(';', ' ');
   for (const FileKind& kind : Kinds) {
     if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
   }
@@ -72,7 +72,8 @@ void WidenFor(const QTreeView& list, QFileDialog& chooser) {
   const int lack = list.header()->length() - list.viewport()->width();
   if (!chooser.isVisible() || lack <= 0) return;
   const QRect screen = chooser.screen()->availableGeometry();
-  chooser.resize(std::min(chooser.width() + lack, RoomFor(chooser).width()), chooser.height());
+  chooser.resize(std::min(chooser.width() + lack, widgets::RoomFor(chooser).width()),
+                 chooser.height());
   const int beyond = chooser.frameGeometry().right() - screen.right();
   if (beyond > 0) chooser.move(std::max(screen.left(), chooser.x() - beyond), chooser.y());
 }
@@ -97,7 +98,7 @@ void NameParts(const QFileDialog& chooser) {
     box->view()->setAccessibleName(box->accessibleName());
   }
   for (const auto* area : chooser.findChildren<QAbstractScrollArea*>()) {
-    NameScrollBars(*area, area->accessibleName());
+    widgets::NameScrollBars(*area, area->accessibleName());
   }
 }
 
@@ -167,7 +168,7 @@ void AddSamples(QFileDialog& chooser) {
 QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWidget* parent) {
   ForgetSettings();
   KindByName kinds;
-  QFileDialog chooser(parent, pictures::FromCp1252(asked.Purpose.Title), folder);
+  QFileDialog chooser(parent, paint::FromCp1252(asked.Purpose.Title), folder);
   chooser.setIconProvider(&kinds);
   chooser.setAcceptMode(asked.Purpose.Saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
@@ -179,7 +180,7 @@ QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWid
   NameParts(chooser);
   KeepPlaceInSideBar(chooser);
   NamesLists lists(chooser);
-  chooser.resize(UsualSize.boundedTo(RoomFor(chooser)));
+  chooser.resize(UsualSize.boundedTo(widgets::RoomFor(chooser)));
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
 }

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "forms/geometry.h"
-#include "pictures/cp1252.h"
-#include "pictures/screencolour.h"
+#include "paint/cp1252.h"
+#include "paint/screencolour.h"
 #include "window/canvasview.h"
 #include "window/controlview.h"
 #include "window/look.h"
@@ -103,7 +103,7 @@ void FormView::DressWindow() {
 void FormView::FormChanged(forms::PropertyId id) {
   switch (id) {
     case forms::PropertyId::Caption:
-      window()->setWindowTitle(pictures::FromCp1252(form_.Caption));
+      window()->setWindowTitle(paint::FromCp1252(form_.Caption));
       break;
     case forms::PropertyId::Left:
     case forms::PropertyId::Top: {
@@ -113,7 +113,7 @@ void FormView::FormChanged(forms::PropertyId id) {
     }
     case forms::PropertyId::BackColor: {
       QPalette colours = palette();
-      colours.setColor(QPalette::Window, pictures::ScreenColour(form_.BackColor));
+      colours.setColor(QPalette::Window, paint::ScreenColour(form_.BackColor));
       setPalette(colours);
       setAutoFillBackground(true);
       break;

@@ -2,10 +2,10 @@
 
 #include <QPainter>
 
-#include "pictures/frames.h"
-#include "pictures/lettering.h"
-#include "pictures/screencolour.h"
-#include "pictures/showntext.h"
+#include "paint/frames.h"
+#include "paint/lettering.h"
+#include "paint/screencolour.h"
+#include "paint/showntext.h"
 
 namespace terramark::window {
 
@@ -21,26 +21,26 @@ FrameView::FrameView(forms::Frame& frame, QWidget& container)
 
 void FrameView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption)
-    setTitle(pictures::ShownText(frame_.Caption).replace('&', "&&"));
+    setTitle(paint::ShownText(frame_.Caption).replace('&', "&&"));
   update();
 }
 
 void FrameView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = pictures::ScreenColour(frame_.BackColor);
+  const QColor face = paint::ScreenColour(frame_.BackColor);
   const QFontMetrics metrics = painter.fontMetrics();
   painter.fillRect(rect(), face);
   const QColor dark = palette().color(QPalette::Dark);
   const QColor light = palette().color(QPalette::Light);
-  pictures::DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0),
-                      {dark, light, light, dark});
-  const QString caption = pictures::ShownText(frame_.Caption);
+  paint::DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0),
+                   {dark, light, light, dark});
+  const QString caption = paint::ShownText(frame_.Caption);
   if (caption.isEmpty()) return;
   const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;
   const QRect place(CaptionLeft, 0, qMin(width, this->width() - 2 * CaptionLeft), metrics.height());
   painter.fillRect(place, face);
   painter.setPen(palette().color(QPalette::WindowText));
-  pictures::DrawCaption(painter, place, caption, Qt::ElideRight);
+  paint::DrawCaption(painter, place, caption, Qt::ElideRight);
 }
 
 }  // namespace terramark::window

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "pictures/labelpaint.h"
-#include "pictures/showntext.h"
+#include "paint/labelpaint.h"
+#include "paint/showntext.h"
 #include "window/accessiblenames.h"
 
 namespace terramark::window {
@@ -17,7 +17,7 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
   if (id == forms::PropertyId::Caption) {
-    setText(pictures::ShownText(label_.Caption, Qt::ElideMiddle));
+    setText(paint::ShownText(label_.Caption, Qt::ElideMiddle));
     const bool tells =
         label_.Announcement == forms::Announcement::AsName && !label_.AccessibleName.empty();
     if (tells) setAccessibleName(AccessibleText(label_));
@@ -27,7 +27,7 @@ void LabelView::ShowOwn(forms::PropertyId id) {
 
 void LabelView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  pictures::DrawLabel(painter, rect(), label_);
+  paint::DrawLabel(painter, rect(), label_);
 }
 
 }  // namespace terramark::window

@@ -10,8 +10,8 @@
 #include <cmath>
 #include <memory>
 
-#include "pictures/lettering.h"
-#include "pictures/screencolour.h"
+#include "paint/lettering.h"
+#include "paint/screencolour.h"
 #include "shell/icon.h"
 
 namespace terramark::window {
@@ -58,7 +58,7 @@ class Style : public QProxyStyle {
 };
 
 QPalette LightPalette() {
-  const QColor face = pictures::ScreenColour(forms::SysButtonFace);
+  const QColor face = paint::ScreenColour(forms::SysButtonFace);
   QPalette palette(Qt::black, face, Qt::white, Shadow, Greyed, Qt::black, Qt::white, Qt::white,
                    face);
   palette.setColor(QPalette::Shadow, Qt::black);
@@ -81,7 +81,7 @@ void SetUpLook(QApplication& application) {
   QApplication::setStyle(style.release());
   QApplication::setPalette(LightPalette());
   QFont font;
-  font.setFamilies(pictures::TextFamilies());
+  font.setFamilies(paint::TextFamilies());
   font.setPointSizeF(DialogPoints);
   QApplication::setFont(font);
   application.setWindowIcon(WindowIcon());

@@ -3,9 +3,9 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "pictures/cp1252.h"
-#include "pictures/frames.h"
-#include "pictures/screencolour.h"
+#include "paint/cp1252.h"
+#include "paint/frames.h"
+#include "paint/screencolour.h"
 
 namespace terramark::window {
 
@@ -24,10 +24,10 @@ MemoView::MemoView(forms::TextBox& box, QWidget& container)
 }
 
 void MemoView::ShowOwn(forms::PropertyId id) {
-  if (id == forms::PropertyId::Text) setPlainText(pictures::FromCp1252(box_.Text));
+  if (id == forms::PropertyId::Text) setPlainText(paint::FromCp1252(box_.Text));
   QPalette colours = palette();
-  colours.setColor(QPalette::Base, pictures::ScreenColour(box_.BackColor));
-  colours.setColor(QPalette::Text, pictures::ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Base, paint::ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Text, paint::ScreenColour(box_.ForeColor));
   setPalette(colours);
 }
 
@@ -35,7 +35,7 @@ bool MemoView::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
   if (event->type() == QEvent::Paint) {
     QPainter painter(this);
-    pictures::DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
+    paint::DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
   }
   return done;
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "pictures/showntext.h"
+#include "paint/showntext.h"
 #include "window/accessibleitem.h"
 #include "window/accessiblenames.h"
 
@@ -69,7 +69,7 @@ QAccessible::Role MessageAccessible::Showing() const {
 }
 
 QString MessageAccessible::Caption() const {
-  return pictures::ShownText(view_.Label().Caption, Qt::ElideMiddle);
+  return paint::ShownText(view_.Label().Caption, Qt::ElideMiddle);
 }
 
 QAccessibleInterface* MessageAccessible::child(int index) const {

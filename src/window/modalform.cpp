@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QWindow>
 
-#include "pictures/frames.h"
+#include "paint/frames.h"
 
 namespace terramark::window {
 
@@ -38,7 +38,7 @@ void ModalForm::paintEvent(QPaintEvent* event) {
   QDialog::paintEvent(event);
   QPainter painter(this);
   const QPalette& colours = palette();
-  pictures::DrawBevel(
+  paint::DrawBevel(
       painter, rect(),
       {colours.color(QPalette::Dark), Qt::black, Qt::white, colours.color(QPalette::Dark)});
 }

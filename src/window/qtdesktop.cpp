@@ -13,9 +13,10 @@
 #include <cstdlib>
 
 #include "files/currentfolder.h"
-#include "pictures/cp1252.h"
-#include "pictures/lettering.h"
-#include "pictures/showntext.h"
+#include "helpview/showhelp.h"
+#include "paint/cp1252.h"
+#include "paint/lettering.h"
+#include "paint/showntext.h"
 #include "window/filedialog.h"
 #include "window/modalform.h"
 
@@ -32,14 +33,14 @@ constexpr unsigned FractionBits = 24;
 
 bool Fits(const QString& name) {
   // A line end in a name would end the line of the layout that holds it.
-  return pictures::FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
+  return paint::FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
 }
 
 /// Puts a chosen path into the dialog's properties.
 void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
   const QString title = QFileInfo(path).fileName();
-  dialog.FileName = pictures::ToCp1252(path);
-  dialog.FileTitle = pictures::ToCp1252(title);
+  dialog.FileName = paint::ToCp1252(path);
+  dialog.FileTitle = paint::ToCp1252(title);
   dialog.FileNameFits = Fits(path);
   dialog.FileTitleFits = Fits(title);
 }
@@ -47,7 +48,7 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
 /// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
 /// characters are blanks.
 QString WrappableText(const std::string& text) {
-  QString shown = pictures::ShownText(text, Qt::ElideMiddle);
+  QString shown = paint::ShownText(text, Qt::ElideMiddle);
   for (QChar& character : shown) {
     if (character < ' ') character = ' ';
   }
@@ -63,7 +64,7 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
   const bool question = buttons == forms::Buttons::YesNo;
   QMessageBox box(window_);
   box.setTextFormat(Qt::PlainText);
-  box.setWindowTitle(pictures::FromCp1252(title));
+  box.setWindowTitle(paint::FromCp1252(title));
   box.setText(WrappableText(text));
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
@@ -86,8 +87,7 @@ void QtDesktop::ShowModal(forms::Form& form) {
 }
 
 void QtDesktop::ShowHelp(std::int32_t topic) {
-  if (!help_) help_ = std::make_unique<HelpWindow>(window_);
-  help_->Open(topic);
+  helpview::ShowHelp(help_, topic, window_);
 }
 
 forms::DateTime QtDesktop::Now() {
@@ -119,7 +119,7 @@ float QtDesktop::TwipsPerPixelY() {
 }
 
 forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
-  return pictures::ExtentOf(text, *this);
+  return paint::ExtentOf(text, *this);
 }
 
 forms::LoadedPicture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
@@ -128,8 +128,8 @@ forms::LoadedPicture QtDesktop::LoadPicture(const std::string& path, int width, 
 }
 
 std::string QtDesktop::NativePath(const std::string& path) {
-  if (path == pictures::ToCp1252(chosen_)) return QFile::encodeName(chosen_).toStdString();
-  return pictures::InSystemEncoding(path);
+  if (path == paint::ToCp1252(chosen_)) return QFile::encodeName(chosen_).toStdString();
+  return paint::InSystemEncoding(path);
 }
 
 void QtDesktop::EnterFolderOf(const std::string& path) {

@@ -10,7 +10,6 @@
 
 #include "forms/desktop.h"
 #include "pictures/lastpicture.h"
-#include "window/helpwindow.h"
 
 namespace terramark::window {
 
@@ -42,7 +41,8 @@ class QtDesktop : public forms::Desktop {
 
  private:
   QPointer<QWidget> window_;
-  std::unique_ptr<HelpWindow> help_;
+  /// The help viewer, once it has been asked for.
+  std::unique_ptr<QWidget> help_;
   /// The file chosen last in the file dialog; empty before the first.
   QString chosen_;
   pictures::LastPicture picture_;

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "pictures/cp1252.h"
-#include "pictures/frames.h"
-#include "pictures/screencolour.h"
+#include "paint/cp1252.h"
+#include "paint/frames.h"
+#include "paint/screencolour.h"
 
 namespace terramark::window {
 
@@ -27,7 +27,7 @@ std::string Cleaned(QString insert) {
   for (QChar& character : insert) {
     if (character < ' ') character = ' ';
   }
-  return pictures::ToCp1252(pictures::ComposedForm(insert));
+  return paint::ToCp1252(paint::ComposedForm(insert));
 }
 
 /// An edit, from a place of the text on.
@@ -98,7 +98,7 @@ void TextView::Take(const QString& before, const QString& edited) {
   if (isRedoAvailable()) {
     // Taken back: the control has had this text, so it need not be held to the limit.
     const auto shown = static_cast<std::size_t>(before.size());
-    box_.Text = pictures::ToCp1252(edited) + box_.Text.Get().substr(shown);
+    box_.Text = paint::ToCp1252(edited) + box_.Text.Get().substr(shown);
     return;
   }
   const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
@@ -170,7 +170,7 @@ void TextView::ShowOwn(forms::PropertyId id) {
 }
 
 QString TextView::ShownPart() const {
-  return pictures::FromCp1252(box_.Text.Get().substr(0, MostShown));
+  return paint::FromCp1252(box_.Text.Get().substr(0, MostShown));
 }
 
 void TextView::ShowText() {
@@ -192,17 +192,17 @@ void TextView::Limit(qsizetype size) {
 
 void TextView::ShowColours() {
   QPalette colours = palette();
-  colours.setColor(QPalette::Base, pictures::ScreenColour(box_.BackColor));
+  colours.setColor(QPalette::Base, paint::ScreenColour(box_.BackColor));
   colours.setColor(QPalette::Disabled, QPalette::Base, colours.color(QPalette::Button));
-  colours.setColor(QPalette::Active, QPalette::Text, pictures::ScreenColour(box_.ForeColor));
-  colours.setColor(QPalette::Inactive, QPalette::Text, pictures::ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Active, QPalette::Text, paint::ScreenColour(box_.ForeColor));
+  colours.setColor(QPalette::Inactive, QPalette::Text, paint::ScreenColour(box_.ForeColor));
   setPalette(colours);
 }
 
 void TextView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
-  pictures::DrawFrame(painter, rect(), Qt::black);
+  paint::DrawFrame(painter, rect(), Qt::black);
 }
 
 }  // namespace terramark::window

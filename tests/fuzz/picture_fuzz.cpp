@@ -6,25 +6,24 @@
 #include <string>
 #include <vector>
 
-#include "pictures/metafilereader.h"
+#include "metafile/metafilereader.h"
 #include "pictures/pictureloader.h"
 
-namespace terramark::pictures {
+namespace terramark {
 namespace {
 
 void Load(std::string_view bytes) {
-  LoadPictureBytes(bytes, 120, 80);
+  pictures::LoadPictureBytes(bytes, 120, 80);
 }
 
 /// Where each record begins, and where the last one ends.
-std::vector<std::size_t> RecordsOf(QByteArrayView bytes) {
+std::vector<std::size_t> RecordsOf(const metafile::Metafile& read, const char* bytes) {
   std::vector<std::size_t> places;
-  MetafileReader reader(bytes);
-  while (const auto record = reader.Next()) {
+  for (const metafile::MetafileRecord& record : read.Records) {
     constexpr std::ptrdiff_t HeadBytes = 6;
-    const std::ptrdiff_t at = record->Parameters.data() - HeadBytes - bytes.data();
+    const std::ptrdiff_t at = record.Parameters.data() - HeadBytes - bytes;
     if (places.empty()) places.push_back(static_cast<std::size_t>(at));
-    places.push_back(static_cast<std::size_t>(at + HeadBytes + record->Parameters.size()));
+    places.push_back(static_cast<std::size_t>(at + HeadBytes + record.Parameters.size()));
   }
   return places;
 }
@@ -32,8 +31,9 @@ std::vector<std::size_t> RecordsOf(QByteArrayView bytes) {
 /// One file in sixteen, to leave time for the others; its bytes say which record.
 void LoadWithARecordRepeated(std::string_view bytes) {
   const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  if (!MetafileReader::Recognises(view)) return;
-  const std::vector<std::size_t> places = RecordsOf(view);
+  const auto read = metafile::ReadMetafile(view);
+  if (!read) return;
+  const std::vector<std::size_t> places = RecordsOf(*read, bytes.data());
   if (places.size() < 2) return;
   std::size_t sum = 0;
   for (const char byte : bytes) sum = sum * 31 + static_cast<unsigned char>(byte);
@@ -47,7 +47,7 @@ void LoadWithARecordRepeated(std::string_view bytes) {
 }
 
 }  // namespace
-}  // namespace terramark::pictures
+}  // namespace terramark
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static int argc = 1;
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static const QGuiApplication application(argc, argv);
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  terramark::pictures::Load(bytes);
-  terramark::pictures::LoadWithARecordRepeated(bytes);
+  terramark::Load(bytes);
+  terramark::LoadWithARecordRepeated(bytes);
   return 0;
 }

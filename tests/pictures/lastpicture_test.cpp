@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include "pictures/picturebytes.h"
+#include "support/picturebytes.h"
 
 namespace terramark::pictures {
 namespace {

@@ -5,10 +5,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "bitmap/dib.h"
 #include "files/regularfile.h"
-#include "pictures/dib.h"
-#include "pictures/limits.h"
-#include "pictures/picturebytes.h"
+#include "metafile/limits.h"
+#include "support/picturebytes.h"
 
 namespace terramark::pictures {
 namespace {
@@ -183,7 +183,7 @@ TEST_F(PictureFile, IsToldByContentAndNotByName) {
   EXPECT_EQ(told("missing.bmp"), "no such file or directory");
   EXPECT_EQ(told("."), "it is a folder");
   for (const char* name : {"map.wmf", "map.bmp"}) {
-    ASSERT_TRUE(QFile::resize(Folder.filePath(name), qint64{MaxMetafileBytes} + 1));
+    ASSERT_TRUE(QFile::resize(Folder.filePath(name), qint64{metafile::MaxMetafileBytes} + 1));
   }
   EXPECT_EQ(told("map.wmf"), "4") << "a bitmap";
   EXPECT_EQ(told("map.bmp"), "it is too large for a metafile");
@@ -213,14 +213,15 @@ TEST_F(PictureFile, IsReadInBandsThatMeet) {
 }
 
 TEST_F(PictureFile, CannotBeReadWhenItIsCutShortMeanwhile) {
-  for (const DibBytes& bitmap : Bitmaps) {
-    const QByteArray bytes = bitmap.File();
+  for (const DibBytes& dibBytes : Bitmaps) {
+    const QByteArray bytes = dibBytes.File();
     Write("map.bmp", bytes);
     const auto file = files::RegularFile::Open(Path("map.bmp"));
-    FileBytes dib(*file, 14);
-    EXPECT_NE(DecodeDib(dib, std::nullopt), nullptr);
+    bitmap::FileBytes dib(*file, 14);
+    const auto header = bitmap::ReadDibHeader(dib);
+    EXPECT_NE(bitmap::DecodeDib(dib, *header, std::nullopt), nullptr);
     ASSERT_TRUE(QFile::resize(Folder.filePath("map.bmp"), bytes.size() - 1));
-    EXPECT_EQ(DecodeDib(dib, std::nullopt), nullptr) << bitmap.Bits;
+    EXPECT_EQ(bitmap::DecodeDib(dib, *header, std::nullopt), nullptr) << dibBytes.Bits;
   }
 }
 

@@ -1,7 +1,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "shell/aboutform.h"
+#include "commands/aboutform.h"
 #include "shell/bars.h"
 #include "shell/filefault.h"
 #include "shell/filenames.h"

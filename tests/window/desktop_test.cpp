@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -19,8 +20,8 @@
 #include <new>
 
 #include "canvas/refreshmap.h"
-#include "pictures/cp1252.h"
-#include "shell/aboutform.h"
+#include "commands/aboutform.h"
+#include "paint/cp1252.h"
 #include "shell/form1.h"
 #include "support/editortest.h"
 #include "window/filedialog.h"
@@ -192,12 +193,12 @@ TEST_F(DesktopTest, PicturesComeRowByRowFromTheNamedFile) {
   image.setPixel(2, 1, 0xFF123456);
   const QString path = folder.filePath(QStringLiteral("\u00FC.bmp"));
   ASSERT_TRUE(image.save(path));
-  const forms::Picture picture = Desktop.LoadPicture(pictures::ToCp1252(path), 60, 40).value();
+  const forms::Picture picture = Desktop.LoadPicture(paint::ToCp1252(path), 60, 40).value();
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Pixels, (std::vector<std::uint32_t>{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF,
                                                          0xFFFFFFFF, 0xFFFFFFFF, 0xFF123456}));
   EXPECT_EQ((*Desktop.LoadPicture("", 60, 40))->Width, 0);
-  EXPECT_FALSE(Desktop.LoadPicture(pictures::ToCp1252(folder.path()), 60, 40));
+  EXPECT_FALSE(Desktop.LoadPicture(paint::ToCp1252(folder.path()), 60, 40));
 }
 
 TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {

@@ -9,22 +9,22 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "helpview/helppage.h"
+#include "helpview/helptopics.h"
 #include "shell/form1controls.h"
-#include "window/helppage.h"
-#include "window/helptopics.h"
 #include "window/qtdesktop.h"
 
 namespace terramark::window {
 namespace {
 
 TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
-  const auto topics = ReadHelpTopics();
+  const auto topics = helpview::ReadHelpTopics();
   for (const ControlRow<Form1>& row : Form1Controls()) {
     if (row.HelpTopic == 0) continue;
-    EXPECT_EQ(topics[PlaceOfTopic(topics, row.HelpTopic)].Number, row.HelpTopic);
+    EXPECT_EQ(topics[helpview::PlaceOfTopic(topics, row.HelpTopic)].Number, row.HelpTopic);
   }
   int pictures = 0;
-  for (const HelpTopic& topic : topics) {
+  for (const helpview::HelpTopic& topic : topics) {
     EXPECT_NE(topic.Title, "") << topic.Number;
     auto targets = QRegularExpression("\\]\\(([^)]*)\\)").globalMatch(topic.Text);
     while (targets.hasNext()) {
@@ -38,11 +38,13 @@ TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
 
 TEST(HelpSearch, TopicsWithAllWordsAreFound) {
   const QStringList texts{"Red sea", "the sea, hundred", "Reddish REDs, sea"};
-  EXPECT_EQ(FindWords(texts, " SEA\tred "),
-            (std::vector<HelpPlace>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
-  EXPECT_EQ(FindWords({"++a"}, "+ +a"), (std::vector<HelpPlace>{{0, 0, 1}, {0, 1, 1}}));
-  EXPECT_EQ(FindWords(texts, "the  SEA"), (std::vector<HelpPlace>{{1, 0, 7}}));
-  EXPECT_TRUE(FindWords(texts, " ").empty());
+  EXPECT_EQ(
+      helpview::FindWords(texts, " SEA\tred "),
+      (std::vector<helpview::HelpPlace>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
+  EXPECT_EQ(helpview::FindWords({"++a"}, "+ +a"),
+            (std::vector<helpview::HelpPlace>{{0, 0, 1}, {0, 1, 1}}));
+  EXPECT_EQ(helpview::FindWords(texts, "the  SEA"), (std::vector<helpview::HelpPlace>{{1, 0, 7}}));
+  EXPECT_TRUE(helpview::FindWords(texts, " ").empty());
 }
 
 struct HelpTest : testing::Test {
@@ -57,7 +59,7 @@ struct HelpTest : testing::Test {
     Window = *std::ranges::find_if(all, is);
     ASSERT_TRUE(QTest::qWaitForWindowActive(Window));
   }
-  HelpPage& Page() { return *Window->findChild<HelpPage*>(); }
+  helpview::HelpPage& Page() { return *Window->findChild<helpview::HelpPage*>(); }
   QListWidget& Contents() { return *Window->findChild<QListWidget*>(); }
   std::string Said() { return Window->findChild<QLabel*>()->text().toStdString(); }
   /// The page's heading, when the contents mark it.

@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 #include <vector>
 
-#include "pictures/mapimage.h"
+#include "paint/mapimage.h"
 #include "window/windowsupport.h"
 
 namespace terramark::window {
@@ -59,14 +59,14 @@ TEST_F(MarkerTest, TheMapAsAPictureHasThePixelsOfTheCanvas) {
   Form.ArmyAt.Load(2);  // and one that is not shown
   Form.ArmyAt(2).Move(200, 100);
   const auto map = [&](int side) {
-    return QImage::fromData(QByteArray::fromStdString(*pictures::MapAsPng(Form.Picture1, side)),
+    return QImage::fromData(QByteArray::fromStdString(*paint::MapAsPng(Form.Picture1, side)),
                             "PNG");
   };
   EXPECT_EQ(map(1024), Of(Form.Picture1).grab().toImage().convertToFormat(map(1024).format()));
   EXPECT_EQ(map(256).size(), QSize(256, 144));
   EXPECT_EQ(map(256).pixelColor(60, 28), Blue);
   Form.Picture1.Picture = BlankPicture(0, 0);
-  EXPECT_FALSE(pictures::MapAsPng(Form.Picture1, 64));
+  EXPECT_FALSE(paint::MapAsPng(Form.Picture1, 64));
 }
 
 /// Counts what a widget is asked to paint.

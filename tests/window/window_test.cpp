@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "pictures/lettering.h"
+#include "paint/lettering.h"
 #include "window/qtdesktop.h"
 #include "window/windowsupport.h"
 
@@ -64,7 +64,7 @@ TEST_F(WindowTest, NoCaptionIsCutOff) {
 
 TEST(Window, ATextDrawnInJustItsOwnWidthIsWhole) {
   ScriptedDesktop desktop;
-  const QFont font = pictures::TextFont(desktop);
+  const QFont font = paint::TextFont(desktop);
   for (const char* text : {"Scandinavia", "Latin West", "The Isles"}) {
     const int width = QFontMetrics(font).horizontalAdvance(text);
     QImage images[2];
@@ -73,7 +73,7 @@ TEST(Window, ATextDrawnInJustItsOwnWidthIsWhole) {
       images[spare].fill(Qt::white);
       QPainter painter(&images[spare]);
       painter.setFont(font);
-      pictures::DrawCaption(painter, {-spare, 0, width + 2 * spare, 16}, text, Qt::ElideRight);
+      paint::DrawCaption(painter, {-spare, 0, width + 2 * spare, 16}, text, Qt::ElideRight);
     }
     EXPECT_EQ(images[0], images[1]) << text;
   }

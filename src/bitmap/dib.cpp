@@ -1,0 +1,96 @@
+#include "bitmap/dib.h"
+
+#include <QtEndian>
+#include <algorithm>
+
+#include "bitmap/dibrows.h"
+#include "bitmap/limits.h"
+#include "bitmap/runlength.h"
+
+namespace terramark::bitmap {
+namespace {
+
+constexpr std::uint32_t Black = 0xFF000000;
+
+DibColours AllBlack() {
+  DibColours colours;
+  colours.fill(Black);
+  return colours;
+}
+
+// Some files keep fewer colours than they claim: their rows then start inside the table, at
+// `bits`, and the rest of the colours is black.
+std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, qint64 bits) {
+  const qint64 wanted = header.UsedColours() * header.EntryBytes();
+  const auto table = dib.At(header.TableAt, std::min(wanted, bits - header.TableAt));
+  if (!table) return std::nullopt;
+  QByteArray bytes = table->toByteArray();
+  bytes.append(wanted - bytes.size(), '\0');
+  DibColours colours = AllBlack();
+  for (int i = 0; i < header.UsedColours(); ++i) {
+    const auto* entry = reinterpret_cast<const uchar*>(bytes.constData() + i * header.EntryBytes());
+    colours[static_cast<std::size_t>(i)] = Black | entry[2] << 16U | entry[1] << 8U | entry[0];
+  }
+  return colours;
+}
+
+DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
+                     std::span<const std::uint32_t> palette) {
+  DibColours colours = AllBlack();
+  for (int i = 0; i < header.UsedColours(); ++i) {
+    const std::size_t entry = qFromLittleEndian<std::uint16_t>(numbers.data() + qsizetype{2} * i);
+    if (entry < palette.size()) {
+      colours[static_cast<std::size_t>(i)] = Black | palette[entry];
+    }
+  }
+  return colours;
+}
+
+// The coded bytes or rows start at `bits`, which is not beyond the end.
+forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibColours& colours,
+                            qint64 bits) {
+  const qint64 present = dib.Size() - bits;
+  const bool enough = header.RunLength ? header.Pixels() / MaxPixelsPerCodedByte <= present
+                                       : header.RowBytes() * header.Height / 2 <= present;
+  if (!enough) return nullptr;
+  auto raster = std::make_shared<forms::Raster>();
+  raster->Width = header.Width;
+  raster->Height = header.Height;
+  if (header.RunLength) {
+    raster->Pixels.assign(static_cast<std::size_t>(header.Pixels()), colours[0]);
+    return DecodeRunLengths(dib, header, colours, bits, *raster) ? raster : nullptr;
+  }
+  // Row by row, so that no pass over the memory is lost on clearing it.
+  raster->Pixels.reserve(static_cast<std::size_t>(header.Pixels()));
+  std::vector<std::uint32_t> pixels(static_cast<std::size_t>(header.Width));
+  DibRows rows(dib, header, bits);
+  for (int y = 0; y < header.Height; ++y) {
+    const char* row = rows.Next();
+    if (row == nullptr) return nullptr;
+    TurnRow(header, colours, row, pixels.data());
+    raster->Pixels.insert(raster->Pixels.end(), pixels.begin(), pixels.end());
+  }
+  return raster;
+}
+
+}  // namespace
+
+forms::Picture DecodeDib(ByteSource& dib, const DibHeader& header, std::optional<qint64> bitsAt) {
+  const qint64 bits = bitsAt.value_or(header.TableEnd(header.EntryBytes()));
+  if (bits < header.TableAt || bits > dib.Size()) return nullptr;
+  const std::optional<DibColours> colours = ReadColours(dib, header, bits);
+  return colours ? DecodePixels(dib, header, *colours, bits) : nullptr;
+}
+
+forms::Picture DecodeDibByPalette(ByteSource& dib, const DibHeader& header,
+                                  std::span<const std::uint32_t> palette) {
+  if (header.Core || header.BitCount > 8) return DecodeDib(dib, header, std::nullopt);
+  const qint64 bits = header.TableEnd(sizeof(std::uint16_t));
+  if (bits > dib.Size()) return nullptr;
+  const auto numbers = dib.At(header.TableAt, bits - header.TableAt);
+  if (!numbers) return nullptr;
+  const DibColours colours = ColoursOf(*numbers, header, palette);
+  return DecodePixels(dib, header, colours, bits);
+}
+
+}  // namespace terramark::bitmap

@@ -1,0 +1,28 @@
+// Decodes a device-independent bitmap, the body of a bitmap file and of a metafile's blit records.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "bitmap/bytesource.h"
+#include "bitmap/dibheader.h"
+#include "forms/raster.h"
+
+namespace terramark::bitmap {
+
+/// The bitmap whose header was read from the first byte of `dib`: of 1, 2, 4, 8, 16, 24 or 32 bits
+/// a pixel, or run-length coded of 4 or 8. `bitsAt` is where its rows start; without it they follow
+/// the colour table. Up to half of the bytes of rows that are not coded may be missing and read as
+/// 0. Pixels that run-length codes skip have the first colour, numbers beyond the table are black,
+/// and an alpha channel has no meaning. Null for a bitmap that is broken, or when a read fails;
+/// std::bad_alloc when the memory does not reach. Beside the picture only some hundred kilobytes
+/// are held.
+forms::Picture DecodeDib(ByteSource& dib, const DibHeader& header, std::optional<qint64> bitsAt);
+
+/// The same where the colour table holds two-byte numbers of `palette`'s entries, which are pixels
+/// of a raster; numbers beyond them are black. A bitmap without such a table is decoded as it is.
+forms::Picture DecodeDibByPalette(ByteSource& dib, const DibHeader& header,
+                                  std::span<const std::uint32_t> palette);
+
+}  // namespace terramark::bitmap

@@ -1,0 +1,43 @@
+#include "commands/cvalid.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "document/corner.h"
+#include "shell/bars.h"
+#include "shell/colours.h"
+#include "shell/form1.h"
+#include "shell/validatemap.h"
+
+namespace terramark {
+
+namespace {
+
+/// Nearest pixel, a tie to the even one; what no picture reaches stays out of reach.
+int PixelAt(float place) {
+  constexpr float OutOfReach = 1 << 24;
+  return static_cast<int>(std::lrint(std::clamp(place, -OutOfReach, OutOfReach)));
+}
+
+forms::PixelPoint FillPoint(Form1& form, std::int16_t area) {
+  const forms::Label& marker = form.ArmyAt(area);
+  const std::int16_t corner = form.AreaCorner(area);
+  return {PixelAt(marker.Left + (AtRight(corner) ? marker.Width : 0.0F)),
+          PixelAt(marker.Top + (AtBottom(corner) ? marker.Height : 0.0F))};
+}
+
+}  // namespace
+
+void Cvalid_MouseUp(Form1& form) {
+  if (!ValidateMap(form)) return;
+  std::vector<forms::PixelPoint> points;
+  for (std::int16_t i = 1; i <= form.AreaCount; ++i) points.push_back(FillPoint(form, i));
+  form.Picture1.FillColor = ClrRed;
+  if (!form.Picture1.FillToBorder(points, ClrBlack)) {
+    ShowMessage(form, "There is not enough memory to flood the map", ClrRed);
+  }
+  form.Picture1.Refresh();
+}
+
+}  // namespace terramark

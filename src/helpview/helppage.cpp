@@ -1,0 +1,131 @@
+#include "helpview/helppage.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "helpview/pagestyle.h"
+#include "widgets/scrollbarnames.h"
+
+namespace terramark::helpview {
+
+namespace {
+
+constexpr double FirstPoints = 10.5;
+constexpr double ZoomStep = 1.15;
+constexpr int LeastZoom = -4;
+constexpr int MostZoom = 10;
+constexpr double Margin = 18;
+/// Pixels of the page that should be seen above and below what was found.
+constexpr int Sight = 40;
+
+const QColor FoundGround(0xFF, 0xE0, 0x70);
+const QColor LinkInk(0x00, 0x00, 0xC0);
+
+}  // namespace
+
+HelpPage::HelpPage() {
+  setObjectName("HelpPage");
+  setAccessibleName("Help page");
+  widgets::NameScrollBars(*this, "Help page");
+  // The caret is what a keyboard marks by, and what a screen reader reads by.
+  setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Link, LinkInk);
+  setPalette(colours);
+  Zoom(0);
+  connect(this, &QTextBrowser::sourceChanged, this, [this] { Dress(); });
+}
+
+void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  const QUrl target = source().resolved(name);
+  if (target.scheme() != "qrc" || !target.path().endsWith(".md")) return;
+  if (!QFile::exists(':' + target.path())) return;
+  // It would be dressed once more.
+  if (target == source()) return;
+  QTextBrowser::doSetSource(target, type);
+}
+
+void HelpPage::Dress() {
+  document()->setDocumentMargin(Margin);
+  StylePage(*document());
+  Fit();
+  setTextCursor(QTextCursor(document()));
+  // A reader need not follow the caret to have the page read.
+  setAccessibleDescription(toPlainText());
+}
+
+void HelpPage::Fit() {
+  const double width = viewport()->width() - 2 * document()->documentMargin();
+  FitPictures(*document(), std::max(1, static_cast<int>(width)), devicePixelRatioF());
+}
+
+void HelpPage::Mark(const std::vector<HelpPlace>& places) {
+  QList<ExtraSelection> marks;
+  for (const HelpPlace& place : places) {
+    ExtraSelection mark;
+    mark.cursor = QTextCursor(document());
+    mark.cursor.setPosition(place.At);
+    mark.cursor.setPosition(place.At + place.Size, QTextCursor::KeepAnchor);
+    mark.format.setBackground(FoundGround);
+    marks += mark;
+  }
+  setExtraSelections(marks);
+}
+
+void HelpPage::GoTo(const HelpPlace& place) {
+  QTextCursor cursor(document());
+  cursor.setPosition(place.At);
+  cursor.setPosition(place.At + place.Size, QTextCursor::KeepAnchor);
+  const bool inSight =
+      viewport()->rect().adjusted(0, Sight, 0, -Sight).contains(cursorRect(cursor));
+  setTextCursor(cursor);
+  if (inSight) return;
+  const int tooLow = cursorRect().top() - viewport()->height() / 3;
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + tooLow);
+}
+
+void HelpPage::Zoom(int zoom) {
+  zoom_ = std::clamp(zoom, LeastZoom, MostZoom);
+  const QTextCursor top = cursorForPosition({});
+  const int before = cursorRect(top).top();
+  QFont letters = font();
+  letters.setPointSizeF(FirstPoints * std::pow(ZoomStep, zoom_));
+  setFont(letters);
+  // What was read goes on being read.
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
+}
+
+void HelpPage::resizeEvent(QResizeEvent* event) {
+  QTextBrowser::resizeEvent(event);
+  if (event->oldSize().width() != event->size().width()) Fit();
+}
+
+void HelpPage::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QTextBrowser::wheelEvent(event);
+  turned_ += event->angleDelta().y();
+  Zoom(zoom_ + turned_ / QWheelEvent::DefaultDeltasPerStep);
+  turned_ %= QWheelEvent::DefaultDeltasPerStep;
+  event->accept();
+}
+
+bool HelpPage::focusNextPrevChild(bool next) {
+  // Backwards from a page of which no link is marked is out of it, and not to its last link.
+  if (!next && !textCursor().hasSelection()) return QWidget::focusNextPrevChild(next);
+  return QTextBrowser::focusNextPrevChild(next);
+}
+
+void HelpPage::keyPressEvent(QKeyEvent* event) {
+  // A link that has the keyboard is a selection with a dotted line around it, and so would be what
+  // grows from it.
+  const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
+  if (moves && event->modifiers().testFlag(Qt::ShiftModifier)) setTextCursor(textCursor());
+  QTextBrowser::keyPressEvent(event);
+}
+
+}  // namespace terramark::helpview

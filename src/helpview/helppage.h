@@ -1,0 +1,41 @@
+// The page of the help viewer: one topic, with links, marked words and letters of any size.
+#pragma once
+
+#include <QTextBrowser>
+#include <vector>
+
+#include "helpview/helpsearch.h"
+
+namespace terramark::helpview {
+
+class HelpPage final : public QTextBrowser {
+ public:
+  HelpPage();
+
+  /// Marks places of the shown topic's text, and no others.
+  void Mark(const std::vector<HelpPlace>& places);
+  /// Selects a place and brings it into view.
+  void GoTo(const HelpPlace& place);
+
+  void Enlarge() { Zoom(zoom_ + 1); }
+  void Shrink() { Zoom(zoom_ - 1); }
+  void ActualSize() { Zoom(0); }
+
+ protected:
+  /// A link to nowhere does nothing.
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  void Dress();
+  void Fit();
+  void Zoom(int zoom);
+
+  int zoom_ = 0;
+  int turned_ = 0;  // of the wheel, short of a step
+};
+
+}  // namespace terramark::helpview

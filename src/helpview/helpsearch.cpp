@@ -1,0 +1,60 @@
+#include "helpview/helpsearch.h"
+
+#include <algorithm>
+
+namespace terramark::helpview {
+
+namespace {
+
+bool BeginsWord(const QString& text, qsizetype at) {
+  return at == 0 || !text[at - 1].isLetterOrNumber() || !text[at].isLetterOrNumber();
+}
+
+/// Empty unless all words are there.
+std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QStringList& words) {
+  std::vector<HelpPlace> places;
+  for (const QString& word : words) {
+    const std::size_t before = places.size();
+    for (auto at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(word, at + 1, Qt::CaseInsensitive)) {
+      if (!BeginsWord(text, at)) continue;
+      places.push_back({topic, static_cast<int>(at), static_cast<int>(word.size())});
+    }
+    if (places.size() == before) return {};
+  }
+  std::ranges::sort(places);
+  return places;
+}
+
+std::vector<HelpPlace> FindAll(const QStringList& texts, const QStringList& words) {
+  std::vector<HelpPlace> found;
+  for (std::size_t topic = 0; topic < static_cast<std::size_t>(texts.size()); ++topic) {
+    int end = 0;
+    for (const HelpPlace& place : PlacesIn(texts[static_cast<qsizetype>(topic)], topic, words)) {
+      if (place.At < end) continue;
+      found.push_back(place);
+      end = place.At + place.Size;
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
+  const QString whole = query.simplified();
+  if (whole.isEmpty()) return {};
+  std::vector<HelpPlace> found = FindAll(texts, {whole});
+  if (!found.empty()) return found;
+  QStringList words = whole.split(' ');
+  // A pasted page has many a word many times.
+  words.removeDuplicates();
+  return FindAll(texts, words);
+}
+
+std::size_t NextPlace(const std::vector<HelpPlace>& places, std::size_t topic, int at) {
+  const auto next = std::ranges::lower_bound(places, HelpPlace{topic, at, 0});
+  return next == places.end() ? 0 : static_cast<std::size_t>(next - places.begin());
+}
+
+}  // namespace terramark::helpview

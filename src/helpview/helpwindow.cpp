@@ -1,0 +1,220 @@
+#include "helpview/helpwindow.h"
+
+#include <QBoxLayout>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <QToolButton>
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <set>
+
+#include "helpview/pagestyle.h"
+#include "widgets/screenroom.h"
+#include "widgets/scrollbarnames.h"
+
+namespace terramark::helpview {
+
+namespace {
+
+constexpr QSize FirstSize(840, 600);
+/// Less would cut off what is told of a search.
+constexpr QSize LeastSize(640, 320);
+constexpr int ContentsWidth = 180;
+constexpr int SearchWidth = 200;
+constexpr int Gap = 6;
+
+/// As the page has it, so that places in the one are places in the other.
+QString PlainText(const HelpTopic& topic) {
+  QTextDocument page;
+  page.setMarkdown(topic.Text);
+  StylePage(page);
+  return page.toPlainText();
+}
+
+QString Counted(std::size_t count, const char* what) {
+  return QStringLiteral("%1 %2%3").arg(count).arg(what, count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(const QWidget* editor) {
+  setWindowTitle("Terramark Help");
+  setObjectName("Help");
+  for (const HelpTopic& topic : topics_) contents_.addItem(topic.Title);
+  contents_.setAccessibleName("Contents");
+  widgets::NameScrollBars(contents_, "Contents");
+  search_.setAccessibleName("Search in all topics");
+  search_.setPlaceholderText("Search in all topics");
+  search_.setClearButtonEnabled(true);
+  for (QToolButton* clear : search_.findChildren<QToolButton*>()) {
+    clear->setAccessibleName("Clear the search");
+  }
+  back_.setToolTip("Alt+Left");
+  forward_.setToolTip("Alt+Right");
+  LayOut();
+  JoinParts();
+  SetKeys();
+  const QSize room = widgets::RoomFor(*this);
+  setMinimumSize(LeastSize.boundedTo(room));
+  resize(FirstSize.boundedTo(room));
+  if (editor != nullptr) StandBeside(*editor);
+}
+
+void HelpWindow::LayOut() {
+  auto bar = std::make_unique<QHBoxLayout>();
+  bar->addWidget(&back_);
+  bar->addWidget(&forward_);
+  bar->addSpacing(Gap);
+  search_.setFixedWidth(SearchWidth);
+  bar->addWidget(&search_);
+  bar->addSpacing(Gap);
+  // Whatever it tells, the others stay where they are.
+  QSizePolicy staying(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  staying.setRetainSizeWhenHidden(true);
+  told_.setSizePolicy(staying);
+  told_.hide();
+  bar->addWidget(&told_, 1);
+  auto halves = std::make_unique<QHBoxLayout>();
+  contents_.setFixedWidth(ContentsWidth);
+  contents_.setSpacing(2);
+  halves->addWidget(&contents_);
+  halves->addWidget(&page_, 1);
+  // Each belongs to the layout that it is in, and the outermost to the window.
+  auto* const whole = std::make_unique<QVBoxLayout>(this).release();
+  whole->setContentsMargins(Gap, Gap, Gap, Gap);
+  whole->setSpacing(Gap);
+  whole->addLayout(bar.release());
+  whole->addLayout(halves.release());
+  QWidget* last = &back_;
+  for (QWidget* next : std::initializer_list<QWidget*>{&forward_, &search_, &contents_, &page_}) {
+    setTabOrder(last, next);
+    last = next;
+  }
+}
+
+void HelpWindow::JoinParts() {
+  connect(&back_, &QPushButton::clicked, &page_, &HelpPage::backward);
+  connect(&forward_, &QPushButton::clicked, &page_, &HelpPage::forward);
+  connect(&page_, &HelpPage::backwardAvailable, &back_, &QWidget::setEnabled);
+  connect(&page_, &HelpPage::forwardAvailable, &forward_, &QWidget::setEnabled);
+  back_.setEnabled(false);
+  forward_.setEnabled(false);
+  connect(&page_, &HelpPage::sourceChanged, this, &HelpWindow::PageChanged);
+  connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) {
+    Show(static_cast<std::size_t>(row));
+    if (const HelpPlace* const first = FirstFoundIn(row)) page_.GoTo(*first);
+  });
+  connect(&search_, &QLineEdit::textChanged, this, [this] { Search(); });
+  connect(&search_, &QLineEdit::returnPressed, this, [this] { GoOn(true); });
+}
+
+void HelpWindow::SetKeys() {
+  const auto on = [this](const char* keys, auto act) {
+    // The window owns it.
+    auto shortcut = std::make_unique<QShortcut>(QKeySequence(keys), this);
+    connect(shortcut.release(), &QShortcut::activated, this, act);
+  };
+  on("Escape", [this] { close(); });
+  on("Alt+Left", [this] { page_.backward(); });
+  on("Alt+Right", [this] { page_.forward(); });
+  on("F3", [this] { GoOn(true); });
+  on("Shift+F3", [this] { GoOn(false); });
+  on("Ctrl+F", [this] {
+    search_.setFocus(Qt::ShortcutFocusReason);
+    search_.selectAll();
+  });
+  on("Ctrl++", [this] { page_.Enlarge(); });
+  on("Ctrl+=", [this] { page_.Enlarge(); });
+  on("Ctrl+-", [this] { page_.Shrink(); });
+  on("Ctrl+0", [this] { page_.ActualSize(); });
+}
+
+/// Covers as little of the editor as may be: on the right of it, or else at the screen's right
+/// edge.
+void HelpWindow::StandBeside(const QWidget& editor) {
+  const QRect room = editor.screen()->availableGeometry();
+  const QRect taken = editor.frameGeometry();
+  const int last = std::max(room.left(), room.right() + 1 - width() - widgets::FrameRoom);
+  const bool onTheLeft =
+      taken.right() + widgets::FrameRoom > last && taken.left() - room.left() >= width();
+  const int left =
+      onTheLeft ? taken.left() - width() - widgets::FrameRoom : taken.right() + widgets::FrameRoom;
+  const int lowest = std::max(room.top(), room.bottom() + 1 - height() - widgets::TitleRoom);
+  move(std::clamp(left, room.left(), last), std::clamp(taken.top(), room.top(), lowest));
+}
+
+void HelpWindow::Open(std::int32_t topic) {
+  search_.clear();
+  Show(PlaceOfTopic(topics_, topic));
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  page_.setFocus();
+  show();
+  raise();
+  activateWindow();
+}
+
+void HelpWindow::Show(std::size_t topic) {
+  if (topic < topics_.size()) page_.setSource(topics_[topic].Source);
+}
+
+void HelpWindow::PageChanged(const QUrl& source) {
+  const auto topic = std::ranges::find(topics_, source, &HelpTopic::Source);
+  const QSignalBlocker still(contents_);
+  contents_.setCurrentRow(static_cast<int>(topic - topics_.begin()));
+  ShowFound();
+}
+
+void HelpWindow::Search() {
+  if (texts_.isEmpty()) std::ranges::transform(topics_, std::back_inserter(texts_), PlainText);
+  found_ = FindWords(texts_, search_.text());
+  for (int row = 0; row < contents_.count(); ++row) {
+    contents_.item(row)->setHidden(Asked() && FirstFoundIn(row) == nullptr);
+  }
+  ShowFound();
+}
+
+const HelpPlace* HelpWindow::FirstFoundIn(int row) const {
+  const auto first = std::ranges::find(found_, static_cast<std::size_t>(row), &HelpPlace::Topic);
+  return first == found_.end() ? nullptr : &*first;
+}
+
+void HelpWindow::GoOn(bool forward) {
+  if (found_.empty()) return;
+  const QTextCursor now = page_.textCursor();
+  std::size_t next = NextPlace(found_, static_cast<std::size_t>(contents_.currentRow()),
+                               forward ? now.selectionEnd() : now.selectionStart());
+  if (!forward) next = (next + found_.size() - 1) % found_.size();
+  const HelpPlace& place = found_[next];
+  Show(place.Topic);
+  page_.GoTo(place);
+  Tell(QStringLiteral("Place %1 of %2: %3")
+           .arg(next + 1)
+           .arg(found_.size())
+           .arg(topics_[place.Topic].Title));
+}
+
+void HelpWindow::ShowFound() {
+  std::vector<HelpPlace> here;
+  std::set<std::size_t> topics;
+  for (const HelpPlace& place : found_) {
+    topics.insert(place.Topic);
+    if (static_cast<int>(place.Topic) == contents_.currentRow()) here.push_back(place);
+  }
+  page_.Mark(here);
+  if (!Asked()) return Tell("");
+  if (found_.empty()) return Tell("Not found");
+  Tell(Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic"));
+}
+
+/// Also as what is said of the search box, since a screen reader tells that of where the keyboard
+/// is.
+void HelpWindow::Tell(const QString& news) {
+  told_.setText(news);
+  told_.setVisible(!news.isEmpty());
+  search_.setAccessibleDescription(news);
+}
+
+}  // namespace terramark::helpview

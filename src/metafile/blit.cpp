@@ -1,0 +1,193 @@
+#include "metafile/blit.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace terramark::metafile {
+namespace {
+
+constexpr QRgb OpaqueBlack = 0xFF000000;
+constexpr std::int64_t WorkPerBlit = 200;
+constexpr std::int64_t WorkPerBlitPixel = 8;
+
+// One axis of a blit, in pixels.
+struct Axis {
+  int From = 0;
+  int Length = 0;
+  int Source = 0;  // the bitmap's first pixel, as the next
+  int SourceLength = 0;
+  bool Mirrored = false;
+};
+
+struct Axes {
+  Axis Across;
+  Axis Down;
+
+  QRect Box() const { return {Across.From, Down.From, Across.Length, Down.Length}; }
+  bool Shrinks() const {
+    return Across.SourceLength > Across.Length || Down.SourceLength > Down.Length;
+  }
+};
+
+Axis MakeAxis(int from, int to, int source, int sourceLength) {
+  return {.From = std::min(from, to),
+          .Length = std::abs(to - from),
+          .Source = std::min(source, source + sourceLength),
+          .SourceLength = std::abs(sourceLength),
+          .Mirrored = (to < from) != (sourceLength < 0)};
+}
+
+Axes AxesOf(const DeviceContext& context, const Blit& blit) {
+  const QPoint start = context.ToDevice(QPointF(blit.To));
+  const QPoint size(blit.Size.width(), blit.Size.height());
+  const QPoint end = blit.SizeUnit == Blit::Unit::Pixels
+                         ? start + size
+                         : context.ToDevice(QPointF(blit.To + size));
+  return {MakeAxis(start.x(), end.x(), blit.From.left(), blit.From.width()),
+          MakeAxis(start.y(), end.y(), blit.From.top(), blit.From.height())};
+}
+
+// What becomes of the bitmap's pixels where several fall on one.
+enum class Shrinking { Nearest, Joined };
+
+// The bitmap's pixels First <= pixel < End that one pixel stands for; none beyond the bitmap.
+struct SourceRange {
+  int First = 0;
+  int End = 0;
+};
+
+// For each pixel from one to another.
+std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmapSide,
+                                  Shrinking shrinking) {
+  const std::int64_t length = axis.Length;
+  const std::int64_t count = axis.SourceLength;
+  std::vector<SourceRange> ranges;
+  for (int at = from; at <= to; ++at) {
+    const std::int64_t index = axis.Mirrored ? axis.From + length - 1 - at : at - axis.From;
+    const bool joined = shrinking == Shrinking::Joined;
+    const std::int64_t first =
+        joined ? index * count / length : (2 * index + 1) * count / (2 * length);
+    const std::int64_t end = joined ? std::max(first + 1, (index + 1) * count / length) : first + 1;
+    ranges.push_back({std::max(0, axis.Source + static_cast<int>(first)),
+                      std::min(axis.Source + static_cast<int>(end), bitmapSide)});
+  }
+  return ranges;
+}
+
+std::int64_t PixelsIn(const std::vector<SourceRange>& ranges) {
+  std::int64_t total = 0;
+  for (const SourceRange& range : ranges) total += std::max(1, range.End - range.First);
+  return total;
+}
+
+QRgb Joined(const forms::Raster& source, const SourceRange& across, const SourceRange& down,
+            int mode) {
+  QRgb result = source.Pixels[source.At(across.First, down.First)];
+  for (int y = down.First; y < down.End; ++y) {
+    const QRgb* row = source.Pixels.data() + source.At(0, y);
+    for (int x = across.First; x < across.End; ++x) {
+      result = mode == StretchOr ? result | row[x] : result & row[x];
+    }
+  }
+  return result;
+}
+
+bool UsesPattern(int rop) {
+  return (rop >> 4 & 0xF) != (rop & 0xF);
+}
+bool UsesSource(int rop) {
+  return (rop >> 2 & 0x33) != (rop & 0x33);
+}
+
+// Bit (pattern * 4 + source * 2 + destination) of the operation is the result.
+QRgb CombineTernary(int rop, QRgb pattern, QRgb source, QRgb destination) {
+  if (rop == SourceCopy) return source;
+  QRgb result = 0;
+  for (int term = 0; term < 8; ++term) {
+    if ((rop >> term & 1) == 0) continue;
+    result |= (term & 4 ? pattern : ~pattern) & (term & 2 ? source : ~source) &
+              (term & 1 ? destination : ~destination);
+  }
+  return result | OpaqueBlack;
+}
+
+QRgb PatternAt(const DeviceContext& context, const Paint& paint, QPoint at) {
+  if (!paint.Pattern) return paint.Colour;
+  const forms::Raster& tile = *paint.Pattern;
+  const QRgb pixel = tile.Pixels[tile.At(at.x() % tile.Width, at.y() % tile.Height)];
+  return qAlpha(pixel) == 0 ? context.Resolve(context.State.BackColour) : pixel;
+}
+
+bool CanPaint(const DeviceContext& context, int rop, const forms::Picture& source) {
+  return (!UsesPattern(rop) || context.HasBrush()) && (!UsesSource(rop) || source);
+}
+
+void PaintWithout(DeviceContext& context, int rop, const QRect& visible) {
+  Surface& target = context.Target();
+  const Paint paint = context.BrushPaint(context.State.CurrentBrush);
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    for (int x = visible.left(); x <= visible.right(); ++x) {
+      const QRgb pattern = PatternAt(context, paint, {x, y});
+      target.Put({x, y}, CombineTernary(rop, pattern, 0, target.At({x, y})));
+    }
+  }
+}
+
+void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& visible,
+               const forms::Raster& source) {
+  Surface& target = context.Target();
+  const int mode = context.State.StretchMode;
+  // The classic default lays pixels that fall together over each other, so that no black line
+  // gets lost.
+  const bool joins = axes.Shrinks() && (mode == StretchAnd || mode == StretchOr);
+  const Shrinking shrinking = joins ? Shrinking::Joined : Shrinking::Nearest;
+  const auto columns =
+      RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
+  const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);
+  if (!target.Spend(PixelsIn(columns) * PixelsIn(rows))) return;
+  const Paint paint = context.BrushPaint(context.State.CurrentBrush);
+  QPoint at = visible.topLeft();
+  for (const SourceRange& down : rows) {
+    at.setX(visible.left());
+    for (const SourceRange& across : columns) {
+      if (across.First < across.End && down.First < down.End) {
+        const QRgb pattern = PatternAt(context, paint, at);
+        const QRgb pixel = Joined(source, across, down, mode);
+        target.Put(at, CombineTernary(rop, pattern, pixel, target.At(at)));
+      }
+      ++at.rx();
+    }
+    ++at.ry();
+  }
+}
+
+void PaintBlit(DeviceContext& context, int rop, const Axes& axes, const forms::Picture& source) {
+  const QRect visible = axes.Box().intersected(context.Target().Area());
+  const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
+  if (!context.Target().Spend(WorkPerBlit + WorkPerBlitPixel * pixels)) return;
+  if (UsesSource(rop)) return PaintWith(context, rop, axes, visible, *source);
+  PaintWithout(context, rop, visible);
+}
+
+bool Touches(DeviceContext& context, const Axes& axes) {
+  return !axes.Box().isEmpty() && context.Target().Touch(axes.Box());
+}
+
+}  // namespace
+
+void DrawBlit(DeviceContext& context, const Blit& blit) {
+  if (!CanPaint(context, blit.Rop, nullptr)) return;
+  const Axes axes = AxesOf(context, blit);
+  if (Touches(context, axes)) PaintBlit(context, blit.Rop, axes, nullptr);
+}
+
+void DrawBlit(DeviceContext& context, const Blit& blit,
+              const std::function<forms::Picture()>& decode) {
+  const Axes axes = AxesOf(context, blit);
+  if (!Touches(context, axes)) return;
+  const forms::Picture source = decode();
+  if (CanPaint(context, blit.Rop, source)) PaintBlit(context, blit.Rop, axes, source);
+}
+
+}  // namespace terramark::metafile

@@ -1,0 +1,98 @@
+// What a metafile's records change and draw by: the mapping from logical units to pixels, the
+// selected objects, colours and modes, with SaveDC and RestoreDC.
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <vector>
+
+#include "metafile/graphicsobjects.h"
+#include "metafile/matchedfonts.h"
+#include "metafile/surface.h"
+
+namespace terramark::metafile {
+
+/// Where the picture lies before the file says anything: this much of the plane, in logical units,
+/// fills the box. Its sides are not 0; a negative one runs backwards.
+struct Frame {
+  QPoint Origin;
+  QSize Extent{1, 1};
+};
+
+/// All that SaveDC keeps. The start values are those of a fresh drawing context.
+struct DeviceState {
+  QPointF WindowOrigin{0, 0};  // logical, as the next
+  QPointF WindowExtent{1, 1};
+  QPointF ViewportOrigin{0, 0};  // pixels, as the next; neither extent is ever 0
+  QPointF ViewportExtent{1, 1};
+  bool UpIsPositive = false;  // a metric mapping mode of a picture that names no window
+  Pen CurrentPen;
+  Brush CurrentBrush;
+  Font CurrentFont;
+  Palette CurrentPalette;
+  ColourRef TextColour = 0;
+  ColourRef BackColour = WhiteRef;
+  bool Opaque = true;             // gaps in lines, hatches and text show BackColour
+  int Operation = CopyOperation;  // FirstOperation to LastOperation
+  FillRule PolygonFill = FillRule::Alternate;
+  int StretchMode = StretchAnd;
+  int TextAlign = 0;   // bits of SetTextAlign
+  int CharExtra = 0;   // logical units to add to each letter
+  int BreakExtra = 0;  // logical units to share out among BreakCount blanks
+  int BreakCount = 0;
+  QPoint Position;  // logical
+  Clip SavedClip;   // of a saved state only
+};
+
+class DeviceContext {
+ public:
+  /// Where the frame comes from. It fills the box until the file sets a window of its own; but a
+  /// file whose drawing was measured names no window at all: its units are pixels, and the frame is
+  /// for good.
+  enum class FrameSource { File, Measured };
+
+  /// Plays onto `surface`, `frame` filling `box` pixels.
+  DeviceContext(Surface& surface, const Frame& frame, QSize box, FrameSource source);
+
+  Surface& Target() { return surface_; }
+  DeviceState State;
+  ObjectTable Objects;
+  MatchedFonts Fonts;
+
+  bool Measured() const { return source_ == FrameSource::Measured; }
+
+  /// SaveDC; beyond MaxSaves levels a save is dropped.
+  void Save();
+  /// RestoreDC: a negative level counts back from the last save, a positive one from the first. A
+  /// level that was never saved changes nothing.
+  void Restore(int level);
+  /// A region becomes the clip; a palette or monostate changes nothing.
+  void Select(const GraphicsObject& object);
+
+  /// Logical units to pixels, limited to MaxDevice either way.
+  QPoint ToDevice(QPointF logical) const;
+  /// Both corners mapped and put in order, right and bottom edges outside.
+  QRect ToDevice(int left, int top, int right, int bottom) const;
+  /// Pixels per logical unit; negative where the axis runs backwards.
+  QPointF Scale() const;
+
+  /// Opaque; black for a number that the palette does not have.
+  QRgb Resolve(ColourRef colour) const;
+  bool HasPen() const { return State.CurrentPen.Style != PenStyle::None; }
+  bool HasBrush() const { return State.CurrentBrush.Style != BrushStyle::None; }
+  /// The pen's width in pixels, 1 to MaxPenWidth.
+  int PenWidth() const;
+  Paint PenPaint() const;
+  /// A hatch or pattern comes as the paint's Pattern. Of a brush that paints nothing it is its
+  /// colour: ask HasBrush first.
+  Paint BrushPaint(const Brush& brush) const;
+
+ private:
+  Surface& surface_;
+  FrameSource source_;
+  QPointF baseScale_{1, 1};
+  QPointF baseOffset_{0, 0};
+  std::vector<DeviceState> saved_;
+};
+
+}  // namespace terramark::metafile

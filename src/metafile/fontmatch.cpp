@@ -1,0 +1,175 @@
+#include "metafile/fontmatch.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+
+#include "metafile/limits.h"
+
+namespace terramark::metafile {
+namespace {
+
+constexpr int DefaultPixelSize = 16;
+constexpr double MadeItalicSlant = 0.287;  // 16 degrees
+constexpr int BoldFrom = 600;
+constexpr int SymbolCharset = 2;
+
+double Limited(double size) {
+  return std::clamp(size, 1.0, double{MaxLetterSize});
+}
+
+struct FaceRow {
+  const char* Face;  // how the name begins
+  const char* Family;
+};
+
+constexpr FaceRow Faces[] = {
+    {"times", "Liberation Serif"},    {"tms rmn", "Liberation Serif"},
+    {"roman", "Liberation Serif"},    {"georgia", "Liberation Serif"},
+    {"garamond", "Liberation Serif"}, {"arial narrow", "Liberation Sans Narrow"},
+    {"arial", "Liberation Sans"},     {"helv", "Liberation Sans"},
+    {"swiss", "Liberation Sans"},     {"ms sans serif", "Liberation Sans"},
+    {"system", "Liberation Sans"},    {"courier", "Liberation Mono"},
+    {"fixedsys", "Liberation Mono"},  {"terminal", "Liberation Mono"},
+};
+
+// The family that stands in for a usual face of letters, named in lower case; null for any other.
+const char* StandInFor(const QByteArray& face) {
+  for (const FaceRow& row : Faces) {
+    if (face.startsWith(row.Face)) return row.Family;
+  }
+  return nullptr;
+}
+
+// What the symbol font says of itself, for each pixel of its size.
+constexpr double SymbolAscent = 1.005;
+constexpr double SymbolDescent = 0.220;
+constexpr double SymbolWidth = 0.5755;
+
+const QStringList& Installed() {
+  static const QStringList families = QFontDatabase::families();
+  return families;
+}
+
+bool IsInstalled(const QString& family) {
+  return Installed().contains(family, Qt::CaseInsensitive);
+}
+
+QString FamilyOf(const Font& font) {
+  if (ContentsOf(font) == FontContents::Symbols) return "Liberation Serif";
+  if (const char* family = StandInFor(font.Face.toLower())) return QString::fromLatin1(family);
+  constexpr int FixedPitch = 1;
+  constexpr int Roman = 1;
+  constexpr int Modern = 3;
+  const int kind = font.PitchAndFamily >> 4;
+  if ((font.PitchAndFamily & 3) == FixedPitch || kind == Modern) return "Liberation Mono";
+  return kind == Roman ? "Liberation Serif" : "Liberation Sans";
+}
+
+// The wanted font itself or, for symbols, a free one of the same encoding that is read as Western.
+std::optional<SignFont> SignsOf(const Font& wanted, QFont face) {
+  const FontContents contents = ContentsOf(wanted);
+  if (contents == FontContents::Letters) return std::nullopt;
+  face.setStyleStrategy(QFont::StyleStrategy(QFont::NoAntialias | QFont::NoFontMerging));
+  const QString own = QString::fromLatin1(wanted.Face);
+  if (IsInstalled(own)) {
+    face.setFamily(own);
+    return SignFont{.Face = face, .From = OwnSignsFrom};
+  }
+  if (contents == FontContents::OwnSigns) return std::nullopt;
+  for (const QString& family : Installed()) {
+    if (!family.startsWith("Standard Symbols")) continue;
+    face.setFamily(family);
+    return SignFont{.Face = face, .From = 0};
+  }
+  return std::nullopt;
+}
+
+// What an ascent, a descent and a mean width are for letters of `size` pixels.
+struct Measures {
+  int Ascent = 0;
+  int Descent = 0;
+  double Width = 0;
+};
+
+Measures MeasuresOf(QFont face, bool symbols, double size) {
+  if (symbols) {
+    return {.Ascent = static_cast<int>(std::lround(SymbolAscent * size)),
+            .Descent = static_cast<int>(std::lround(SymbolDescent * size)),
+            .Width = SymbolWidth * size};
+  }
+  face.setPixelSize(static_cast<int>(size));
+  const QFontMetricsF metrics(face);
+  return {.Ascent = static_cast<int>(std::lround(metrics.ascent())),
+          .Descent = static_cast<int>(std::lround(metrics.descent())),
+          .Width = metrics.averageCharWidth()};
+}
+
+// The font's cell for each pixel of its letters' size.
+double CellOf(QFont face, bool symbols) {
+  if (symbols) return SymbolAscent + SymbolDescent;
+  constexpr int Sample = 1000;
+  face.setPixelSize(Sample);
+  const QFontMetricsF metrics(face);
+  return (metrics.ascent() + metrics.descent()) / Sample;
+}
+
+// The nearest size, or one less where its own cell, rounded, would be too high.
+double SizeOfCell(double height, double cell) {
+  const double size = std::floor(height / cell + 0.5);
+  return std::floor(size * cell + 0.5) > height ? size - 1 : size;
+}
+
+}  // namespace
+
+FontContents ContentsOf(const Font& font) {
+  const QByteArray face = font.Face.toLower();
+  if (face.startsWith("symbol")) return FontContents::Symbols;
+  if (font.Charset != SymbolCharset) return FontContents::Letters;
+  // A face for letters has no signs: the symbol font steps in.
+  const bool symbols = face.isEmpty() || face.contains("symbol") || StandInFor(face) != nullptr;
+  return symbols ? FontContents::Symbols : FontContents::OwnSigns;
+}
+
+qsizetype InstalledFamilies() {
+  return Installed().size();
+}
+
+MatchedFont MatchFont(const Font& wanted, QPointF scale) {
+  const bool letters = ContentsOf(wanted) == FontContents::Letters;
+  const bool symbols = ContentsOf(wanted) == FontContents::Symbols;
+  MatchedFont matched;
+  QFont& face = matched.Face;
+  face.setFamily(FamilyOf(wanted));
+  face.setStyleStrategy(QFont::NoAntialias);
+  face.setHintingPreference(QFont::PreferFullHinting);
+  face.setBold(wanted.Weight >= BoldFrom);
+  if (wanted.Italic && !letters) {
+    matched.Slant = MadeItalicSlant;
+  } else {
+    face.setItalic(wanted.Italic);
+  }
+  face.setUnderline(wanted.Underline);
+  face.setStrikeOut(wanted.StrikeOut);
+  face.setKerning(false);
+
+  const double height = std::floor(std::abs(wanted.Height * scale.y()) + 0.5);
+  double size = wanted.Height > 0 ? SizeOfCell(height, CellOf(face, symbols)) : height;
+  if (wanted.Height == 0) size = DefaultPixelSize;
+  size = Limited(size);
+  face.setPixelSize(static_cast<int>(size));
+  matched.Signs = SignsOf(wanted, face);
+
+  const Measures measures = MeasuresOf(face, symbols, size);
+  matched.Ascent = measures.Ascent;
+  matched.Descent = measures.Descent;
+  if (wanted.Width != 0 && measures.Width > 0) {
+    const double width = std::abs(wanted.Width * scale.x());
+    matched.Stretch = std::clamp(width / measures.Width, 0.05, 50.0);
+  }
+  return matched;
+}
+
+}  // namespace terramark::metafile

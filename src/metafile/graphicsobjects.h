@@ -1,0 +1,83 @@
+// The objects a metafile creates, selects and deletes by number: pens, brushes, fonts, palettes
+// and regions.
+#pragma once
+
+#include <QByteArray>
+#include <QRect>
+#include <QRgb>
+#include <cstdint>
+#include <variant>
+#include <vector>
+
+#include "forms/raster.h"
+
+namespace terramark::metafile {
+
+/// 0x00BBGGRR, or a palette's entry when the top byte is 1. Resolved when it is used.
+using ColourRef = std::uint32_t;
+constexpr ColourRef WhiteRef = 0xFFFFFF;
+
+enum class PenStyle { Solid = 0, Dash, Dot, DashDot, DashDotDot, None, InsideFrame };
+
+struct Pen {
+  PenStyle Style = PenStyle::Solid;
+  int Width = 0;  // logical units; anything below a pixel draws as one
+  ColourRef Colour = 0;
+};
+
+constexpr int LastHatch = 5;
+
+enum class BrushStyle { Solid = 0, None = 1, Hatched = 2, Pattern = 3 };
+
+struct Brush {
+  BrushStyle Style = BrushStyle::Solid;
+  ColourRef Colour = WhiteRef;
+  int Hatch = 0;        // 0 to 5: horizontal, vertical, the two diagonals, cross, diagonal cross
+  forms::Picture Tile;  // of a pattern
+};
+
+struct Font {
+  int Height = 0;      // logical units: of the cell, or of the letters alone when negative
+  int Width = 0;       // logical units of an average letter; 0 keeps the font's own proportion
+  int Escapement = 0;  // tenths of a degree against the clock
+  int Weight = 400;    // 400 is normal, 700 bold
+  bool Italic = false;
+  bool Underline = false;
+  bool StrikeOut = false;
+  int Charset = 0;         // the format's number, 0 to 255
+  int PitchAndFamily = 0;  // bits 0 and 1: fixed pitch is 1; bits 4 to 7: the family
+  QByteArray Face;         // at most 32 bytes
+
+  bool operator==(const Font&) const = default;
+};
+
+struct Palette {
+  std::vector<QRgb> Entries;  // MaxPaletteEntries at most, opaque
+};
+
+struct Region {
+  std::vector<QRect> Rects;  // logical where they are painted, pixels where they clip
+};
+
+/// An object whose creation failed. It keeps its number; to select it changes nothing.
+struct Unusable {};
+
+using GraphicsObject = std::variant<std::monostate, Pen, Brush, Font, Palette, Region, Unusable>;
+
+/// The objects by number; a new one takes the lowest number that is free.
+class ObjectTable {
+ public:
+  /// Gives the slots that were passed on the search for a free one. Beyond MaxObjects a new one is
+  /// dropped.
+  std::size_t Add(GraphicsObject object);
+  /// A number without an object is passed over.
+  void Delete(std::size_t number);
+  /// Monostate for a number without an object.
+  const GraphicsObject& At(std::size_t number) const;
+
+ private:
+  std::vector<GraphicsObject> slots_;
+  std::size_t lowestFree_ = 0;
+};
+
+}  // namespace terramark::metafile

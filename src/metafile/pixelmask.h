@@ -1,0 +1,33 @@
+// Which pixels of an area are meant: a byte a pixel, 0 for those that are not.
+#pragma once
+
+#include <QSize>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace terramark::metafile {
+
+class PixelMask {
+ public:
+  /// `size` is in pixels and not empty. std::bad_alloc when the memory does not reach.
+  PixelMask(QSize size, std::uint8_t value)
+      : size_(size),
+        bytes_(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()),
+               value) {}
+
+  QSize Size() const { return size_; }
+  /// The bytes of row y, counted from the top; it must be inside.
+  std::uint8_t* Row(int y) { return bytes_.data() + At(y); }
+  const std::uint8_t* Row(int y) const { return bytes_.data() + At(y); }
+
+ private:
+  std::size_t At(int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width());
+  }
+
+  QSize size_;
+  std::vector<std::uint8_t> bytes_;
+};
+
+}  // namespace terramark::metafile

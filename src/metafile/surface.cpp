@@ -1,0 +1,219 @@
+#include "metafile/surface.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+
+#include "forms/flood.h"
+
+namespace terramark::metafile {
+namespace {
+
+constexpr QRgb OpaqueBlack = 0xFF000000;
+constexpr QRgb White = 0xFFFFFFFF;
+constexpr std::int64_t WorkPerPolygon = 40;
+constexpr std::int64_t WorkPerEdge = 6;
+constexpr std::int64_t WorkPerCrossing = 16;
+constexpr std::int64_t WorkPerFloodRun = 10;
+constexpr std::int64_t PixelsPerFloodWork = 32;  // two bits each, cleared by words
+// Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
+constexpr std::int64_t WorkPerClipPixel = 4;
+constexpr std::int64_t WorkPerClipRect = 10;
+
+// Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
+QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
+  const int code = operation - 1;
+  QRgb result = 0;
+  if (code & 1) result |= ~pattern & ~destination;
+  if (code & 2) result |= ~pattern & destination;
+  if (code & 4) result |= pattern & ~destination;
+  if (code & 8) result |= pattern & destination;
+  return result | OpaqueBlack;
+}
+
+// Paints what a flood takes, in runs.
+struct FloodPainter {
+  void Run(int y, int x0, int x1) {
+    if (Target.Spend(WorkPerFloodRun)) Target.Span(y, x0, x1, Brush);
+  }
+  void Spots(int y, int x, std::uint32_t bits) {
+    while (bits != 0) {
+      const int first = std::countr_zero(bits);
+      const int count = std::countr_one(bits >> first);
+      Run(y, x + first, x + first + count);
+      bits &= bits + (1U << first);
+    }
+  }
+
+  Surface& Target;
+  const Paint& Brush;
+};
+
+}  // namespace
+
+Surface::Surface(QSize size, Use use, std::int64_t work) : use_(use), workLeft_(work) {
+  image_.Width = use == Use::Measure ? 1 : size.width();
+  image_.Height = use == Use::Measure ? 1 : size.height();
+  image_.Pixels.assign(image_.At(0, image_.Height), White);
+}
+
+bool Surface::Spend(std::int64_t work) {
+  workLeft_ -= std::min(work, workLeft_);
+  return workLeft_ > 0;
+}
+
+bool Surface::Touch(const QRect& bounds) {
+  if (use_ == Use::Measure) {
+    measured_ = measured_.united(bounds);
+    return false;
+  }
+  const QRect visible = bounds.intersected(Area());
+  if (visible.isEmpty()) return false;
+  return Spend(std::int64_t{visible.width()} + visible.height());
+}
+
+void Surface::Span(int y, int x0, int x1, const Paint& paint) {
+  if (!Spend(x1 - x0)) return;
+  QRgb* row = Row(y);
+  if (paint.Operation == CopyOperation && !paint.Pattern && !clip_) {
+    std::fill(row + x0, row + x1, paint.Colour);
+    return;
+  }
+  const forms::Raster* pattern = paint.Pattern.get();
+  const QRgb* tile = nullptr;
+  if (pattern != nullptr) tile = pattern->Pixels.data() + pattern->At(0, y % pattern->Height);
+  const std::uint8_t* open = clip_ ? clip_->Row(y) : nullptr;
+  for (int x = x0; x < x1; ++x) {
+    if (open != nullptr && open[x] == 0) continue;
+    const QRgb colour = tile == nullptr ? paint.Colour : tile[x % pattern->Width];
+    if (qAlpha(colour) == 0) continue;
+    row[x] =
+        paint.Operation == CopyOperation ? colour : CombineBinary(paint.Operation, colour, row[x]);
+  }
+}
+
+void Surface::Pixel(QPoint at, const Paint& paint) {
+  Span(at.y(), at.x(), at.x() + 1, paint);
+}
+
+void Surface::Rectangle(const QRect& rect, const Paint& paint) {
+  if (!Touch(rect)) return;
+  const QRect visible = rect.intersected(Area());
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    Span(y, visible.left(), visible.right() + 1, paint);
+  }
+}
+
+void Surface::Mask(const PixelMask& mask, QPoint at, const Paint& paint) {
+  const QRect visible = QRect(at, mask.Size()).intersected(Area());
+  if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    const std::uint8_t* row = mask.Row(y - at.y());
+    int from = visible.left();
+    for (int x = from; x <= visible.right(); ++x) {
+      if (row[x - at.x()] != 0) continue;
+      if (from < x) Span(y, from, x, paint);
+      from = x + 1;
+    }
+    if (from <= visible.right()) Span(y, from, visible.right() + 1, paint);
+  }
+}
+
+void Surface::Polygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint) {
+  QRectF bounds;
+  for (const QPolygonF& polygon : polygons) {
+    if (!Spend(WorkPerPolygon + WorkPerEdge * polygon.size())) return;
+    bounds = bounds.united(polygon.boundingRect());
+  }
+  if (!Touch(bounds.toAlignedRect())) return;
+  const QRect area = bounds.toAlignedRect().intersected(Area());
+  if (!Spend(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
+  ScanPolygons(polygons, rule, area, [&](int y, int x0, int x1) { Span(y, x0, x1, paint); });
+}
+
+void Surface::Put(QPoint at, QRgb colour) {
+  if (Clipped(at.x(), at.y())) return;
+  Row(at.y())[at.x()] = colour;
+}
+
+void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint) {
+  const std::int64_t pixels = std::int64_t{Area().width()} * Area().height();
+  if (!Area().contains(seed) || !Spend(pixels / PixelsPerFloodWork)) return;
+  const auto width = static_cast<std::size_t>(Area().width());
+  // Rows without open pixels end the flood when the work is used up.
+  const auto open = [&](int y, std::span<std::uint64_t> row) {
+    if (!Spend(Area().width())) return;
+    forms::SetOpenBits({Row(y), width}, colour, stops, row);
+    if (clip_) CloseClipped(y, row);
+  };
+  FloodPainter painter{*this, paint};
+  const forms::PixelPoint from{seed.x(), seed.y()};
+  forms::Flooder(Area().width(), Area().height(), open, painter).From({&from, 1});
+}
+
+void Surface::CloseClipped(int y, std::span<std::uint64_t> row) const {
+  const std::uint8_t* clip = clip_->Row(y);
+  for (std::size_t x = 0; x < static_cast<std::size_t>(Area().width()); ++x) {
+    if (clip[x] == 0) row[x / 64] &= ~(std::uint64_t{1} << x % 64);
+  }
+}
+
+Clip Surface::NewClip(std::uint8_t value) const {
+  return std::make_shared<PixelMask>(Area().size(), value);
+}
+
+void Surface::FillClip(const QRect& rect, std::uint8_t value) {
+  const QRect visible = rect.intersected(Area());
+  if (visible.isEmpty()) return;
+  if (clip_.use_count() > 1) clip_ = std::make_shared<PixelMask>(*clip_);
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    std::fill_n(clip_->Row(y) + visible.left(), visible.width(), value);
+  }
+}
+
+void Surface::ClipTo(const std::vector<QRect>& rects) {
+  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  clip_ = NewClip(0);
+  for (const QRect& rect : rects) {
+    const QRect visible = rect.intersected(Area());
+    const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
+    if (!Spend(WorkPerClipRect + pixels)) return;
+    FillClip(visible, 1);
+  }
+}
+
+void Surface::IntersectClip(const QRect& rect) {
+  const int right = rect.right() + 1;
+  const int bottom = rect.bottom() + 1;
+  const int width = Area().width();
+  const int height = Area().height();
+  ExcludeClip(QRect(QPoint(0, 0), QPoint(width, rect.top() - 1)));
+  ExcludeClip(QRect(QPoint(0, bottom), QPoint(width, height)));
+  ExcludeClip(QRect(QPoint(0, rect.top()), QPoint(rect.left() - 1, rect.bottom())));
+  ExcludeClip(QRect(QPoint(right, rect.top()), QPoint(width, rect.bottom())));
+}
+
+void Surface::ExcludeClip(const QRect& rect) {
+  const QRect visible = rect.intersected(Area());
+  if (visible.isEmpty()) return;
+  const bool copies = clip_.use_count() != 1;
+  const std::int64_t whole = std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel;
+  if (!Spend((copies ? whole : 0) + std::int64_t{visible.width()} * visible.height())) return;
+  if (!clip_) clip_ = NewClip(1);
+  FillClip(visible, 0);
+}
+
+void Surface::OffsetClip(QPoint by) {
+  if (!clip_) return;
+  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  const Clip old = clip_;
+  clip_ = NewClip(0);
+  for (int y = 0; y < Area().height(); ++y) {
+    for (int x = 0; x < Area().width(); ++x) {
+      const QPoint from = QPoint(x, y) - by;
+      if (Area().contains(from)) clip_->Row(y)[x] = old->Row(from.y())[from.x()];
+    }
+  }
+}
+
+}  // namespace terramark::metafile

@@ -1,0 +1,237 @@
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QPainter>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+#include <new>
+
+#include "metafile/limits.h"
+#include "metafile/matchedfonts.h"
+#include "metafile/recordplayers.h"
+#include "metafile/textdecoding.h"
+
+namespace terramark::metafile {
+namespace {
+
+constexpr std::int64_t WorkPerLetter = 40;  // to lay it out
+// To draw one: from what the font keeps ready, which is less for letters that are turned or
+// stretched, or its outline, at so much for each column.
+constexpr std::int64_t WorkPerImage = 300;
+constexpr std::int64_t WorkPerTurnedImage = 5000;
+constexpr std::int64_t WorkPerImageRow = 5;
+constexpr std::int64_t WorkPerOutline = 5000;
+constexpr std::int64_t WorkPerOutlineColumn = 100;
+constexpr double LargestImage = 64;
+
+struct TextRun {
+  QByteArrayView Bytes;
+  QPoint At;                 // logical
+  std::vector<int> Advance;  // logical, one a byte; empty for the font's own
+};
+
+// Letters laid along the baseline, in pixels from its start.
+struct TextLine {
+  std::vector<const LetterShape*> Letters;
+  std::vector<int> Offsets;
+  int Width = 0;
+};
+
+// Breaks off when the work is used up.
+TextLine LayOut(DeviceContext& context, const TextRun& run, LetteredFont& font) {
+  const DeviceState& state = context.State;
+  const double scale = std::abs(context.Scale().x());
+  const auto toPixels = [scale](double logical) {
+    return static_cast<int>(std::clamp(std::floor(logical * scale + 0.5), -1e7, 1e7));
+  };
+  TextLine line;
+  std::int64_t logical = 0;
+  double own = 0;
+  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().Spend(WorkPerLetter);) {
+    const int bytes = FirstLetterBytes(run.Bytes.sliced(at), state.CurrentFont);
+    const LetterShape& shape = font.ShapeOf(run.Bytes.sliced(at, bytes), context.Target());
+    line.Letters.push_back(&shape);
+    line.Offsets.push_back(line.Width);
+    if (run.Advance.empty()) {
+      own += std::floor(shape.Advance * font.Match.Stretch + 0.5);
+    } else {
+      for (int i = 0; i < bytes; ++i) logical += run.Advance[static_cast<std::size_t>(at + i)];
+    }
+    logical += state.CharExtra;
+    if (shape.Blank && state.BreakCount > 0) logical += state.BreakExtra / state.BreakCount;
+    line.Width = static_cast<int>(own) + toPixels(static_cast<double>(logical));
+    at += bytes;
+  }
+  return line;
+}
+
+// Where the baseline starts, as seen from the reference point, before the text is turned.
+QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
+  QPoint start;
+  if ((align & AlignSideways) == AlignRight) start.setX(-line.Width);
+  if ((align & AlignSideways) == AlignCentre) start.setX(-line.Width / 2);
+  if ((align & AlignUpright) == AlignBottom) {
+    start.setY(-font.Descent);
+  } else if ((align & AlignUpright) != AlignBaseline) {
+    start.setY(font.Ascent);
+  }
+  return start;
+}
+
+// The room of letters along so many pixels of the baseline.
+QRectF CellOf(const MatchedFont& font, double width) {
+  return {0, -double(font.Ascent), width, double(font.Ascent + font.Descent)};
+}
+
+// What letters of that cell may paint: some hang over it.
+QRectF InkOf(const QRectF& cell, const MatchedFont& font) {
+  const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
+  return cell.adjusted(-overhang, -overhang, overhang, overhang);
+}
+
+std::int64_t WorkOfLetter(const MatchedFont& font, const QTransform& shape, const QRect& seen) {
+  const int size = font.Face.pixelSize();
+  if (size * size * font.Stretch >= LargestImage * LargestImage) {
+    return WorkPerOutline + WorkPerOutlineColumn * seen.width();
+  }
+  return (shape.isIdentity() ? WorkPerImage : WorkPerTurnedImage) + WorkPerImageRow * size;
+}
+
+// Lines along the whole text, under its blanks as well.
+void DrawRules(QPainter& painter, double width, const QFont& font) {
+  if (!font.underline() && !font.strikeOut()) return;
+  const QFontMetricsF metrics(font);
+  painter.setPen(QPen(Qt::black, metrics.lineWidth(), Qt::SolidLine, Qt::FlatCap));
+  const double under = std::min(std::ceil(metrics.underlinePos()), metrics.descent() - 1) + 0.5;
+  const double through = -metrics.strikeOutPos();
+  if (font.underline()) painter.drawLine(QLineF(0, under, width, under));
+  if (font.strikeOut()) painter.drawLine(QLineF(0, through, width, through));
+}
+
+// An image whose pixels are not yet set. Qt gives a null one when the memory does not reach, and
+// drawing on that is lost or worse: std::bad_alloc instead.
+QImage NewImage(QSize size) {
+  QImage image(size, QImage::Format_RGB32);
+  if (image.isNull()) throw std::bad_alloc();
+  return image;
+}
+
+// Letters that lie outside the area cost nothing but the look at them.
+PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& font,
+                      const QTransform& place, const QRect& area) {
+  QImage image = NewImage(area.size());
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setPen(Qt::black);
+  const QTransform turn(place.m11(), place.m12(), place.m21(), place.m22(), 0, 0);
+  const QTransform shape = QTransform(font.Stretch, 0, -font.Slant, 1, 0, 0) * turn;
+  for (std::size_t i = 0; i < line.Letters.size(); ++i) {
+    const LetterShape& letter = *line.Letters[i];
+    const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
+    const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+    const QRectF cell = CellOf(font, letter.Advance * font.Stretch);
+    const QRectF ink = turn.mapRect(InkOf(cell, font)).translated(whole);
+    const QRect seen = ink.toAlignedRect().intersected(image.rect());
+    if (letter.Runs.isEmpty() || seen.isEmpty()) continue;
+    if (!target.Spend(WorkOfLetter(font, shape, seen))) break;
+    painter.setTransform(shape * QTransform::fromTranslate(whole.x(), whole.y()));
+    for (const QGlyphRun& run : letter.Runs) painter.drawGlyphRun(QPointF(0, 0), run);
+  }
+  const QPointF start = place.map(QPointF(0, 0)) - area.topLeft();
+  painter.setTransform(turn * QTransform::fromTranslate(start.x(), start.y()));
+  DrawRules(painter, line.Width, font.Face);
+  painter.end();
+  PixelMask mask(area.size(), 0);
+  for (int y = 0; y < area.height(); ++y) {
+    const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    std::uint8_t* to = mask.Row(y);
+    for (int x = 0; x < area.width(); ++x) to[x] = qGreen(from[x]) < 128 ? 1 : 0;
+  }
+  return mask;
+}
+
+// Text is laid over what is there, whatever the raster operation.
+Paint Plain(const DeviceContext& context, ColourRef colour) {
+  return {.Operation = CopyOperation, .Colour = context.Resolve(colour), .Pattern = {}};
+}
+
+enum class Ground { Kept, Filled };
+
+void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
+  Surface& target = context.Target();
+  DeviceState& state = context.State;
+  if (run.Bytes.isEmpty()) return;
+  const bool update = (state.TextAlign & AlignUpdate) != 0;
+  const QPoint reference = update ? state.Position : run.At;
+  LetteredFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target);
+  const MatchedFont& font = lettered.Match;
+  const TextLine line = LayOut(context, run, lettered);
+
+  const QPoint origin = context.ToDevice(QPointF(reference));
+  const QPoint start = BaselineStart(state.TextAlign, line, font);
+  QTransform place = QTransform::fromTranslate(origin.x(), origin.y());
+  if (state.CurrentFont.Escapement != 0) place.rotate(-state.CurrentFont.Escapement / 10.0);
+  place.translate(start.x(), start.y());
+
+  const QRectF cell = CellOf(font, line.Width);
+  if (ground == Ground::Filled) {
+    target.Polygons({place.map(QPolygonF(cell))}, FillRule::Winding,
+                    Plain(context, state.BackColour));
+  }
+  const QRect bounds = place.mapRect(InkOf(cell, font)).toAlignedRect();
+  const QRect inner = place.mapRect(cell).toAlignedRect();
+  const QRect area = bounds.intersected(target.Area());
+  if (target.Touch(context.Measured() ? inner : bounds) &&
+      target.Spend(std::int64_t{2} * area.width() * area.height())) {
+    target.Mask(DrawLetters(target, line, font, place, area), area.topLeft(),
+                Plain(context, state.TextColour));
+  }
+  const double scale = std::abs(context.Scale().x());
+  if (update && (state.TextAlign & AlignSideways) != AlignCentre && scale > 0) {
+    const double walked = std::clamp(line.Width / scale, -1e6, 1e6);
+    const bool backwards = (state.TextAlign & AlignSideways) == AlignRight;
+    state.Position.rx() += static_cast<int>(std::lround(backwards ? -walked : walked));
+    state.Position.setX(std::clamp(state.Position.x(), -1 << 24, 1 << 24));
+  }
+}
+
+}  // namespace
+
+void PlayTextOut(DeviceContext& context, const MetafileRecord& record) {
+  const qsizetype count = std::min<qsizetype>(record.Word(0), MaxLetters);
+  const QByteArrayView text = record.From(1);
+  const qsizetype after = 1 + (qsizetype{record.Word(0)} + 1) / 2;
+  DrawRun(context,
+          {.Bytes = text.first(std::min(count, text.size())),
+           .At = record.PointYX(after),
+           .Advance = {}},
+          context.State.Opaque ? Ground::Filled : Ground::Kept);
+}
+
+void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
+  Surface& target = context.Target();
+  const qsizetype count = record.Word(2);
+  const int options = record.Word(3);
+  const bool hasRect = (options & (TextOpaque | TextClipped)) != 0;
+  const qsizetype textAt = hasRect ? 8 : 4;
+  const QRect rect = context.ToDevice(record.Int(4), record.Int(5), record.Int(6), record.Int(7));
+  if ((options & TextOpaque) != 0) {
+    target.Rectangle(rect, Plain(context, context.State.BackColour));
+  }
+  if (count == 0 || (options & TextGlyphs) != 0) return;
+  const QByteArrayView text = record.From(textAt);
+  TextRun run{.Bytes = text.first(std::min({count, text.size(), qsizetype{MaxLetters}})),
+              .At = record.PointYX(0),
+              .Advance = {}};
+  const qsizetype advanceAt = textAt + (count + 1) / 2;
+  if (record.Words() >= advanceAt + count) {
+    for (qsizetype i = 0; i < count; ++i) run.Advance.push_back(record.Int(advanceAt + i));
+  }
+  const Clip clip = target.CurrentClip();
+  if ((options & TextClipped) != 0) target.IntersectClip(rect);
+  const bool fills = context.State.Opaque && (options & TextOpaque) == 0;
+  DrawRun(context, run, fills ? Ground::Filled : Ground::Kept);
+  target.SetClip(clip);
+}
+
+}  // namespace terramark::metafile

@@ -1,0 +1,83 @@
+#include "paint/boxpaint.h"
+
+#include <QImage>
+#include <QPainter>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include "forms/geometry.h"
+#include "paint/devicepixels.h"
+#include "paint/frames.h"
+#include "paint/labelpaint.h"
+#include "paint/screencolour.h"
+
+namespace terramark::paint {
+
+namespace {
+
+/// What a part of the device shows, which must lie on the image.
+QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
+  const forms::Raster& image = box.Image();
+  std::vector<int> columns;
+  for (int x = part.left(); x <= part.right(); ++x) {
+    columns.push_back(OnPicture(box, {ShownBy(x, toDevice.m11(), toDevice.dx()), 0}).X);
+  }
+  QImage seen(part.size(), QImage::Format_RGB32);
+  int shown = -1;
+  for (int y = 0; y < part.height(); ++y) {
+    const int below = ShownBy(part.top() + y, toDevice.m22(), toDevice.dy());
+    const int row = OnPicture(box, {0, below}).Y;
+    auto* const to = reinterpret_cast<std::uint32_t*>(seen.scanLine(y));
+    if (row == shown) {
+      std::memcpy(to, seen.constScanLine(y - 1), columns.size() * sizeof *to);
+      continue;
+    }
+    const std::uint32_t* const from = image.Pixels.data() + image.At(0, row);
+    for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x]];
+    shown = row;
+  }
+  return seen;
+}
+
+}  // namespace
+
+void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part) {
+  const forms::Raster& raster = box.Image();
+  const forms::Magnification zoom = box.Zoom;
+  const QRect sheet(-box.ScrollLeft, -box.ScrollTop, ToScreen(zoom, raster.Width),
+                    ToScreen(zoom, raster.Height));
+  const QRect seen = part & sheet;
+  if (seen != part) painter.fillRect(part, ScreenColour(box.BackColor));
+  const QTransform toDevice = painter.deviceTransform();
+  if (zoom != forms::ActualSize || toDevice.isScaling()) {
+    // Not left to the painter, which rounds by the edges of what it paints.
+    const QRect part = OnDevice(toDevice, seen);
+    painter.setTransform(toDevice.inverted(), true);
+    painter.drawImage(part.topLeft(), Magnified(box, toDevice, part));
+    return painter.resetTransform();
+  }
+  // Shares the raster's memory; nothing is copied but what goes on the screen.
+  const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
+                     raster.Height, QImage::Format_RGB32);
+  painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));
+}
+
+void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label) {
+  const forms::PixelRect own = PixelBounds(label);
+  painter.translate(area.topLeft());
+  painter.scale(scale, scale);
+  DrawLabel(painter, {0, 0, own.Width, own.Height}, label);
+  painter.resetTransform();
+}
+
+void PaintRing(QPainter& painter, const QRect& area) {
+  int out = RingWidth;
+  for (const QColor& colour : {QColor(Qt::black), QColor(Qt::white), QColor(Qt::black)}) {
+    DrawFrame(painter, area.adjusted(-out, -out, out, out), colour);
+    --out;
+  }
+}
+
+}  // namespace terramark::paint

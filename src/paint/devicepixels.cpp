@@ -1,0 +1,20 @@
+#include "paint/devicepixels.h"
+
+#include <QRect>
+#include <QTransform>
+#include <cmath>
+
+namespace terramark::paint {
+
+QRect OnDevice(const QTransform& toDevice, const QRect& area) {
+  const QRectF mapped = toDevice.mapRect(QRectF(area));
+  // Each edge by itself; QRectF::toRect rounds sizes.
+  return {QPoint(qRound(mapped.left()), qRound(mapped.top())),
+          QPoint(qRound(mapped.right()) - 1, qRound(mapped.bottom()) - 1)};
+}
+
+int ShownBy(int onDevice, double scale, double origin) {
+  return static_cast<int>(std::ceil((onDevice + 0.5 - origin) / scale)) - 1;
+}
+
+}  // namespace terramark::paint
