@@ -25,6 +25,7 @@ struct Patch {
 
 QImage Played(const QByteArray& file, QSize size) {
   const forms::Picture picture = PlayMetafile(file, size);
+  EXPECT_TRUE(picture);
   if (!picture) return {};
   return QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,
                 picture->Height, QImage::Format_RGB32)
