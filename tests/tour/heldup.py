@@ -56,7 +56,7 @@ class HeldUp(Editor):
             self.clear()
 
     def take_a_name_from_the_list(self):
-        keys = "Down", "Return", "Return"
+        keys = "Down", "KP_Enter", "Return"
         for pace in 500, 12, 0:
             self.ask()
             self.screen.tool("type", "eur")

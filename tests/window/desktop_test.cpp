@@ -15,7 +15,9 @@
 #include <QTreeView>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <climits>
+#include <ctime>
 #include <functional>
 #include <new>
 
@@ -127,6 +129,11 @@ TEST_F(DesktopTest, TheFileDialogTakesAnyNameAndBeginsWhereTheLastWasChosen) {
   EXPECT_EQ(choose("no.tml", Qt::Key_Escape), "*.wmf;*.bmp");
   EXPECT_EQ(choose("caf\u00E9.tml", Qt::Key_Return), here + "/caf\xE9.tml");
   EXPECT_TRUE(dialog.FileNameFits);
+  // It would end the line of the layout that holds the name.
+  for (const char* name : {"a\nb.tml", "a\rb.tml"}) {
+    EXPECT_EQ(choose(name, Qt::Key_Enter), here + "/" + name);
+    EXPECT_FALSE(dialog.FileNameFits || dialog.FileTitleFits);
+  }
   QDir().mkdir("\u4E2D");
   EXPECT_EQ(choose("\u4E2D/a.bmp", Qt::Key_Return), here + "/?/a.bmp");
   EXPECT_TRUE(!dialog.FileNameFits && dialog.FileTitle == "a.bmp" && dialog.FileTitleFits);
@@ -174,6 +181,23 @@ TEST_F(DesktopTest, TheSideBarLeadsToTheSamplesBesideTheProgram) {
   AskForFile({"*.tml", "", ""}, "/", nullptr);
   EXPECT_GE(places.size(), 3);
   EXPECT_EQ(places.back(), QDir(SAMPLES).canonicalPath());
+}
+
+TEST_F(DesktopTest, TheClockTellsTheLocalTime) {
+  using Clock = std::chrono::system_clock;
+  std::time_t second = 0;
+  forms::DateTime now;
+  float today = 0;
+  do {
+    second = Clock::to_time_t(Clock::now());
+    now = Desktop.Now();
+    today = Desktop.Timer();
+  } while (Clock::to_time_t(Clock::now()) != second);
+  const std::tm& local = *std::localtime(&second);
+  EXPECT_EQ((std::array{now.Year - 1900, now.Month - 1, now.Day, now.Hour, now.Minute, now.Second}),
+            (std::array{local.tm_year, local.tm_mon, local.tm_mday, local.tm_hour, local.tm_min,
+                        local.tm_sec}));
+  EXPECT_NEAR(today, (local.tm_hour * 60 + local.tm_min) * 60 + local.tm_sec, 1.01);
 }
 
 TEST_F(DesktopTest, DrawsAreBelowOneAndRepeatWithTheirSeed) {

@@ -74,7 +74,15 @@ struct HelpTest : testing::Test {
 
 TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
   Open(13);
-  Open(12);
+  QWidget other;
+  other.show();
+  for (const bool minimized : {false, true}) {
+    if (minimized) Window->showMinimized();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    Open(12);
+    EXPECT_FALSE(Window->isMinimized());
+  }
   EXPECT_EQ(Shown(), "Card symbols");
   Open(-3);
   EXPECT_EQ(Shown(), "Terramark");
@@ -104,6 +112,21 @@ TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
   EXPECT_FALSE(Window->isVisible());
   Open(16);
   EXPECT_EQ(Shown(), "Armies");
+}
+
+TEST_F(HelpTest, TabGoesFromLinkToLinkAndBackOutOfThePage) {
+  Open(2);
+  std::string path;
+  for (const bool back : {true, false, false, false, true, true}) {
+    Key(back ? Qt::Key_Backtab : Qt::Key_Tab, back ? Qt::ShiftModifier : Qt::NoModifier);
+    const bool inPage = Window->focusWidget() == &Page();
+    path += inPage ? "page " + Page().textCursor().selectedText().toStdString() : "contents";
+    path += "; ";
+    EXPECT_TRUE(inPage || Window->focusWidget() == &Contents());
+  }
+  EXPECT_EQ(path,
+            "contents; page ; page Validating a map; page Refreshing the map; "
+            "page Validating a map; contents; ");
 }
 
 TEST_F(HelpTest, ASearchNarrowsTheContentsAndGoesRoundTheTopics) {

@@ -64,6 +64,12 @@ TEST_F(LookTest, WordsAndFocusShowOnEveryFaceAndADisabledBoxIsGrey) {
     Form.AddTer.SetFocus();
     EXPECT_GT(count(ink), words + 100) << face;
   }
+  for (const bool focused : {false, true}) {
+    focused ? Form.Picture1.SetFocus() : Form.Quit.SetFocus();
+    for (const QPoint edge : {QPoint(0, 100), {100, 0}, {545, 100}, {100, 307}}) {
+      EXPECT_EQ(PixelOn(Form.Picture1, edge), QColor(focused ? Qt::black : Qt::white));
+    }
+  }
   Form.Symb.Enabled = false;
   EXPECT_EQ(PixelOn(Form.Symb, {2, 2}), QColor(0xC0, 0xC0, 0xC0));
 }

@@ -58,8 +58,8 @@ TEST_F(WindowKeys, TheFormHearsKeysBeforeTheControlAndWhenNoneHasThem) {
   }
   Form.KeyUp = [&](const forms::KeyEvent& key) { heard += std::to_string(key.KeyCode) + " "; };
   QApplication::focusWidget()->clearFocus();
-  Key(Qt::Key_Up);
-  EXPECT_EQ(heard, "Symb Symb ColBar ColBar PlColor PlColor 38 ");
+  for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Return, Qt::Key_Enter}) Key(key);
+  EXPECT_EQ(heard, "Symb Symb ColBar ColBar PlColor PlColor 38 13 13 ");
   Window.setFocus();
   Key(Qt::Key_Tab);
   EXPECT_EQ(Form.ActiveControl(), &Form.Text1) << "where Tab begins";
@@ -80,11 +80,14 @@ TEST_F(WindowKeys, AHeldKeyActsOnceAndABoxThatItFindsOpenKnowsNothingOfIt) {
   QPushButton answer("Yes", &box);
   int acts = 0;
   int answers = 0;
+  bool repeats = false;
+  Form.KeyDown = [&](const forms::KeyEvent& event) { repeats |= event.Repeat; };
   Form.KeyUp = [&](const forms::KeyEvent& event) { acts += event.KeyCode == 38; };
   Form.AddTer.Click = [&](const auto&) { ++acts; };
   QObject::connect(&answer, &QPushButton::clicked, [&answers] { ++answers; });
-  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up}) {
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Up}) {
     acts = answers = 0;
+    repeats = false;
     Form.AddTer.SetFocus();
     tell(Window, QEvent::KeyPress, key);
     repeat(Window, key);
@@ -106,6 +109,7 @@ TEST_F(WindowKeys, AHeldKeyActsOnceAndABoxThatItFindsOpenKnowsNothingOfIt) {
     repeat(Window, key);
     tell(Window, QEvent::KeyRelease, key);
     EXPECT_EQ(acts, 1);
+    EXPECT_EQ(repeats, key == Qt::Key_Space || key == Qt::Key_Up);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QWheelEvent>
 #include <cmath>
+#include <functional>
 #include <random>
 
 #include "window/windowsupport.h"
@@ -173,6 +174,68 @@ TEST_F(ScaleTest, AMarkerIsTakenCarriedAndDroppedByThePixelThatIsSeen) {
       off += Meant != Place(bare, to);
     }
     EXPECT_EQ(off, 0) << zoom.Screen << " : " << zoom.Picture;
+  }
+}
+
+TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
+  forms::Label& marker = Form.ArmyAt(1);
+  marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(); };
+  const auto at = [&](int x, int y) {
+    const forms::PixelPoint onPicture{Marker.x() + x, Marker.y() + y};
+    const forms::PixelPoint place = InBox(Box, onPicture);
+    return (Scale * (QPointF(place.X, place.Y) + Canvas)).toPoint();
+  };
+  // Each changes what is seen.
+  const std::function<void()> steps[] = {
+      [&] { marker.Move(Marker.x() + 20, Marker.y() + 30); },
+      [&] { marker.Width = marker.Width - 9; },
+      [&] { marker.Height = marker.Height - 3; },
+      [&] { marker.Visible = false; },
+      [&] { marker.Visible = true; },
+      [&] {
+        Form.ArmyAt.Load(2);
+        Form.ArmyAt(2).Move(Marker.x() + 60, Marker.y());
+        Form.ArmyAt(2).Visible = true;
+      },
+      [&] { Box.SetFocus(); },
+      [&] { Box.Ringed = &Form.ArmyAt(2); },
+      [&] { Box.Ringed = &marker; },
+      [&] { marker.Move(Marker.x(), Marker.y()); },
+      [&] {
+        Form.Pointer.TakeHold(marker);
+        Form.Pointer.Carry(40, 20);
+      },
+      [&] { Form.Pointer.Carry(-30, -15); },
+      [&] { Form.Pointer.PutBack(); },
+      [&] {
+        PressAt(at(5, 5));
+        MoveTo(at(70, 5));
+      },
+      [&] { MoveTo(at(20, 20)); },
+      [&] {
+        Key(Qt::Key_Escape);
+        ReleaseAt(at(20, 20));
+      },
+      [&] { Box.Ringed = nullptr; },
+      [&] { Form.ArmyAt.Unload(2); },
+  };
+  for (const forms::Magnification zoom : {forms::ActualSize, forms::Magnification{3, 1}}) {
+    Form.Quit.SetFocus();
+    ShowAt(zoom);
+    Box.ScrollTo(Marker.x() * zoom.Screen - 150, Marker.y() * zoom.Screen - 100);
+    Look();
+    int n = 0;
+    for (const auto& step : steps) {
+      const QImage before = Screen;
+      step();
+      Look();
+      const QImage shown = Screen;
+      EXPECT_TRUE(shown != before) << "step " << n;
+      Of(Box).update();
+      Look();
+      EXPECT_TRUE(shown == Screen) << "step " << n;
+      ++n;
+    }
   }
 }
 
