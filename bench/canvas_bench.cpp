@@ -11,7 +11,7 @@
 #include "largemap.h"
 #include "processes.h"
 #include "samples.h"
-#include "window/look.h"
+#include "window/appstyle.h"
 
 namespace terramark {
 namespace {
@@ -70,9 +70,9 @@ class CanvasBench {
   /// CPU seconds of a move of a marker that is carried to and fro over the view.
   double Move() {
     form_.Picture1.ScrollTo(0, 0);
-    const forms::PixelPoint grip = Middle(form_.ArmyAt(1));
+    const forms::PixelPoint grip = CentreOnForm(form_.ArmyAt(1));
     form_.Pointer.Press(grip.X, grip.Y, forms::LeftButton, 0);
-    if (!form_.Pointer.InFlight()) qFatal("no marker is in the air");
+    if (!form_.Pointer.CurrentDrag()) qFatal("no marker is in the air");
     const auto move = [&](int i) {
       form_.Pointer.Move(box_.Left + 60 + 7 * (i % 50), box_.Top + 40 + 3 * (i % 50), 0);
       Repaint(window_);
@@ -85,7 +85,7 @@ class CanvasBench {
 
   /// CPU seconds of a notch of the wheel, down and up by turns.
   double Wheel() {
-    QWidget& canvas = *window_.Inside().WidgetOf(form_.Picture1);
+    QWidget& canvas = *window_.View().WidgetOf(form_.Picture1);
     return Took(Steps, [&](int i) {
       const QPoint turn(0, i % 6 < 3 ? -120 : 120);
       QWheelEvent event({100, 100}, canvas.mapToGlobal(QPointF(100, 100)), {}, turn, Qt::NoButton,
@@ -103,7 +103,7 @@ class CanvasBench {
 
 void Run(int argc, char** argv) {
   QApplication application(argc, argv);
-  window::SetUpLook(application);
+  window::InstallStyle(application);
   ShownEditor editor;
   const LargeBitmap bitmap;
   MakeMap(editor.Form, bitmap.Path);

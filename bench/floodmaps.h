@@ -19,10 +19,10 @@ struct FloodMap {
   static constexpr std::uint32_t Border = 0xFF000000;
 
   FloodMap(int width, int height, std::uint32_t pixel) : Picture{width, height, {}} {
-    Picture.Pixels.assign(Picture.At(0, height), pixel);
+    Picture.Pixels.assign(Picture.IndexOf(0, height), pixel);
   }
 
-  std::uint32_t& At(int x, int y) { return Picture.Pixels[Picture.At(x, y)]; }
+  std::uint32_t& At(int x, int y) { return Picture.Pixels[Picture.IndexOf(x, y)]; }
 
   forms::Raster Picture;
   std::vector<forms::PixelPoint> Seeds;

@@ -17,7 +17,7 @@ namespace terramark {
 
 struct Editor {
   Editor() {
-    JoinHandlers(Form);
+    ConnectHandlers(Form);
     Form_Load(Form);
   }
 

@@ -68,7 +68,7 @@ struct Bench {
     Form_Load(Form);
     MakeMap(Form);
     const LayoutWritten file = WriteMapFile(Form);
-    if (JudgeMap(Form).Status != 0 || file.BrokenOffAt != 0) std::abort();
+    if (CheckMap(Form).Status != 0 || file.StoppedAtArea != 0) std::abort();
     Text = file.Text;
   }
 
@@ -158,7 +158,7 @@ void WriteFromWindow(benchmark::State& state) {
   Bench& bench = TheBench();
   for (auto _ : state) {
     const LayoutWritten file = WriteMapFile(bench.Form);
-    if (file.BrokenOffAt != 0) std::abort();
+    if (file.StoppedAtArea != 0) std::abort();
     benchmark::DoNotOptimize(file.Text.data());
   }
 }
@@ -175,7 +175,7 @@ void AllBlitzRoutes(benchmark::State& state) {
 
 void JudgeGoodMap(benchmark::State& state) {
   const Tables& map = TheBench().Form;
-  for (auto _ : state) benchmark::DoNotOptimize(JudgeMap(map));
+  for (auto _ : state) benchmark::DoNotOptimize(CheckMap(map));
 }
 
 BENCHMARK(CopyLines);

@@ -25,7 +25,7 @@ std::function<void()> PrepareGd(const FloodMap& map, std::uint32_t brush) {
                                        gdImageDestroy);
   for (int y = 0; y < picture.Height; ++y) {
     for (int x = 0; x < picture.Width; ++x) {
-      image->tpixels[y][x] = static_cast<int>(picture.Pixels[picture.At(x, y)] & 0xFFFFFFU);
+      image->tpixels[y][x] = static_cast<int>(picture.Pixels[picture.IndexOf(x, y)] & 0xFFFFFFU);
     }
   }
   return [image, &map, colour = static_cast<int>(brush & 0xFFFFFFU)] {
@@ -48,7 +48,7 @@ std::function<void()> PrepareOpenCv(const FloodMap& map, std::uint32_t brush) {
   return [raster, &map, brush] {
     cv::Mat image(raster->Height, raster->Width, CV_32SC1, raster->Pixels.data());
     for (const forms::PixelPoint seed : map.Seeds) {
-      if (raster->Pixels[raster->At(seed.X, seed.Y)] == brush) continue;
+      if (raster->Pixels[raster->IndexOf(seed.X, seed.Y)] == brush) continue;
       cv::floodFill(image, {seed.X, seed.Y}, cv::Scalar(static_cast<std::int32_t>(brush)), nullptr,
                     {}, {}, 4);
     }

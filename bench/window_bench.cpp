@@ -13,9 +13,9 @@
 #include "largemap.h"
 #include "processes.h"
 #include "samples.h"
+#include "window/appstyle.h"
 #include "window/displayfault.h"
 #include "window/keyrepeats.h"
-#include "window/look.h"
 #include "window/mainwindow.h"
 
 namespace terramark {
@@ -46,14 +46,14 @@ class FirstFrame : public QApplication {
 };
 
 int StartEditor(int argc, char** argv) {
-  window::BeginJoiningDisplay();
+  window::BeginDisplayConnection();
   FirstFrame application(argc, argv);
-  window::EndJoiningDisplay();
-  window::SetUpLook(application);
+  window::EndDisplayConnection();
+  window::InstallStyle(application);
   Editor editor;
   const window::KeyRepeats repeats;
   window::MainWindow window(editor.Form);
-  editor.Desktop.StandOver(&window);
+  editor.Desktop.SetDialogParent(&window);
   window.show();
   return FirstFrame::exec();
 }
@@ -118,7 +118,7 @@ void TimePresses(ShownEditor& editor) {
 
 void Compare(int argc, char** argv) {
   QApplication application(argc, argv);
-  window::SetUpLook(application);
+  window::InstallStyle(application);
   ShownEditor editor;
   TimePresses(editor);
   CompareStarts(editor.Window.size());

@@ -18,8 +18,8 @@ DibColours AllBlack() {
   return colours;
 }
 
-// Some files keep fewer colours than they claim: their rows then start inside the table, at
-// `bits`, and the rest of the colours is black.
+/// Some files keep fewer colours than they claim: their rows then start inside the table, at
+/// `bits`, and the rest of the colours is black.
 std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, qint64 bits) {
   const qint64 wanted = header.UsedColours() * header.EntryBytes();
   const auto table = dib.At(header.TableAt, std::min(wanted, bits - header.TableAt));
@@ -46,7 +46,7 @@ DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
   return colours;
 }
 
-// The coded bytes or rows start at `bits`, which is not beyond the end.
+/// The coded bytes or rows start at `bits`, which is not beyond the end.
 forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibColours& colours,
                             qint64 bits) {
   const qint64 present = dib.Size() - bits;
@@ -67,7 +67,7 @@ forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibC
   for (int y = 0; y < header.Height; ++y) {
     const char* row = rows.Next();
     if (row == nullptr) return nullptr;
-    TurnRow(header, colours, row, pixels.data());
+    ConvertRow(header, colours, row, pixels.data());
     raster->Pixels.insert(raster->Pixels.end(), pixels.begin(), pixels.end());
   }
   return raster;

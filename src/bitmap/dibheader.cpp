@@ -15,8 +15,8 @@ constexpr std::uint32_t InfoHeaderBytes = 40;
 constexpr std::uint32_t MasksHeaderBytes = 52;
 constexpr std::uint32_t AlphaHeaderBytes = 56;
 // Another system's header begins as the usual one and ends anywhere from its bit count on.
-constexpr std::uint32_t ShortestHeaderBytes = 16;
-constexpr std::uint32_t LongestOtherHeaderBytes = 64;
+constexpr std::uint32_t MinHeaderBytes = 16;
+constexpr std::uint32_t MaxOtherHeaderBytes = 64;
 constexpr std::uint32_t Version4HeaderBytes = 108;
 constexpr std::uint32_t Version5HeaderBytes = 124;
 // Whether they belong to the header or come after it.
@@ -30,18 +30,17 @@ constexpr std::uint32_t BitFields = 3;
 constexpr std::uint32_t AlphaBitFields = 6;
 
 bool IsKnownLength(std::uint32_t bytes) {
-  return bytes == CoreHeaderBytes ||
-         (bytes >= ShortestHeaderBytes && bytes <= LongestOtherHeaderBytes) ||
+  return bytes == CoreHeaderBytes || (bytes >= MinHeaderBytes && bytes <= MaxOtherHeaderBytes) ||
          bytes == Version4HeaderBytes || bytes == Version5HeaderBytes;
 }
 
-// The other system's header gives another meaning to the number of the masks.
+/// The other system's header gives another meaning to the number of the masks.
 bool MayHaveMasks(std::uint32_t bytes) {
   return bytes == InfoHeaderBytes || bytes == MasksHeaderBytes || bytes == AlphaHeaderBytes ||
          bytes == Version4HeaderBytes || bytes == Version5HeaderBytes;
 }
 
-// The fields as they are stored, 0 for those beyond the header's end.
+/// The fields as they are stored, 0 for those beyond the header's end.
 class Fields {
  public:
   explicit Fields(QByteArrayView head) : bytes_(head.toByteArray()) {
@@ -73,7 +72,7 @@ bool IsUncompressedDepth(int bits) {
   return bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
 }
 
-// As many as the pixels can name; deep pixels name none.
+/// As many as the pixels can name; deep pixels name none.
 int AllColours(int bits) {
   return bits <= 8 ? 1 << bits : 0;
 }
@@ -90,7 +89,7 @@ std::optional<DibHeader> ReadCore(const Fields& fields) {
   return header;
 }
 
-// `bytes` is the header's length.
+/// `bytes` is the header's length.
 bool SetCoding(DibHeader& header, std::uint32_t bytes, const Fields& fields) {
   const int bits = header.BitCount;
   header.Masks = ChannelMasks::Usual(bits);

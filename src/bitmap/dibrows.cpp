@@ -7,7 +7,7 @@
 namespace terramark::bitmap {
 namespace {
 
-// As much as stays in a processor's cache until it is turned into pixels.
+/// As much as stays in a processor's cache until it is turned into pixels.
 constexpr qint64 BandBytes = qint64{256} * 1024;
 constexpr std::uint32_t Opaque = 0xFF000000;
 
@@ -19,8 +19,9 @@ std::uint32_t ByteAt(const char* at) {
   return static_cast<unsigned char>(*at);
 }
 
-// Of 1, 2 or 4 bits, the leftmost pixel in a byte's high bits.
-void TurnSmall(int bits, int width, const DibColours& colours, const char* row, std::uint32_t* to) {
+/// Of 1, 2 or 4 bits, the leftmost pixel in a byte's high bits.
+void ConvertIndexedRow(int bits, int width, const DibColours& colours, const char* row,
+                       std::uint32_t* to) {
   const std::uint32_t mask = (1U << bits) - 1;
   for (int x = 0; x < width; ++row) {
     const std::uint32_t byte = ByteAt(row);
@@ -30,7 +31,7 @@ void TurnSmall(int bits, int width, const DibColours& colours, const char* row, 
   }
 }
 
-void TurnThreeBytes(int width, const char* row, std::uint32_t* to) {
+void Convert24BitRow(int width, const char* row, std::uint32_t* to) {
   // One byte of the next pixel is read too, so the last pixel goes by itself.
   for (int x = 0; x + 1 < width; ++x, row += 3) to[x] = Opaque | LongAt(row);
   to[width - 1] = Opaque | ByteAt(row + 2) << 16U | ByteAt(row + 1) << 8U | ByteAt(row);
@@ -67,8 +68,8 @@ const char* DibRows::Next() {
   return band_.data() + (row - bandFrom_) * header_.RowBytes();
 }
 
-void TurnRow(const DibHeader& header, const DibColours& colours, const char* row,
-             std::uint32_t* to) {
+void ConvertRow(const DibHeader& header, const DibColours& colours, const char* row,
+                std::uint32_t* to) {
   const int width = header.Width;
   switch (header.BitCount) {
     case 8:
@@ -80,7 +81,7 @@ void TurnRow(const DibHeader& header, const DibColours& colours, const char* row
       }
       return;
     case 24:
-      TurnThreeBytes(width, row, to);
+      Convert24BitRow(width, row, to);
       return;
     case 32:
       if (header.Masks.PlainBytes()) {
@@ -90,7 +91,7 @@ void TurnRow(const DibHeader& header, const DibColours& colours, const char* row
       }
       return;
     default:
-      TurnSmall(header.BitCount, width, colours, row, to);
+      ConvertIndexedRow(header.BitCount, width, colours, row, to);
   }
 }
 

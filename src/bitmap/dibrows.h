@@ -38,7 +38,7 @@ class DibRows {
 };
 
 /// Turns a stored row into the first Width pixels of `to`.
-void TurnRow(const DibHeader& header, const DibColours& colours, const char* row,
-             std::uint32_t* to);
+void ConvertRow(const DibHeader& header, const DibColours& colours, const char* row,
+                std::uint32_t* to);
 
 }  // namespace terramark::bitmap

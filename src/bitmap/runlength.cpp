@@ -9,15 +9,15 @@ namespace {
 
 constexpr qint64 PieceBytes = qint64{64} * 1024;
 
-// The coded bytes one by one.
-class Codes {
+/// The coded bytes one by one.
+class CodeReader {
  public:
-  Codes(ByteSource& dib, qint64 at)
+  CodeReader(ByteSource& dib, qint64 at)
       : dib_(dib), next_(at), end_(at + std::min<qint64>(dib.Size() - at, MaxCodedBytes)) {}
 
   /// 0 once they have ended.
-  int Take() {
-    if (taken_ == piece_.size() && !TakePiece()) return 0;
+  int NextByte() {
+    if (taken_ == piece_.size() && !ReadPiece()) return 0;
     return static_cast<unsigned char>(piece_[taken_++]);
   }
   /// Whether they have ended, or failed.
@@ -25,7 +25,7 @@ class Codes {
   bool Failed() const { return failed_; }
 
  private:
-  bool TakePiece() {
+  bool ReadPiece() {
     if (ended_) return false;
     const qint64 count = std::min(PieceBytes, end_ - next_);
     const std::optional<QByteArrayView> piece = dib_.At(next_, count);
@@ -47,16 +47,16 @@ class Codes {
   bool failed_ = false;
 };
 
-class RunPainter {
+class RunLengthDecoder {
  public:
-  RunPainter(Codes& codes, const DibHeader& header, const DibColours& colours,
-             forms::Raster& raster)
+  RunLengthDecoder(CodeReader& codes, const DibHeader& header, const DibColours& colours,
+                   forms::Raster& raster)
       : codes_(codes), bits_(header.BitCount), colours_(colours), raster_(raster) {}
 
-  void Paint() {
+  void DecodeRows() {
     while (y_ < raster_.Height) {
-      const int count = codes_.Take();
-      const int code = codes_.Take();
+      const int count = codes_.NextByte();
+      const int code = codes_.NextByte();
       if (codes_.Ended()) return;
       if (count > 0) {
         PaintRun(count, code);
@@ -68,16 +68,18 @@ class RunPainter {
 
  private:
   // The number of a pixel of a run, or of the pair that a byte holds, the left one high.
-  int NumberIn(int byte, int i) const {
+  int ColourIndexIn(int byte, int i) const {
     return bits_ == 8 ? byte : byte >> (i % 2 == 0 ? 4 : 0) & 0xF;
   }
 
-  std::uint32_t* Row() { return raster_.Pixels.data() + raster_.At(0, raster_.Height - 1 - y_); }
+  std::uint32_t* Row() {
+    return raster_.Pixels.data() + raster_.IndexOf(0, raster_.Height - 1 - y_);
+  }
 
   void PaintRun(int count, int byte) {
     const int shown = std::min(count, raster_.Width - x_);
     std::uint32_t* to = Row() + x_;
-    for (int i = 0; i < shown; ++i) to[i] = Colour(NumberIn(byte, i));
+    for (int i = 0; i < shown; ++i) to[i] = Colour(ColourIndexIn(byte, i));
     x_ += shown;
   }
 
@@ -85,12 +87,12 @@ class RunPainter {
     int byte = 0;
     std::uint32_t* row = Row();
     for (int i = 0; i < count; ++i) {
-      if (bits_ == 8 || i % 2 == 0) byte = codes_.Take();
+      if (bits_ == 8 || i % 2 == 0) byte = codes_.NextByte();
       if (codes_.Ended()) return;
-      if (x_ < raster_.Width) row[x_++] = Colour(NumberIn(byte, i));
+      if (x_ < raster_.Width) row[x_++] = Colour(ColourIndexIn(byte, i));
     }
     const int bytes = bits_ == 8 ? count : (count + 1) / 2;
-    if (bytes % 2 != 0) codes_.Take();
+    if (bytes % 2 != 0) codes_.NextByte();
   }
 
   // False at the end of the picture.
@@ -106,8 +108,8 @@ class RunPainter {
       case EndOfPicture:
         return false;
       case Move:
-        x_ = std::min(x_ + codes_.Take(), raster_.Width);
-        y_ += codes_.Take();
+        x_ = std::min(x_ + codes_.NextByte(), raster_.Width);
+        y_ += codes_.NextByte();
         return true;
       default:
         PaintEach(code);
@@ -117,7 +119,7 @@ class RunPainter {
 
   std::uint32_t Colour(int number) const { return colours_[static_cast<std::size_t>(number)]; }
 
-  Codes& codes_;
+  CodeReader& codes_;
   int bits_;
   const DibColours& colours_;
   forms::Raster& raster_;
@@ -129,8 +131,8 @@ class RunPainter {
 
 bool DecodeRunLengths(ByteSource& dib, const DibHeader& header, const DibColours& colours,
                       qint64 at, forms::Raster& raster) {
-  Codes codes(dib, at);
-  RunPainter(codes, header, colours, raster).Paint();
+  CodeReader codes(dib, at);
+  RunLengthDecoder(codes, header, colours, raster).DecodeRows();
   return !codes.Failed();
 }
 

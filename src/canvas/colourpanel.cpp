@@ -41,7 +41,7 @@ void ColourRegion(Form1& form, std::int16_t region, const Components& rgb) {
   form.PlColor(RegionButton).BackColor = form.SliderColour;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) != region) continue;
-    TakeRegionColour(form.ArmyAt(i), *marker);
+    CopyRegionColour(form.ArmyAt(i), *marker);
     // In here on purpose: the name of a Region without Areas keeps its colour.
     form.EditText.ForeColor = form.SliderColour;
   }

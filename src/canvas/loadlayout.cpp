@@ -17,9 +17,9 @@ void LoadMpa_MouseUp(Form1& form) {
   form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
-  const auto bytes = files::ReadRegularFile(form.Host.NativePath(name), MostLayoutBytes);
+  const auto bytes = files::ReadRegularFile(form.Host.NativePath(name), MaxLayoutBytes);
   if (!bytes) {
-    ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + bytes.error().Words());
+    ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + bytes.error().Description());
     return;
   }
   form.LayoutFile = name;

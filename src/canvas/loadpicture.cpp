@@ -19,7 +19,7 @@ void LoadMap_MouseUp(Form1& form) {
     ShowNameFault(form, path);
     return;
   }
-  if (const Shown shown = ShowNewPicture(form, path); !shown) {
+  if (const ShowResult shown = ShowNewPicture(form, path); !shown) {
     ShowPictureFault(form, path, shown.error());
     return;
   }

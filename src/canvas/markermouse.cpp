@@ -1,6 +1,6 @@
 #include "canvas/markermouse.h"
 
-#include "canvas/markerwords.h"
+#include "canvas/markerdescription.h"
 #include "document/corner.h"
 #include "document/numbers.h"
 #include "selection/selection.h"
@@ -19,7 +19,7 @@ std::int16_t WholePixels(float twips, std::int16_t twipsPerPixel, std::int16_t l
       .value_or(0);
 }
 
-void Grab(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
+void BeginMarkerDrag(Form1& form, forms::Label& marker, const forms::MouseEvent& event) {
   form.DragOffX = WholePixels(event.X, form.TwipsX);
   form.DragOffY = WholePixels(event.Y, form.TwipsY);
   marker.Drag();
@@ -37,7 +37,7 @@ void TurnCorner(Form1& form, std::int16_t area) {
 }
 
 /// Moves a marker that was dropped on itself by its travel; false when it has not travelled.
-bool MovedByTravel(Form1& form, forms::Label& marker, const forms::DropEvent& event) {
+bool MoveByTravel(Form1& form, forms::Label& marker, const forms::DropEvent& event) {
   const std::int16_t dx = WholePixels(event.X, form.TwipsX, form.DragOffX);
   const std::int16_t dy = WholePixels(event.Y, form.TwipsY, form.DragOffY);
   if (dx == 0 && dy == 0) return false;
@@ -51,7 +51,7 @@ void ArmyAt_MouseDown(Form1& form, const forms::MouseEvent& event) {
   if (event.Button == forms::RightButton) {
     TurnCorner(form, event.Index);
   } else if (event.Shift != forms::ShiftKey) {
-    Grab(form, form.ArmyAt(event.Index), event);
+    BeginMarkerDrag(form, form.ArmyAt(event.Index), event);
   }
 }
 
@@ -61,17 +61,17 @@ void ArmyAt_MouseUp(Form1& form, const forms::MouseEvent& event) {
 }
 
 void ArmyAt_MouseMove(Form1& form, const forms::MouseEvent& event) {
-  ShowHelpbar(form, AreaWords(form, event.Index));
+  ShowHelpbar(form, AreaDescription(form, event.Index));
 }
 
 void ArmyAt_DragDrop(Form1& form, const forms::DropEvent& event) {
   forms::Label& marker = form.ArmyAt(event.Index);
   if (&event.Source != &marker) return;
-  if (!MovedByTravel(form, marker, event)) SelectArea(form, event.Index, 0);
+  if (!MoveByTravel(form, marker, event)) SelectArea(form, event.Index, 0);
 }
 
 void Continent_MouseDown(Form1& form, const forms::MouseEvent& event) {
-  if (event.Shift != forms::ShiftKey) Grab(form, form.Continent(event.Index), event);
+  if (event.Shift != forms::ShiftKey) BeginMarkerDrag(form, form.Continent(event.Index), event);
 }
 
 void Continent_MouseUp(Form1& form, const forms::MouseEvent& event) {
@@ -79,13 +79,13 @@ void Continent_MouseUp(Form1& form, const forms::MouseEvent& event) {
 }
 
 void Continent_MouseMove(Form1& form, const forms::MouseEvent& event) {
-  ShowHelpbar(form, RegionWords(form, event.Index));
+  ShowHelpbar(form, RegionDescription(form, event.Index));
 }
 
 void Continent_DragDrop(Form1& form, const forms::DropEvent& event) {
   forms::Label& marker = form.Continent(event.Index);
   if (&event.Source != &marker) return;
-  if (!MovedByTravel(form, marker, event)) SelectRegion(form, event.Index);
+  if (!MoveByTravel(form, marker, event)) SelectRegion(form, event.Index);
 }
 
 void Picture1_DragDrop(Form1& form, const forms::DropEvent& event) {

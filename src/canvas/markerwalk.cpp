@@ -10,7 +10,7 @@ namespace terramark {
 namespace {
 
 /// The templates, which are never seen, are none of them.
-std::vector<forms::Label*> Walk(Form1& form) {
+std::vector<forms::Label*> VisibleMarkers(Form1& form) {
   std::vector<forms::Label*> markers;
   const auto add = [&markers](forms::Label& marker) {
     if (marker.Visible) markers.push_back(&marker);
@@ -23,7 +23,7 @@ std::vector<forms::Label*> Walk(Form1& form) {
 }  // namespace
 
 forms::Label* MarkerFrom(Form1& form, const forms::Control* marker, int steps) {
-  const std::vector<forms::Label*> markers = Walk(form);
+  const std::vector<forms::Label*> markers = VisibleMarkers(form);
   if (markers.empty()) return nullptr;
   const int count = static_cast<int>(markers.size());
   const auto found = std::ranges::find(markers, marker);

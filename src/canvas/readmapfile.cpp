@@ -17,7 +17,7 @@ constexpr int ExitFailed = 1;
 /// False when the file fails; a picture that is not there is no failure of the file. What has been
 /// read is shown step by step.
 bool ReadAndShow(Form1& form, LayoutReader& file) {
-  const LayoutStep head = file.ReadHead();
+  const LayoutResult head = file.ReadHead();
   ShowHead(form, file.Layout());
   if (!head) return false;
   if (FileExists(form, form.PictureFile) == 0) {
@@ -25,14 +25,14 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
     return true;
   }
   form.LoadMap.Caption = form.PictureFile;
-  const LayoutStep colours = file.ReadPlayerColours();
+  const LayoutResult colours = file.ReadPlayerColours();
   form.PlayerRGB = file.Layout().PlayerRGB;
   if (!colours) return false;
   ShowPlayerColours(form);
-  const LayoutStep map = file.ReadMap();
+  const LayoutResult map = file.ReadMap();
   PlaceMarkers(form, file.Layout());
   forms::Desktop& screen = form.Host;
-  const LayoutStep reach = file.CheckReach(screen.TwipsPerPixelX(), screen.TwipsPerPixelY());
+  const LayoutResult reach = file.CheckRange(screen.TwipsPerPixelX(), screen.TwipsPerPixelY());
   if (!map || !reach || !ShowMap(form)) return false;
   UpdateCounts(form);
   return true;

@@ -7,9 +7,9 @@
 
 namespace terramark {
 
-Shown RefreshMap(Form1& form) {
+ShowResult RefreshMap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) form.ArmyAt(i).Visible = false;
-  Shown shown = ShowPicture(form, form.PictureFile);
+  ShowResult shown = ShowPicture(form, form.PictureFile);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
@@ -18,7 +18,7 @@ Shown RefreshMap(Form1& form) {
   }
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     forms::Label& marker = form.ArmyAt(i);
-    Show(marker, Look::Plain);
+    Show(marker, MarkerState::Plain);
     marker.Visible = true;
   }
   form.EditText.SetFocus();

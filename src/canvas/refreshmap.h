@@ -11,7 +11,7 @@ struct Form1;
 /// selection's numbers, the inspector and the colour panel stay. Where the picture cannot be
 /// read the box keeps what it shows and a red text says so, which is for the caller to say again
 /// should it blank the bar afterwards.
-Shown RefreshMap(Form1& form);
+ShowResult RefreshMap(Form1& form);
 
 /// The button "Refresh map".
 void RefMap_MouseUp(Form1& form);

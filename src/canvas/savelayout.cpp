@@ -17,7 +17,7 @@ namespace {
 
 void ShowWriteFault(Form1& form, const std::string& name, const files::SafeFile& file,
                     const files::Fault& why) {
-  std::string rest = ": " + why.Words();
+  std::string rest = ": " + why.Description();
   if (file.Damaged()) rest += "; the old file is damaged";
   // The name alone: it is plain in any encoding, which the folder's need not be.
   if (!file.Kept().empty()) {
@@ -35,7 +35,7 @@ void SaveCFG_MouseUp(Form1& form) {
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
 
-  const Shown shown = RefreshMap(form);
+  const ShowResult shown = RefreshMap(form);
   files::SafeFile file(form.Host.NativePath(name));
   if (const auto opened = file.Open(); !opened) {
     ShowWriteFault(form, name, file, opened.error());
@@ -44,7 +44,7 @@ void SaveCFG_MouseUp(Form1& form) {
   const std::string header = form.Text1.Text;
   const LayoutWritten written = WriteMapFile(form);
   // Clearing the selection blanked the bar; what stopped the writing says so after that.
-  if (written.BrokenOffAt == 0 && !shown) {
+  if (written.StoppedAtArea == 0 && !shown) {
     ShowPictureFault(form, form.PictureFile, shown.error());
   }
   // A text that was stopped in mid-file takes its place like any other.

@@ -20,12 +20,12 @@ void MakeMarkers(Form1& form) {
 }
 
 /// From pixels of the saving screen to pixels of this one.
-struct Scale {
+struct TwipRatio {
   float X;
   float Y;
 };
 
-void Place(forms::Label& marker, const LaidMarker& laid, Scale scale) {
+void Place(forms::Label& marker, const MarkerRecord& laid, TwipRatio scale) {
   if (laid.Place) marker.Move(scale.X * laid.Place->Left, scale.Y * laid.Place->Top);
 }
 
@@ -39,10 +39,10 @@ void ShowHead(Form1& form, const MapLayout& layout) {
 
 void PlaceMarkers(Form1& form, const MapLayout& layout) {
   static_cast<Tables&>(form) = layout;
-  const Scale scale{layout.TwipsX / form.Host.TwipsPerPixelX(),
-                    layout.TwipsY / form.Host.TwipsPerPixelY()};
+  const TwipRatio scale{layout.TwipsX / form.Host.TwipsPerPixelX(),
+                        layout.TwipsY / form.Host.TwipsPerPixelY()};
   for (std::int16_t r = 0; r <= layout.RegionCount; ++r) {
-    const LaidMarker& laid = layout.RegionMarkers(r);
+    const MarkerRecord& laid = layout.RegionMarkers(r);
     forms::Label& marker = form.Continent(r);
     if (laid.RGB) {
       marker.Caption = layout.RegionName(r);
@@ -51,7 +51,7 @@ void PlaceMarkers(Form1& form, const MapLayout& layout) {
     Place(marker, laid, scale);
   }
   for (std::int16_t i = 0; i <= layout.AreaCount; ++i) {
-    const LaidMarker& laid = layout.AreaMarkers(i);
+    const MarkerRecord& laid = layout.AreaMarkers(i);
     forms::Label& marker = form.ArmyAt(i);
     if (laid.RGB) {
       PaintMarker(marker, ColourOf(*laid.RGB));
@@ -61,12 +61,12 @@ void PlaceMarkers(Form1& form, const MapLayout& layout) {
   }
 }
 
-Shown ShowMap(Form1& form) {
+ShowResult ShowMap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     form.ArmyAt(i).Visible = false;
     form.ArmyAt(i).ZOrder(forms::StackEnd::Back);
   }
-  Shown shown = ShowNewPicture(form, form.PictureFile);
+  ShowResult shown = ShowNewPicture(form, form.PictureFile);
   if (!shown) return shown;
   form.Picture1.ZOrder(forms::StackEnd::Front);
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) form.Continent(r).Visible = true;

@@ -18,6 +18,6 @@ void PlaceMarkers(Form1& form, const MapLayout& layout);
 
 /// Shows the picture and, over it, the Region markers and then the Area markers in rising order.
 /// Where the picture cannot be read, the markers stay hidden.
-Shown ShowMap(Form1& form);
+ShowResult ShowMap(Form1& form);
 
 }  // namespace terramark

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char DefaultHeader[] = "MAP Layout File";
 
-SavingTime Now(Form1& form) {
+SavingTime SaveTime(Form1& form) {
   using namespace std::chrono;
   const forms::DateTime now = form.Host.Now();
   return {year(now.Year) / now.Month / now.Day,
@@ -23,7 +23,7 @@ SavingTime Now(Form1& form) {
 }
 
 /// In the order of the file, in which the lots have always been drawn.
-void DrawSymbols(Form1& form, MapLayout& map) {
+void PickMissingSymbols(Form1& form, MapLayout& map) {
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
       Area& area = map.Areas(i);
@@ -57,12 +57,12 @@ MapLayout LayoutOf(Form1& form) {
 LayoutWritten WriteMapFile(Form1& form) {
   ClearSelection(form);
   if (form.Text1.Text.Get().empty()) form.Text1.Text = DefaultHeader;
-  const SavingTime now = Now(form);
+  const SavingTime now = SaveTime(form);
   MapLayout map = LayoutOf(form);
-  DrawSymbols(form, map);
+  PickMissingSymbols(form, map);
   LayoutWritten file = WriteLayout(map, now);
-  if (file.BrokenOffAt != 0) {
-    ShowMessage(form, "Area " + form.AreaName(file.BrokenOffAt) + " has no neighbours", ClrRed);
+  if (file.StoppedAtArea != 0) {
+    ShowMessage(form, "Area " + form.AreaName(file.StoppedAtArea) + " has no neighbours", ClrRed);
   }
   return file;
 }

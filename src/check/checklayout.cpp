@@ -22,24 +22,24 @@ std::string Printable(std::string text) {
   return text;
 }
 
-void Say(Report& report, int line, std::string text) {
+void AddDiagnostic(Report& report, int line, std::string text) {
   // The bytes that the code page leaves open would be control characters too.
   constexpr std::string_view Open = "\x81\x8D\x8F\x90\x9D";
   std::ranges::replace_if(
       text, [&](char byte) { return Open.find(byte) != std::string_view::npos; }, '?');
-  report.Remarks.push_back({line, Utf8Of(Printable(std::move(text)))});
+  report.Diagnostics.push_back({line, ToUtf8(Printable(std::move(text)))});
 }
 
-void SayUnreadable(Report& report, int line, const std::string& why) {
-  report.Worst = Grade::Unreadable;
-  Say(report, line, "cannot be read: " + why);
+void AddUnreadable(Report& report, int line, const std::string& why) {
+  report.Worst = Severity::Unreadable;
+  AddDiagnostic(report, line, "cannot be read: " + why);
 }
 
 /// Bare names begin in the folder of the layout, which the editor enters. Names of files are UTF-8,
 /// as they are to the editor.
-bool IsThere(const std::string& picture, const std::string& layout) {
+bool PictureExists(const std::string& picture, const std::string& layout) {
   const auto folder = std::filesystem::path(layout).parent_path();
-  return files::RegularFile::Open(folder / Utf8Of(picture)).has_value();
+  return files::RegularFile::Open(folder / ToUtf8(picture)).has_value();
 }
 
 /// What is wrong with the picture's line, and where the reading goes on after it.
@@ -47,37 +47,39 @@ void CheckPicture(Report& report, LayoutReader& reader, const std::string& layou
   const std::string& picture = reader.Layout().PictureFile;
   const int line = reader.LineOfPicture();
   const bool cut = reader.PictureIsCut();
-  if (cut) Say(report, line, "warning: a comma ends the path of the picture");
-  if (picture.empty() || IsThere(picture, layout)) return;
-  Say(report, line, "warning: the picture " + picture + " is not there");
-  if (cut) reader.PassPictureLine();
+  if (cut) AddDiagnostic(report, line, "warning: a comma ends the path of the picture");
+  if (picture.empty() || PictureExists(picture, layout)) return;
+  AddDiagnostic(report, line, "warning: the picture " + picture + " is not there");
+  if (cut) reader.SkipPictureLine();
 }
 
 /// What is lost in reading although the reading goes on.
-void CheckLosses(Report& report, const LayoutReader& reader) {
-  for (const int line : reader.LinesWithLoss()) {
-    Say(report, line, "warning: a double quote ends a text before its end; the rest is lost");
+void CheckTruncations(Report& report, const LayoutReader& reader) {
+  for (const int line : reader.TruncatedLines()) {
+    AddDiagnostic(report, line,
+                  "warning: a double quote ends a text before its end; the rest is lost");
   }
 }
 
 /// A reading out of step: lines that are missing or too many show here, if anywhere.
 void CheckSteps(Report& report, const LayoutReader& reader) {
-  if (reader.LineOfOddHead() != 0) {
-    Say(report, reader.LineOfOddHead(),
-        std::string("warning: this is not the head ") + reader.UsualHead() +
-            "; a line may be missing above, or be too much");
+  if (reader.LineOfOddHeading() != 0) {
+    AddDiagnostic(report, reader.LineOfOddHeading(),
+                  std::string("warning: this is not the head ") + reader.UsualHeading() +
+                      "; a line may be missing above, or be too much");
   }
   const MapLayout& map = reader.Layout();
   const std::string noPlace = " is given no place";
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
     if (map.AreaMarkers(i).Place) continue;
-    Say(report, reader.LineOfArea(i), "warning: Area" + NumberText(i) + noPlace);
+    AddDiagnostic(report, reader.LineOfArea(i), "warning: Area" + NumberText(i) + noPlace);
   }
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     if (map.RegionMarkers(r).Place) continue;
-    Say(report, reader.LineOfRegion(r), "warning: Region" + NumberText(r) + noPlace);
+    AddDiagnostic(report, reader.LineOfRegion(r), "warning: Region" + NumberText(r) + noPlace);
   }
-  if (reader.AtEnd()) Say(report, reader.Line(), "warning: the file ends before its last line");
+  if (reader.AtEnd())
+    AddDiagnostic(report, reader.Line(), "warning: the file ends before its last line");
 }
 
 int LineAtFault(const Verdict& verdict, const LayoutReader& reader) {
@@ -95,21 +97,22 @@ int LineAtFault(const Verdict& verdict, const LayoutReader& reader) {
 }
 
 void CheckRules(Report& report, const LayoutReader& reader) {
-  const Verdict verdict = JudgeMap(reader.Layout());
+  const Verdict verdict = CheckMap(reader.Layout());
   if (verdict.Status == 0) return;
-  report.Worst = Grade::Faulty;
-  Say(report, LineAtFault(verdict, reader), verdict.Message);
+  report.Worst = Severity::Faulty;
+  AddDiagnostic(report, LineAtFault(verdict, reader), verdict.Message);
 }
 
 void CheckAll(Report& report, LayoutReader& reader, const std::string& path) {
-  const LayoutStep read = reader.ReadHead()
-                              .map([&] { CheckPicture(report, reader, path); })
-                              .and_then([&] { return reader.ReadPlayerColours(); })
-                              .and_then([&] { return reader.ReadMap(); })
-                              .and_then([&] { return reader.CheckReach(UsualTwips, UsualTwips); });
-  CheckLosses(report, reader);
+  const LayoutResult read =
+      reader.ReadHead()
+          .map([&] { CheckPicture(report, reader, path); })
+          .and_then([&] { return reader.ReadPlayerColours(); })
+          .and_then([&] { return reader.ReadMap(); })
+          .and_then([&] { return reader.CheckRange(UsualTwips, UsualTwips); });
+  CheckTruncations(report, reader);
   if (!read) {
-    SayUnreadable(report, read.error().Line, read.error().Words());
+    AddUnreadable(report, read.error().Line, read.error().Description());
   } else {
     CheckSteps(report, reader);
     CheckRules(report, reader);
@@ -121,10 +124,10 @@ void CheckAll(Report& report, LayoutReader& reader, const std::string& path) {
 }  // namespace
 
 Report CheckLayout(const std::string& path) {
-  const auto bytes = files::ReadRegularFile(path, MostLayoutBytes);
+  const auto bytes = files::ReadRegularFile(path, MaxLayoutBytes);
   if (bytes) return CheckBytes(*bytes, path);
   Report report;
-  SayUnreadable(report, 0, bytes.error().Words());
+  AddUnreadable(report, 0, bytes.error().Description());
   return report;
 }
 
@@ -132,18 +135,18 @@ Report CheckBytes(std::string_view bytes, const std::string& path) {
   Report report;
   LayoutReader reader(bytes, EmptyMap());
   CheckAll(report, reader, path);
-  std::ranges::stable_sort(report.Remarks, {}, &Remark::Line);
+  std::ranges::stable_sort(report.Diagnostics, {}, &Diagnostic::Line);
   return report;
 }
 
-std::string LinesOf(const std::string& path, const Report& report) {
+std::string FormatReport(const std::string& path, const Report& report) {
   const std::string name = Printable(path);
-  if (report.Remarks.empty()) {
+  if (report.Diagnostics.empty()) {
     return name + ": good, " + std::to_string(report.Areas) + " Areas, " +
            std::to_string(report.Regions) + " Regions\n";
   }
   std::string lines;
-  for (const Remark& remark : report.Remarks) {
+  for (const Diagnostic& remark : report.Diagnostics) {
     lines += name + ":";
     if (remark.Line != 0) lines += std::to_string(remark.Line) + ":";
     lines += " " + remark.Text + "\n";

@@ -9,9 +9,9 @@
 namespace terramark::check {
 
 /// From what is least to what is worst; also the statuses of the program.
-enum class Grade { Good = 0, Faulty = 1, Unreadable = 2 };
+enum class Severity { Good = 0, Faulty = 1, Unreadable = 2 };
 
-struct Remark {
+struct Diagnostic {
   /// From 1; 0 where no line shows it.
   int Line = 0;
   /// UTF-8, ready to print.
@@ -19,9 +19,9 @@ struct Remark {
 };
 
 struct Report {
-  Grade Worst = Grade::Good;
+  Severity Worst = Severity::Good;
   /// By line, warnings among them; empty for a map of which there is nothing to say.
-  std::vector<Remark> Remarks;
+  std::vector<Diagnostic> Diagnostics;
   std::int16_t Areas = 0;
   std::int16_t Regions = 0;
 };
@@ -35,6 +35,6 @@ Report CheckLayout(const std::string& path);
 Report CheckBytes(std::string_view bytes, const std::string& path);
 
 /// The lines that tell it, each with the file's name in front, control characters as "?".
-std::string LinesOf(const std::string& path, const Report& report);
+std::string FormatReport(const std::string& path, const Report& report);
 
 }  // namespace terramark::check

@@ -18,7 +18,7 @@ namespace {
 /// user pressed.
 constexpr std::int16_t NewCorner = 2;
 
-void BringUp(forms::Label& marker) {
+void RaiseMarker(forms::Label& marker) {
   marker.ZOrder(forms::StackEnd::Front);
   marker.Visible = true;
 }
@@ -32,7 +32,7 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
   forms::Label& marker = form.ArmyAt(i);
   PaintMarker(marker, ClrWhite);
   SetCorner(form, i, NewCorner);
-  BringUp(marker);
+  RaiseMarker(marker);
   form.AreaName(i) = "Area" + NumberText(i);
   UpdateAreaCount(form);
   form.AreaLinks(i) = EmptyLinks;
@@ -45,8 +45,8 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
     marker.Move(previous.Left, previous.Top);
   }
   // The keys on the map go on from here.
-  form.Picture1.Ringed = &marker;
-  BringIntoView(form, marker);
+  form.Picture1.CursorItem = &marker;
+  ScrollMarkerIntoView(form, marker);
 }
 
 void AddCont_MouseUp(Form1& form) {
@@ -54,14 +54,14 @@ void AddCont_MouseUp(Form1& form) {
   const std::int16_t r = ++form.RegionCount;
   form.Continent.Load(r);
   forms::Label& marker = form.Continent(r);
-  WhitenRegion(form, r);
-  NameAnew(form, r);
-  BringUp(marker);
+  ResetRegionColour(form, r);
+  ResetRegionName(form, r);
+  RaiseMarker(marker);
   UpdateRegionCount(form);
   form.CurRegion = r;
   form.RegionArmies(r) = NewArmies;
   SelectRegion(form, r);
-  BringIntoView(form, marker);
+  ScrollMarkerIntoView(form, marker);
 }
 
 }  // namespace terramark

@@ -32,7 +32,7 @@ void ClearArea(Form1& form) {
     form.AreaLinks(i) = WithoutEntry(form.AreaLinks(i), a);
   }
   form.AreaLinks(a) = ClearedLinks;
-  LeaveRegion(form, a);
+  RemoveFromRegion(form, a);
   ClearSelection(form);
   ShowCleared(form, form.AreaName(a));
 }
@@ -45,10 +45,10 @@ void ClearRegion(Form1& form) {
     ShowMessage(form, NothingToClear, ClrGreen);
     return;
   }
-  WhitenRegion(form, r);
-  NameAnew(form, r);
+  ResetRegionColour(form, r);
+  ResetRegionName(form, r);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.AreaRegion(i) == r) LeaveRegion(form, i);
+    if (form.AreaRegion(i) == r) RemoveFromRegion(form, i);
   }
   ClearSelection(form);
   ShowCleared(form, form.RegionName(r));

@@ -8,7 +8,7 @@
 namespace terramark {
 
 void DelAll_MouseUp(Form1& form) {
-  if (!Confirmed(form, "Clear whole map?")) return;
+  if (!Confirm(form, "Clear whole map?")) return;
   ClearMap(form);
   ShowNewPicture(form, "");
 }

@@ -15,7 +15,7 @@ namespace terramark {
 namespace {
 
 /// Nearest pixel, a tie to the even one; what no picture reaches stays out of reach.
-int PixelAt(float place) {
+int NearestPixel(float place) {
   constexpr float OutOfReach = 1 << 24;
   return static_cast<int>(std::lrint(std::clamp(place, -OutOfReach, OutOfReach)));
 }
@@ -23,8 +23,8 @@ int PixelAt(float place) {
 forms::PixelPoint FillPoint(Form1& form, std::int16_t area) {
   const forms::Label& marker = form.ArmyAt(area);
   const std::int16_t corner = form.AreaCorner(area);
-  return {PixelAt(marker.Left + (AtRight(corner) ? marker.Width : 0.0F)),
-          PixelAt(marker.Top + (AtBottom(corner) ? marker.Height : 0.0F))};
+  return {NearestPixel(marker.Left + (AtRight(corner) ? marker.Width : 0.0F)),
+          NearestPixel(marker.Top + (AtBottom(corner) ? marker.Height : 0.0F))};
 }
 
 }  // namespace

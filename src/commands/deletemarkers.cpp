@@ -36,7 +36,7 @@ void DeleteArea(Form1& form) {
     ShowMessage(form, "Must clear all links before deleting a Area", ClrRed);
     return;
   }
-  if (!Confirmed(form, "delete Area#" + NumberText(last))) return;
+  if (!Confirm(form, "delete Area#" + NumberText(last))) return;
   form.ArmyAt.Unload(last);
   ShowMessage(form, form.AreaName(last) + " deleted", ClrGreen);
   form.AreaRegion(last) = 0;
@@ -45,7 +45,7 @@ void DeleteArea(Form1& form) {
 }
 
 /// Region k takes over all that Region k + 1 holds, but for the background that shows the mark.
-void TakeOver(Form1& form, std::int16_t k) {
+void CopyFromNext(Form1& form, std::int16_t k) {
   const auto next = static_cast<std::int16_t>(k + 1);
   forms::Label& marker = form.Continent(k);
   const forms::Label& from = form.Continent(next);
@@ -60,7 +60,7 @@ void CloseGap(Form1& form) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) > form.CurRegion) --form.AreaRegion(i);
   }
-  for (std::int16_t k = form.CurRegion; k < form.RegionCount; ++k) TakeOver(form, k);
+  for (std::int16_t k = form.CurRegion; k < form.RegionCount; ++k) CopyFromNext(form, k);
   form.CurRegion = form.RegionCount;
 }
 
@@ -71,7 +71,7 @@ void DeleteRegion(Form1& form) {
     ShowMessage(form, "Must clear all links before deleting a Region", ClrRed);
     return;
   }
-  if (!Confirmed(form, "delete Region#" + NumberText(form.CurRegion))) return;
+  if (!Confirm(form, "delete Region#" + NumberText(form.CurRegion))) return;
   const std::string name = form.RegionName(form.CurRegion);
   if (form.CurRegion < form.RegionCount) CloseGap(form);
   // Pressed again after a deletion, the current number stands above the count.

@@ -6,10 +6,10 @@
 
 namespace terramark {
 
-std::vector<std::int16_t> GreyAreas(Form1& form) {
+std::vector<std::int16_t> CollectMarkedAreas(Form1& form) {
   std::vector<std::int16_t> areas;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (LookOf(form.ArmyAt(i)) == Look::Marked) areas.push_back(i);
+    if (MarkerStateOf(form.ArmyAt(i)) == MarkerState::Marked) areas.push_back(i);
   }
   return areas;
 }

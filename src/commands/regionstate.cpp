@@ -7,17 +7,17 @@
 
 namespace terramark {
 
-void WhitenRegion(Form1& form, std::int16_t region) {
+void ResetRegionColour(Form1& form, std::int16_t region) {
   PaintMarker(form.Continent(region), ClrWhite);
   form.RegionRGB(region).fill(UnsetComponent);
 }
 
-void NameAnew(Form1& form, std::int16_t region) {
+void ResetRegionName(Form1& form, std::int16_t region) {
   form.RegionName(region) = "Region" + NumberText(region);
   form.Continent(region).Caption = form.RegionName(region);
 }
 
-void LeaveRegion(Form1& form, std::int16_t area) {
+void RemoveFromRegion(Form1& form, std::int16_t area) {
   PaintMarker(form.ArmyAt(area), ClrWhite);
   form.AreaRegion(area) = 0;
 }

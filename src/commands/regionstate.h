@@ -8,10 +8,10 @@ namespace terramark {
 struct Form1;
 
 /// Takes a Region's colour away: its marker is white and plain, its components unset.
-void WhitenRegion(Form1& form, std::int16_t region);
+void ResetRegionColour(Form1& form, std::int16_t region);
 /// Gives a Region the name of a new one, on its marker too.
-void NameAnew(Form1& form, std::int16_t region);
+void ResetRegionName(Form1& form, std::int16_t region);
 /// Takes an Area out of its Region and makes its marker white and plain.
-void LeaveRegion(Form1& form, std::int16_t area);
+void RemoveFromRegion(Form1& form, std::int16_t area);
 
 }  // namespace terramark

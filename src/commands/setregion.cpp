@@ -17,15 +17,15 @@ void SetCont_MouseUp(Form1& form) {
   const std::int16_t r = form.CurRegion;
   forms::Label* region = RegionMarker(form, r);
   if (region == nullptr) return;
-  WhitenRegion(form, r);
+  ResetRegionColour(form, r);
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (form.AreaRegion(i) != r || LookOf(form.ArmyAt(i)) == Look::Marked) continue;
-    LeaveRegion(form, i);
+    if (form.AreaRegion(i) != r || MarkerStateOf(form.ArmyAt(i)) == MarkerState::Marked) continue;
+    RemoveFromRegion(form, i);
   }
-  const std::vector<std::int16_t> members = GreyAreas(form);
+  const std::vector<std::int16_t> members = CollectMarkedAreas(form);
   for (const std::int16_t i : members) {
     form.AreaRegion(i) = r;
-    TakeRegionColour(form.ArmyAt(i), *region);
+    CopyRegionColour(form.ArmyAt(i), *region);
   }
   ShowMessage(form,
               "Region " + form.RegionName(r) + " has" +

@@ -22,7 +22,7 @@ int FindMarkedAreas(Form1& form) {
   form.MarkedAreas(2) = 0;
   std::int16_t found = 0;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
-    if (LookOf(form.ArmyAt(i)) != Look::Plain) form.MarkedAreas(++found) = i;
+    if (MarkerStateOf(form.ArmyAt(i)) != MarkerState::Plain) form.MarkedAreas(++found) = i;
   }
   return found;
 }

@@ -30,7 +30,7 @@ const CardSymbol* SymbolOfLetter(char letter) {
   return FindSymbol(&CardSymbol::Letter, letter);
 }
 
-std::string SymbolLetter(std::string_view areaSymbol) {
+std::string CardSymbolLetter(std::string_view areaSymbol) {
   const CardSymbol* symbol = SymbolOfCode(areaSymbol);
   return symbol == nullptr ? std::string() : std::string(1, symbol->Letter);
 }

@@ -21,6 +21,6 @@ const CardSymbol* SymbolOfCode(std::string_view areaSymbol);
 const CardSymbol* SymbolOfLetter(char letter);
 
 /// The letter of an AreaSymbol as text; empty where it has none.
-std::string SymbolLetter(std::string_view areaSymbol);
+std::string CardSymbolLetter(std::string_view areaSymbol);
 
 }  // namespace terramark

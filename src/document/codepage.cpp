@@ -9,8 +9,8 @@ namespace {
 
 constexpr char32_t FirstOfOwn = 0x80;
 
-// Bytes 0x80 to 0x9F; all others stand for the character of the same number.
-// clang-format off
+/// Bytes 0x80 to 0x9F; all others stand for the character of the same number.
+/// clang-format off
 constexpr auto OwnCharacters = std::to_array<char16_t>({
     // 0/8   1/9     2/A     3/B     4/C     5/D     6/E     7/F
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
@@ -26,22 +26,22 @@ bool OwnByte(char32_t number) {
 
 }  // namespace
 
-char16_t CharacterOf(char byte) {
+char16_t DecodeByte(char byte) {
   const char16_t number = static_cast<unsigned char>(byte);
   return OwnByte(number) ? OwnCharacters[number - FirstOfOwn] : number;
 }
 
-char ByteOf(char32_t character) {
+char EncodeCharacter(char32_t character) {
   if (character <= 0xFF && !OwnByte(character)) return static_cast<char>(character);
   const auto* const own = std::find(OwnCharacters.begin(), OwnCharacters.end(), character);
   if (own == OwnCharacters.end()) return '?';
   return static_cast<char>(FirstOfOwn + static_cast<char32_t>(own - OwnCharacters.begin()));
 }
 
-std::string Utf8Of(std::string_view text) {
+std::string ToUtf8(std::string_view text) {
   std::string utf8;
   for (const char byte : text) {
-    const char16_t character = CharacterOf(byte);
+    const char16_t character = DecodeByte(byte);
     if (character < 0x80) {
       utf8 += byte;
       continue;

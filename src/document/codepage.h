@@ -8,12 +8,12 @@ namespace terramark {
 
 /// The Unicode character of a byte. The five bytes that the code page leaves open give the control
 /// characters of the same number.
-char16_t CharacterOf(char byte);
+char16_t DecodeByte(char byte);
 
 /// The byte of a Unicode character; "?" for one that the code page lacks.
-char ByteOf(char32_t character);
+char EncodeCharacter(char32_t character);
 
 /// The text in UTF-8, for terminals and for the names of files.
-std::string Utf8Of(std::string_view text);
+std::string ToUtf8(std::string_view text);
 
 }  // namespace terramark

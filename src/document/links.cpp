@@ -34,11 +34,11 @@ Neighbours::Neighbours(std::string_view links)
   for (std::size_t k = 0; k < count_; ++k) entries_[k] = FieldAt(links, PairSize * (1 + k));
 }
 
-bool Neighbours::List(std::int16_t area) const {
+bool Neighbours::Contains(std::int16_t area) const {
   return std::find(begin(), end(), area) != end();
 }
 
-std::string LinksTo(const std::vector<std::int16_t>& areas) {
+std::string MakeLinks(const std::vector<std::int16_t>& areas) {
   std::string links = TwoDigit(static_cast<std::int16_t>(areas.size()));
   for (const std::int16_t area : areas) links += TwoDigit(area);
   return links;
@@ -46,8 +46,8 @@ std::string LinksTo(const std::vector<std::int16_t>& areas) {
 
 std::string WithEntry(std::string links, std::int16_t area) {
   const std::int16_t count = LinkCount(links);
-  if (count == 0) return LinksTo({area});
-  if (Neighbours(links).List(area)) return links;
+  if (count == 0) return MakeLinks({area});
+  if (Neighbours(links).Contains(area)) return links;
   links.replace(0, PairSize, TwoDigit(static_cast<std::int16_t>(count + 1)));
   return links + TwoDigit(area);
 }
@@ -73,7 +73,7 @@ std::int16_t LinkCount(std::string_view links) {
 }
 
 std::int16_t IsNeighbour(const Tables& tables, std::int16_t a, std::int16_t b) {
-  return Neighbours(tables.AreaLinks(a)).List(b) ? 1 : 0;
+  return Neighbours(tables.AreaLinks(a)).Contains(b) ? 1 : 0;
 }
 
 }  // namespace terramark

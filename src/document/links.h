@@ -21,7 +21,7 @@ class Neighbours {
   const std::int16_t* begin() const { return entries_.data(); }
   const std::int16_t* end() const { return entries_.data() + count_; }
   std::int16_t Count() const { return static_cast<std::int16_t>(count_); }
-  bool List(std::int16_t area) const;
+  bool Contains(std::int16_t area) const;
 
  private:
   std::array<std::int16_t, TableSize> entries_;
@@ -34,7 +34,7 @@ inline constexpr char ClearedLinks[] = " ";
 inline constexpr char EmptyLinks[] = "  ";
 
 /// The string of these neighbours, in their order.
-std::string LinksTo(const std::vector<std::int16_t>& areas);
+std::string MakeLinks(const std::vector<std::int16_t>& areas);
 /// With an entry for an Area, 0 to 99, behind those it has; unchanged when it lists that Area.
 std::string WithEntry(std::string links, std::int16_t area);
 /// Without the entries for an Area; unchanged when no pair spells that Area.

@@ -18,7 +18,7 @@ struct MarkerPlace {
 };
 
 /// What the lines of a layout tell of a marker.
-struct LaidMarker {
+struct MarkerRecord {
   /// The colour on the line of its Region; of an Area's marker, on the Region's line above it. A
   /// file may have several lines of one Region, so that this is not always the Region's colour.
   /// Nothing where the Area or the Region has no line.
@@ -26,7 +26,7 @@ struct LaidMarker {
   /// Nothing where no line places it.
   std::optional<MarkerPlace> Place;
 
-  bool operator==(const LaidMarker&) const = default;
+  bool operator==(const MarkerRecord&) const = default;
 };
 
 /// Twips a pixel, across and down, of a screen of 96 dots an inch.
@@ -40,8 +40,8 @@ struct MapLayout : Tables {
   float TwipsX = 0;
   float TwipsY = 0;
   /// By number; 0 is the hidden marker that new ones copy.
-  Table<LaidMarker> AreaMarkers;
-  Table<LaidMarker> RegionMarkers;
+  Table<MarkerRecord> AreaMarkers;
+  Table<MarkerRecord> RegionMarkers;
 
   bool operator==(const MapLayout&) const = default;
 };

@@ -106,7 +106,7 @@ void ClearRows(Tables& tables);
 Tables EmptyMap();
 
 /// The number of a Region's Areas.
-inline std::int16_t MembersOf(const Tables& tables, std::int16_t region) {
+inline std::int16_t MemberCount(const Tables& tables, std::int16_t region) {
   std::int16_t members = 0;
   for (std::int16_t i = 1; i <= tables.AreaCount; ++i) {
     if (tables.AreaRegion(i) == region) ++members;

@@ -14,7 +14,7 @@ void Picture1_MouseUp(Form1& form, const forms::MouseEvent& event) {
     above.Y -= form.ArmyAt(0).Height;
     AddTer_MouseUp(form, above);
   } else if (event.Shift == 0) {
-    const Shown shown = RefreshMap(form);
+    const ShowResult shown = RefreshMap(form);
     ClearSelection(form);
     if (!shown) ShowPictureFault(form, form.PictureFile, shown.error());
   }

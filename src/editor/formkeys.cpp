@@ -14,13 +14,13 @@ void ShowHelpOnActive(Form1& form) {
   ShowHelpTopic(form, (told != nullptr ? *told : form.TMHelp).HelpTopic);
 }
 
-void GoToMapOrBack(Form1& form) {
+void ToggleMapFocus(Form1& form) {
   if (form.ActiveControl() != &form.Picture1) {
-    form.BeforeMap = form.ActiveControl();
+    form.FocusBeforeMap = form.ActiveControl();
     form.Focus(&form.Picture1);
     return;
   }
-  if (form.BeforeMap != nullptr) form.Focus(form.BeforeMap);
+  if (form.FocusBeforeMap != nullptr) form.Focus(form.FocusBeforeMap);
   // It may take no keys by now.
   if (form.ActiveControl() == &form.Picture1) form.Focus(&form.EditText);
 }
@@ -30,13 +30,13 @@ bool Zoomed(Form1& form, std::int16_t key) {
   forms::PictureBox& box = form.Picture1;
   switch (key) {
     case forms::KeyPlus:
-      box.ZoomTo(Larger(box.Zoom), box.MiddleOfView());
+      box.ZoomTo(Larger(box.Zoom), box.ViewCentre());
       return true;
     case forms::KeyMinus:
-      box.ZoomTo(Smaller(box.Zoom), box.MiddleOfView());
+      box.ZoomTo(Smaller(box.Zoom), box.ViewCentre());
       return true;
     case forms::Key0:
-      box.ZoomTo(forms::ActualSize, box.MiddleOfView());
+      box.ZoomTo(forms::ActualSize, box.ViewCentre());
       return true;
     default:
       return false;
@@ -48,16 +48,16 @@ bool Zoomed(Form1& form, std::int16_t key) {
 void Form_KeyDown(Form1& form, forms::KeyEvent& event) {
   // On many keyboards plus takes the Shift key.
   if ((event.Shift & ~forms::ShiftKey) == forms::CtrlKey) {
-    event.Taken = Zoomed(form, event.KeyCode);
+    event.Handled = Zoomed(form, event.KeyCode);
     return;
   }
   if (event.Shift != 0) return;
-  event.Taken = event.KeyCode == forms::KeyF1 || event.KeyCode == forms::KeyF6;
-  if (!event.Taken || event.Repeat) return;
+  event.Handled = event.KeyCode == forms::KeyF1 || event.KeyCode == forms::KeyF6;
+  if (!event.Handled || event.Repeat) return;
   if (event.KeyCode == forms::KeyF1) {
     ShowHelpOnActive(form);
   } else {
-    GoToMapOrBack(form);
+    ToggleMapFocus(form);
   }
 }
 

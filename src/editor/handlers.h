@@ -6,6 +6,6 @@ namespace terramark {
 struct Form1;
 
 /// Fills the event slots of the main window and its controls; once, before Form_Load.
-void JoinHandlers(Form1& form);
+void ConnectHandlers(Form1& form);
 
 }  // namespace terramark

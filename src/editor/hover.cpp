@@ -26,16 +26,16 @@ bool BlanksHelpbar(const Form1& form, const forms::Control& control) {
 }
 
 /// Blank is what their Tags say, since none has been given one.
-void JoinBlank(Form1& form, forms::Control& control) {
+void ConnectBlank(Form1& form, forms::Control& control) {
   if (!BlanksHelpbar(form, control)) return;
   control.MouseMove = [&form](const forms::MouseEvent&) { ShowHelpbar(form, ""); };
 }
 
 }  // namespace
 
-void JoinHover(Form1& form) {
-  JoinBlank(form, form);
-  for (forms::Control* control : form.Controls()) JoinBlank(form, *control);
+void ConnectHover(Form1& form) {
+  ConnectBlank(form, form);
+  for (forms::Control* control : form.Controls()) ConnectBlank(form, *control);
   form.ArmyAt(0).MouseMove = [&form](const auto& event) { ArmyAt_MouseMove(form, event); };
   form.Continent(0).MouseMove = [&form](const auto& event) { Continent_MouseMove(form, event); };
 }

@@ -13,7 +13,7 @@
 #include "commands/setneighbours.h"
 #include "commands/setregion.h"
 #include "commands/swapareas.h"
-#include "forms/broken.h"
+#include "forms/fatalerror.h"
 #include "shell/bars.h"
 #include "shell/controltable.h"
 #include "shell/form1.h"
@@ -26,7 +26,7 @@ using Handler = void (*)(Form1&, const forms::MouseEvent&);
 
 /// A command that does not look at the event.
 template <void (*Command)(Form1&)>
-void Plain(Form1& form, const forms::MouseEvent&) {
+void IgnoreEvent(Form1& form, const forms::MouseEvent&) {
   Command(form);
 }
 
@@ -37,34 +37,34 @@ void TMHelp_MouseUp(Form1& form) {
 
 /// Exit and the colours act on their clicks instead.
 struct CommandRow {
-  Finder<Form1, forms::CommandButton> Of;
+  Finder<Form1, forms::CommandButton> Locate;
   Handler Command;
 };
 
 // clang-format off
 constexpr CommandRow Commands[] = {
-    {The<&Form1::AddCont>,     Plain<AddCont_MouseUp>},
-    {The<&Form1::AddTer>,      AddTer_MouseUp},
-    {The<&Form1::ClearLink>,   Plain<ClearLink_MouseUp>},
-    {The<&Form1::Cvalid>,      Plain<Cvalid_MouseUp>},
-    {The<&Form1::DBPush1>,     Plain<DBPush1_MouseUp>},
-    {The<&Form1::DelAll>,      Plain<DelAll_MouseUp>},
-    {The<&Form1::DelControl>,  Plain<DelControl_MouseUp>},
-    {The<&Form1::LoadMap>,     Plain<LoadMap_MouseUp>},
-    {The<&Form1::LoadMpa>,     Plain<LoadMpa_MouseUp>},
-    {The<&Form1::MakeNeibor>,  Plain<MakeNeibor_MouseUp>},
-    {The<&Form1::RefMap>,      Plain<RefMap_MouseUp>},
-    {The<&Form1::SaveCFG>,     Plain<SaveCFG_MouseUp>},
-    {The<&Form1::SetCont>,     Plain<SetCont_MouseUp>},
-    {The<&Form1::SwapTer>,     Plain<SwapTer_MouseUp>},
-    {The<&Form1::TMHelp>,      Plain<TMHelp_MouseUp>},
+    {ControlOf<&Form1::AddCont>,     IgnoreEvent<AddCont_MouseUp>},
+    {ControlOf<&Form1::AddTer>,      AddTer_MouseUp},
+    {ControlOf<&Form1::ClearLink>,   IgnoreEvent<ClearLink_MouseUp>},
+    {ControlOf<&Form1::Cvalid>,      IgnoreEvent<Cvalid_MouseUp>},
+    {ControlOf<&Form1::DBPush1>,     IgnoreEvent<DBPush1_MouseUp>},
+    {ControlOf<&Form1::DelAll>,      IgnoreEvent<DelAll_MouseUp>},
+    {ControlOf<&Form1::DelControl>,  IgnoreEvent<DelControl_MouseUp>},
+    {ControlOf<&Form1::LoadMap>,     IgnoreEvent<LoadMap_MouseUp>},
+    {ControlOf<&Form1::LoadMpa>,     IgnoreEvent<LoadMpa_MouseUp>},
+    {ControlOf<&Form1::MakeNeibor>,  IgnoreEvent<MakeNeibor_MouseUp>},
+    {ControlOf<&Form1::RefMap>,      IgnoreEvent<RefMap_MouseUp>},
+    {ControlOf<&Form1::SaveCFG>,     IgnoreEvent<SaveCFG_MouseUp>},
+    {ControlOf<&Form1::SetCont>,     IgnoreEvent<SetCont_MouseUp>},
+    {ControlOf<&Form1::SwapTer>,     IgnoreEvent<SwapTer_MouseUp>},
+    {ControlOf<&Form1::TMHelp>,      IgnoreEvent<TMHelp_MouseUp>},
 };
 // clang-format on
 
-void Nothing(Form1&, const forms::MouseEvent&) {
+void NoCommand(Form1&, const forms::MouseEvent&) {
 }
 
-void Join(Form1& form, forms::Control& control, Handler command) {
+void Connect(Form1& form, forms::Control& control, Handler command) {
   control.MouseUp = [&form, &control, command](const forms::MouseEvent& event) {
     if (control.HelpTopic != 0 && forms::AsksForHelp(event.Shift)) {
       ShowHelpTopic(form, control.HelpTopic);
@@ -76,14 +76,15 @@ void Join(Form1& form, forms::Control& control, Handler command) {
 
 }  // namespace
 
-void JoinPresses(Form1& form) {
+void ConnectPresses(Form1& form) {
   for (forms::Control* control : form.Controls()) {
-    if (control->HelpTopic != 0) Join(form, *control, Nothing);
+    if (control->HelpTopic != 0) Connect(form, *control, NoCommand);
   }
   for (const CommandRow& row : Commands) {
-    forms::CommandButton& button = row.Of(form);
-    if (button.Owner() != &form) forms::Broken(button.Name() + " is not in the control table");
-    Join(form, button, row.Command);
+    forms::CommandButton& button = row.Locate(form);
+    if (button.ParentForm() != &form)
+      forms::FatalError(button.Name() + " is not in the control table");
+    Connect(form, button, row.Command);
   }
 }
 

@@ -7,6 +7,6 @@ struct Form1;
 
 /// Fills the MouseUp slots of the controls with a help topic or a command. Ends the program, by
 /// name, over a button of a command that is not in the control table.
-void JoinPresses(Form1& form);
+void ConnectPresses(Form1& form);
 
 }  // namespace terramark

@@ -13,7 +13,7 @@ Fault Fault::OfKind(mode_t mode) {
   return fault;
 }
 
-std::string Fault::Words() const {
+std::string Fault::Description() const {
   if (kind_ != nullptr) return kind_;
   // strerror would speak the desktop's language, in an encoding that is not the editor's.
   const char* const known = ::strerrordesc_np(error_);

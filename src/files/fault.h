@@ -19,7 +19,7 @@ class Fault {
   int Error() const { return error_; }
   /// For the user: words that stand behind a colon, with a small letter first, in English as all
   /// that the editor says.
-  std::string Words() const;
+  std::string Description() const;
 
  private:
   int error_;

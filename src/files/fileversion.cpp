@@ -21,7 +21,7 @@ Moment MomentOf(const timespec& time) {
   return {time.tv_sec, time.tv_nsec};
 }
 
-// From the clock's time: a file's own can be any, and a sum with it too large.
+/// From the clock's time: a file's own can be any, and a sum with it too large.
 Moment Before(const Moment& now, std::int64_t seconds, std::int64_t nanoseconds) {
   if (now.Nanoseconds >= nanoseconds) return {now.Seconds - seconds, now.Nanoseconds - nanoseconds};
   return {now.Seconds - seconds - 1, now.Nanoseconds - nanoseconds + NanosecondsPerSecond};

@@ -8,8 +8,8 @@ Control::~Control() {
   if (form_ != nullptr && form_ != this) form_->Remove(*this);
 }
 
-bool Control::IsSeen() const {
-  return Visible && (container_ == nullptr || container_->IsSeen());
+bool Control::IsVisible() const {
+  return Visible && (container_ == nullptr || container_->IsVisible());
 }
 
 void Control::Drag() {
@@ -34,7 +34,7 @@ void Control::Refresh() {
 }
 
 void Control::PropertyChanged(PropertyId id) {
-  if (form_ != nullptr) form_->Tell(*this, id);
+  if (form_ != nullptr) form_->NotifyObserver(*this, id);
 }
 
 void Control::CopyCommon(const Control& from) {

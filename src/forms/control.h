@@ -68,12 +68,12 @@ class Control : public PropertyOwner {
   /// Number in the control array; 0 for a control that stands alone.
   std::int16_t Index() const { return index_; }
   /// The form it stands on; null until it is added to one.
-  Form* Owner() const { return form_; }
+  Form* ParentForm() const { return form_; }
   Control* Container() const { return container_; }
   /// Contained controls from the back to the front.
   const std::vector<Control*>& Children() const { return children_; }
   /// Whether it and all that it stands in are visible.
-  bool IsSeen() const;
+  bool IsVisible() const;
 
   /// Begins a drag of this control by the pointer that is down; a drop ends it. Does nothing where
   /// no button is down, or the control is on no form.
@@ -89,7 +89,7 @@ class Control : public PropertyOwner {
 
   void PropertyChanged(PropertyId id) override;
   /// A control in this one is about to go; only its identity may be used.
-  virtual void ChildGone(const Control& /*child*/) {}
+  virtual void ChildRemoved(const Control& /*child*/) {}
 
  protected:
   /// Takes over all that the template has but its index, visibility and place in the stack.

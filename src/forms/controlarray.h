@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/broken.h"
+#include "forms/fatalerror.h"
 #include "forms/form.h"
 
 namespace terramark::forms {
@@ -35,7 +35,7 @@ class ControlArray {
   /// element that exists is given as it is. An index out of range ends the program, here and in
   /// Load.
   T& Design(std::int16_t index) {
-    if (!InRange(index)) Broken(NameOf(index) + " is out of range");
+    if (!InRange(index)) FatalError(ElementName(index) + " is out of range");
     auto& element = elements_[static_cast<std::size_t>(index)];
     if (!element) element = std::make_unique<T>(name_, index);
     return *element;
@@ -49,7 +49,7 @@ class ControlArray {
     T& element = Design(index);
     element.Visible = false;
     // On the form first: a caption is measured there.
-    pattern.Owner()->Add(element, *pattern.Container());
+    pattern.ParentForm()->Add(element, *pattern.Container());
     element.CopyTemplate(pattern);
     return true;
   }
@@ -71,10 +71,12 @@ class ControlArray {
   static bool InRange(std::int16_t index) {
     return index >= 0 && static_cast<std::size_t>(index) < MaxElements;
   }
-  std::string NameOf(std::int16_t index) const { return name_ + "(" + std::to_string(index) + ")"; }
+  std::string ElementName(std::int16_t index) const {
+    return name_ + "(" + std::to_string(index) + ")";
+  }
   T* Existing(std::int16_t index) const {
     T* element = Find(index);
-    if (element == nullptr) Broken(NameOf(index) + " does not exist");
+    if (element == nullptr) FatalError(ElementName(index) + " does not exist");
     return element;
   }
 

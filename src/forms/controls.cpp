@@ -14,10 +14,11 @@ void Label::PropertyChanged(PropertyId id) {
 }
 
 void Label::FitCaption() {
-  if (Owner() == nullptr) return;
-  const TextExtent extent = Owner()->Host.MeasureText(Caption);
+  if (ParentForm() == nullptr) return;
+  const TextExtent extent = ParentForm()->Host.MeasureText(Caption);
   const int border = BorderStyle == Border::FixedSingle ? 2 : 0;
-  const ScalePoint size = SizeBeside(*this, extent.Width + border, extent.Height + border);
+  const ScalePoint size =
+      PixelsToContainerScale(*this, extent.Width + border, extent.Height + border);
   Width = size.X;
   Height = size.Y;
 }

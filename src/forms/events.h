@@ -70,7 +70,7 @@ struct KeyEvent {
   /// Whether a key that is held down is told again.
   bool Repeat = false;
   /// Set by a handler of KeyDown for which the key was meant: nobody hears of it after that one.
-  bool Taken = false;
+  bool Handled = false;
 };
 
 /// An event without arguments but the element's number: Click, Change, KeyPress and

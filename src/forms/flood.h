@@ -19,20 +19,20 @@ namespace terramark::forms {
 /// for its bits once at most, before anything in it is painted, so painting may make open pixels of
 /// closed ones.
 ///
-/// Paint paints the pixels left <= x < right of a row, void Run(int y, int left, int right), or
+/// Painter paints the pixels left <= x < right of a row, void Run(int y, int left, int right), or
 /// those of the 32 from left on whose bits are set, from the lowest bit on,
-/// void Spots(int y, int left, std::uint32_t bits).
-template <class Open, class Paint>
+/// void PaintBits(int y, int left, std::uint32_t bits).
+template <class Open, class Painter>
 class Flooder {
  public:
   /// Takes all the memory that the flood will need, two bits a pixel and a few words a row, or
   /// throws std::bad_alloc. Width and height are not below 0.
-  Flooder(int width, int height, const Open& open, Paint& paint)
+  Flooder(int width, int height, const Open& open, Painter& painter)
       : width_(width),
         height_(height),
         words_((width + WordBits - 1) / WordBits),
         askOpen_(open),
-        paint_(paint),
+        painter_(painter),
         open_(Index(height)),
         taken_(Index(height)),
         rows_(static_cast<std::size_t>(height)) {
@@ -60,7 +60,7 @@ class Flooder {
     }
     // Short runs one by one would lie far apart in memory, where the flood goes up and down.
     for (int y = 0; y < height_; ++y) {
-      if (RowAt(y).HasSpots) PaintSpots(y);
+      if (RowAt(y).HasShortRuns) PaintShortRuns(y);
     }
   }
 
@@ -78,7 +78,7 @@ class Flooder {
   struct Row {
     bool Asked = false;
     /// Whether runs within half a word each are taken, which are painted in the end.
-    bool HasSpots = false;
+    bool HasShortRuns = false;
     /// What is taken and has neighbours above and below that are still to be seen.
     Range Fresh;
   };
@@ -150,14 +150,14 @@ class Flooder {
       row.Fresh = {std::min(row.Fresh.First, run.First), std::max(row.Fresh.Last, run.Last)};
     }
     if (run.First == run.Last && before / HalfBits == (upTo - 1) / HalfBits) {
-      row.HasSpots = true;
+      row.HasShortRuns = true;
     } else {
-      paint_.Run(y, run.First * WordBits + before, run.Last * WordBits + upTo);
+      painter_.Run(y, run.First * WordBits + before, run.Last * WordBits + upTo);
     }
   }
 
   /// Paints the runs of a row that lie within half a word each; the others are painted.
-  void PaintSpots(int y) {
+  void PaintShortRuns(int y) {
     constexpr Word All = (Word{1} << HalfBits) - 1;
     const Word* const taken = &taken_[Index(y)];
     const auto half = [&](int i) { return taken[i / 2] >> i % 2 * HalfBits & All; };
@@ -169,7 +169,7 @@ class Flooder {
       // The run at the end that hangs together with another half does not count.
       if (joined) spots &= spots + 1;
       if (joins) spots &= All >> std::countl_one(static_cast<std::uint32_t>(spots));
-      if (spots != 0) paint_.Spots(y, i * HalfBits, static_cast<std::uint32_t>(spots));
+      if (spots != 0) painter_.PaintBits(y, i * HalfBits, static_cast<std::uint32_t>(spots));
       joined = joins;
     }
   }
@@ -178,7 +178,7 @@ class Flooder {
   const int height_;
   const int words_;
   const Open& askOpen_;
-  Paint& paint_;
+  Painter& painter_;
   /// What the flood may still enter, as far as rows have been asked.
   std::vector<Word> open_;
   std::vector<Word> taken_;

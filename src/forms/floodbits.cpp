@@ -58,7 +58,7 @@ void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, Fl
   }
 }
 
-void PaintSpots(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint) {
+void PaintPixels(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint) {
   if (pixels.size() >= HalfBits) return PaintHalf(pixels.data(), bits, paint);
   std::array<std::uint32_t, HalfBits> last{};
   std::ranges::copy(pixels, last.begin());

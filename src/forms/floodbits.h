@@ -17,6 +17,6 @@ void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, Fl
 
 /// Paints those of the first 32 pixels whose bits are set, from the lowest bit on; the bits of
 /// pixels that are not there do not matter.
-void PaintSpots(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint);
+void PaintPixels(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint);
 
 }  // namespace terramark::forms

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/broken.h"
+#include "forms/fatalerror.h"
 
 namespace terramark::forms {
 
 namespace {
 
-bool TakesKeys(const Control& control) {
+bool AcceptsFocus(const Control& control) {
   for (const Control* at = &control; at != nullptr; at = at->Container()) {
     if (!at->Enabled || !at->Visible) return false;
   }
@@ -29,7 +29,7 @@ Form::~Form() {
 }
 
 void Form::Add(Control& control, Control& container) {
-  if (control.form_ != nullptr) Broken(control.name_ + " is on a form already");
+  if (control.form_ != nullptr) FatalError(control.name_ + " is on a form already");
   control.form_ = this;
   control.container_ = &container;
   container.children_.push_back(&control);
@@ -44,7 +44,7 @@ void Form::Remove(Control& control) {
   if (lost_ == &control) lost_ = nullptr;
   if (control.container_ != nullptr) {
     std::erase(control.container_->children_, &control);
-    control.container_->ChildGone(control);
+    control.container_->ChildRemoved(control);
   }
   for (Control* child : control.children_) child->container_ = nullptr;
   std::erase(controls_, &control);
@@ -62,46 +62,46 @@ void Form::Restack(Control& control, StackEnd end) {
 }
 
 void Form::Focus(Control* control) {
-  if (active_ == control || (control != nullptr && !TakesKeys(*control))) return;
-  Pointer.PutBack();
+  if (active_ == control || (control != nullptr && !AcceptsFocus(*control))) return;
+  Pointer.CancelKeyDrag();
   active_ = control;
   lost_ = nullptr;
   if (observer_ != nullptr) observer_->FocusMoved(control != nullptr ? *control : *this);
   if (control != nullptr && active_ == control) control->GotFocus.Raise({control->Index()});
 }
 
-void Form::Tell(Control& control, PropertyId id) {
+void Form::NotifyObserver(Control& control, PropertyId id) {
   const bool movesKeys = id == PropertyId::Enabled || id == PropertyId::Visible;
   // Before the screen knows, so that it has no need to find another place for the keyboard.
-  if (movesKeys && active_ != nullptr && !TakesKeys(*active_)) {
+  if (movesKeys && active_ != nullptr && !AcceptsFocus(*active_)) {
     Control* const lost = active_;
     Focus(nullptr);
     lost_ = lost;
   }
   if (observer_ != nullptr) observer_->PropertyChanged(control, id);
-  if (movesKeys && lost_ != nullptr && TakesKeys(*lost_)) Focus(lost_);
+  if (movesKeys && lost_ != nullptr && AcceptsFocus(*lost_)) Focus(lost_);
 }
 
 bool Form::KeyPressed(KeyEvent key) {
-  const Taken now{active_, Pointer.HoldNumber()};
+  const HandledKey now{active_, Pointer.KeyDragNumber()};
   const auto down = taken_.find(key.KeyCode);
   const bool goesOn = key.Repeat && down != taken_.end();
   // An arrow that carried does not begin to walk when the hold has ended under it.
-  if (goesOn && !down->second.GoesOnIn(now)) return true;
-  if (key.KeyCode == KeyEscape && Pointer.InFlight()) {
+  if (goesOn && !down->second.SameContextAs(now)) return true;
+  if (key.KeyCode == KeyEscape && Pointer.CurrentDrag()) {
     Pointer.CancelDrag();
-    key.Taken = true;
+    key.Handled = true;
   }
-  if (!key.Taken && KeyPreview) KeyDown.Raise(key);
-  if (!key.Taken && now.Active != nullptr) now.Active->KeyDown.Raise(key);
+  if (!key.Handled && KeyPreview) KeyDown.Raise(key);
+  if (!key.Handled && now.Active != nullptr) now.Active->KeyDown.Raise(key);
   // Also where it means nothing by now, as an arrow once the Shift key is down too.
-  if (goesOn) key.Taken = true;
-  if (key.Taken) {
+  if (goesOn) key.Handled = true;
+  if (key.Handled) {
     taken_[key.KeyCode] = now;
   } else {
     taken_.erase(key.KeyCode);
   }
-  return key.Taken;
+  return key.Handled;
 }
 
 void Form::KeyReleased(const KeyEvent& key) {

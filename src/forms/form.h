@@ -78,7 +78,7 @@ class Form : public Control {
 
   void Remove(Control& control);
   void Restack(Control& control, StackEnd end);
-  void Tell(Control& control, PropertyId id);
+  void NotifyObserver(Control& control, PropertyId id);
 
   FormObserver* observer_ = nullptr;
   std::vector<Control*> controls_;
@@ -87,18 +87,18 @@ class Form : public Control {
   Control* lost_ = nullptr;
   /// Of a key that was taken: who had the keyboard at the press, and the hold that the keys had
   /// then.
-  struct Taken {
+  struct HandledKey {
     Control* Active = nullptr;
-    unsigned Hold = 0;
+    unsigned DragNumber = 0;
 
     /// Whether a repeat still means what the press did.
-    bool GoesOnIn(const Taken& now) const {
-      return Active == now.Active && (Hold == 0 || Hold == now.Hold);
+    bool SameContextAs(const HandledKey& now) const {
+      return Active == now.Active && (DragNumber == 0 || DragNumber == now.DragNumber);
     }
   };
   /// The keys that are down and were taken, by their codes; of their controls only the identity is
   /// used.
-  std::map<std::int16_t, Taken> taken_;
+  std::map<std::int16_t, HandledKey> taken_;
 };
 
 }  // namespace terramark::forms

@@ -13,7 +13,7 @@ namespace {
 /// No screen reaches so far; places from a file are held to it, so that sums of them stay small.
 constexpr float FarthestPixel = 1 << 24;
 
-int Whole(float pixels) {
+int NearestPixel(float pixels) {
   return static_cast<int>(std::lround(std::clamp(pixels, -FarthestPixel, FarthestPixel)));
 }
 
@@ -31,77 +31,77 @@ Scale OuterScale(const Control& control) {
 }  // namespace
 
 PixelRect PixelBounds(const Control& control) {
-  const ScalePoint pixel = PixelIn(OuterScale(control), control.Owner());
+  const ScalePoint pixel = PixelIn(OuterScale(control), control.ParentForm());
   const bool outermost = control.Container() == nullptr;
-  return {outermost ? 0 : Whole(control.Left / pixel.X),
-          outermost ? 0 : Whole(control.Top / pixel.Y), Whole(control.Width / pixel.X),
-          Whole(control.Height / pixel.Y)};
+  return {outermost ? 0 : NearestPixel(control.Left / pixel.X),
+          outermost ? 0 : NearestPixel(control.Top / pixel.Y),
+          NearestPixel(control.Width / pixel.X), NearestPixel(control.Height / pixel.Y)};
 }
 
-PixelPoint Inside(const Control& control, PixelPoint onForm) {
+PixelPoint MapFromForm(const Control& control, PixelPoint onForm) {
   if (control.Container() == nullptr) return onForm;
-  const PixelPoint in = Inside(*control.Container(), onForm) - PixelBounds(control).Corner();
+  const PixelPoint in = MapFromForm(*control.Container(), onForm) - PixelBounds(control).TopLeft();
   if (control.Kind() != ControlKind::PictureBox) return in;
-  return OnPicture(static_cast<const PictureBox&>(control), in);
+  return MapToPicture(static_cast<const PictureBox&>(control), in);
 }
 
-PixelPoint OnForm(const Control& control, PixelPoint inside) {
+PixelPoint MapToForm(const Control& control, PixelPoint inside) {
   if (control.Container() == nullptr) return inside;
   if (control.Kind() == ControlKind::PictureBox) {
-    inside = InBox(static_cast<const PictureBox&>(control), inside);
+    inside = MapToBox(static_cast<const PictureBox&>(control), inside);
   }
-  return OnForm(*control.Container(), PixelBounds(control).Corner() + inside);
+  return MapToForm(*control.Container(), PixelBounds(control).TopLeft() + inside);
 }
 
 PixelPoint InnerOrigin(const Control& control) {
-  return OnForm(control, {});
+  return MapToForm(control, {});
 }
 
-PixelPoint Middle(const Control& control) {
+PixelPoint CentreOnForm(const Control& control) {
   const PixelRect bounds = PixelBounds(control);
-  const PixelPoint middle = bounds.Corner() + PixelPoint{bounds.Width / 2, bounds.Height / 2};
-  return control.Container() == nullptr ? middle : OnForm(*control.Container(), middle);
+  const PixelPoint middle = bounds.TopLeft() + PixelPoint{bounds.Width / 2, bounds.Height / 2};
+  return control.Container() == nullptr ? middle : MapToForm(*control.Container(), middle);
 }
 
-ScalePoint InScale(const Control& control, PixelPoint inside) {
-  const ScalePoint pixel = PixelIn(control.InnerScale, control.Owner());
+ScalePoint PixelsToScale(const Control& control, PixelPoint inside) {
+  const ScalePoint pixel = PixelIn(control.InnerScale, control.ParentForm());
   return {static_cast<float>(inside.X) * pixel.X, static_cast<float>(inside.Y) * pixel.Y};
 }
 
-ScalePoint SizeBeside(const Control& control, int width, int height) {
-  const ScalePoint pixel = PixelIn(OuterScale(control), control.Owner());
+ScalePoint PixelsToContainerScale(const Control& control, int width, int height) {
+  const ScalePoint pixel = PixelIn(OuterScale(control), control.ParentForm());
   return {static_cast<float>(width) * pixel.X, static_cast<float>(height) * pixel.Y};
 }
 
-ScalePoint FromTwips(ScalePoint twips, const Control& container, const Form& form) {
+ScalePoint TwipsToScale(ScalePoint twips, const Control& container, const Form& form) {
   if (container.InnerScale == Scale::Twips) return twips;
   const ScalePoint pixel = PixelIn(Scale::Twips, &form);
   return {twips.X / pixel.X, twips.Y / pixel.Y};
 }
 
-int PixelsDown(Desktop& host, float twips) {
-  return Whole(twips / host.TwipsPerPixelY());
+int TwipsToPixelsY(Desktop& host, float twips) {
+  return NearestPixel(twips / host.TwipsPerPixelY());
 }
 
 PixelPoint PlaceOnScreen(const Form& form) {
   const ScalePoint pixel = PixelIn(Scale::Twips, &form);
-  return {Whole(form.Left / pixel.X), Whole(form.Top / pixel.Y)};
+  return {NearestPixel(form.Left / pixel.X), NearestPixel(form.Top / pixel.Y)};
 }
 
-PixelPoint InBox(const PictureBox& box, PixelPoint onPicture) {
+PixelPoint MapToBox(const PictureBox& box, PixelPoint onPicture) {
   return {ToScreen(box.Zoom, onPicture.X) - box.ScrollLeft,
           ToScreen(box.Zoom, onPicture.Y) - box.ScrollTop};
 }
 
-PixelPoint OnPicture(const PictureBox& box, PixelPoint inBox) {
+PixelPoint MapToPicture(const PictureBox& box, PixelPoint inBox) {
   return {ToPicture(box.Zoom, inBox.X + box.ScrollLeft),
           ToPicture(box.Zoom, inBox.Y + box.ScrollTop)};
 }
 
-PixelRect InBox(const PictureBox& box, const PixelRect& onPicture) {
-  const PixelPoint corner = InBox(box, onPicture.Corner());
+PixelRect MapToBox(const PictureBox& box, const PixelRect& onPicture) {
+  const PixelPoint corner = MapToBox(box, onPicture.TopLeft());
   const PixelPoint end =
-      InBox(box, onPicture.Corner() + PixelPoint{onPicture.Width, onPicture.Height});
+      MapToBox(box, onPicture.TopLeft() + PixelPoint{onPicture.Width, onPicture.Height});
   return {corner.X, corner.Y, std::max(1, end.X - corner.X), std::max(1, end.Y - corner.Y)};
 }
 

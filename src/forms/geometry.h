@@ -23,7 +23,7 @@ struct PixelRect {
   int Width = 0;
   int Height = 0;
 
-  PixelPoint Corner() const { return {Left, Top}; }
+  PixelPoint TopLeft() const { return {Left, Top}; }
   bool Contains(PixelPoint at) const {
     return at.X >= Left && at.Y >= Top && at.X < Left + Width && at.Y < Top + Height;
   }
@@ -43,9 +43,9 @@ PixelRect PixelBounds(const Control& control);
 
 /// A pixel of the form's inside as a pixel of a control's own inside, counted from its corner; in a
 /// picture box, the pixel of the picture that is seen there. Either may lie outside.
-PixelPoint Inside(const Control& control, PixelPoint onForm);
+PixelPoint MapFromForm(const Control& control, PixelPoint onForm);
 /// Where on the form a pixel of a control's inside begins.
-PixelPoint OnForm(const Control& control, PixelPoint inside);
+PixelPoint MapToForm(const Control& control, PixelPoint inside);
 
 /// Where the origin of a control's inside stands, in pixels of the form's inside; 0, 0 for the
 /// form. Inside a picture box that is the picture's corner, wherever it is scrolled to, so it may
@@ -53,29 +53,29 @@ PixelPoint OnForm(const Control& control, PixelPoint inside);
 PixelPoint InnerOrigin(const Control& control);
 
 /// The middle of a control, in pixels of the form's inside.
-PixelPoint Middle(const Control& control);
+PixelPoint CentreOnForm(const Control& control);
 
 /// A pixel of a control's inside in the scale of that inside. The control must be on a form.
-ScalePoint InScale(const Control& control, PixelPoint inside);
+ScalePoint PixelsToScale(const Control& control, PixelPoint inside);
 
 /// A size in pixels in the scale of a control's container. The control must be on a form.
-ScalePoint SizeBeside(const Control& control, int width, int height);
+ScalePoint PixelsToContainerScale(const Control& control, int width, int height);
 
 /// A place or size that was designed in twips, in the scale of a container's inside on a form. The
 /// container need not be on the form yet.
-ScalePoint FromTwips(ScalePoint twips, const Control& container, const Form& form);
+ScalePoint TwipsToScale(ScalePoint twips, const Control& container, const Form& form);
 
 /// A length down the screen, from twips to pixels, rounded as in PixelBounds.
-int PixelsDown(Desktop& host, float twips);
+int TwipsToPixelsY(Desktop& host, float twips);
 
 /// Where a form's corner stands on the screen, in pixels, rounded as in PixelBounds.
 PixelPoint PlaceOnScreen(const Form& form);
 
 /// From pixels of the picture in a box to pixels of the box, and back: where one begins, and which
 /// one is seen. Either may lie outside.
-PixelPoint InBox(const PictureBox& box, PixelPoint onPicture);
-PixelPoint OnPicture(const PictureBox& box, PixelPoint inBox);
+PixelPoint MapToBox(const PictureBox& box, PixelPoint onPicture);
+PixelPoint MapToPicture(const PictureBox& box, PixelPoint inBox);
 /// What a part of the picture covers in the box; in either direction a pixel at least.
-PixelRect InBox(const PictureBox& box, const PixelRect& onPicture);
+PixelRect MapToBox(const PictureBox& box, const PixelRect& onPicture);
 
 }  // namespace terramark::forms

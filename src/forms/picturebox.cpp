@@ -14,25 +14,25 @@ namespace terramark::forms {
 
 namespace {
 
-constexpr int GroundAround = 24;  // pixels of the screen
+constexpr int ScrollMargin = 24;  // pixels of the screen
 
 /// The picture in the top left corner of a larger raster.
-Raster Enlarged(const Raster& picture, int width, int height, std::uint32_t background) {
+Raster PaddedCopy(const Raster& picture, int width, int height, std::uint32_t background) {
   Raster image;
   image.Width = width;
   image.Height = height;
-  image.Pixels.assign(image.At(0, height), background);
+  image.Pixels.assign(image.IndexOf(0, height), background);
   for (int y = 0; y < picture.Height; ++y) {
-    const auto row = picture.Pixels.begin() + static_cast<std::ptrdiff_t>(picture.At(0, y));
+    const auto row = picture.Pixels.begin() + static_cast<std::ptrdiff_t>(picture.IndexOf(0, y));
     std::copy(row, row + picture.Width,
-              image.Pixels.begin() + static_cast<std::ptrdiff_t>(image.At(0, y)));
+              image.Pixels.begin() + static_cast<std::ptrdiff_t>(image.IndexOf(0, y)));
   }
   return image;
 }
 
 /// How far to scroll until a stretch is seen with ground around it; 0 where it is.
-int StepInto(int from, int length, int view) {
-  const int ground = std::clamp((view - length) / 2, 0, GroundAround);
+int ScrollDelta(int from, int length, int view) {
+  const int ground = std::clamp((view - length) / 2, 0, ScrollMargin);
   const int before = from - ground;
   const int behind = from + length + ground - view;
   // Of what is too long, the beginning.
@@ -49,26 +49,26 @@ int PictureBox::BoxHeight() const {
   return PixelBounds(*this).Height;
 }
 
-// The image may have blank ground beside the picture, for which no bar is needed.
-const Raster& PictureBox::Sheet() const {
+/// The image may have blank ground beside the picture, for which no bar is needed.
+const Raster& PictureBox::DisplayedImage() const {
   return Picture.Get() && Picture.Get()->Width > 0 ? *Picture.Get() : Image();
 }
 
-int PictureBox::ShownWidth() const {
-  return ToScreen(Zoom, Sheet().Width);
+int PictureBox::ZoomedWidth() const {
+  return ToScreen(Zoom, DisplayedImage().Width);
 }
 
-int PictureBox::ShownHeight() const {
-  return ToScreen(Zoom, Sheet().Height);
+int PictureBox::ZoomedHeight() const {
+  return ToScreen(Zoom, DisplayedImage().Height);
 }
 
-// A bar for one way takes room from the other, which can call for the second bar.
+/// A bar for one way takes room from the other, which can call for the second bar.
 bool PictureBox::ScrollsAcross() const {
-  return ShownWidth() > BoxWidth() - (ShownHeight() > BoxHeight() ? ScrollBarExtent : 0);
+  return ZoomedWidth() > BoxWidth() - (ZoomedHeight() > BoxHeight() ? ScrollBarExtent : 0);
 }
 
 bool PictureBox::ScrollsDown() const {
-  return ShownHeight() > BoxHeight() - (ShownWidth() > BoxWidth() ? ScrollBarExtent : 0);
+  return ZoomedHeight() > BoxHeight() - (ZoomedWidth() > BoxWidth() ? ScrollBarExtent : 0);
 }
 
 int PictureBox::ViewWidth() const {
@@ -80,8 +80,8 @@ int PictureBox::ViewHeight() const {
 }
 
 void PictureBox::ScrollTo(int left, int top) {
-  ScrollLeft = std::clamp(left, 0, std::max(0, ShownWidth() - ViewWidth()));
-  ScrollTop = std::clamp(top, 0, std::max(0, ShownHeight() - ViewHeight()));
+  ScrollLeft = std::clamp(left, 0, std::max(0, ZoomedWidth() - ViewWidth()));
+  ScrollTop = std::clamp(top, 0, std::max(0, ZoomedHeight() - ViewHeight()));
 }
 
 void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
@@ -97,17 +97,17 @@ void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
   ScrollTo(to.X, to.Y);
 }
 
-void PictureBox::Reveal(const PixelRect& onPicture) {
-  const PixelRect part = InBox(*this, onPicture);
-  ScrollBy(StepInto(part.Left, part.Width, ViewWidth()),
-           StepInto(part.Top, part.Height, ViewHeight()));
+void PictureBox::ScrollIntoView(const PixelRect& onPicture) {
+  const PixelRect part = MapToBox(*this, onPicture);
+  ScrollBy(ScrollDelta(part.Left, part.Width, ViewWidth()),
+           ScrollDelta(part.Top, part.Height, ViewHeight()));
 }
 
 bool PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
   const Raster& image = Image();
   const auto opens = [&](PixelPoint at) {
     return PixelRect{0, 0, image.Width, image.Height}.Contains(at) &&
-           image.Pixels[image.At(at.X, at.Y)] != PixelOf(border);
+           image.Pixels[image.IndexOf(at.X, at.Y)] != PixelOf(border);
   };
   if (std::ranges::none_of(seeds, opens)) return true;
   try {
@@ -139,8 +139,8 @@ void PictureBox::PropertyChanged(PropertyId id) {
   }
 }
 
-void PictureBox::ChildGone(const Control& child) {
-  if (Ringed == &child) Ringed = nullptr;
+void PictureBox::ChildRemoved(const Control& child) {
+  if (CursorItem == &child) CursorItem = nullptr;
 }
 
 std::optional<Raster> PictureBox::Padded() const {
@@ -149,8 +149,8 @@ std::optional<Raster> PictureBox::Padded() const {
   if (Picture.Get() && picture.Width >= BoxWidth() && picture.Height >= BoxHeight()) {
     return std::nullopt;
   }
-  return Enlarged(picture, std::max(picture.Width, BoxWidth()),
-                  std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
+  return PaddedCopy(picture, std::max(picture.Width, BoxWidth()),
+                    std::max(picture.Height, BoxHeight()), PixelOf(BackColor));
 }
 
 }  // namespace terramark::forms

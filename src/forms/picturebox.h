@@ -27,7 +27,7 @@ class PictureBox : public Control {
   /// already. The empty picture empties the box. A picture that covers the box is not copied; for a
   /// smaller one it throws std::bad_alloc when the memory does not reach. Whatever is thrown,
   /// nothing has changed.
-  Property<forms::Picture, Tells::EveryAssignment> Picture{*this, PropertyId::Picture};
+  Property<forms::Picture, NotifyOn::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
   /// Pixels of the screen that have gone out at the left and at the top; use ScrollTo.
@@ -39,7 +39,7 @@ class PictureBox : public Control {
   bool TabStop = false;
   /// The control on the picture that the box's keys act on; null for none. It is marked while the
   /// box has the keyboard.
-  Property<Control*> Ringed{*this, PropertyId::Ringed, nullptr};
+  Property<Control*> CursorItem{*this, PropertyId::CursorItem, nullptr};
 
   /// The persistent image: as large as the picture and never smaller than the box. It is the
   /// picture itself until it is painted on.
@@ -52,8 +52,8 @@ class PictureBox : public Control {
   int ViewWidth() const;
   int ViewHeight() const;
   /// The picture as it is magnified, in pixels of the screen; where there is none, the blank image.
-  int ShownWidth() const;
-  int ShownHeight() const;
+  int ZoomedWidth() const;
+  int ZoomedHeight() const;
   bool ScrollsAcross() const;
   bool ScrollsDown() const;
   /// Scrolls as near to the place as the picture's edges allow.
@@ -64,10 +64,10 @@ class PictureBox : public Control {
   /// stays there.
   void ZoomTo(Magnification zoom, PixelPoint about);
   /// The middle of what is seen, in pixels of the box.
-  PixelPoint MiddleOfView() const { return {ViewWidth() / 2, ViewHeight() / 2}; }
+  PixelPoint ViewCentre() const { return {ViewWidth() / 2, ViewHeight() / 2}; }
   /// Scrolls, as far as the picture's edges allow, until a part of it is seen with some ground
   /// around.
-  void Reveal(const PixelRect& onPicture);
+  void ScrollIntoView(const PixelRect& onPicture);
 
   /// Paints FillColor on the persistent image from points of it outward up to pixels of the border
   /// colour. A point outside the image or on the border paints nothing. When the memory does not
@@ -75,11 +75,11 @@ class PictureBox : public Control {
   bool FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
-  void ChildGone(const Control& child) override;
+  void ChildRemoved(const Control& child) override;
 
  private:
   /// What there is to see.
-  const Raster& Sheet() const;
+  const Raster& DisplayedImage() const;
   /// What the image is anew where it is not the picture itself.
   std::optional<Raster> Padded() const;
 

@@ -12,10 +12,10 @@ namespace {
 
 /// Width of the strip along the edges of a box in which a drag scrolls, and the step, in pixels.
 /// Outside the box a step is the longer, by a part of the distance, and held to the longest.
-constexpr int ScrollStrip = 24;
+constexpr int AutoScrollMargin = 24;
 constexpr int ScrollStep = 8;
-constexpr int DistanceParts = 4;
-constexpr int LongestStep = 96;
+constexpr int AutoScrollDivisor = 4;
+constexpr int MaxScrollStep = 96;
 
 /// A picture box's own scroll bars are no part of what a pointer can reach.
 bool OnScrollBar(const PictureBox& box, PixelPoint inBox) {
@@ -34,11 +34,11 @@ Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
     const PixelRect bounds = PixelBounds(*child);
     if (!bounds.Contains(inside)) continue;
-    PixelPoint deep = inside - bounds.Corner();
+    PixelPoint deep = inside - bounds.TopLeft();
     if (child->Kind() == ControlKind::PictureBox) {
       const auto& box = static_cast<const PictureBox&>(*child);
       if (OnScrollBar(box, deep)) continue;
-      deep = OnPicture(box, deep);
+      deep = MapToPicture(box, deep);
     }
     Control* deeper = TopmostIn(*child, deep, disabled);
     return deeper != nullptr ? deeper : child;
@@ -47,57 +47,57 @@ Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
 }
 
 MouseEvent EventFor(const Control& control, PixelPoint inside, int button, int shift) {
-  const ScalePoint point = InScale(control, inside);
+  const ScalePoint point = PixelsToScale(control, inside);
   return {control.Index(), static_cast<std::int16_t>(button), static_cast<std::int16_t>(shift),
           point.X, point.Y};
 }
 
 /// In pixels of the control's inside.
-PixelPoint MiddleInside(const Control& control) {
+PixelPoint CentreInside(const Control& control) {
   if (control.Kind() == ControlKind::PictureBox) {
     const auto& box = static_cast<const PictureBox&>(control);
-    return OnPicture(box, box.MiddleOfView());
+    return MapToPicture(box, box.ViewCentre());
   }
   const PixelRect bounds = PixelBounds(control);
   return {bounds.Width / 2, bounds.Height / 2};
 }
 
-int StepNearEdge(int at, int extent) {
+int AutoScrollStep(int at, int extent) {
   const int outside = std::max({0, -at, at - extent + 1});
-  const int step = std::min(ScrollStep + outside / DistanceParts, LongestStep);
-  if (at < ScrollStrip) return -step;
-  return at >= extent - ScrollStrip ? step : 0;
+  const int step = std::min(ScrollStep + outside / AutoScrollDivisor, MaxScrollStep);
+  if (at < AutoScrollMargin) return -step;
+  return at >= extent - AutoScrollMargin ? step : 0;
 }
 
 }  // namespace
 
-Control& PointerRouter::Under(int x, int y) const {
+Control& PointerRouter::ControlAt(int x, int y) const {
   Control* topmost = TopmostIn(form_, {x, y}, Disabled::LetsThrough);
   return topmost != nullptr ? *topmost : form_;
 }
 
-Control& PointerRouter::Hovered(int x, int y) const {
+Control& PointerRouter::HoveredControlAt(int x, int y) const {
   Control* topmost = TopmostIn(form_, {x, y}, Disabled::Stops);
   return topmost != nullptr ? *topmost : form_;
 }
 
 void PointerRouter::Press(int x, int y, std::int16_t button, std::int16_t shift) {
-  PutBack();
+  CancelKeyDrag();
   at_ = {x, y};
-  if (buttonsDown_ == 0) captured_ = &Under(x, y);
+  if (buttonsDown_ == 0) captured_ = &ControlAt(x, y);
   buttonsDown_ = static_cast<std::int16_t>(buttonsDown_ | button);
   lastButton_ = button;
   if (captured_ == nullptr || dragged_ != nullptr) return;
-  captured_->MouseDown.Raise(EventFor(*captured_, Inside(*captured_, at_), button, shift));
+  captured_->MouseDown.Raise(EventFor(*captured_, MapFromForm(*captured_, at_), button, shift));
 }
 
 void PointerRouter::Move(int x, int y, std::int16_t shift) {
   at_ = {x, y};
-  if (!DragsByMouse()) {
-    Control& target = captured_ != nullptr ? *captured_ : Hovered(x, y);
-    target.MouseMove.Raise(EventFor(target, Inside(target, at_), buttonsDown_, shift));
+  if (!HasMouseDrag()) {
+    Control& target = captured_ != nullptr ? *captured_ : HoveredControlAt(x, y);
+    target.MouseMove.Raise(EventFor(target, MapFromForm(target, at_), buttonsDown_, shift));
   }
-  TellMoved();
+  NotifyPointerMoved();
 }
 
 void PointerRouter::Release(int x, int y, std::int16_t button, std::int16_t shift) {
@@ -108,10 +108,10 @@ void PointerRouter::Release(int x, int y, std::int16_t button, std::int16_t shif
   if (buttonsDown_ == 0) captured_ = nullptr;
   if (dragged_ != nullptr) {
     if (button != dragButton_) return;
-    Control& under = Under(x, y);
-    return DropOn(under, InScale(under, Inside(under, at_)));
+    Control& under = ControlAt(x, y);
+    return DropOn(under, PixelsToScale(under, MapFromForm(under, at_)));
   }
-  if (target != nullptr) ReleaseOn(*target, Inside(*target, at_), button, shift);
+  if (target != nullptr) ReleaseOn(*target, MapFromForm(*target, at_), button, shift);
 }
 
 void PointerRouter::ReleaseOn(Control& target, PixelPoint inside, std::int16_t button,
@@ -128,60 +128,60 @@ void PointerRouter::ReleaseOn(Control& target, PixelPoint inside, std::int16_t b
   if (button == LeftButton) static_cast<CommandButton&>(target).Click.Raise({target.Index()});
 }
 
-void PointerRouter::PressKey(Control& control, std::int16_t shift, std::int16_t button) {
+void PointerRouter::SimulateClick(Control& control, std::int16_t shift, std::int16_t button) {
   if (!control.Enabled || !control.Container()->Enabled || buttonsDown_ != 0) return;
-  PutBack();
-  const PixelPoint inside = MiddleInside(control);
+  CancelKeyDrag();
+  const PixelPoint inside = CentreInside(control);
   // Down for as long as the press lasts, so that it may begin a drag.
   buttonsDown_ = button;
   control.MouseDown.Raise(EventFor(control, inside, button, shift));
   buttonsDown_ = 0;
   if (dragged_ != nullptr) {
-    DropOn(control, InScale(control, inside));
+    DropOn(control, PixelsToScale(control, inside));
   } else {
     ReleaseOn(control, inside, button, shift);
   }
 }
 
-void PointerRouter::PointKey(Control& control) {
+void PointerRouter::SimulateHover(Control& control) {
   if (buttonsDown_ != 0) return;
-  control.MouseMove.Raise(EventFor(control, MiddleInside(control), 0, 0));
+  control.MouseMove.Raise(EventFor(control, CentreInside(control), 0, 0));
 }
 
-void PointerRouter::TakeHold(Control& control) {
+void PointerRouter::BeginKeyDrag(Control& control) {
   if (buttonsDown_ != 0 || dragged_ != nullptr) return;
   buttonsDown_ = LeftButton;
-  held_ = true;
-  ++holds_;
+  keyDrag_ = true;
+  ++keyDrags_;
   carried_ = {};
   control.MouseDown.Raise(EventFor(control, {}, LeftButton, 0));
   buttonsDown_ = 0;
-  held_ = dragged_ != nullptr;
+  keyDrag_ = dragged_ != nullptr;
 }
 
-void PointerRouter::Carry(int across, int down) {
-  if (!held_) return;
+void PointerRouter::MoveKeyDrag(int across, int down) {
+  if (!keyDrag_) return;
   carried_ = carried_ + PixelPoint{across, down};
-  TellMoved();
+  NotifyPointerMoved();
 }
 
-void PointerRouter::PutDown() {
-  if (!held_) return;
-  const ScalePoint travel = SizeBeside(*dragged_, carried_.X, carried_.Y);
+void PointerRouter::DropKeyDrag() {
+  if (!keyDrag_) return;
+  const ScalePoint travel = PixelsToContainerScale(*dragged_, carried_.X, carried_.Y);
   // Not in whole pixels: a place between two keeps its fraction.
   DropOn(*dragged_->Container(), {dragged_->Left + travel.X, dragged_->Top + travel.Y});
 }
 
-void PointerRouter::PutBack() {
-  if (held_) CancelDrag();
+void PointerRouter::CancelKeyDrag() {
+  if (keyDrag_) CancelDrag();
 }
 
 void PointerRouter::BeginDrag(Control& source) {
   if (buttonsDown_ == 0) return;
   dragged_ = &source;
   dragButton_ = lastButton_;
-  hold_ = Inside(source, at_);
-  TellMoved();
+  hotSpot_ = MapFromForm(source, at_);
+  NotifyPointerMoved();
 }
 
 void PointerRouter::CancelDrag() {
@@ -189,8 +189,8 @@ void PointerRouter::CancelDrag() {
   // What is still down reaches nobody when it comes up.
   dragged_ = nullptr;
   captured_ = nullptr;
-  held_ = false;
-  TellMoved();
+  keyDrag_ = false;
+  NotifyPointerMoved();
 }
 
 void PointerRouter::DropOn(Control& target, ScalePoint inside) {
@@ -199,26 +199,26 @@ void PointerRouter::DropOn(Control& target, ScalePoint inside) {
   target.DragDrop.Raise({target.Index(), source, inside.X, inside.Y});
 }
 
-void PointerRouter::ScrollByDrag() {
-  if (!DragsByMouse()) return;
+void PointerRouter::AutoScroll() {
+  if (!HasMouseDrag()) return;
   if (dragged_->Container()->Kind() != ControlKind::PictureBox) return;
   auto& box = static_cast<PictureBox&>(*dragged_->Container());
-  const PixelPoint at = at_ - OnForm(*box.Container(), PixelBounds(box).Corner());
-  box.ScrollBy(StepNearEdge(at.X, box.ViewWidth()), StepNearEdge(at.Y, box.ViewHeight()));
+  const PixelPoint at = at_ - MapToForm(*box.Container(), PixelBounds(box).TopLeft());
+  box.ScrollBy(AutoScrollStep(at.X, box.ViewWidth()), AutoScrollStep(at.Y, box.ViewHeight()));
 }
 
-void PointerRouter::TellMoved() const {
+void PointerRouter::NotifyPointerMoved() const {
   if (form_.observer_ != nullptr) form_.observer_->PointerMoved();
 }
 
-std::optional<PointerRouter::Flight> PointerRouter::InFlight() const {
+std::optional<PointerRouter::ActiveDrag> PointerRouter::CurrentDrag() const {
   if (dragged_ == nullptr) return std::nullopt;
-  if (held_) {
-    const PixelPoint corner = PixelBounds(*dragged_).Corner() + carried_;
-    return Flight{*dragged_, corner, corner};
+  if (keyDrag_) {
+    const PixelPoint corner = PixelBounds(*dragged_).TopLeft() + carried_;
+    return ActiveDrag{*dragged_, corner, corner};
   }
-  const PixelPoint grip = Inside(*dragged_->Container(), at_);
-  return Flight{*dragged_, grip - hold_, grip};
+  const PixelPoint grip = MapFromForm(*dragged_->Container(), at_);
+  return ActiveDrag{*dragged_, grip - hotSpot_, grip};
 }
 
 void PointerRouter::Forget(const Control& control) {

@@ -29,37 +29,37 @@ class PointerRouter {
   /// A control pressed by other means than the mouse: a press and release in its middle, or in a
   /// picture box in the middle of what is seen, whatever lies over it. Nothing happens while it or
   /// its container is disabled, or a button of the mouse is down.
-  void PressKey(Control& control, std::int16_t shift, std::int16_t button = LeftButton);
+  void SimulateClick(Control& control, std::int16_t shift, std::int16_t button = LeftButton);
   /// A move of the pointer to the middle of a control, likewise.
-  void PointKey(Control& control);
+  void SimulateHover(Control& control);
 
   /// Takes hold of a control by other means than the mouse, with a left press on its corner; only
   /// where that begins a drag. A press of the mouse, and another control that gets the keyboard,
   /// put it back.
-  void TakeHold(Control& control);
+  void BeginKeyDrag(Control& control);
   /// Carries what is held so many pixels of its container.
-  void Carry(int across, int down);
+  void MoveKeyDrag(int across, int down);
   /// Drops what is held on its container, whatever lies there.
-  void PutDown();
+  void DropKeyDrag();
   /// Ends such a hold; the control stays where it was.
-  void PutBack();
+  void CancelKeyDrag();
   /// Whether a control is in the air in that way, or by the mouse.
-  bool Holds() const { return held_ && dragged_ != nullptr; }
+  bool HasKeyDrag() const { return keyDrag_ && dragged_ != nullptr; }
   /// A number of its own for each such hold; 0 while nothing is held.
-  unsigned HoldNumber() const { return Holds() ? holds_ : 0; }
-  bool DragsByMouse() const { return dragged_ != nullptr && !held_; }
+  unsigned KeyDragNumber() const { return HasKeyDrag() ? keyDrags_ : 0; }
+  bool HasMouseDrag() const { return dragged_ != nullptr && !keyDrag_; }
 
   /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
   /// cancelled leaves them down.
   std::int16_t ButtonsDown() const { return buttonsDown_; }
 
   /// Where the pointer was last, as it was fed.
-  PixelPoint At() const { return at_; }
+  PixelPoint Position() const { return at_; }
 
   /// The control that a press at this place would reach; the form itself where there is none.
-  Control& Under(int x, int y) const;
+  Control& ControlAt(int x, int y) const;
   /// The control that a move at this place describes, enabled or not.
-  Control& Hovered(int x, int y) const;
+  Control& HoveredControlAt(int x, int y) const;
 
   /// From now on the release drops the control instead of reaching it as MouseUp. Without a button
   /// down nothing begins.
@@ -68,38 +68,38 @@ class PointerRouter {
   void CancelDrag();
   /// Once every 20 ms or so while a drag lasts: scrolls the picture box when the pointer is near
   /// the edge of what the box shows, or outside, and then the faster the farther.
-  void ScrollByDrag();
+  void AutoScroll();
 
   /// The control in the air, where its top left corner is, and where it is held, both in its
   /// container's pixels.
-  struct Flight {
+  struct ActiveDrag {
     const Control& Source;
-    PixelPoint Corner;
-    PixelPoint Grip;
+    PixelPoint TopLeft;
+    PixelPoint HotSpot;
   };
-  std::optional<Flight> InFlight() const;
+  std::optional<ActiveDrag> CurrentDrag() const;
 
   /// A control is about to go.
   void Forget(const Control& control);
 
  private:
   void ReleaseOn(Control& target, PixelPoint inside, std::int16_t button, std::int16_t shift);
-  void TellMoved() const;
+  void NotifyPointerMoved() const;
   void DropOn(Control& target, ScalePoint inside);
 
   Form& form_;
   Control* captured_ = nullptr;
   Control* dragged_ = nullptr;
   /// Where in the dragged control the pointer took hold, in pixels.
-  PixelPoint hold_;
+  PixelPoint hotSpot_;
   PixelPoint at_;
   std::int16_t buttonsDown_ = 0;
   std::int16_t lastButton_ = 0;
   std::int16_t dragButton_ = 0;
   /// Whether what is dragged is held without the mouse, how many such holds there have been, and
   /// how far it has been carried.
-  bool held_ = false;
-  unsigned holds_ = 0;
+  bool keyDrag_ = false;
+  unsigned keyDrags_ = 0;
   PixelPoint carried_;
 };
 

@@ -18,7 +18,7 @@ enum class PropertyId {
   ScrollLeft,
   ScrollTop,
   Zoom,
-  Ringed,
+  CursorItem,
   Visible,
   Enabled,
   BackColor,
@@ -37,9 +37,9 @@ class PropertyOwner {
 };
 
 /// Which assignments count as a change.
-enum class Tells { Changes, EveryAssignment };
+enum class NotifyOn { Changes, EveryAssignment };
 
-template <typename T, Tells When = Tells::Changes>
+template <typename T, NotifyOn When = NotifyOn::Changes>
 class Property {
  public:
   Property(PropertyOwner& owner, PropertyId id, T value = {})
@@ -50,7 +50,7 @@ class Property {
   /// An assignment of the value that stands already tells nobody, unless every assignment does. One
   /// that the owner cannot carry out, and so throws, leaves the old value.
   Property& operator=(T value) {
-    if (When == Tells::Changes && value == value_) return *this;
+    if (When == NotifyOn::Changes && value == value_) return *this;
     std::swap(value_, value);
     try {
       owner_.PropertyChanged(id_);

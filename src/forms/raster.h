@@ -19,7 +19,7 @@ struct Raster {
   int Height = 0;
   std::vector<std::uint32_t> Pixels;
 
-  std::size_t At(int x, int y) const {
+  std::size_t IndexOf(int x, int y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(Width) +
            static_cast<std::size_t>(x);
   }

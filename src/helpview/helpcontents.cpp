@@ -5,25 +5,24 @@
 namespace terramark::helpview {
 
 HelpContents::HelpContents() {
-  ShowFocus(false);
+  SetSelectionColours(QPalette::Button, QPalette::ButtonText);
 }
 
 void HelpContents::focusInEvent(QFocusEvent* event) {
   QListWidget::focusInEvent(event);
-  ShowFocus(true);
+  SetSelectionColours(QPalette::Highlight, QPalette::HighlightedText);
 }
 
 void HelpContents::focusOutEvent(QFocusEvent* event) {
   QListWidget::focusOutEvent(event);
-  ShowFocus(false);
+  SetSelectionColours(QPalette::Button, QPalette::ButtonText);
 }
 
-void HelpContents::ShowFocus(bool has) {
+void HelpContents::SetSelectionColours(QPalette::ColorRole face, QPalette::ColorRole text) {
   const QPalette usual = QApplication::palette();
   QPalette colours = palette();
-  colours.setColor(QPalette::Highlight, usual.color(has ? QPalette::Highlight : QPalette::Button));
-  colours.setColor(QPalette::HighlightedText,
-                   usual.color(has ? QPalette::HighlightedText : QPalette::ButtonText));
+  colours.setColor(QPalette::Highlight, usual.color(face));
+  colours.setColor(QPalette::HighlightedText, usual.color(text));
   setPalette(colours);
 }
 

@@ -15,7 +15,7 @@ class HelpContents final : public QListWidget {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void ShowFocus(bool has);
+  void SetSelectionColours(QPalette::ColorRole face, QPalette::ColorRole text);
 };
 
 }  // namespace terramark::helpview

@@ -15,16 +15,16 @@ namespace terramark::helpview {
 
 namespace {
 
-constexpr double FirstPoints = 10.5;
+constexpr double DefaultPoints = 10.5;
 constexpr double ZoomStep = 1.15;
-constexpr int LeastZoom = -4;
-constexpr int MostZoom = 10;
+constexpr int MinZoom = -4;
+constexpr int MaxZoom = 10;
 constexpr double Margin = 18;
 /// Pixels of the page that should be seen above and below what was found.
-constexpr int Sight = 40;
+constexpr int MatchMargin = 40;
 
-const QColor FoundGround(0xFF, 0xE0, 0x70);
-const QColor LinkInk(0x00, 0x00, 0xC0);
+const QColor MatchBackground(0xFF, 0xE0, 0x70);
+const QColor LinkColour(0x00, 0x00, 0xC0);
 
 }  // namespace
 
@@ -36,10 +36,10 @@ HelpPage::HelpPage() {
   setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   QPalette colours = palette();
-  colours.setColor(QPalette::Link, LinkInk);
+  colours.setColor(QPalette::Link, LinkColour);
   setPalette(colours);
   Zoom(0);
-  connect(this, &QTextBrowser::sourceChanged, this, [this] { Dress(); });
+  connect(this, &QTextBrowser::sourceChanged, this, [this] { ApplyStyle(); });
 }
 
 void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
@@ -51,7 +51,7 @@ void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   QTextBrowser::doSetSource(target, type);
 }
 
-void HelpPage::Dress() {
+void HelpPage::ApplyStyle() {
   document()->setDocumentMargin(Margin);
   StylePage(*document());
   Fit();
@@ -65,25 +65,25 @@ void HelpPage::Fit() {
   FitPictures(*document(), std::max(1, static_cast<int>(width)), devicePixelRatioF());
 }
 
-void HelpPage::Mark(const std::vector<HelpPlace>& places) {
+void HelpPage::HighlightMatches(const std::vector<HelpMatch>& places) {
   QList<ExtraSelection> marks;
-  for (const HelpPlace& place : places) {
+  for (const HelpMatch& place : places) {
     ExtraSelection mark;
     mark.cursor = QTextCursor(document());
     mark.cursor.setPosition(place.At);
     mark.cursor.setPosition(place.At + place.Size, QTextCursor::KeepAnchor);
-    mark.format.setBackground(FoundGround);
+    mark.format.setBackground(MatchBackground);
     marks += mark;
   }
   setExtraSelections(marks);
 }
 
-void HelpPage::GoTo(const HelpPlace& place) {
+void HelpPage::SelectMatch(const HelpMatch& place) {
   QTextCursor cursor(document());
   cursor.setPosition(place.At);
   cursor.setPosition(place.At + place.Size, QTextCursor::KeepAnchor);
   const bool inSight =
-      viewport()->rect().adjusted(0, Sight, 0, -Sight).contains(cursorRect(cursor));
+      viewport()->rect().adjusted(0, MatchMargin, 0, -MatchMargin).contains(cursorRect(cursor));
   setTextCursor(cursor);
   if (inSight) return;
   const int tooLow = cursorRect().top() - viewport()->height() / 3;
@@ -91,11 +91,11 @@ void HelpPage::GoTo(const HelpPlace& place) {
 }
 
 void HelpPage::Zoom(int zoom) {
-  zoom_ = std::clamp(zoom, LeastZoom, MostZoom);
+  zoom_ = std::clamp(zoom, MinZoom, MaxZoom);
   const QTextCursor top = cursorForPosition({});
   const int before = cursorRect(top).top();
   QFont letters = font();
-  letters.setPointSizeF(FirstPoints * std::pow(ZoomStep, zoom_));
+  letters.setPointSizeF(DefaultPoints * std::pow(ZoomStep, zoom_));
   setFont(letters);
   // What was read goes on being read.
   verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);

@@ -13,9 +13,9 @@ class HelpPage final : public QTextBrowser {
   HelpPage();
 
   /// Marks places of the shown topic's text, and no others.
-  void Mark(const std::vector<HelpPlace>& places);
+  void HighlightMatches(const std::vector<HelpMatch>& places);
   /// Selects a place and brings it into view.
-  void GoTo(const HelpPlace& place);
+  void SelectMatch(const HelpMatch& place);
 
   void Enlarge() { Zoom(zoom_ + 1); }
   void Shrink() { Zoom(zoom_ - 1); }
@@ -30,7 +30,7 @@ class HelpPage final : public QTextBrowser {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  void Dress();
+  void ApplyStyle();
   void Fit();
   void Zoom(int zoom);
 

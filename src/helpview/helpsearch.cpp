@@ -11,8 +11,8 @@ bool BeginsWord(const QString& text, qsizetype at) {
 }
 
 /// Empty unless all words are there.
-std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QStringList& words) {
-  std::vector<HelpPlace> places;
+std::vector<HelpMatch> MatchesIn(const QString& text, std::size_t topic, const QStringList& words) {
+  std::vector<HelpMatch> places;
   for (const QString& word : words) {
     const std::size_t before = places.size();
     for (auto at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
@@ -26,11 +26,11 @@ std::vector<HelpPlace> PlacesIn(const QString& text, std::size_t topic, const QS
   return places;
 }
 
-std::vector<HelpPlace> FindAll(const QStringList& texts, const QStringList& words) {
-  std::vector<HelpPlace> found;
+std::vector<HelpMatch> FindAll(const QStringList& texts, const QStringList& words) {
+  std::vector<HelpMatch> found;
   for (std::size_t topic = 0; topic < static_cast<std::size_t>(texts.size()); ++topic) {
     int end = 0;
-    for (const HelpPlace& place : PlacesIn(texts[static_cast<qsizetype>(topic)], topic, words)) {
+    for (const HelpMatch& place : MatchesIn(texts[static_cast<qsizetype>(topic)], topic, words)) {
       if (place.At < end) continue;
       found.push_back(place);
       end = place.At + place.Size;
@@ -41,10 +41,10 @@ std::vector<HelpPlace> FindAll(const QStringList& texts, const QStringList& word
 
 }  // namespace
 
-std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query) {
+std::vector<HelpMatch> FindWords(const QStringList& texts, const QString& query) {
   const QString whole = query.simplified();
   if (whole.isEmpty()) return {};
-  std::vector<HelpPlace> found = FindAll(texts, {whole});
+  std::vector<HelpMatch> found = FindAll(texts, {whole});
   if (!found.empty()) return found;
   QStringList words = whole.split(' ');
   // A pasted page has many a word many times.
@@ -52,8 +52,8 @@ std::vector<HelpPlace> FindWords(const QStringList& texts, const QString& query)
   return FindAll(texts, words);
 }
 
-std::size_t NextPlace(const std::vector<HelpPlace>& places, std::size_t topic, int at) {
-  const auto next = std::ranges::lower_bound(places, HelpPlace{topic, at, 0});
+std::size_t NextMatch(const std::vector<HelpMatch>& places, std::size_t topic, int at) {
+  const auto next = std::ranges::lower_bound(places, HelpMatch{topic, at, 0});
   return next == places.end() ? 0 : static_cast<std::size_t>(next - places.begin());
 }
 

@@ -31,7 +31,7 @@ std::vector<HelpTopic> ReadHelpTopics() {
   return topics;
 }
 
-std::size_t PlaceOfTopic(const std::vector<HelpTopic>& topics, int number) {
+std::size_t TopicIndex(const std::vector<HelpTopic>& topics, int number) {
   for (const int wanted : {number, ContentsTopic}) {
     const auto topic = std::ranges::find(topics, wanted, &HelpTopic::Number);
     if (topic != topics.end()) return static_cast<std::size_t>(topic - topics.begin());

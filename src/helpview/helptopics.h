@@ -18,6 +18,6 @@ struct HelpTopic {
 std::vector<HelpTopic> ReadHelpTopics();
 
 /// The place of a number among the topics, or else that of the contents.
-std::size_t PlaceOfTopic(const std::vector<HelpTopic>& topics, int number);
+std::size_t TopicIndex(const std::vector<HelpTopic>& topics, int number);
 
 }  // namespace terramark::helpview

@@ -12,16 +12,16 @@
 #include <set>
 
 #include "helpview/pagestyle.h"
-#include "widgets/screenroom.h"
 #include "widgets/scrollbarnames.h"
+#include "widgets/windowsize.h"
 
 namespace terramark::helpview {
 
 namespace {
 
-constexpr QSize FirstSize(840, 600);
+constexpr QSize DefaultSize(840, 600);
 /// Less would cut off what is told of a search.
-constexpr QSize LeastSize(640, 320);
+constexpr QSize MinViewerSize(640, 320);
 constexpr int ContentsWidth = 180;
 constexpr int SearchWidth = 200;
 constexpr int Gap = 6;
@@ -55,12 +55,12 @@ HelpWindow::HelpWindow(const QWidget* editor) {
   back_.setToolTip("Alt+Left");
   forward_.setToolTip("Alt+Right");
   LayOut();
-  JoinParts();
+  ConnectParts();
   SetKeys();
-  const QSize room = widgets::RoomFor(*this);
-  setMinimumSize(LeastSize.boundedTo(room));
-  resize(FirstSize.boundedTo(room));
-  if (editor != nullptr) StandBeside(*editor);
+  const QSize room = widgets::MaxWindowSizeFor(*this);
+  setMinimumSize(MinViewerSize.boundedTo(room));
+  resize(DefaultSize.boundedTo(room));
+  if (editor != nullptr) PlaceBeside(*editor);
 }
 
 void HelpWindow::LayOut() {
@@ -74,9 +74,9 @@ void HelpWindow::LayOut() {
   // Whatever it tells, the others stay where they are.
   QSizePolicy staying(QSizePolicy::Ignored, QSizePolicy::Preferred);
   staying.setRetainSizeWhenHidden(true);
-  told_.setSizePolicy(staying);
-  told_.hide();
-  bar->addWidget(&told_, 1);
+  status_.setSizePolicy(staying);
+  status_.hide();
+  bar->addWidget(&status_, 1);
   auto halves = std::make_unique<QHBoxLayout>();
   contents_.setFixedWidth(ContentsWidth);
   contents_.setSpacing(2);
@@ -95,7 +95,7 @@ void HelpWindow::LayOut() {
   }
 }
 
-void HelpWindow::JoinParts() {
+void HelpWindow::ConnectParts() {
   connect(&back_, &QPushButton::clicked, &page_, &HelpPage::backward);
   connect(&forward_, &QPushButton::clicked, &page_, &HelpPage::forward);
   connect(&page_, &HelpPage::backwardAvailable, &back_, &QWidget::setEnabled);
@@ -105,10 +105,10 @@ void HelpWindow::JoinParts() {
   connect(&page_, &HelpPage::sourceChanged, this, &HelpWindow::PageChanged);
   connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) {
     Show(static_cast<std::size_t>(row));
-    if (const HelpPlace* const first = FirstFoundIn(row)) page_.GoTo(*first);
+    if (const HelpMatch* const first = FirstMatchIn(row)) page_.SelectMatch(*first);
   });
   connect(&search_, &QLineEdit::textChanged, this, [this] { Search(); });
-  connect(&search_, &QLineEdit::returnPressed, this, [this] { GoOn(true); });
+  connect(&search_, &QLineEdit::returnPressed, this, [this] { FindNext(Direction::Forward); });
 }
 
 void HelpWindow::SetKeys() {
@@ -120,8 +120,8 @@ void HelpWindow::SetKeys() {
   on("Escape", [this] { close(); });
   on("Alt+Left", [this] { page_.backward(); });
   on("Alt+Right", [this] { page_.forward(); });
-  on("F3", [this] { GoOn(true); });
-  on("Shift+F3", [this] { GoOn(false); });
+  on("F3", [this] { FindNext(Direction::Forward); });
+  on("Shift+F3", [this] { FindNext(Direction::Backward); });
   on("Ctrl+F", [this] {
     search_.setFocus(Qt::ShortcutFocusReason);
     search_.selectAll();
@@ -134,21 +134,21 @@ void HelpWindow::SetKeys() {
 
 /// Covers as little of the editor as may be: on the right of it, or else at the screen's right
 /// edge.
-void HelpWindow::StandBeside(const QWidget& editor) {
+void HelpWindow::PlaceBeside(const QWidget& editor) {
   const QRect room = editor.screen()->availableGeometry();
   const QRect taken = editor.frameGeometry();
-  const int last = std::max(room.left(), room.right() + 1 - width() - widgets::FrameRoom);
+  const int last = std::max(room.left(), room.right() + 1 - width() - widgets::FrameMargin);
   const bool onTheLeft =
-      taken.right() + widgets::FrameRoom > last && taken.left() - room.left() >= width();
-  const int left =
-      onTheLeft ? taken.left() - width() - widgets::FrameRoom : taken.right() + widgets::FrameRoom;
-  const int lowest = std::max(room.top(), room.bottom() + 1 - height() - widgets::TitleRoom);
+      taken.right() + widgets::FrameMargin > last && taken.left() - room.left() >= width();
+  const int left = onTheLeft ? taken.left() - width() - widgets::FrameMargin
+                             : taken.right() + widgets::FrameMargin;
+  const int lowest = std::max(room.top(), room.bottom() + 1 - height() - widgets::TitleBarMargin);
   move(std::clamp(left, room.left(), last), std::clamp(taken.top(), room.top(), lowest));
 }
 
 void HelpWindow::Open(std::int32_t topic) {
   search_.clear();
-  Show(PlaceOfTopic(topics_, topic));
+  Show(TopicIndex(topics_, topic));
   setWindowState(windowState() & ~Qt::WindowMinimized);
   page_.setFocus();
   show();
@@ -164,56 +164,57 @@ void HelpWindow::PageChanged(const QUrl& source) {
   const auto topic = std::ranges::find(topics_, source, &HelpTopic::Source);
   const QSignalBlocker still(contents_);
   contents_.setCurrentRow(static_cast<int>(topic - topics_.begin()));
-  ShowFound();
+  ShowMatches();
 }
 
 void HelpWindow::Search() {
   if (texts_.isEmpty()) std::ranges::transform(topics_, std::back_inserter(texts_), PlainText);
-  found_ = FindWords(texts_, search_.text());
+  matches_ = FindWords(texts_, search_.text());
   for (int row = 0; row < contents_.count(); ++row) {
-    contents_.item(row)->setHidden(Asked() && FirstFoundIn(row) == nullptr);
+    contents_.item(row)->setHidden(HasQuery() && FirstMatchIn(row) == nullptr);
   }
-  ShowFound();
+  ShowMatches();
 }
 
-const HelpPlace* HelpWindow::FirstFoundIn(int row) const {
-  const auto first = std::ranges::find(found_, static_cast<std::size_t>(row), &HelpPlace::Topic);
-  return first == found_.end() ? nullptr : &*first;
+const HelpMatch* HelpWindow::FirstMatchIn(int row) const {
+  const auto first = std::ranges::find(matches_, static_cast<std::size_t>(row), &HelpMatch::Topic);
+  return first == matches_.end() ? nullptr : &*first;
 }
 
-void HelpWindow::GoOn(bool forward) {
-  if (found_.empty()) return;
+void HelpWindow::FindNext(Direction direction) {
+  if (matches_.empty()) return;
+  const bool forward = direction == Direction::Forward;
   const QTextCursor now = page_.textCursor();
-  std::size_t next = NextPlace(found_, static_cast<std::size_t>(contents_.currentRow()),
+  std::size_t next = NextMatch(matches_, static_cast<std::size_t>(contents_.currentRow()),
                                forward ? now.selectionEnd() : now.selectionStart());
-  if (!forward) next = (next + found_.size() - 1) % found_.size();
-  const HelpPlace& place = found_[next];
+  if (!forward) next = (next + matches_.size() - 1) % matches_.size();
+  const HelpMatch& place = matches_[next];
   Show(place.Topic);
-  page_.GoTo(place);
-  Tell(QStringLiteral("Place %1 of %2: %3")
-           .arg(next + 1)
-           .arg(found_.size())
-           .arg(topics_[place.Topic].Title));
+  page_.SelectMatch(place);
+  ShowStatus(QStringLiteral("Place %1 of %2: %3")
+                 .arg(next + 1)
+                 .arg(matches_.size())
+                 .arg(topics_[place.Topic].Title));
 }
 
-void HelpWindow::ShowFound() {
-  std::vector<HelpPlace> here;
+void HelpWindow::ShowMatches() {
+  std::vector<HelpMatch> here;
   std::set<std::size_t> topics;
-  for (const HelpPlace& place : found_) {
+  for (const HelpMatch& place : matches_) {
     topics.insert(place.Topic);
     if (static_cast<int>(place.Topic) == contents_.currentRow()) here.push_back(place);
   }
-  page_.Mark(here);
-  if (!Asked()) return Tell("");
-  if (found_.empty()) return Tell("Not found");
-  Tell(Counted(found_.size(), "place") + " in " + Counted(topics.size(), "topic"));
+  page_.HighlightMatches(here);
+  if (!HasQuery()) return ShowStatus("");
+  if (matches_.empty()) return ShowStatus("Not found");
+  ShowStatus(Counted(matches_.size(), "place") + " in " + Counted(topics.size(), "topic"));
 }
 
 /// Also as what is said of the search box, since a screen reader tells that of where the keyboard
 /// is.
-void HelpWindow::Tell(const QString& news) {
-  told_.setText(news);
-  told_.setVisible(!news.isEmpty());
+void HelpWindow::ShowStatus(const QString& news) {
+  status_.setText(news);
+  status_.setVisible(!news.isEmpty());
   search_.setAccessibleDescription(news);
 }
 

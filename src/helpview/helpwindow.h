@@ -24,34 +24,36 @@ class HelpWindow : public QWidget {
   void Open(std::int32_t topic);
 
  private:
+  enum class Direction { Forward, Backward };
+
   void LayOut();
-  void JoinParts();
+  void ConnectParts();
   void SetKeys();
-  void StandBeside(const QWidget& editor);
+  void PlaceBeside(const QWidget& editor);
 
   void Show(std::size_t topic);
   void PageChanged(const QUrl& source);
   /// Whether the search box has words.
-  bool Asked() const { return !search_.text().trimmed().isEmpty(); }
+  bool HasQuery() const { return !search_.text().trimmed().isEmpty(); }
   /// They have changed.
   void Search();
   /// To the next place found, or the one before.
-  void GoOn(bool forward);
+  void FindNext(Direction direction);
   /// Marks on the page what was found, and tells how much there is.
-  void ShowFound();
+  void ShowMatches();
   /// Null when a topic has nothing of it.
-  const HelpPlace* FirstFoundIn(int row) const;
-  void Tell(const QString& news);
+  const HelpMatch* FirstMatchIn(int row) const;
+  void ShowStatus(const QString& news);
 
   const std::vector<HelpTopic> topics_ = ReadHelpTopics();
   /// The topics as they are read; empty until the first search.
   QStringList texts_;
-  std::vector<HelpPlace> found_;
+  std::vector<HelpMatch> matches_;
 
   QPushButton back_{"&Back"};
   QPushButton forward_{"&Forward"};
   QLineEdit search_;
-  QLabel told_;
+  QLabel status_;
   HelpContents contents_;
   HelpPage page_;
 };

@@ -20,10 +20,10 @@ constexpr double Gap = 8;  // between paragraphs; half of it between the items o
 constexpr double GapAboveHeading = 18;
 constexpr double CellPadding = 5;
 
-const QColor Rule(0xA0, 0xA0, 0xA0);
-const QColor HeadGround(0xE8, 0xE8, 0xE8);
-const QColor CodeGround(0xEC, 0xEC, 0xEC);
-const QColor CaptionInk(0x50, 0x50, 0x50);
+const QColor TableBorderColour(0xA0, 0xA0, 0xA0);
+const QColor HeadingBackground(0xE8, 0xE8, 0xE8);
+const QColor CodeBackground(0xEC, 0xEC, 0xEC);
+const QColor CaptionColour(0x50, 0x50, 0x50);
 
 struct Image {
   int At;
@@ -83,7 +83,7 @@ void StyleCode(QTextDocument& page) {
                              QTextFormat::FontPointSize, QTextFormat::FontPixelSize}) {
         letters.clearProperty(own);
       }
-      letters.setBackground(CodeGround);
+      letters.setBackground(CodeBackground);
       QTextCursor cursor(&page);
       cursor.setPosition(part.position());
       cursor.setPosition(part.position() + part.length(), QTextCursor::KeepAnchor);
@@ -96,7 +96,7 @@ void StyleTable(QTextTable& table) {
   QTextTableFormat set = table.format();
   set.setBorder(1);
   set.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-  set.setBorderBrush(Rule);
+  set.setBorderBrush(TableBorderColour);
   set.setBorderCollapse(true);
   set.setCellSpacing(0);
   set.setCellPadding(CellPadding);
@@ -106,7 +106,7 @@ void StyleTable(QTextTable& table) {
   for (int column = 0; column < table.columns(); ++column) {
     QTextTableCell head = table.cellAt(0, column);
     QTextCharFormat ground = head.format();
-    ground.setBackground(HeadGround);
+    ground.setBackground(HeadingBackground);
     head.setFormat(ground);
   }
 }
@@ -133,7 +133,7 @@ void AddCaptions(QTextDocument& page) {
     below.setBottomMargin(2 * Gap);
     QTextCharFormat letters;
     letters.setFontItalic(true);
-    letters.setForeground(CaptionInk);
+    letters.setForeground(CaptionColour);
     cursor.insertBlock(below, letters);
     cursor.insertText(image.Format.property(QTextFormat::ImageAltText).toString(), letters);
   }

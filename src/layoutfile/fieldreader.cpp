@@ -22,13 +22,13 @@ std::optional<Number> ReadDigits(std::string_view text) {
 }  // namespace
 
 std::optional<std::string_view> FieldReader::Line() {
-  began_ = place_;
+  startOffset_ = offset_;
   if (AtEnd()) FailAtEnd();
   if (failed_) return std::nullopt;
-  const std::size_t start = place_;
-  while (!AtEnd() && !EndsLine(At())) ++place_;
-  const std::string_view line = bytes_.substr(start, place_ - start);
-  PassLineEnd();
+  const std::size_t start = offset_;
+  while (!AtEnd() && !EndsLine(At())) ++offset_;
+  const std::string_view line = bytes_.substr(start, offset_ - start);
+  SkipLineEnd();
   return line;
 }
 
@@ -36,8 +36,8 @@ template <>
 std::string_view FieldReader::Next() {
   if (!BeginField()) return {};
   if (At() == '"') return Quoted();
-  const std::string_view text = Until(false);
-  PassSeparator();
+  const std::string_view text = Until(Blank::Kept);
+  SkipSeparator();
   return text;
 }
 
@@ -71,29 +71,30 @@ Components FieldReader::Next() {
 std::string_view FieldReader::Number() {
   if (!BeginField()) return {};
   if (At() == '"') return Quoted();
-  const std::string_view number = Until(true);
-  PassBlanks();
-  PassSeparator();
+  const std::string_view number = Until(Blank::Ends);
+  SkipBlanks();
+  SkipSeparator();
   return number;
 }
 
 /// What stands in the quotes, over line ends too; the rest up to the separator is dropped. Fails
 /// when nothing closes them.
 std::string_view FieldReader::Quoted() {
-  const std::size_t start = place_ + 1;
+  const std::size_t start = offset_ + 1;
   const std::size_t close = bytes_.find('"', start);
   if (close == std::string_view::npos) {
     FailAtEnd();
     return {};
   }
-  place_ = close + 1;
-  if (Until(false).find_first_not_of(' ') != std::string_view::npos) losses_.push_back(start);
-  PassSeparator();
+  offset_ = close + 1;
+  if (Until(Blank::Kept).find_first_not_of(' ') != std::string_view::npos)
+    truncatedTexts_.push_back(start);
+  SkipSeparator();
   return bytes_.substr(start, close - start);
 }
 
 bool FieldReader::BeginField() {
-  PassBlanks();
+  SkipBlanks();
   return !AtEnd() || FailAtEnd();
 }
 
@@ -104,28 +105,29 @@ bool FieldReader::FailAtEnd() {
   return false;
 }
 
-std::string_view FieldReader::Until(bool blankEnds) {
-  const std::size_t start = place_;
-  while (!AtEnd() && At() != ',' && !EndsLine(At()) && !(blankEnds && At() == ' ')) ++place_;
-  return bytes_.substr(start, place_ - start);
+std::string_view FieldReader::Until(Blank blank) {
+  const bool blankEnds = blank == Blank::Ends;
+  const std::size_t start = offset_;
+  while (!AtEnd() && At() != ',' && !EndsLine(At()) && !(blankEnds && At() == ' ')) ++offset_;
+  return bytes_.substr(start, offset_ - start);
 }
 
-void FieldReader::PassBlanks() {
-  while (!AtEnd() && At() == ' ') ++place_;
+void FieldReader::SkipBlanks() {
+  while (!AtEnd() && At() == ' ') ++offset_;
 }
 
-void FieldReader::PassSeparator() {
+void FieldReader::SkipSeparator() {
   if (!AtEnd() && At() == ',') {
-    ++place_;
+    ++offset_;
   } else {
-    PassLineEnd();
+    SkipLineEnd();
   }
 }
 
-void FieldReader::PassLineEnd() {
+void FieldReader::SkipLineEnd() {
   if (AtEnd() || !EndsLine(At())) return;
-  if (bytes_.substr(place_, 2) == "\r\n") ++place_;
-  ++place_;
+  if (bytes_.substr(offset_, 2) == "\r\n") ++offset_;
+  ++offset_;
 }
 
 std::vector<int> FieldReader::LinesOf(const std::vector<std::size_t>& places) const {

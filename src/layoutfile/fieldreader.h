@@ -26,7 +26,7 @@ class FieldReader {
   /// float; three whole numbers. A number without digits is 0. Nothing when one of them fails.
   template <typename... Types>
   std::optional<std::tuple<Types...>> Fields() {
-    began_ = place_;
+    startOffset_ = offset_;
     // In braces they are read in this order.
     std::optional<std::tuple<Types...>> fields(std::tuple<Types...>{Next<Types>()...});
     if (failed_) fields.reset();
@@ -36,7 +36,7 @@ class FieldReader {
   /// The next field alone.
   template <typename Type>
   std::optional<Type> Field() {
-    began_ = place_;
+    startOffset_ = offset_;
     const Type field = Next<Type>();
     return failed_ ? std::nullopt : std::optional(field);
   }
@@ -44,11 +44,11 @@ class FieldReader {
   // What can be told of the file; a place is the number of bytes before it.
 
   /// The place of the next field.
-  std::size_t Place() const { return place_; }
+  std::size_t Offset() const { return offset_; }
   /// The place where the last call of Line, Fields or Field began.
-  std::size_t Began() const { return began_; }
-  bool BehindComma() const { return place_ > 0 && bytes_[place_ - 1] == ','; }
-  bool AtEnd() const { return place_ == bytes_.size(); }
+  std::size_t StartOffset() const { return startOffset_; }
+  bool BehindComma() const { return offset_ > 0 && bytes_[offset_ - 1] == ','; }
+  bool AtEnd() const { return offset_ == bytes_.size(); }
   /// Whether a read has failed because the file ends.
   bool Ended() const { return ended_; }
   /// The line, from 1, in which a place lies.
@@ -56,7 +56,7 @@ class FieldReader {
   /// The same for many places, which must rise.
   std::vector<int> LinesOf(const std::vector<std::size_t>& places) const;
   /// The places of the quoted texts behind which something was dropped.
-  const std::vector<std::size_t>& Losses() const { return losses_; }
+  const std::vector<std::size_t>& TruncatedTexts() const { return truncatedTexts_; }
 
  private:
   /// Any value after a failure.
@@ -65,21 +65,23 @@ class FieldReader {
 
   std::string_view Number();
   std::string_view Quoted();
-  std::string_view Until(bool blankEnds);
+  /// What a field has in it up to its separator, or up to a blank where that ends it.
+  enum class Blank { Kept, Ends };
+  std::string_view Until(Blank blank);
   bool BeginField();
-  void PassBlanks();
-  void PassSeparator();
-  void PassLineEnd();
+  void SkipBlanks();
+  void SkipSeparator();
+  void SkipLineEnd();
   static bool EndsLine(char c) { return c == '\r' || c == '\n'; }
-  char At() const { return bytes_[place_]; }
+  char At() const { return bytes_[offset_]; }
   bool FailAtEnd();
 
   std::string_view bytes_;
-  std::size_t place_ = 0;
-  std::size_t began_ = 0;
+  std::size_t offset_ = 0;
+  std::size_t startOffset_ = 0;
   bool failed_ = false;
   bool ended_ = false;
-  std::vector<std::size_t> losses_;
+  std::vector<std::size_t> truncatedTexts_;
 };
 
 template <>

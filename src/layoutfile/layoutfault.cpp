@@ -2,7 +2,7 @@
 
 namespace terramark {
 
-std::string LayoutFault::Words() const {
+std::string LayoutFault::Description() const {
   return (AtEnd ? "the file ends, expected " : "expected ") + Expected;
 }
 

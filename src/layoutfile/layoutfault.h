@@ -14,7 +14,7 @@ struct LayoutFault {
   bool AtEnd = false;
 
   /// For the user: the reason as words that stand behind a colon.
-  std::string Words() const;
+  std::string Description() const;
 };
 
 }  // namespace terramark

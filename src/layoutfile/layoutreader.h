@@ -15,10 +15,10 @@
 namespace terramark {
 
 /// A hundred times what the largest map needs; of a longer file no more than this is read.
-inline constexpr std::size_t MostLayoutBytes = 4U << 20U;
+inline constexpr std::size_t MaxLayoutBytes = 4U << 20U;
 
 /// Nothing, or where and why the reading has stopped.
-using LayoutStep = tl::expected<void, LayoutFault>;
+using LayoutResult = tl::expected<void, LayoutFault>;
 
 /// Reads in three steps, in this order, since the window shows what each has read. After one has
 /// failed there is no other. A number is never outside the tables or above the file's own count.
@@ -29,28 +29,28 @@ class LayoutReader {
 
   /// The header, the counts and the picture's path, which a comma ends: what stands behind it is
   /// the first of the colours.
-  LayoutStep ReadHead();
-  LayoutStep ReadPlayerColours();
+  LayoutResult ReadHead();
+  LayoutResult ReadPlayerColours();
   /// The Regions with their Areas, and the places. The sections that are computed afresh at each
   /// save are passed over. The last line is not read.
-  LayoutStep ReadMap();
+  LayoutResult ReadMap();
 
   /// What has been read; after a fault what stood before it.
   const MapLayout& Layout() const { return layout_; }
 
   /// Fails where a place that has been read, though a later line replace it, leaves the range of a
   /// float on a screen of so many twips a pixel, above 0.
-  LayoutStep CheckReach(float twipsX, float twipsY) const;
+  LayoutResult CheckRange(float twipsX, float twipsY) const;
 
   // For those who judge the file.
 
   /// Whether, after ReadHead, a comma has ended the picture's path.
   bool PictureIsCut() const { return file_.BehindComma(); }
   /// Passes over what stands behind it, which the editor does not.
-  void PassPictureLine() { file_.Line(); }
+  void SkipPictureLine() { file_.Line(); }
   /// The lines, each once, on which a double quote has ended a text early and cost what stood
   /// behind it.
-  std::vector<int> LinesWithLoss() const;
+  std::vector<int> TruncatedLines() const;
   /// The line of the counts, of the picture, of an Area or a Region; 0 where there is none.
   int LineOfCounts() const { return LineOf(countsAt_); }
   int LineOfPicture() const { return LineOf(pictureAt_); }
@@ -58,12 +58,12 @@ class LayoutReader {
   int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
   /// The line of the first head that is not as the editor writes it, 0 for none, and how it does.
   /// The reading may be out of step then.
-  int LineOfOddHead() const { return LineOf(oddHeadAt_); }
-  const char* UsualHead() const { return usualHead_; }
+  int LineOfOddHeading() const { return LineOf(oddHeadingAt_); }
+  const char* UsualHeading() const { return usualHeading_; }
   /// Whether the file ends where the reading stands.
   bool AtEnd() const { return file_.AtEnd(); }
   /// The line at which the reading stands.
-  int Line() const { return file_.LineOf(file_.Place()); }
+  int Line() const { return file_.LineOf(file_.Offset()); }
 
  private:
   /// The largest distance of all places, and where its line begins.
@@ -71,19 +71,19 @@ class LayoutReader {
     float Distance = 0;
     std::size_t At = 0;
 
-    void Take(float coordinate, std::size_t at);
+    void Include(float coordinate, std::size_t at);
   };
 
-  LayoutStep ReadRegionGroups();
-  LayoutStep ReadRegionGroup();
-  LayoutStep ReadArea(std::int16_t region, const Components& rgb);
-  LayoutStep PassComputedSections();
-  LayoutStep PassBridges();
-  LayoutStep PassPairs(const char* pair, std::int16_t count);
-  LayoutStep PassHead(const char* text);
-  LayoutStep ReadPlaces();
-  LayoutStep ReadPlaces(Table<LaidMarker>& markers, std::int16_t lines, std::int16_t last,
-                        const char* what);
+  LayoutResult ReadRegionGroups();
+  LayoutResult ReadRegionGroup();
+  LayoutResult ReadArea(std::int16_t region, const Components& rgb);
+  LayoutResult SkipComputedSections();
+  LayoutResult SkipBridges();
+  LayoutResult SkipPairs(const char* pair, std::int16_t count);
+  LayoutResult SkipHeading(const char* text);
+  LayoutResult ReadPlaces();
+  LayoutResult ReadPlaces(Table<MarkerRecord>& markers, std::int16_t lines, std::int16_t last,
+                          const char* what);
 
   /// That this stands where the last read began is expected.
   tl::unexpected<LayoutFault> Expected(std::string what) const;
@@ -96,8 +96,8 @@ class LayoutReader {
   std::size_t pictureAt_ = 0;
   Table<std::size_t> areaAt_;
   Table<std::size_t> regionAt_;
-  std::size_t oddHeadAt_ = 0;
-  const char* usualHead_ = nullptr;
+  std::size_t oddHeadingAt_ = 0;
+  const char* usualHeading_ = nullptr;
   Farthest farthestLeft_;
   Farthest farthestTop_;
 };

@@ -5,7 +5,7 @@
 
 #include "document/cardsymbol.h"
 #include "document/links.h"
-#include "layoutfile/heads.h"
+#include "layoutfile/headings.h"
 #include "layoutfile/layouttext.h"
 #include "layoutfile/regionlinks.h"
 #include "layoutfile/routes.h"
@@ -41,7 +41,7 @@ char CardLetter(const Area& area) {
 void WriteRegionGroups(const MapLayout& map, LayoutText& file) {
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     const Region& region = map.Regions(r);
-    file.Fields(r, MembersOf(map, r), region.RGB, region.Name, region.Armies);
+    file.Fields(r, MemberCount(map, r), region.RGB, region.Name, region.Armies);
     for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
       const Area& area = map.Areas(i);
       if (area.Region != r) continue;
@@ -53,7 +53,7 @@ void WriteRegionGroups(const MapLayout& map, LayoutText& file) {
 
 /// 0, or the Area without neighbours that has stopped it.
 std::int16_t WriteBridges(const MapLayout& map, LayoutText& file) {
-  file.Raw(BridgesHead);
+  file.Raw(BridgesHeading);
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) {
     if (LinkCount(map.AreaLinks(i)) == 0) return i;
     const std::string bridge = BridgeText(map, i);
@@ -64,13 +64,13 @@ std::int16_t WriteBridges(const MapLayout& map, LayoutText& file) {
 }
 
 void WriteRoutes(const MapLayout& map, LayoutText& file) {
-  file.Raw(RoutesHead);
+  file.Raw(RoutesHeading);
   const RouteFinder routes(map);
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) file.Fields(i, routes.BlitzRoute(i));
 }
 
 void WriteBreaks(const MapLayout& map, LayoutText& file) {
-  file.Raw(BreaksHead);
+  file.Raw(BreaksHeading);
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     const std::string breaks = BreakText(map, r);
     if (!breaks.empty()) file.Fields(r, breaks);
@@ -78,14 +78,14 @@ void WriteBreaks(const MapLayout& map, LayoutText& file) {
 }
 
 void WritePlaces(const MapLayout& map, LayoutText& file) {
-  const auto place = [&](std::int16_t number, const LaidMarker& marker) {
+  const auto place = [&](std::int16_t number, const MarkerRecord& marker) {
     const MarkerPlace at = marker.Place.value_or(MarkerPlace{});
     file.Fields(number, at.Left, at.Top);
   };
-  file.Raw(AreaPlacesHead);
+  file.Raw(AreaPlacesHeading);
   file.Fields(map.TwipsX, map.TwipsY);
   for (std::int16_t i = 0; i <= map.AreaCount; ++i) place(i, map.AreaMarkers(i));
-  file.Raw(RegionPlacesHead);
+  file.Raw(RegionPlacesHeading);
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) place(r, map.RegionMarkers(r));
   file.Raw(LastLine);
 }

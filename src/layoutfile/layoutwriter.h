@@ -18,7 +18,7 @@ struct SavingTime {
 struct LayoutWritten {
   std::string Text;
   /// The Area without neighbours at whose bridge line the text breaks off; 0 when it is whole.
-  std::int16_t BrokenOffAt = 0;
+  std::int16_t StoppedAtArea = 0;
 };
 
 /// A marker without a place gets 0, 0. A card symbol without a letter of its own is written as "G",

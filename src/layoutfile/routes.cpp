@@ -8,7 +8,7 @@ namespace terramark {
 void Route::Append(std::int16_t area) {
   areas_[static_cast<std::size_t>(length_)] = static_cast<std::uint8_t>(area);
   ++length_;
-  Bar(area);
+  Exclude(area);
 }
 
 RouteFinder::RouteFinder(const Tables& tables) {
@@ -41,7 +41,7 @@ std::string RouteFinder::BlitzRoute(std::int16_t a) const {
 
 Route RouteFinder::WalkFrom(std::int16_t first, std::int16_t a) const {
   Route route;
-  route.Bar(a);
+  route.Exclude(a);
   for (std::int16_t cur = first;;) {
     route.Append(cur);
     cur = NextRouteStep(route, cur);
@@ -53,7 +53,7 @@ Route RouteFinder::WalkFrom(std::int16_t first, std::int16_t a) const {
 /// the Region, so the neighbours inside it are all that count.
 std::int16_t RouteFinder::NextRouteStep(const Route& route, std::int16_t cur) const {
   for (const std::uint8_t nb : NeighboursInRegion(cur)) {
-    if (!route.Bars(nb)) return nb;
+    if (!route.Excludes(nb)) return nb;
   }
   return 0;
 }

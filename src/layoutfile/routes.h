@@ -17,8 +17,8 @@ namespace terramark {
 class Route {
  public:
   void Append(std::int16_t area);
-  void Bar(std::int16_t area) { barred_.set(static_cast<std::size_t>(area)); }
-  bool Bars(std::int16_t area) const { return barred_.test(static_cast<std::size_t>(area)); }
+  void Exclude(std::int16_t area) { excluded_.set(static_cast<std::size_t>(area)); }
+  bool Excludes(std::int16_t area) const { return excluded_.test(static_cast<std::size_t>(area)); }
   std::int16_t Length() const { return length_; }
   std::span<const std::uint8_t> Areas() const {
     return {areas_.data(), static_cast<std::size_t>(length_)};
@@ -26,7 +26,7 @@ class Route {
 
  private:
   std::array<std::uint8_t, TableSize> areas_;
-  std::bitset<TableSize> barred_;
+  std::bitset<TableSize> excluded_;
   std::int16_t length_ = 0;
 };
 

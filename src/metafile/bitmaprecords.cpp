@@ -16,7 +16,7 @@ constexpr int TwoColourPlanes = 0x0101;  // one plane of one bit a pixel
 constexpr std::int64_t WorkPerBitmapPixel = 1;
 constexpr std::int64_t WorkPerKeptPixel = 12;
 
-// The bitmap in a record. Its size is in pixels, 1 or more each way.
+/// The bitmap in a record. Its size is in pixels, 1 or more each way.
 struct RecordBitmap {
   int Width = 0;
   int Height = 0;
@@ -28,7 +28,7 @@ struct RecordBitmap {
   std::int64_t Pixels() const { return std::int64_t{Width} * Height; }
 };
 
-// The older bitmap of two colours: clear bits show the text colour, set bits the background.
+/// The older bitmap of two colours: clear bits show the text colour, set bits the background.
 forms::Picture DecodeTwoColours(const DeviceContext& context, QSize size, qsizetype rowBytes,
                                 QByteArrayView bits) {
   if (bits.size() < rowBytes * size.height()) return nullptr;
@@ -37,7 +37,7 @@ forms::Picture DecodeTwoColours(const DeviceContext& context, QSize size, qsizet
   auto image = std::make_shared<forms::Raster>();
   image->Width = size.width();
   image->Height = size.height();
-  image->Pixels.reserve(image->At(0, size.height()));
+  image->Pixels.reserve(image->IndexOf(0, size.height()));
   for (int y = 0; y < size.height(); ++y) {
     for (int x = 0; x < size.width(); ++x) {
       const int byte = static_cast<unsigned char>(bits[y * rowBytes + x / 8]);
@@ -47,8 +47,8 @@ forms::Picture DecodeTwoColours(const DeviceContext& context, QSize size, qsizet
   return image;
 }
 
-// The older kind, whose head is at the word `at` of the record and whose bits begin at `bitsAt`.
-// None when it is broken or too large.
+/// The older kind, whose head is at the word `at` of the record and whose bits begin at `bitsAt`.
+/// None when it is broken or too large.
 std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizetype at,
                                             qsizetype bitsAt) {
   const QSize size(record.Int(at + 1), record.Int(at + 2));
@@ -66,15 +66,15 @@ std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizet
                       }};
 }
 
-// Of a bitmap with a header: what its colour table holds.
+/// Of a bitmap with a header: what its colour table holds.
 enum class TableOf { Colours, PaletteEntries };
 
 TableOf TableIn(int colourUse) {
   return colourUse == PaletteColours ? TableOf::PaletteEntries : TableOf::Colours;
 }
 
-// Packed at the word `at` of the record, header, colour table and rows. None when it is broken or
-// too large.
+/// Packed at the word `at` of the record, header, colour table and rows. None when it is broken or
+/// too large.
 std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype at,
                                          TableOf table) {
   const QByteArrayView bytes = record.From(at);
@@ -94,13 +94,13 @@ std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype
                       }};
 }
 
-// Null when it is broken, or when the work that is left does not reach for it.
+/// Null when it is broken, or when the work that is left does not reach for it.
 forms::Picture Decode(DeviceContext& context, const RecordBitmap& from) {
-  if (!context.Target().Spend(WorkPerBitmapPixel * from.Pixels() + from.Words)) return nullptr;
+  if (!context.Target().ChargeWork(WorkPerBitmapPixel * from.Pixels() + from.Words)) return nullptr;
   return from.Decode(context);
 }
 
-// Draws nothing without a bitmap.
+/// Draws nothing without a bitmap.
 void DrawBitmap(DeviceContext& context, Blit blit, const std::optional<RecordBitmap>& from) {
   if (!from) return;
   // The rows of such a bitmap are counted from the first stored one.
@@ -112,7 +112,7 @@ int RopOf(const MetafileRecord& record) {
   return record.Word(1) & 0xFF;
 }
 
-// A record without a bitmap is no longer than this, and fills with the brush.
+/// A record without a bitmap is no longer than this, and fills with the brush.
 bool HasBitmap(const MetafileRecord& record) {
   constexpr qsizetype WordsWithout = 9;
   return record.Words() > WordsWithout;
@@ -120,7 +120,7 @@ bool HasBitmap(const MetafileRecord& record) {
 
 constexpr qsizetype BitmapAtInBitBlt = 8;
 
-// Of BitBlt and DibBitBlt: the target is behind a word that is not used where no bitmap follows.
+/// Of BitBlt and DibBitBlt: the target is behind a word that is not used where no bitmap follows.
 Blit ReadBitBlt(const MetafileRecord& record) {
   const qsizetype at = HasBitmap(record) ? 4 : 5;
   const QSize size(record.Int(at + 1), record.Int(at));
@@ -130,7 +130,7 @@ Blit ReadBitBlt(const MetafileRecord& record) {
           .From = QRect(record.PointYX(2), size)};
 }
 
-// Of the stretching records, source and target of which stand from the word `at`.
+/// Of the stretching records, source and target of which stand from the word `at`.
 Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
   return {.Rop = RopOf(record),
           .To = record.PointYX(at + 6),
@@ -138,15 +138,15 @@ Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
           .From = QRect(record.PointYX(at + 2), QSize(record.Int(at + 1), record.Int(at)))};
 }
 
-// A brush that fails keeps its number all the same: the file counts on it.
+/// A brush that fails keeps its number all the same: the file counts on it.
 void AddPatternBrush(DeviceContext& context, const std::optional<RecordBitmap>& from) {
   GraphicsObject object = Unusable();
   if (auto tile = from ? Decode(context, *from) : nullptr) {
     // It may be kept, so its memory weighs more than pixels that are painted.
-    context.Target().Spend(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
+    context.Target().ChargeWork(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
     object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};
   }
-  context.Target().Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
+  context.Target().ChargeWork(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
 }
 
 }  // namespace
@@ -198,7 +198,7 @@ void PlayDibCreatePatternBrush(DeviceContext& context, const MetafileRecord& rec
   AddPatternBrush(context, PackedBitmap(record, 2, TableIn(record.Word(1))));
 }
 
-// Between the bitmap's head and its bits this record has 20 words that are not used.
+/// Between the bitmap's head and its bits this record has 20 words that are not used.
 void PlayCreatePatternBrush(DeviceContext& context, const MetafileRecord& record) {
   constexpr qsizetype UnusedWords = 20;
   AddPatternBrush(context, TwoColourBitmap(record, 0, TwoColourHeadWords + UnusedWords));

@@ -11,7 +11,7 @@ constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr std::int64_t WorkPerBlit = 200;
 constexpr std::int64_t WorkPerBlitPixel = 8;
 
-// One axis of a blit, in pixels.
+/// One axis of a blit, in pixels.
 struct Axis {
   int From = 0;
   int Length = 0;
@@ -48,16 +48,16 @@ Axes AxesOf(const DeviceContext& context, const Blit& blit) {
           MakeAxis(start.y(), end.y(), blit.From.top(), blit.From.height())};
 }
 
-// What becomes of the bitmap's pixels where several fall on one.
-enum class Shrinking { Nearest, Joined };
+/// What becomes of the bitmap's pixels where several fall on one.
+enum class Shrinking { Nearest, CombinePixels };
 
-// The bitmap's pixels First <= pixel < End that one pixel stands for; none beyond the bitmap.
+/// The bitmap's pixels First <= pixel < End that one pixel stands for; none beyond the bitmap.
 struct SourceRange {
   int First = 0;
   int End = 0;
 };
 
-// For each pixel from one to another.
+/// For each pixel from one to another.
 std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmapSide,
                                   Shrinking shrinking) {
   const std::int64_t length = axis.Length;
@@ -65,7 +65,7 @@ std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmap
   std::vector<SourceRange> ranges;
   for (int at = from; at <= to; ++at) {
     const std::int64_t index = axis.Mirrored ? axis.From + length - 1 - at : at - axis.From;
-    const bool joined = shrinking == Shrinking::Joined;
+    const bool joined = shrinking == Shrinking::CombinePixels;
     const std::int64_t first =
         joined ? index * count / length : (2 * index + 1) * count / (2 * length);
     const std::int64_t end = joined ? std::max(first + 1, (index + 1) * count / length) : first + 1;
@@ -81,11 +81,11 @@ std::int64_t PixelsIn(const std::vector<SourceRange>& ranges) {
   return total;
 }
 
-QRgb Joined(const forms::Raster& source, const SourceRange& across, const SourceRange& down,
-            int mode) {
-  QRgb result = source.Pixels[source.At(across.First, down.First)];
+QRgb CombinePixels(const forms::Raster& source, const SourceRange& across, const SourceRange& down,
+                   int mode) {
+  QRgb result = source.Pixels[source.IndexOf(across.First, down.First)];
   for (int y = down.First; y < down.End; ++y) {
-    const QRgb* row = source.Pixels.data() + source.At(0, y);
+    const QRgb* row = source.Pixels.data() + source.IndexOf(0, y);
     for (int x = across.First; x < across.End; ++x) {
       result = mode == StretchOr ? result | row[x] : result & row[x];
     }
@@ -100,7 +100,7 @@ bool UsesSource(int rop) {
   return (rop >> 2 & 0x33) != (rop & 0x33);
 }
 
-// Bit (pattern * 4 + source * 2 + destination) of the operation is the result.
+/// Bit (pattern * 4 + source * 2 + destination) of the operation is the result.
 QRgb CombineTernary(int rop, QRgb pattern, QRgb source, QRgb destination) {
   if (rop == SourceCopy) return source;
   QRgb result = 0;
@@ -115,7 +115,7 @@ QRgb CombineTernary(int rop, QRgb pattern, QRgb source, QRgb destination) {
 QRgb PatternAt(const DeviceContext& context, const Paint& paint, QPoint at) {
   if (!paint.Pattern) return paint.Colour;
   const forms::Raster& tile = *paint.Pattern;
-  const QRgb pixel = tile.Pixels[tile.At(at.x() % tile.Width, at.y() % tile.Height)];
+  const QRgb pixel = tile.Pixels[tile.IndexOf(at.x() % tile.Width, at.y() % tile.Height)];
   return qAlpha(pixel) == 0 ? context.Resolve(context.State.BackColour) : pixel;
 }
 
@@ -129,7 +129,7 @@ void PaintWithout(DeviceContext& context, int rop, const QRect& visible) {
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     for (int x = visible.left(); x <= visible.right(); ++x) {
       const QRgb pattern = PatternAt(context, paint, {x, y});
-      target.Put({x, y}, CombineTernary(rop, pattern, 0, target.At({x, y})));
+      target.WritePixel({x, y}, CombineTernary(rop, pattern, 0, target.At({x, y})));
     }
   }
 }
@@ -141,11 +141,11 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
   // The classic default lays pixels that fall together over each other, so that no black line
   // gets lost.
   const bool joins = axes.Shrinks() && (mode == StretchAnd || mode == StretchOr);
-  const Shrinking shrinking = joins ? Shrinking::Joined : Shrinking::Nearest;
+  const Shrinking shrinking = joins ? Shrinking::CombinePixels : Shrinking::Nearest;
   const auto columns =
       RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
   const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);
-  if (!target.Spend(PixelsIn(columns) * PixelsIn(rows))) return;
+  if (!target.ChargeWork(PixelsIn(columns) * PixelsIn(rows))) return;
   const Paint paint = context.BrushPaint(context.State.CurrentBrush);
   QPoint at = visible.topLeft();
   for (const SourceRange& down : rows) {
@@ -153,8 +153,8 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
     for (const SourceRange& across : columns) {
       if (across.First < across.End && down.First < down.End) {
         const QRgb pattern = PatternAt(context, paint, at);
-        const QRgb pixel = Joined(source, across, down, mode);
-        target.Put(at, CombineTernary(rop, pattern, pixel, target.At(at)));
+        const QRgb pixel = CombinePixels(source, across, down, mode);
+        target.WritePixel(at, CombineTernary(rop, pattern, pixel, target.At(at)));
       }
       ++at.rx();
     }
@@ -165,13 +165,13 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
 void PaintBlit(DeviceContext& context, int rop, const Axes& axes, const forms::Picture& source) {
   const QRect visible = axes.Box().intersected(context.Target().Area());
   const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
-  if (!context.Target().Spend(WorkPerBlit + WorkPerBlitPixel * pixels)) return;
+  if (!context.Target().ChargeWork(WorkPerBlit + WorkPerBlitPixel * pixels)) return;
   if (UsesSource(rop)) return PaintWith(context, rop, axes, visible, *source);
   PaintWithout(context, rop, visible);
 }
 
-bool Touches(DeviceContext& context, const Axes& axes) {
-  return !axes.Box().isEmpty() && context.Target().Touch(axes.Box());
+bool BeginBlit(DeviceContext& context, const Axes& axes) {
+  return !axes.Box().isEmpty() && context.Target().BeginShape(axes.Box());
 }
 
 }  // namespace
@@ -179,13 +179,13 @@ bool Touches(DeviceContext& context, const Axes& axes) {
 void DrawBlit(DeviceContext& context, const Blit& blit) {
   if (!CanPaint(context, blit.Rop, nullptr)) return;
   const Axes axes = AxesOf(context, blit);
-  if (Touches(context, axes)) PaintBlit(context, blit.Rop, axes, nullptr);
+  if (BeginBlit(context, axes)) PaintBlit(context, blit.Rop, axes, nullptr);
 }
 
 void DrawBlit(DeviceContext& context, const Blit& blit,
               const std::function<forms::Picture()>& decode) {
   const Axes axes = AxesOf(context, blit);
-  if (!Touches(context, axes)) return;
+  if (!BeginBlit(context, axes)) return;
   const forms::Picture source = decode();
   if (CanPaint(context, blit.Rop, source)) PaintBlit(context, blit.Rop, axes, source);
 }

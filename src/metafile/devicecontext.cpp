@@ -17,7 +17,7 @@ int Rounded(double value) {
   return static_cast<int>(std::clamp(std::floor(value + 0.5), -MaxDevice, MaxDevice));
 }
 
-// One row of bits a row of pixels, the leftmost in the highest bit.
+/// One row of bits a row of pixels, the leftmost in the highest bit.
 constexpr std::uint8_t Hatches[][HatchSide] = {
     {0x00, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00},  // horizontal
     {0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08},  // vertical
@@ -43,7 +43,8 @@ forms::Picture HatchTile(int hatch, QRgb line, QRgb ground) {
 
 }  // namespace
 
-DeviceContext::DeviceContext(Surface& surface, const Frame& frame, QSize box, FrameSource source)
+DeviceContext::DeviceContext(Surface& surface, const LogicalFrame& frame, QSize box,
+                             FrameSource source)
     : surface_(surface), source_(source) {
   const QPointF scale(static_cast<double>(box.width()) / frame.Extent.width(),
                       static_cast<double>(box.height()) / frame.Extent.height());
@@ -78,7 +79,7 @@ void DeviceContext::Select(const GraphicsObject& object) {
   if (const auto* pen = std::get_if<Pen>(&object)) State.CurrentPen = *pen;
   if (const auto* brush = std::get_if<Brush>(&object)) State.CurrentBrush = *brush;
   if (const auto* font = std::get_if<Font>(&object)) State.CurrentFont = *font;
-  if (const auto* region = std::get_if<Region>(&object)) surface_.ClipTo(region->Rects);
+  if (const auto* region = std::get_if<RegionObject>(&object)) surface_.ClipTo(region->Rects);
 }
 
 QPointF DeviceContext::Scale() const {

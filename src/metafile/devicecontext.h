@@ -6,15 +6,15 @@
 #include <QRectF>
 #include <vector>
 
+#include "metafile/fontcache.h"
 #include "metafile/graphicsobjects.h"
-#include "metafile/matchedfonts.h"
 #include "metafile/surface.h"
 
 namespace terramark::metafile {
 
 /// Where the picture lies before the file says anything: this much of the plane, in logical units,
 /// fills the box. Its sides are not 0; a negative one runs backwards.
-struct Frame {
+struct LogicalFrame {
   QPoint Origin;
   QSize Extent{1, 1};
 };
@@ -52,12 +52,12 @@ class DeviceContext {
   enum class FrameSource { File, Measured };
 
   /// Plays onto `surface`, `frame` filling `box` pixels.
-  DeviceContext(Surface& surface, const Frame& frame, QSize box, FrameSource source);
+  DeviceContext(Surface& surface, const LogicalFrame& frame, QSize box, FrameSource source);
 
   Surface& Target() { return surface_; }
   DeviceState State;
   ObjectTable Objects;
-  MatchedFonts Fonts;
+  FontCache Fonts;
 
   bool Measured() const { return source_ == FrameSource::Measured; }
 

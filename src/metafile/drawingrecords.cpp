@@ -13,11 +13,11 @@ namespace {
 constexpr std::int64_t WorkPerShape = 50;
 constexpr std::int64_t WorkPerPoint = 16;
 
-// A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
+/// A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
 std::vector<QPoint> ReadPoints(DeviceContext& context, const MetafileRecord& record, qsizetype at,
                                int count) {
   const qsizetype present = std::clamp<qsizetype>((record.Words() - at) / 2, 0, count);
-  if (!context.Target().Spend(WorkPerShape + WorkPerPoint * present)) return {};
+  if (!context.Target().ChargeWork(WorkPerShape + WorkPerPoint * present)) return {};
   std::vector<QPoint> points;
   points.reserve(static_cast<std::size_t>(present));
   for (qsizetype i = 0; i < present; ++i) {
@@ -39,7 +39,7 @@ void FillShapes(DeviceContext& context, const std::vector<std::vector<QPoint>>& 
   std::vector<QPolygonF> polygons;
   polygons.reserve(shapes.size());
   for (const auto& shape : shapes) polygons.push_back(PolygonOf(shape));
-  context.Target().Polygons(polygons, rule, context.BrushPaint(context.State.CurrentBrush));
+  context.Target().PaintPolygons(polygons, rule, context.BrushPaint(context.State.CurrentBrush));
 }
 
 void DrawPolygons(DeviceContext& context, const std::vector<std::vector<QPoint>>& shapes) {
@@ -47,8 +47,8 @@ void DrawPolygons(DeviceContext& context, const std::vector<std::vector<QPoint>>
   for (const auto& shape : shapes) Stroke(context, shape, LineShape::Closed);
 }
 
-// The box a shape's outline runs in, both ends inside. A pen that stays inside the frame takes its
-// width from the box.
+/// The box a shape's outline runs in, both ends inside. A pen that stays inside the frame takes its
+/// width from the box.
 QRect OutlineBox(const DeviceContext& context, const QRect& box) {
   QRect outline = box;
   if (context.State.CurrentPen.Style == PenStyle::InsideFrame) {
@@ -64,15 +64,15 @@ void DrawRectangle(DeviceContext& context, const QRect& box) {
   if (context.HasBrush()) {
     const bool thin = context.HasPen() && context.PenWidth() == 1;
     const QRect inside = thin ? outline.adjusted(1, 1, -1, -1) : outline.adjusted(0, 0, -1, -1);
-    context.Target().Rectangle(inside, context.BrushPaint(context.State.CurrentBrush));
+    context.Target().PaintRectangle(inside, context.BrushPaint(context.State.CurrentBrush));
   }
   Stroke(context,
          {outline.topRight(), outline.topLeft(), outline.bottomLeft(), outline.bottomRight()},
          LineShape::Closed);
 }
 
-// An outline of a box with elliptic corners of the given whole size; an ellipse when the corners
-// fill the box. The points stand one pixel from the next along the corners.
+/// An outline of a box with elliptic corners of the given whole size; an ellipse when the corners
+/// fill the box. The points stand one pixel from the next along the corners.
 std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
   const std::vector<QPoint> quarter = EllipseQuarter(corner.width(), corner.height());
   const std::vector<QPoint> backwards(quarter.rbegin(), quarter.rend());
@@ -92,12 +92,12 @@ std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
 void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   if (box.isEmpty()) return;
   const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
-  if (!context.Target().Touch(box.adjusted(-pen, -pen, pen, pen))) return;
+  if (!context.Target().BeginShape(box.adjusted(-pen, -pen, pen, pen))) return;
   const QRect outline = OutlineBox(context, box);
   if (outline.isEmpty() || outline.width() > MaxRoundSide || outline.height() > MaxRoundSide)
     return;
   const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
-  if (!context.Target().Spend(std::int64_t{8} * (size.width() + size.height()))) return;
+  if (!context.Target().ChargeWork(std::int64_t{8} * (size.width() + size.height()))) return;
   const std::vector<QPoint> points = RoundOutline(outline, size);
   if (context.HasBrush()) FillShapes(context, {points}, FillRule::Winding);
   Stroke(context, points, LineShape::Closed);
@@ -105,11 +105,11 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
 
 enum class ArcKind { Open, Chord, Pie };
 
-// Against the clock from the ray through `from` to the ray through `to`.
+/// Against the clock from the ray through `from` to the ray through `to`.
 void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind) {
   const QRect box = OutlineBox(
       context, context.ToDevice(record.Int(7), record.Int(6), record.Int(5), record.Int(4)));
-  if (box.isEmpty() || !context.Target().Touch(box)) return;
+  if (box.isEmpty() || !context.Target().BeginShape(box)) return;
   const QPointF to = context.ToDevice(QPointF(record.PointYX(0)));
   const QPointF from = context.ToDevice(QPointF(record.PointYX(2)));
   const double radiusX = (box.width() - 1) / 2.0;
@@ -126,7 +126,7 @@ void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind)
 
   const double length = sweep * std::max(radiusX, radiusY);
   const int steps = static_cast<int>(std::clamp(length, 8.0, double{MaxArcSteps}));
-  if (!context.Target().Spend(std::int64_t{steps} * 8)) return;
+  if (!context.Target().ChargeWork(std::int64_t{steps} * 8)) return;
   std::vector<QPoint> points;
   for (int i = 0; i <= steps; ++i) {
     const double at = start + sweep * i / steps;
@@ -145,12 +145,12 @@ void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind)
 void DrawFlood(DeviceContext& context, const MetafileRecord& record, qsizetype colourAt,
                forms::FloodStops stops) {
   const QPoint seed = context.ToDevice(QPointF(record.PointYX(colourAt + 2)));
-  if (!context.HasBrush() || !context.Target().Touch(QRect(seed, QSize(1, 1)))) return;
+  if (!context.HasBrush() || !context.Target().BeginShape(QRect(seed, QSize(1, 1)))) return;
   context.Target().Flood(seed, context.Resolve(record.Long(colourAt)), stops,
                          context.BrushPaint(context.State.CurrentBrush));
 }
 
-// The box of a shape, of which the sides stand from the word `at`: bottom, right, top, left.
+/// The box of a shape, of which the sides stand from the word `at`: bottom, right, top, left.
 QRect BoxOf(const DeviceContext& context, const MetafileRecord& record, qsizetype at) {
   return context.ToDevice(record.Int(at + 3), record.Int(at + 2), record.Int(at + 1),
                           record.Int(at));
@@ -229,7 +229,7 @@ void PlayExtFloodFill(DeviceContext& context, const MetafileRecord& record) {
 void PlaySetPixel(DeviceContext& context, const MetafileRecord& record) {
   const QPoint at = context.ToDevice(QPointF(record.PointYX(2)));
   const QRgb colour = context.Resolve(record.Long(0));
-  if (context.Target().Touch(QRect(at, QSize(1, 1)))) context.Target().Put(at, colour);
+  if (context.Target().BeginShape(QRect(at, QSize(1, 1)))) context.Target().WritePixel(at, colour);
 }
 
 }  // namespace terramark::metafile

@@ -12,11 +12,11 @@ namespace terramark::metafile {
 namespace {
 
 constexpr int DefaultPixelSize = 16;
-constexpr double MadeItalicSlant = 0.287;  // 16 degrees
+constexpr double SyntheticSlant = 0.287;  // 16 degrees
 constexpr int BoldFrom = 600;
 constexpr int SymbolCharset = 2;
 
-double Limited(double size) {
+double ClampSize(double size) {
   return std::clamp(size, 1.0, double{MaxLetterSize});
 }
 
@@ -35,31 +35,31 @@ constexpr FaceRow Faces[] = {
     {"fixedsys", "Liberation Mono"},  {"terminal", "Liberation Mono"},
 };
 
-// The family that stands in for a usual face of letters, named in lower case; null for any other.
-const char* StandInFor(const QByteArray& face) {
+/// The family that stands in for a usual face of letters, named in lower case; null for any other.
+const char* SubstituteFor(const QByteArray& face) {
   for (const FaceRow& row : Faces) {
     if (face.startsWith(row.Face)) return row.Family;
   }
   return nullptr;
 }
 
-// What the symbol font says of itself, for each pixel of its size.
+/// What the symbol font says of itself, for each pixel of its size.
 constexpr double SymbolAscent = 1.005;
 constexpr double SymbolDescent = 0.220;
 constexpr double SymbolWidth = 0.5755;
 
-const QStringList& Installed() {
+const QStringList& FamilyNames() {
   static const QStringList families = QFontDatabase::families();
   return families;
 }
 
 bool IsInstalled(const QString& family) {
-  return Installed().contains(family, Qt::CaseInsensitive);
+  return FamilyNames().contains(family, Qt::CaseInsensitive);
 }
 
 QString FamilyOf(const Font& font) {
   if (ContentsOf(font) == FontContents::Symbols) return "Liberation Serif";
-  if (const char* family = StandInFor(font.Face.toLower())) return QString::fromLatin1(family);
+  if (const char* family = SubstituteFor(font.Face.toLower())) return QString::fromLatin1(family);
   constexpr int FixedPitch = 1;
   constexpr int Roman = 1;
   constexpr int Modern = 3;
@@ -68,34 +68,34 @@ QString FamilyOf(const Font& font) {
   return kind == Roman ? "Liberation Serif" : "Liberation Sans";
 }
 
-// The wanted font itself or, for symbols, a free one of the same encoding that is read as Western.
-std::optional<SignFont> SignsOf(const Font& wanted, QFont face) {
+/// The wanted font itself or, for symbols, a free one of the same encoding that is read as Western.
+std::optional<SymbolFont> SignsOf(const Font& wanted, QFont face) {
   const FontContents contents = ContentsOf(wanted);
   if (contents == FontContents::Letters) return std::nullopt;
   face.setStyleStrategy(QFont::StyleStrategy(QFont::NoAntialias | QFont::NoFontMerging));
   const QString own = QString::fromLatin1(wanted.Face);
   if (IsInstalled(own)) {
     face.setFamily(own);
-    return SignFont{.Face = face, .From = OwnSignsFrom};
+    return SymbolFont{.Face = face, .From = PrivateUseStart};
   }
-  if (contents == FontContents::OwnSigns) return std::nullopt;
-  for (const QString& family : Installed()) {
+  if (contents == FontContents::PrivateSymbols) return std::nullopt;
+  for (const QString& family : FamilyNames()) {
     if (!family.startsWith("Standard Symbols")) continue;
     face.setFamily(family);
-    return SignFont{.Face = face, .From = 0};
+    return SymbolFont{.Face = face, .From = 0};
   }
   return std::nullopt;
 }
 
-// What an ascent, a descent and a mean width are for letters of `size` pixels.
-struct Measures {
+/// What an ascent, a descent and a mean width are for letters of `size` pixels.
+struct EmMetrics {
   int Ascent = 0;
   int Descent = 0;
   double Width = 0;
 };
 
-Measures MeasuresOf(QFont face, bool symbols, double size) {
-  if (symbols) {
+EmMetrics EmMetricsOf(QFont face, FontContents contents, double size) {
+  if (contents == FontContents::Symbols) {
     return {.Ascent = static_cast<int>(std::lround(SymbolAscent * size)),
             .Descent = static_cast<int>(std::lround(SymbolDescent * size)),
             .Width = SymbolWidth * size};
@@ -107,17 +107,17 @@ Measures MeasuresOf(QFont face, bool symbols, double size) {
           .Width = metrics.averageCharWidth()};
 }
 
-// The font's cell for each pixel of its letters' size.
-double CellOf(QFont face, bool symbols) {
-  if (symbols) return SymbolAscent + SymbolDescent;
+/// The font's cell for each pixel of its letters' size.
+double CellHeightPerEm(QFont face, FontContents contents) {
+  if (contents == FontContents::Symbols) return SymbolAscent + SymbolDescent;
   constexpr int Sample = 1000;
   face.setPixelSize(Sample);
   const QFontMetricsF metrics(face);
   return (metrics.ascent() + metrics.descent()) / Sample;
 }
 
-// The nearest size, or one less where its own cell, rounded, would be too high.
-double SizeOfCell(double height, double cell) {
+/// The nearest size, or one less where its own cell, rounded, would be too high.
+double EmSizeFor(double height, double cell) {
   const double size = std::floor(height / cell + 0.5);
   return std::floor(size * cell + 0.5) > height ? size - 1 : size;
 }
@@ -129,25 +129,24 @@ FontContents ContentsOf(const Font& font) {
   if (face.startsWith("symbol")) return FontContents::Symbols;
   if (font.Charset != SymbolCharset) return FontContents::Letters;
   // A face for letters has no signs: the symbol font steps in.
-  const bool symbols = face.isEmpty() || face.contains("symbol") || StandInFor(face) != nullptr;
-  return symbols ? FontContents::Symbols : FontContents::OwnSigns;
+  const bool symbols = face.isEmpty() || face.contains("symbol") || SubstituteFor(face) != nullptr;
+  return symbols ? FontContents::Symbols : FontContents::PrivateSymbols;
 }
 
-qsizetype InstalledFamilies() {
-  return Installed().size();
+qsizetype FamilyCount() {
+  return FamilyNames().size();
 }
 
 MatchedFont MatchFont(const Font& wanted, QPointF scale) {
-  const bool letters = ContentsOf(wanted) == FontContents::Letters;
-  const bool symbols = ContentsOf(wanted) == FontContents::Symbols;
+  const FontContents contents = ContentsOf(wanted);
   MatchedFont matched;
   QFont& face = matched.Face;
   face.setFamily(FamilyOf(wanted));
   face.setStyleStrategy(QFont::NoAntialias);
   face.setHintingPreference(QFont::PreferFullHinting);
   face.setBold(wanted.Weight >= BoldFrom);
-  if (wanted.Italic && !letters) {
-    matched.Slant = MadeItalicSlant;
+  if (wanted.Italic && contents != FontContents::Letters) {
+    matched.Slant = SyntheticSlant;
   } else {
     face.setItalic(wanted.Italic);
   }
@@ -156,13 +155,13 @@ MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   face.setKerning(false);
 
   const double height = std::floor(std::abs(wanted.Height * scale.y()) + 0.5);
-  double size = wanted.Height > 0 ? SizeOfCell(height, CellOf(face, symbols)) : height;
+  double size = wanted.Height > 0 ? EmSizeFor(height, CellHeightPerEm(face, contents)) : height;
   if (wanted.Height == 0) size = DefaultPixelSize;
-  size = Limited(size);
+  size = ClampSize(size);
   face.setPixelSize(static_cast<int>(size));
   matched.Signs = SignsOf(wanted, face);
 
-  const Measures measures = MeasuresOf(face, symbols, size);
+  const EmMetrics measures = EmMetricsOf(face, contents, size);
   matched.Ascent = measures.Ascent;
   matched.Descent = measures.Descent;
   if (wanted.Width != 0 && measures.Width > 0) {

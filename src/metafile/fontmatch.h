@@ -12,14 +12,14 @@ namespace terramark::metafile {
 
 /// What a font holds: letters; the signs of the symbol font; or signs of its own, known by nothing
 /// but its name.
-enum class FontContents { Letters, Symbols, OwnSigns };
+enum class FontContents { Letters, Symbols, PrivateSymbols };
 FontContents ContentsOf(const Font& font);
 
 /// Fonts of signs keep them from here on.
-constexpr char16_t OwnSignsFrom = 0xF000;
+constexpr char16_t PrivateUseStart = 0xF000;
 
 /// A font that keeps its signs by their byte.
-struct SignFont {
+struct SymbolFont {
   QFont Face;
   char16_t From = 0;  // where byte 0 is
 };
@@ -27,7 +27,7 @@ struct SignFont {
 struct MatchedFont {
   QFont Face;
   /// For a font of signs: the one to try first.
-  std::optional<SignFont> Signs;
+  std::optional<SymbolFont> Signs;
   int Ascent = 0;   // pixels
   int Descent = 0;  // pixels
   /// How much wider than its own proportion the font is to be drawn.
@@ -37,7 +37,7 @@ struct MatchedFont {
 };
 
 /// How many families of fonts the system has.
-qsizetype InstalledFamilies();
+qsizetype FamilyCount();
 
 /// The font for `wanted` at so many pixels per logical unit. One of the families that are expected
 /// is named even when it is not installed; the size is 1 to MaxLetterSize pixels.

@@ -55,14 +55,15 @@ struct Palette {
   std::vector<QRgb> Entries;  // MaxPaletteEntries at most, opaque
 };
 
-struct Region {
+struct RegionObject {
   std::vector<QRect> Rects;  // logical where they are painted, pixels where they clip
 };
 
 /// An object whose creation failed. It keeps its number; to select it changes nothing.
 struct Unusable {};
 
-using GraphicsObject = std::variant<std::monostate, Pen, Brush, Font, Palette, Region, Unusable>;
+using GraphicsObject =
+    std::variant<std::monostate, Pen, Brush, Font, Palette, RegionObject, Unusable>;
 
 /// The objects by number; a new one takes the lowest number that is free.
 class ObjectTable {

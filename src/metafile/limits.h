@@ -29,7 +29,7 @@ constexpr int MaxRoundSide = 65536;
 constexpr int MaxArcSteps = 20000;
 constexpr int MaxLetterSize = 4096;  // pixels
 /// Fonts that are kept with their letters; one more drops them all.
-constexpr std::size_t MaxKeptFonts = 64;
+constexpr std::size_t MaxCachedFonts = 64;
 /// Pixels either way to which mapped points are limited.
 constexpr double MaxDevice = 1 << 24;
 

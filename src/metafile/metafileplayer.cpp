@@ -12,12 +12,12 @@ namespace {
 
 using FrameSource = DeviceContext::FrameSource;
 
-// Even a record that draws nothing takes some time.
+/// Even a record that draws nothing takes some time.
 constexpr std::int64_t WorkPerRecord = 50;
 
 void PlayRecords(DeviceContext& context, const Metafile& metafile) {
   for (const MetafileRecord& record : metafile.Records) {
-    if (!context.Target().Spend(WorkPerRecord + record.Words())) return;
+    if (!context.Target().ChargeWork(WorkPerRecord + record.Words())) return;
     if (const RecordRow* const row = RowOf(record.Kind)) row->Player(context, record);
   }
 }
@@ -28,20 +28,20 @@ bool SetsWindow(const Metafile& metafile) {
   });
 }
 
-// Takes what it costs from `work`.
+/// Takes what it costs from `work`.
 QRect MeasureDrawing(const Metafile& metafile, std::int64_t& work) {
   Surface surface(QSize(1, 1), Surface::Use::Measure, work);
-  DeviceContext context(surface, Frame{}, QSize(1, 1), FrameSource::Measured);
+  DeviceContext context(surface, LogicalFrame{}, QSize(1, 1), FrameSource::Measured);
   PlayRecords(context, metafile);
   work = surface.WorkLeft();
-  return surface.Measured();
+  return surface.MeasuredBounds();
 }
 
 }  // namespace
 
 forms::Picture PlayMetafile(const Metafile& metafile, QSize size) {
   if (size.isEmpty()) return {};
-  Frame frame;
+  LogicalFrame frame;
   FrameSource source = FrameSource::File;
   std::int64_t work = WorkLimit;
   if (metafile.Bounds) {

@@ -75,7 +75,7 @@ enum class RecordKind : std::uint16_t {
 };
 
 /// Of SetBkMode: whether gaps in lines, hatches and text keep what is there.
-constexpr int TransparentGround = 1;
+constexpr int TransparentBackground = 1;
 
 /// Of SetMapMode: the modes from here to there count in lengths and upwards.
 constexpr int LoMetricMode = 2;

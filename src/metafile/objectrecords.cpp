@@ -41,7 +41,7 @@ Font ReadFont(const MetafileRecord& record) {
           .Face = QByteArray(face.data(), std::min<qsizetype>(end - face.begin(), MaxFaceBytes))};
 }
 
-// The colour of a palette record's entry: red, green and blue from the lowest byte on.
+/// The colour of a palette record's entry: red, green and blue from the lowest byte on.
 QRgb EntryOf(const MetafileRecord& record, qsizetype entry) {
   const std::uint32_t colour = record.Long(2 + 2 * entry);
   return qRgb(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
@@ -57,10 +57,10 @@ Palette ReadPalette(const MetafileRecord& record) {
   return palette;
 }
 
-// Of rows of rectangles. Each row has the number of its edges, its top and bottom, the left and
-// right edges in turn, and their number again. Unusable when a row does not fit the record.
+/// Of rows of rectangles. Each row has the number of its edges, its top and bottom, the left and
+/// right edges in turn, and their number again. Unusable when a row does not fit the record.
 GraphicsObject ReadRegion(const MetafileRecord& record) {
-  Region region;
+  RegionObject region;
   qsizetype at = 11;
   for (int scan = 0; scan < record.Word(5); ++scan) {
     const int edges = record.Word(at);
@@ -78,7 +78,7 @@ GraphicsObject ReadRegion(const MetafileRecord& record) {
 void AddObject(DeviceContext& context, const MetafileRecord& record, GraphicsObject object) {
   const std::size_t searched = context.Objects.Add(std::move(object));
   // What stays in memory weighs more than what is drawn.
-  context.Target().Spend(static_cast<std::int64_t>(searched) + record.Words() * 32);
+  context.Target().ChargeWork(static_cast<std::int64_t>(searched) + record.Words() * 32);
 }
 
 }  // namespace
@@ -111,10 +111,10 @@ void PlaySelectObject(DeviceContext& context, const MetafileRecord& record) {
   context.Select(context.Objects.At(record.Word(0)));
 }
 
-// Without a region it opens the clip.
+/// Without a region it opens the clip.
 void PlaySelectClipRegion(DeviceContext& context, const MetafileRecord& record) {
   const GraphicsObject& object = context.Objects.At(record.Word(0));
-  if (std::holds_alternative<Region>(object)) {
+  if (std::holds_alternative<RegionObject>(object)) {
     context.Select(object);
   } else {
     context.Target().SetClip(nullptr);

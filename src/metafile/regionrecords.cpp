@@ -10,12 +10,12 @@ namespace {
 constexpr std::int64_t WorkPerRect = 16;
 constexpr std::int64_t WorkPerFramePixel = 5;
 
-// Regions are painted in logical units, unlike the clip that is made of them. None for a number
-// that is no region's.
+/// Regions are painted in logical units, unlike the clip that is made of them. None for a number
+/// that is no region's.
 std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   std::vector<QRect> rects;
-  const auto* region = std::get_if<Region>(&context.Objects.At(number));
-  if (region == nullptr || !context.Target().Spend(WorkPerRect * std::ssize(region->Rects))) {
+  const auto* region = std::get_if<RegionObject>(&context.Objects.At(number));
+  if (region == nullptr || !context.Target().ChargeWork(WorkPerRect * std::ssize(region->Rects))) {
     return rects;
   }
   for (const QRect& rect : region->Rects) {
@@ -24,13 +24,13 @@ std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   return rects;
 }
 
-Brush NumberedBrush(const DeviceContext& context, std::size_t number) {
+Brush BrushAt(const DeviceContext& context, std::size_t number) {
   const auto* brush = std::get_if<Brush>(&context.Objects.At(number));
   return brush == nullptr ? context.State.CurrentBrush : *brush;
 }
 
 void PaintRects(DeviceContext& context, const std::vector<QRect>& rects, const Paint& paint) {
-  for (const QRect& rect : rects) context.Target().Rectangle(rect, paint);
+  for (const QRect& rect : rects) context.Target().PaintRectangle(rect, paint);
 }
 
 void FillRegion(DeviceContext& context, const MetafileRecord& record, const Brush& brush) {
@@ -38,12 +38,12 @@ void FillRegion(DeviceContext& context, const MetafileRecord& record, const Brus
   PaintRects(context, RegionRects(context, record.Word(0)), context.BrushPaint(brush));
 }
 
-// What of the surface the rectangles cover when they are moved.
-PixelMask Covered(Surface& target, const std::vector<QRect>& rects, QPoint by) {
+/// What of the surface the rectangles cover when they are moved.
+PixelMask RegionMask(Surface& target, const std::vector<QRect>& rects, QPoint by) {
   PixelMask mask(target.Area().size(), 0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.translated(by).intersected(target.Area());
-    if (!target.Spend(std::int64_t{visible.height()} * (2 + visible.width() / 8))) break;
+    if (!target.ChargeWork(std::int64_t{visible.height()} * (2 + visible.width() / 8))) break;
     for (int y = visible.top(); y <= visible.bottom(); ++y) {
       std::fill_n(mask.Row(y) + visible.left(), visible.width(), std::uint8_t{1});
     }
@@ -51,7 +51,7 @@ PixelMask Covered(Surface& target, const std::vector<QRect>& rects, QPoint by) {
   return mask;
 }
 
-// Leaves of a mask what another of its size has too.
+/// Leaves of a mask what another of its size has too.
 void Intersect(PixelMask& mask, const PixelMask& other) {
   for (int y = 0; y < mask.Size().height(); ++y) {
     std::uint8_t* row = mask.Row(y);
@@ -60,7 +60,7 @@ void Intersect(PixelMask& mask, const PixelMask& other) {
   }
 }
 
-// Leaves of a mask what another of its size does not have.
+/// Leaves of a mask what another of its size does not have.
 void Subtract(PixelMask& mask, const PixelMask& other) {
   for (int y = 0; y < mask.Size().height(); ++y) {
     std::uint8_t* row = mask.Row(y);
@@ -69,14 +69,14 @@ void Subtract(PixelMask& mask, const PixelMask& other) {
   }
 }
 
-// The frame is what the region loses when it is laid over itself, moved by the frame's width to
-// either side and by its height up and down.
+/// The frame is what the region loses when it is laid over itself, moved by the frame's width to
+/// either side and by its height up and down.
 PixelMask FrameMask(Surface& target, const std::vector<QRect>& rects, int width, int height) {
-  PixelMask inside = Covered(target, rects, {width, 0});
+  PixelMask inside = RegionMask(target, rects, {width, 0});
   for (const QPoint by : {QPoint(-width, 0), QPoint(0, height), QPoint(0, -height)}) {
-    Intersect(inside, Covered(target, rects, by));
+    Intersect(inside, RegionMask(target, rects, by));
   }
-  PixelMask frame = Covered(target, rects, {0, 0});
+  PixelMask frame = RegionMask(target, rects, {0, 0});
   Subtract(frame, inside);
   return frame;
 }
@@ -84,24 +84,25 @@ PixelMask FrameMask(Surface& target, const std::vector<QRect>& rects, int width,
 }  // namespace
 
 void PlayFillRegion(DeviceContext& context, const MetafileRecord& record) {
-  FillRegion(context, record, NumberedBrush(context, record.Word(1)));
+  FillRegion(context, record, BrushAt(context, record.Word(1)));
 }
 
 void PlayFrameRegion(DeviceContext& context, const MetafileRecord& record) {
   Surface& target = context.Target();
-  const Brush brush = NumberedBrush(context, record.Word(1));
+  const Brush brush = BrushAt(context, record.Word(1));
   const std::vector<QRect> rects = RegionRects(context, record.Word(0));
   if (brush.Style == BrushStyle::None) return;
   QRect bounds;
   for (const QRect& rect : rects) bounds = bounds.united(rect);
-  if (bounds.isEmpty() || !target.Touch(bounds)) return;
-  if (!target.Spend(WorkPerFramePixel * target.Area().width() * target.Area().height())) return;
+  if (bounds.isEmpty() || !target.BeginShape(bounds)) return;
+  if (!target.ChargeWork(WorkPerFramePixel * target.Area().width() * target.Area().height()))
+    return;
   const QPointF scale = context.Scale();
   const int width =
       static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, MaxDevice));
   const int height =
       static_cast<int>(std::clamp(std::abs(record.Int(2) * scale.y()), 1.0, MaxDevice));
-  target.Mask(FrameMask(target, rects, width, height), {0, 0}, context.BrushPaint(brush));
+  target.PaintMask(FrameMask(target, rects, width, height), {0, 0}, context.BrushPaint(brush));
 }
 
 void PlayPaintRegion(DeviceContext& context, const MetafileRecord& record) {

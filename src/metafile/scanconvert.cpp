@@ -10,7 +10,7 @@
 namespace terramark::metafile {
 namespace {
 
-// Where an edge crosses a row: the first pixel to its right.
+/// Where an edge crosses a row: the first pixel to its right.
 struct Crossing {
   int X;
   int Direction;
@@ -42,7 +42,7 @@ void ForEachEdge(const std::vector<QPolygonF>& polygons, const Visit& visit) {
   }
 }
 
-// The edges' crossings with the rows of an area, row after row in one block of memory.
+/// The edges' crossings with the rows of an area, row after row in one block of memory.
 class CrossingRows {
  public:
   CrossingRows(const std::vector<QPolygonF>& polygons, const QRect& area)
@@ -88,7 +88,7 @@ std::int64_t CeilDiv(std::int64_t value, std::int64_t divisor) {
   return value >= 0 ? (value + divisor - 1) / divisor : -(-value / divisor);
 }
 
-// Where a line passes exactly between two pixels, these directions take the farther one.
+/// Where a line passes exactly between two pixels, these directions take the farther one.
 bool TieStepsOn(std::int64_t dx, std::int64_t dy) {
   const bool xMajor = std::abs(dx) > std::abs(dy);
   if (dy > 0) return dx > 0 ? false : !xMajor;

@@ -9,14 +9,14 @@
 namespace terramark::metafile {
 namespace {
 
-// For finding the pixels; painting them is charged for by the surface.
+/// For finding the pixels; painting them is charged for by the surface.
 constexpr std::int64_t WorkPerLine = 8;
 constexpr std::int64_t WorkPerLinePixel = 6;
 constexpr std::int64_t WorkPerDiscRow = 8;
 constexpr std::int64_t WorkPerPoint = 8;
 constexpr std::int64_t WorkPerBand = 100;
 
-// Pixels drawn and left out by turns; none for an unbroken line.
+/// Pixels drawn and left out by turns; none for an unbroken line.
 std::span<const int> DashesOf(PenStyle style) {
   static constexpr int Dash[] = {18, 6};
   static constexpr int Dot[] = {3, 3};
@@ -36,7 +36,7 @@ std::span<const int> DashesOf(PenStyle style) {
   }
 }
 
-bool IsOn(std::span<const int> dashes, std::int64_t step) {
+bool InDash(std::span<const int> dashes, std::int64_t step) {
   const std::int64_t length = std::accumulate(dashes.begin(), dashes.end(), std::int64_t{0});
   if (length == 0) return true;
   std::int64_t left = step % length;
@@ -47,13 +47,13 @@ bool IsOn(std::span<const int> dashes, std::int64_t step) {
   return true;
 }
 
-QRect BoundsOf(const std::vector<QPoint>& points) {
+QRect BoundingRect(const std::vector<QPoint>& points) {
   QRect bounds(points.front(), QSize(1, 1));
   for (const QPoint& point : points) bounds = bounds.united(QRect(point, QSize(1, 1)));
   return bounds;
 }
 
-QRect BoundsOf(QPoint from, QPoint to) {
+QRect BoundingRect(QPoint from, QPoint to) {
   return {QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
           QPoint(std::max(from.x(), to.x()), std::max(from.y(), to.y()))};
 }
@@ -68,30 +68,30 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   for (std::size_t i = 0; i + 1 < points.size(); ++i) {
     const QPoint from = points[i];
     const QPoint to = points[i + 1];
-    const QRect bounds = BoundsOf(from, to);
-    if (!target.Spend(WorkPerLine)) return;
-    if (!target.Touch(bounds)) continue;
+    const QRect bounds = BoundingRect(from, to);
+    if (!target.ChargeWork(WorkPerLine)) return;
+    if (!target.BeginShape(bounds)) continue;
     const QRect visible = bounds.intersected(target.Area());
-    if (!target.Spend(WorkPerLinePixel * std::max(visible.width(), visible.height()))) return;
+    if (!target.ChargeWork(WorkPerLinePixel * std::max(visible.width(), visible.height()))) return;
     ScanLine(from, to, target.Area(), [&](QPoint pixel, std::int64_t step) {
-      if (IsOn(dashes, drawn + step)) {
-        target.Pixel(pixel, paint);
+      if (InDash(dashes, drawn + step)) {
+        target.PaintPixel(pixel, paint);
       } else if (context.State.Opaque) {
-        target.Pixel(pixel, gap);
+        target.PaintPixel(pixel, gap);
       }
     });
     drawn += std::max(std::abs(to.x() - from.x()), std::abs(to.y() - from.y()));
   }
 }
 
-// The line's rectangle. Its corners stand on whole pixels, the odd one to the right and above, and
-// it is never thinner than the pen, so that no border gets a hole.
-QPolygonF Band(QPoint from, QPoint to, int width) {
+/// The line's rectangle. Its corners stand on whole pixels, the odd one to the right and above, and
+/// it is never thinner than the pen, so that no border gets a hole.
+QPolygonF LineQuad(QPoint from, QPoint to, int width) {
   const double dx = to.x() - from.x();
   const double dy = to.y() - from.y();
   const double length = std::hypot(dx, dy);
   if (dx == 0 || dy == 0) {
-    const QRect along = BoundsOf(from, to);
+    const QRect along = BoundingRect(from, to);
     const int before = width / 2;
     return dx == 0 ? QPolygonF(QRectF(from.x() - before, along.top(), width, along.height() - 1))
                    : QPolygonF(QRectF(along.left(), from.y() - before, along.width() - 1, width));
@@ -104,7 +104,7 @@ QPolygonF Band(QPoint from, QPoint to, int width) {
   return QPolygonF({from + left, to + left, to + right, from + right});
 }
 
-// The end of a wide line: a filled circle.
+/// The end of a wide line: a filled circle.
 class Disc {
  public:
   explicit Disc(int side) : side_(side), reach_(static_cast<std::size_t>(side)) {
@@ -136,12 +136,12 @@ class Disc {
   std::vector<int> reach_;  // how far each row goes to the right, from the box's left edge
 };
 
-// The whole shape is collected before it is painted: where a line crosses itself an operation that
-// inverts must not act twice.
+/// The whole shape is collected before it is painted: where a line crosses itself an operation that
+/// inverts must not act twice.
 void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int width) {
   Surface& target = context.Target();
-  const QRect bounds = BoundsOf(points).adjusted(-width, -width, width, width);
-  if (!target.Touch(bounds) || !target.Spend(WorkPerDiscRow * width)) return;
+  const QRect bounds = BoundingRect(points).adjusted(-width, -width, width, width);
+  if (!target.BeginShape(bounds) || !target.ChargeWork(WorkPerDiscRow * width)) return;
   const Disc disc(width);
   const QRect area = bounds.intersected(target.Area());
   PixelMask mask(area.size(), 0);
@@ -150,17 +150,18 @@ void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int w
   };
   for (std::size_t i = 0; i < points.size(); ++i) {
     const QRect seen = disc.BoxAt(points[i]).intersected(area);
-    if (!target.Spend(WorkPerPoint + std::int64_t{seen.height()} * (2 + seen.width() / 8))) return;
+    if (!target.ChargeWork(WorkPerPoint + std::int64_t{seen.height()} * (2 + seen.width() / 8)))
+      return;
     disc.Scan(points[i], area, mark);
     if (i + 1 == points.size() || points[i] == points[i + 1]) continue;
-    const std::vector<QPolygonF> band{Band(points[i], points[i + 1], width)};
+    const std::vector<QPolygonF> band{LineQuad(points[i], points[i + 1], width)};
     const QRect around = band.front().boundingRect().toAlignedRect().intersected(area);
     if (around.isEmpty()) continue;
-    if (!target.Spend(WorkPerBand + std::int64_t{around.height()} * (8 + around.width() / 8)))
+    if (!target.ChargeWork(WorkPerBand + std::int64_t{around.height()} * (8 + around.width() / 8)))
       return;
     ScanPolygons(band, FillRule::Winding, around, mark);
   }
-  target.Mask(mask, area.topLeft(), context.PenPaint());
+  target.PaintMask(mask, area.topLeft(), context.PenPaint());
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ constexpr std::int64_t PixelsPerFloodWork = 32;  // two bits each, cleared by wo
 constexpr std::int64_t WorkPerClipPixel = 4;
 constexpr std::int64_t WorkPerClipRect = 10;
 
-// Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
+/// Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   const int code = operation - 1;
   QRgb result = 0;
@@ -31,12 +31,12 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   return result | OpaqueBlack;
 }
 
-// Paints what a flood takes, in runs.
+/// Paints what a flood takes, in runs.
 struct FloodPainter {
   void Run(int y, int x0, int x1) {
-    if (Target.Spend(WorkPerFloodRun)) Target.Span(y, x0, x1, Brush);
+    if (Target.ChargeWork(WorkPerFloodRun)) Target.PaintSpan(y, x0, x1, FillPaint);
   }
-  void Spots(int y, int x, std::uint32_t bits) {
+  void PaintBits(int y, int x, std::uint32_t bits) {
     while (bits != 0) {
       const int first = std::countr_zero(bits);
       const int count = std::countr_one(bits >> first);
@@ -46,7 +46,7 @@ struct FloodPainter {
   }
 
   Surface& Target;
-  const Paint& Brush;
+  const Paint& FillPaint;
 };
 
 }  // namespace
@@ -54,26 +54,26 @@ struct FloodPainter {
 Surface::Surface(QSize size, Use use, std::int64_t work) : use_(use), workLeft_(work) {
   image_.Width = use == Use::Measure ? 1 : size.width();
   image_.Height = use == Use::Measure ? 1 : size.height();
-  image_.Pixels.assign(image_.At(0, image_.Height), White);
+  image_.Pixels.assign(image_.IndexOf(0, image_.Height), White);
 }
 
-bool Surface::Spend(std::int64_t work) {
+bool Surface::ChargeWork(std::int64_t work) {
   workLeft_ -= std::min(work, workLeft_);
   return workLeft_ > 0;
 }
 
-bool Surface::Touch(const QRect& bounds) {
+bool Surface::BeginShape(const QRect& bounds) {
   if (use_ == Use::Measure) {
-    measured_ = measured_.united(bounds);
+    measuredBounds_ = measuredBounds_.united(bounds);
     return false;
   }
   const QRect visible = bounds.intersected(Area());
   if (visible.isEmpty()) return false;
-  return Spend(std::int64_t{visible.width()} + visible.height());
+  return ChargeWork(std::int64_t{visible.width()} + visible.height());
 }
 
-void Surface::Span(int y, int x0, int x1, const Paint& paint) {
-  if (!Spend(x1 - x0)) return;
+void Surface::PaintSpan(int y, int x0, int x1, const Paint& paint) {
+  if (!ChargeWork(x1 - x0)) return;
   QRgb* row = Row(y);
   if (paint.Operation == CopyOperation && !paint.Pattern && !clip_) {
     std::fill(row + x0, row + x1, paint.Colour);
@@ -81,7 +81,7 @@ void Surface::Span(int y, int x0, int x1, const Paint& paint) {
   }
   const forms::Raster* pattern = paint.Pattern.get();
   const QRgb* tile = nullptr;
-  if (pattern != nullptr) tile = pattern->Pixels.data() + pattern->At(0, y % pattern->Height);
+  if (pattern != nullptr) tile = pattern->Pixels.data() + pattern->IndexOf(0, y % pattern->Height);
   const std::uint8_t* open = clip_ ? clip_->Row(y) : nullptr;
   for (int x = x0; x < x1; ++x) {
     if (open != nullptr && open[x] == 0) continue;
@@ -92,66 +92,67 @@ void Surface::Span(int y, int x0, int x1, const Paint& paint) {
   }
 }
 
-void Surface::Pixel(QPoint at, const Paint& paint) {
-  Span(at.y(), at.x(), at.x() + 1, paint);
+void Surface::PaintPixel(QPoint at, const Paint& paint) {
+  PaintSpan(at.y(), at.x(), at.x() + 1, paint);
 }
 
-void Surface::Rectangle(const QRect& rect, const Paint& paint) {
-  if (!Touch(rect)) return;
+void Surface::PaintRectangle(const QRect& rect, const Paint& paint) {
+  if (!BeginShape(rect)) return;
   const QRect visible = rect.intersected(Area());
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
-    Span(y, visible.left(), visible.right() + 1, paint);
+    PaintSpan(y, visible.left(), visible.right() + 1, paint);
   }
 }
 
-void Surface::Mask(const PixelMask& mask, QPoint at, const Paint& paint) {
+void Surface::PaintMask(const PixelMask& mask, QPoint at, const Paint& paint) {
   const QRect visible = QRect(at, mask.Size()).intersected(Area());
-  if (!Spend(std::int64_t{visible.width()} * visible.height())) return;
+  if (!ChargeWork(std::int64_t{visible.width()} * visible.height())) return;
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     const std::uint8_t* row = mask.Row(y - at.y());
     int from = visible.left();
     for (int x = from; x <= visible.right(); ++x) {
       if (row[x - at.x()] != 0) continue;
-      if (from < x) Span(y, from, x, paint);
+      if (from < x) PaintSpan(y, from, x, paint);
       from = x + 1;
     }
-    if (from <= visible.right()) Span(y, from, visible.right() + 1, paint);
+    if (from <= visible.right()) PaintSpan(y, from, visible.right() + 1, paint);
   }
 }
 
-void Surface::Polygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint) {
+void Surface::PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rule,
+                            const Paint& paint) {
   QRectF bounds;
   for (const QPolygonF& polygon : polygons) {
-    if (!Spend(WorkPerPolygon + WorkPerEdge * polygon.size())) return;
+    if (!ChargeWork(WorkPerPolygon + WorkPerEdge * polygon.size())) return;
     bounds = bounds.united(polygon.boundingRect());
   }
-  if (!Touch(bounds.toAlignedRect())) return;
+  if (!BeginShape(bounds.toAlignedRect())) return;
   const QRect area = bounds.toAlignedRect().intersected(Area());
-  if (!Spend(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
-  ScanPolygons(polygons, rule, area, [&](int y, int x0, int x1) { Span(y, x0, x1, paint); });
+  if (!ChargeWork(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
+  ScanPolygons(polygons, rule, area, [&](int y, int x0, int x1) { PaintSpan(y, x0, x1, paint); });
 }
 
-void Surface::Put(QPoint at, QRgb colour) {
+void Surface::WritePixel(QPoint at, QRgb colour) {
   if (Clipped(at.x(), at.y())) return;
   Row(at.y())[at.x()] = colour;
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint) {
   const std::int64_t pixels = std::int64_t{Area().width()} * Area().height();
-  if (!Area().contains(seed) || !Spend(pixels / PixelsPerFloodWork)) return;
+  if (!Area().contains(seed) || !ChargeWork(pixels / PixelsPerFloodWork)) return;
   const auto width = static_cast<std::size_t>(Area().width());
   // Rows without open pixels end the flood when the work is used up.
   const auto open = [&](int y, std::span<std::uint64_t> row) {
-    if (!Spend(Area().width())) return;
+    if (!ChargeWork(Area().width())) return;
     forms::SetOpenBits({Row(y), width}, colour, stops, row);
-    if (clip_) CloseClipped(y, row);
+    if (clip_) ClearClippedBits(y, row);
   };
   FloodPainter painter{*this, paint};
   const forms::PixelPoint from{seed.x(), seed.y()};
   forms::Flooder(Area().width(), Area().height(), open, painter).From({&from, 1});
 }
 
-void Surface::CloseClipped(int y, std::span<std::uint64_t> row) const {
+void Surface::ClearClippedBits(int y, std::span<std::uint64_t> row) const {
   const std::uint8_t* clip = clip_->Row(y);
   for (std::size_t x = 0; x < static_cast<std::size_t>(Area().width()); ++x) {
     if (clip[x] == 0) row[x / 64] &= ~(std::uint64_t{1} << x % 64);
@@ -172,12 +173,12 @@ void Surface::FillClip(const QRect& rect, std::uint8_t value) {
 }
 
 void Surface::ClipTo(const std::vector<QRect>& rects) {
-  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  if (!ChargeWork(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
   clip_ = NewClip(0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.intersected(Area());
     const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
-    if (!Spend(WorkPerClipRect + pixels)) return;
+    if (!ChargeWork(WorkPerClipRect + pixels)) return;
     FillClip(visible, 1);
   }
 }
@@ -198,14 +199,14 @@ void Surface::ExcludeClip(const QRect& rect) {
   if (visible.isEmpty()) return;
   const bool copies = clip_.use_count() != 1;
   const std::int64_t whole = std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel;
-  if (!Spend((copies ? whole : 0) + std::int64_t{visible.width()} * visible.height())) return;
+  if (!ChargeWork((copies ? whole : 0) + std::int64_t{visible.width()} * visible.height())) return;
   if (!clip_) clip_ = NewClip(1);
   FillClip(visible, 0);
 }
 
 void Surface::OffsetClip(QPoint by) {
   if (!clip_) return;
-  if (!Spend(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  if (!ChargeWork(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
   const Clip old = clip_;
   clip_ = NewClip(0);
   for (int y = 0; y < Area().height(); ++y) {

@@ -48,29 +48,29 @@ class Surface {
   QRect Area() const { return {0, 0, image_.Width, image_.Height}; }
 
   /// Takes `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
-  bool Spend(std::int64_t work);
+  bool ChargeWork(std::int64_t work);
   std::int64_t WorkLeft() const { return workLeft_; }
 
   /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
   /// do: it lies outside, the work is used up, or only the bounds were wanted.
-  bool Touch(const QRect& bounds);
+  bool BeginShape(const QRect& bounds);
   /// The bounds that Touch was given while measuring, united.
-  QRect Measured() const { return measured_; }
+  QRect MeasuredBounds() const { return measuredBounds_; }
 
   /// The pixels x0 <= x < x1 of row y, which must lie inside Area().
-  void Span(int y, int x0, int x1, const Paint& paint);
+  void PaintSpan(int y, int x0, int x1, const Paint& paint);
   /// The pixel must lie inside Area().
-  void Pixel(QPoint at, const Paint& paint);
+  void PaintPixel(QPoint at, const Paint& paint);
   /// The part of `rect` that is inside Area().
-  void Rectangle(const QRect& rect, const Paint& paint);
+  void PaintRectangle(const QRect& rect, const Paint& paint);
   /// The pixels of `mask`, whose top left corner lies at `at`.
-  void Mask(const PixelMask& mask, QPoint at, const Paint& paint);
+  void PaintMask(const PixelMask& mask, QPoint at, const Paint& paint);
   /// The inside of the polygons as ScanPolygons has it.
-  void Polygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint);
+  void PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint);
   /// A pixel as a blit writes it, past the paint's operation but not past the clip. It must lie
   /// inside Area(), as that of At.
-  void Put(QPoint at, QRgb colour);
-  QRgb At(QPoint at) const { return image_.Pixels[image_.At(at.x(), at.y())]; }
+  void WritePixel(QPoint at, QRgb colour);
+  QRgb At(QPoint at) const { return image_.Pixels[image_.IndexOf(at.x(), at.y())]; }
   /// Fills from `seed` up to the pixels of `colour`, or over those of `colour` alone. A seed
   /// outside Area() fills nothing.
   void Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint);
@@ -87,16 +87,16 @@ class Surface {
  private:
   bool Clipped(int x, int y) const { return clip_ && clip_->Row(y)[x] == 0; }
   /// Takes the bits of clipped pixels from a row of 64 pixels a word.
-  void CloseClipped(int y, std::span<std::uint64_t> row) const;
+  void ClearClippedBits(int y, std::span<std::uint64_t> row) const;
   void FillClip(const QRect& rect, std::uint8_t value);
   Clip NewClip(std::uint8_t value) const;
 
-  QRgb* Row(int y) { return image_.Pixels.data() + image_.At(0, y); }
+  QRgb* Row(int y) { return image_.Pixels.data() + image_.IndexOf(0, y); }
 
   forms::Raster image_;
   Clip clip_;
   Use use_;
-  QRect measured_;
+  QRect measuredBounds_;
   std::int64_t workLeft_;
 };
 

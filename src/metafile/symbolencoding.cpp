@@ -5,7 +5,7 @@
 namespace terramark::metafile {
 namespace {
 
-// From 0x20 and from 0xA0 on, sixteen a row.
+/// From 0x20 and from 0xA0 on, sixteen a row.
 constexpr std::u16string_view Lower =
     u" !∀#∃%&∋()∗+,−./"
     u"0123456789:;<=>?"
@@ -35,7 +35,7 @@ constexpr Plainer Plainers[] = {
 
 }  // namespace
 
-char16_t SymbolLetter(unsigned char byte) {
+char16_t DecodeSymbol(unsigned char byte) {
   if (byte >= 0xA0) return Upper[byte - 0xA0u];
   return byte >= 0x20 && byte < 0x80 ? Lower[byte - 0x20u] : u'\uFFFD';
 }

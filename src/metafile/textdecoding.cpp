@@ -94,9 +94,9 @@ QString DecodeLetter(QByteArrayView letter, const Font& font) {
   const auto byte = static_cast<unsigned char>(letter[0]);
   switch (ContentsOf(font)) {
     case FontContents::Symbols:
-      return QString(QChar(SymbolLetter(byte)));
-    case FontContents::OwnSigns:
-      return QString(QChar(static_cast<char16_t>(OwnSignsFrom + byte)));
+      return QString(QChar(DecodeSymbol(byte)));
+    case FontContents::PrivateSymbols:
+      return QString(QChar(static_cast<char16_t>(PrivateUseStart + byte)));
     case FontContents::Letters:
       break;
   }

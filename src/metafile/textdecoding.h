@@ -13,7 +13,7 @@ int FirstLetterBytes(QByteArrayView text, const Font& font);
 
 /// What the one or two bytes of a letter stand for. U+FFFD for one that the set does not have; a
 /// set that is not known, and a code page that the system does not have, are read as Western. A
-/// font's own sign is OwnSignsFrom and its byte.
+/// font's own sign is PrivateUseStart and its byte.
 QString DecodeLetter(QByteArrayView letter, const Font& font);
 
 }  // namespace terramark::metafile

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <new>
 
+#include "metafile/fontcache.h"
 #include "metafile/limits.h"
-#include "metafile/matchedfonts.h"
 #include "metafile/recordplayers.h"
 #include "metafile/textdecoding.h"
 
@@ -22,7 +22,7 @@ constexpr std::int64_t WorkPerTurnedImage = 5000;
 constexpr std::int64_t WorkPerImageRow = 5;
 constexpr std::int64_t WorkPerOutline = 5000;
 constexpr std::int64_t WorkPerOutlineColumn = 100;
-constexpr double LargestImage = 64;
+constexpr double MaxImageSize = 64;
 
 struct TextRun {
   QByteArrayView Bytes;
@@ -30,15 +30,15 @@ struct TextRun {
   std::vector<int> Advance;  // logical, one a byte; empty for the font's own
 };
 
-// Letters laid along the baseline, in pixels from its start.
+/// Letters laid along the baseline, in pixels from its start.
 struct TextLine {
   std::vector<const LetterShape*> Letters;
   std::vector<int> Offsets;
   int Width = 0;
 };
 
-// Breaks off when the work is used up.
-TextLine LayOut(DeviceContext& context, const TextRun& run, LetteredFont& font) {
+/// Breaks off when the work is used up.
+TextLine LayOut(DeviceContext& context, const TextRun& run, CachedFont& font) {
   const DeviceState& state = context.State;
   const double scale = std::abs(context.Scale().x());
   const auto toPixels = [scale](double logical) {
@@ -47,7 +47,7 @@ TextLine LayOut(DeviceContext& context, const TextRun& run, LetteredFont& font) 
   TextLine line;
   std::int64_t logical = 0;
   double own = 0;
-  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().Spend(WorkPerLetter);) {
+  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().ChargeWork(WorkPerLetter);) {
     const int bytes = FirstLetterBytes(run.Bytes.sliced(at), state.CurrentFont);
     const LetterShape& shape = font.ShapeOf(run.Bytes.sliced(at, bytes), context.Target());
     line.Letters.push_back(&shape);
@@ -65,7 +65,7 @@ TextLine LayOut(DeviceContext& context, const TextRun& run, LetteredFont& font) 
   return line;
 }
 
-// Where the baseline starts, as seen from the reference point, before the text is turned.
+/// Where the baseline starts, as seen from the reference point, before the text is turned.
 QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   QPoint start;
   if ((align & AlignSideways) == AlignRight) start.setX(-line.Width);
@@ -78,26 +78,26 @@ QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   return start;
 }
 
-// The room of letters along so many pixels of the baseline.
-QRectF CellOf(const MatchedFont& font, double width) {
+/// The room of letters along so many pixels of the baseline.
+QRectF CellRect(const MatchedFont& font, double width) {
   return {0, -double(font.Ascent), width, double(font.Ascent + font.Descent)};
 }
 
-// What letters of that cell may paint: some hang over it.
-QRectF InkOf(const QRectF& cell, const MatchedFont& font) {
+/// What letters of that cell may paint: some hang over it.
+QRectF InkRect(const QRectF& cell, const MatchedFont& font) {
   const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
   return cell.adjusted(-overhang, -overhang, overhang, overhang);
 }
 
 std::int64_t WorkOfLetter(const MatchedFont& font, const QTransform& shape, const QRect& seen) {
   const int size = font.Face.pixelSize();
-  if (size * size * font.Stretch >= LargestImage * LargestImage) {
+  if (size * size * font.Stretch >= MaxImageSize * MaxImageSize) {
     return WorkPerOutline + WorkPerOutlineColumn * seen.width();
   }
   return (shape.isIdentity() ? WorkPerImage : WorkPerTurnedImage) + WorkPerImageRow * size;
 }
 
-// Lines along the whole text, under its blanks as well.
+/// Lines along the whole text, under its blanks as well.
 void DrawRules(QPainter& painter, double width, const QFont& font) {
   if (!font.underline() && !font.strikeOut()) return;
   const QFontMetricsF metrics(font);
@@ -108,15 +108,15 @@ void DrawRules(QPainter& painter, double width, const QFont& font) {
   if (font.strikeOut()) painter.drawLine(QLineF(0, through, width, through));
 }
 
-// An image whose pixels are not yet set. Qt gives a null one when the memory does not reach, and
-// drawing on that is lost or worse: std::bad_alloc instead.
+/// An image whose pixels are not yet set. Qt gives a null one when the memory does not reach, and
+/// drawing on that is lost or worse: std::bad_alloc instead.
 QImage NewImage(QSize size) {
   QImage image(size, QImage::Format_RGB32);
   if (image.isNull()) throw std::bad_alloc();
   return image;
 }
 
-// Letters that lie outside the area cost nothing but the look at them.
+/// Letters that lie outside the area cost nothing but the look at them.
 PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& font,
                       const QTransform& place, const QRect& area) {
   QImage image = NewImage(area.size());
@@ -129,11 +129,11 @@ PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& 
     const LetterShape& letter = *line.Letters[i];
     const QPointF at = place.map(QPointF(line.Offsets[i], 0)) - area.topLeft();
     const QPointF whole(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-    const QRectF cell = CellOf(font, letter.Advance * font.Stretch);
-    const QRectF ink = turn.mapRect(InkOf(cell, font)).translated(whole);
+    const QRectF cell = CellRect(font, letter.Advance * font.Stretch);
+    const QRectF ink = turn.mapRect(InkRect(cell, font)).translated(whole);
     const QRect seen = ink.toAlignedRect().intersected(image.rect());
     if (letter.Runs.isEmpty() || seen.isEmpty()) continue;
-    if (!target.Spend(WorkOfLetter(font, shape, seen))) break;
+    if (!target.ChargeWork(WorkOfLetter(font, shape, seen))) break;
     painter.setTransform(shape * QTransform::fromTranslate(whole.x(), whole.y()));
     for (const QGlyphRun& run : letter.Runs) painter.drawGlyphRun(QPointF(0, 0), run);
   }
@@ -150,8 +150,8 @@ PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& 
   return mask;
 }
 
-// Text is laid over what is there, whatever the raster operation.
-Paint Plain(const DeviceContext& context, ColourRef colour) {
+/// Text is laid over what is there, whatever the raster operation.
+Paint SolidPaint(const DeviceContext& context, ColourRef colour) {
   return {.Operation = CopyOperation, .Colour = context.Resolve(colour), .Pattern = {}};
 }
 
@@ -163,7 +163,7 @@ void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
   if (run.Bytes.isEmpty()) return;
   const bool update = (state.TextAlign & AlignUpdate) != 0;
   const QPoint reference = update ? state.Position : run.At;
-  LetteredFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target);
+  CachedFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target);
   const MatchedFont& font = lettered.Match;
   const TextLine line = LayOut(context, run, lettered);
 
@@ -173,18 +173,18 @@ void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
   if (state.CurrentFont.Escapement != 0) place.rotate(-state.CurrentFont.Escapement / 10.0);
   place.translate(start.x(), start.y());
 
-  const QRectF cell = CellOf(font, line.Width);
+  const QRectF cell = CellRect(font, line.Width);
   if (ground == Ground::Filled) {
-    target.Polygons({place.map(QPolygonF(cell))}, FillRule::Winding,
-                    Plain(context, state.BackColour));
+    target.PaintPolygons({place.map(QPolygonF(cell))}, FillRule::Winding,
+                         SolidPaint(context, state.BackColour));
   }
-  const QRect bounds = place.mapRect(InkOf(cell, font)).toAlignedRect();
+  const QRect bounds = place.mapRect(InkRect(cell, font)).toAlignedRect();
   const QRect inner = place.mapRect(cell).toAlignedRect();
   const QRect area = bounds.intersected(target.Area());
-  if (target.Touch(context.Measured() ? inner : bounds) &&
-      target.Spend(std::int64_t{2} * area.width() * area.height())) {
-    target.Mask(DrawLetters(target, line, font, place, area), area.topLeft(),
-                Plain(context, state.TextColour));
+  if (target.BeginShape(context.Measured() ? inner : bounds) &&
+      target.ChargeWork(std::int64_t{2} * area.width() * area.height())) {
+    target.PaintMask(DrawLetters(target, line, font, place, area), area.topLeft(),
+                     SolidPaint(context, state.TextColour));
   }
   const double scale = std::abs(context.Scale().x());
   if (update && (state.TextAlign & AlignSideways) != AlignCentre && scale > 0) {
@@ -216,7 +216,7 @@ void PlayExtTextOut(DeviceContext& context, const MetafileRecord& record) {
   const qsizetype textAt = hasRect ? 8 : 4;
   const QRect rect = context.ToDevice(record.Int(4), record.Int(5), record.Int(6), record.Int(7));
   if ((options & TextOpaque) != 0) {
-    target.Rectangle(rect, Plain(context, context.State.BackColour));
+    target.PaintRectangle(rect, SolidPaint(context, context.State.BackColour));
   }
   if (count == 0 || (options & TextGlyphs) != 0) return;
   const QByteArrayView text = record.From(textAt);

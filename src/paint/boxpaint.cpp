@@ -22,19 +22,19 @@ QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const
   const forms::Raster& image = box.Image();
   std::vector<int> columns;
   for (int x = part.left(); x <= part.right(); ++x) {
-    columns.push_back(OnPicture(box, {ShownBy(x, toDevice.m11(), toDevice.dx()), 0}).X);
+    columns.push_back(MapToPicture(box, {MapFromDevice(x, toDevice.m11(), toDevice.dx()), 0}).X);
   }
   QImage seen(part.size(), QImage::Format_RGB32);
   int shown = -1;
   for (int y = 0; y < part.height(); ++y) {
-    const int below = ShownBy(part.top() + y, toDevice.m22(), toDevice.dy());
-    const int row = OnPicture(box, {0, below}).Y;
+    const int below = MapFromDevice(part.top() + y, toDevice.m22(), toDevice.dy());
+    const int row = MapToPicture(box, {0, below}).Y;
     auto* const to = reinterpret_cast<std::uint32_t*>(seen.scanLine(y));
     if (row == shown) {
       std::memcpy(to, seen.constScanLine(y - 1), columns.size() * sizeof *to);
       continue;
     }
-    const std::uint32_t* const from = image.Pixels.data() + image.At(0, row);
+    const std::uint32_t* const from = image.Pixels.data() + image.IndexOf(0, row);
     for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x]];
     shown = row;
   }
@@ -53,7 +53,7 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
   const QTransform toDevice = painter.deviceTransform();
   if (zoom != forms::ActualSize || toDevice.isScaling()) {
     // Not left to the painter, which rounds by the edges of what it paints.
-    const QRect part = OnDevice(toDevice, seen);
+    const QRect part = MapToDevice(toDevice, seen);
     painter.setTransform(toDevice.inverted(), true);
     painter.drawImage(part.topLeft(), Magnified(box, toDevice, part));
     return painter.resetTransform();

@@ -18,11 +18,11 @@ inline constexpr int RingWidth = 3;
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
 /// Hands over each label that is to be seen on the box, the lowest first.
-template <typename Paint>
-void ForEachLabel(const forms::PictureBox& box, Paint paint) {
+template <typename Visitor>
+void ForEachLabel(const forms::PictureBox& box, Visitor visit) {
   for (const forms::Control* child : box.Children()) {
     if (!child->Visible || child->Kind() != forms::ControlKind::Label) continue;
-    paint(static_cast<const forms::Label&>(*child));
+    visit(static_cast<const forms::Label&>(*child));
   }
 }
 

@@ -24,13 +24,13 @@ bool MayCompose(QChar character) {
 QString FromCp1252(const std::string& text) {
   QString unicode;
   unicode.reserve(static_cast<qsizetype>(text.size()));
-  for (const char byte : text) unicode += QChar(CharacterOf(byte));
+  for (const char byte : text) unicode += QChar(DecodeByte(byte));
   return unicode;
 }
 
 std::string ToCp1252(const QString& text) {
   std::string bytes;
-  for (const char32_t character : text.toUcs4()) bytes += ByteOf(character);
+  for (const char32_t character : text.toUcs4()) bytes += EncodeCharacter(character);
   return bytes;
 }
 

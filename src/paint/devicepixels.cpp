@@ -6,14 +6,14 @@
 
 namespace terramark::paint {
 
-QRect OnDevice(const QTransform& toDevice, const QRect& area) {
+QRect MapToDevice(const QTransform& toDevice, const QRect& area) {
   const QRectF mapped = toDevice.mapRect(QRectF(area));
   // Each edge by itself; QRectF::toRect rounds sizes.
   return {QPoint(qRound(mapped.left()), qRound(mapped.top())),
           QPoint(qRound(mapped.right()) - 1, qRound(mapped.bottom()) - 1)};
 }
 
-int ShownBy(int onDevice, double scale, double origin) {
+int MapFromDevice(int onDevice, double scale, double origin) {
   return static_cast<int>(std::ceil((onDevice + 0.5 - origin) / scale)) - 1;
 }
 

@@ -9,10 +9,10 @@ class QTransform;
 namespace terramark::paint {
 
 /// The pixels of the device that show an area. The transform may move and enlarge, not turn.
-QRect OnDevice(const QTransform& toDevice, const QRect& area);
+QRect MapToDevice(const QTransform& toDevice, const QRect& area);
 
 /// In one direction, the pixel that one of the device shows. Scale is how many of the device one
 /// measures, and origin where pixel 0 begins on the device.
-int ShownBy(int onDevice, double scale, double origin);
+int MapFromDevice(int onDevice, double scale, double origin);
 
 }  // namespace terramark::paint

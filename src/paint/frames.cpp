@@ -20,7 +20,7 @@ class Edges {
       : painter_(painter),
         toDevice_(painter.deviceTransform()),
         fromDevice_(toDevice_.inverted()),
-        area_(OnDevice(toDevice_, area)),
+        area_(MapToDevice(toDevice_, area)),
         thick_(std::max(1, qRound(toDevice_.m11()))) {}
 
   /// One line; what comes next lies within it. Two corners are shade's. No pixel is painted twice,

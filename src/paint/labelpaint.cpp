@@ -2,10 +2,10 @@
 
 #include <QPainter>
 
+#include "paint/elidedtext.h"
 #include "paint/frames.h"
 #include "paint/lettering.h"
 #include "paint/screencolour.h"
-#include "paint/showntext.h"
 
 namespace terramark::paint {
 
@@ -24,7 +24,7 @@ void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) 
   }
   painter.setPen(ScreenColour(label.ForeColor));
   // What is said of a long name stands before and behind it.
-  const QString caption = ShownText(label.Caption, Qt::ElideMiddle);
+  const QString caption = ElidedText(label.Caption, Qt::ElideMiddle);
   if (label.Alignment == forms::Alignment::Centred) {
     DrawCaption(painter, inside, caption, Qt::ElideMiddle);
   } else {

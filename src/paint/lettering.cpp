@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "forms/geometry.h"
-#include "paint/showntext.h"
+#include "paint/elidedtext.h"
 
 namespace terramark::paint {
 
@@ -15,7 +15,7 @@ constexpr float FontTwips = 8.25F * 20;
 
 /// Those of the families that are installed, or all when none is. For one that is not, Qt has the
 /// system look for stand-ins at every start, though another of them follows.
-QStringList Installed(const QStringList& families) {
+QStringList InstalledOf(const QStringList& families) {
   const QStringList all = QFontDatabase::families();
   QStringList installed;
   for (const QString& family : families) {
@@ -26,7 +26,7 @@ QStringList Installed(const QStringList& families) {
 
 const QStringList& FormFamilies() {
   static const QStringList families =
-      Installed(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies());
+      InstalledOf(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TextFamilies());
   return families;
 }
 
@@ -35,14 +35,14 @@ QFont SizedFont(const QStringList& families, forms::Desktop& host) {
   QFont font;
   font.setFamilies(families);
   font.setBold(true);
-  font.setPixelSize(forms::PixelsDown(host, FontTwips));
+  font.setPixelSize(forms::TwipsToPixelsY(host, FontTwips));
   return font;
 }
 
 }  // namespace
 
 const QStringList& TextFamilies() {
-  static const QStringList families = Installed({"Arial", "Liberation Sans"});
+  static const QStringList families = InstalledOf({"Arial", "Liberation Sans"});
   return families;
 }
 
@@ -56,7 +56,7 @@ QFont FormFont(forms::Desktop& host) {
 
 forms::TextExtent ExtentOf(const std::string& text, forms::Desktop& host) {
   const QFontMetrics metrics(TextFont(host));
-  return {metrics.horizontalAdvance(ShownText(text)), metrics.height()};
+  return {metrics.horizontalAdvance(ElidedText(text)), metrics.height()};
 }
 
 void DrawCaption(QPainter& painter, const QRect& area, const QString& text,

@@ -24,7 +24,7 @@ QRect Shrunk(const forms::PixelRect& area, double scale) {
 
 void PaintLabels(QImage& map, const forms::PictureBox& box, double scale) {
   QPainter painter(&map);
-  painter.setFont(TextFont(box.Owner()->Host));
+  painter.setFont(TextFont(box.ParentForm()->Host));
   ForEachLabel(box, [&](const forms::Label& label) {
     const QRect area = Shrunk(PixelBounds(label), scale);
     painter.setClipRect(area);

@@ -9,9 +9,9 @@ forms::LoadedPicture LastPicture::Load(const std::filesystem::path& path, int bo
                                        int boxHeight) {
   const files::Moment now = files::Moment::Now();
   const auto file = files::RegularFile::Open(path);
-  if (!file) return tl::unexpected(file.error().Words());
+  if (!file) return tl::unexpected(file.error().Description());
   const auto version = file->Version();
-  if (!version) return tl::unexpected(version.error().Words());
+  if (!version) return tl::unexpected(version.error().Description());
   const Source source{*version, boxWidth, boxHeight};
   if (source == source_) {
     if (forms::Picture picture = picture_.lock()) return picture;

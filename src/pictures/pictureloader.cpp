@@ -17,7 +17,7 @@
 namespace terramark::pictures {
 namespace {
 
-// What a file puts before a bitmap's own header.
+/// What a file puts before a bitmap's own header.
 constexpr qint64 FileHeaderBytes = 14;
 constexpr qsizetype BitsOffsetAt = 10;
 
@@ -47,7 +47,7 @@ forms::LoadedPicture PictureOr(const char* fault, forms::Picture picture) {
 }
 
 forms::LoadedPicture Unreadable(const files::Fault& fault) {
-  return tl::unexpected(fault.Words());
+  return tl::unexpected(fault.Description());
 }
 
 }  // namespace

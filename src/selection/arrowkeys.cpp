@@ -22,13 +22,13 @@ void Form_KeyUp(Form1& form, const forms::KeyEvent& event) {
   if (key != forms::KeyUpArrow && key != forms::KeyDownArrow) return;
   if (form.MarkCount == 0) return;
   // An arrow that was down already when the marker was taken hold of.
-  if (form.Pointer.Holds()) return;
+  if (form.Pointer.HasKeyDrag()) return;
   if (AreaMarker(form, form.CurArea) != nullptr) {
     SelectArea(form, Step(form.CurArea, key, form.AreaCount), 0);
-    BringIntoView(form, form.ArmyAt(form.CurArea));
+    ScrollMarkerIntoView(form, form.ArmyAt(form.CurArea));
   } else if (RegionMarker(form, form.CurRegion) != nullptr) {
     SelectRegion(form, Step(form.CurRegion, key, form.RegionCount));
-    BringIntoView(form, form.Continent(form.CurRegion));
+    ScrollMarkerIntoView(form, form.Continent(form.CurRegion));
   }
 }
 

@@ -41,7 +41,7 @@ void EditText_Change(Form1& form) {
   form.AreaName(form.CurArea) = name;
   ShowMessage(form,
               NumberText(form.CurArea) + ": " + form.AreaName(form.CurArea) + " (" +
-                  SymbolLetter(form.AreaSymbol(form.CurArea)) + ") in Region " +
+                  CardSymbolLetter(form.AreaSymbol(form.CurArea)) + ") in Region " +
                   form.RegionName(form.AreaRegion(form.CurArea)),
               ClrGreen);
 }

@@ -14,15 +14,15 @@ namespace terramark {
 namespace {
 
 void Unmark(forms::Label& marker) {
-  if (LookOf(marker) != Look::Plain) Show(marker, Look::Plain);
+  if (MarkerStateOf(marker) != MarkerState::Plain) Show(marker, MarkerState::Plain);
 }
 
 void FlipMark(Form1& form, forms::Label& marker) {
-  if (LookOf(marker) != Look::Plain) {
-    Show(marker, Look::Plain);
+  if (MarkerStateOf(marker) != MarkerState::Plain) {
+    Show(marker, MarkerState::Plain);
     --form.MarkCount;
   } else {
-    Show(marker, Look::Marked);
+    Show(marker, MarkerState::Marked);
     ++form.MarkCount;
   }
   if (form.RGBFrame.Enabled) SetColourTarget(form, {});
@@ -42,14 +42,14 @@ std::string ArmiesText(std::int16_t armies) {
 
 void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
   ClearSelection(form);
-  Show(marker, Look::Current);
+  Show(marker, MarkerState::Current);
   ++form.MarkCount;
   form.CurArea = area;
   // The keys on the map go on from what is current.
-  form.Picture1.Ringed = &marker;
+  form.Picture1.CursorItem = &marker;
   const CardSymbol* symbol = SymbolOfCode(form.AreaSymbol(area));
   ShowName(form, form.AreaName(area), OwnColour(form.Continent(0)));
-  form.Symb.Text = SymbolLetter(form.AreaSymbol(area));
+  form.Symb.Text = CardSymbolLetter(form.AreaSymbol(area));
   form.Symb.Enabled = true;
   form.Armypc.Text = "";
   form.Armypc.Enabled = false;
@@ -100,10 +100,10 @@ void SelectRegion(Form1& form, std::int16_t region) {
   forms::Label* marker = RegionMarker(form, region);
   if (marker == nullptr) return;
   ClearSelection(form);
-  Show(*marker, Look::Current);
+  Show(*marker, MarkerState::Current);
   form.CurRegion = region;
   ++form.MarkCount;
-  form.Picture1.Ringed = marker;
+  form.Picture1.CursorItem = marker;
   ShowName(form, form.RegionName(region), OwnColour(*marker));
   form.Symb.Text = "";
   form.Symb.Enabled = false;
@@ -124,7 +124,7 @@ void HiliteRegionAreas(Form1& form, std::int16_t& count) {
   count = 0;
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) != form.CurRegion) continue;
-    Show(form.ArmyAt(i), Look::Marked);
+    Show(form.ArmyAt(i), MarkerState::Marked);
     ++count;
   }
 }
@@ -132,7 +132,7 @@ void HiliteRegionAreas(Form1& form, std::int16_t& count) {
 void HiliteAreaLinks(Form1& form, std::int16_t& count) {
   if (form.CurArea == 0) return;
   for (std::int16_t a = 1; a <= form.AreaCount; ++a) {
-    if (LookOf(form.ArmyAt(a)) != Look::Current) continue;
+    if (MarkerStateOf(form.ArmyAt(a)) != MarkerState::Current) continue;
     count = 0;
     for (const std::int16_t neighbour : Neighbours(form.AreaLinks(a))) {
       SelectArea(form, neighbour, 1);

@@ -15,13 +15,13 @@ constexpr char PictureFault[] = "Cannot read picture ";
 constexpr char NameFault[] = "Cannot use this file name in a Map Layout: ";
 
 /// Takes what was said of an earlier picture off the bar.
-void ForgetFaults(Form1& form) {
+void ClearPictureFaults(Form1& form) {
   const std::string& text = form.Message.Caption;
   const bool ours = text.starts_with(PictureFault) || text.starts_with(NameFault);
   if (ours && form.Message.BackColor == ClrRed) ShowMessage(form, "", ClrGreen);
 }
 
-Shown LoadBackdrop(Form1& form, const std::string& path) {
+ShowResult LoadBackdrop(Form1& form, const std::string& path) {
   forms::PictureBox& box = form.Picture1;
   const auto loaded = form.Host.LoadPicture(path, box.BoxWidth(), box.BoxHeight());
   if (!loaded) return tl::unexpected(loaded.error());
@@ -31,18 +31,18 @@ Shown LoadBackdrop(Form1& form, const std::string& path) {
 
 }  // namespace
 
-Shown ShowPicture(Form1& form, const std::string& path) {
+ShowResult ShowPicture(Form1& form, const std::string& path) {
   try {
     if (auto shown = LoadBackdrop(form, path); !shown) return shown;
   } catch (const std::bad_alloc&) {
     return tl::unexpected<std::string>("not enough memory");
   }
-  ForgetFaults(form);
+  ClearPictureFaults(form);
   return {};
 }
 
-Shown ShowNewPicture(Form1& form, const std::string& path) {
-  Shown shown = ShowPicture(form, path);
+ShowResult ShowNewPicture(Form1& form, const std::string& path) {
+  ShowResult shown = ShowPicture(form, path);
   if (shown) form.Picture1.ZoomTo(forms::ActualSize, {});
   return shown;
 }

@@ -26,8 +26,8 @@ const char* AccessibleNameIn(const forms::Control& control, const char* caption,
 
 void PlaceControl(forms::Form& form, forms::Control& control, forms::Control& container, float left,
                   float top, float width, float height) {
-  const forms::ScalePoint corner = forms::FromTwips({left, top}, container, form);
-  const forms::ScalePoint size = forms::FromTwips({width, height}, container, form);
+  const forms::ScalePoint corner = forms::TwipsToScale({left, top}, container, form);
+  const forms::ScalePoint size = forms::TwipsToScale({width, height}, container, form);
   control.Move(corner.X, corner.Y);
   control.Width = size.X;
   control.Height = size.Y;

@@ -19,7 +19,7 @@ using Finder = Kind& (*)(FormType&);
 /// twips from the inside of the container.
 template <typename FormType>
 struct ControlRow {
-  Finder<FormType> Of;
+  Finder<FormType> Locate;
   const char* Caption;
   std::int16_t HelpTopic;  // opened by a press with the Shift key alone, and by F1; 0 for none
   Finder<FormType> Container;
@@ -35,7 +35,7 @@ struct ControlRow {
 /// The control that a member of the form holds. In a row that takes one kind of control, a member
 /// of another kind does not compile.
 template <auto Member, typename Kind, typename FormType>
-Kind& The(FormType& form) {
+Kind& ControlOf(FormType& form) {
   return form.*Member;
 }
 
@@ -71,7 +71,7 @@ void PlaceControl(forms::Form& form, forms::Control& control, forms::Control& co
 template <typename FormType>
 void BuildControls(FormType& form, std::span<const ControlRow<FormType>> table) {
   for (const ControlRow<FormType>& row : table) {
-    forms::Control& control = row.Of(form);
+    forms::Control& control = row.Locate(form);
     forms::Control& container = row.Container(form);
     // On the form first: only there does a size in twips mean pixels.
     form.Add(control, container);

@@ -13,47 +13,47 @@ namespace terramark {
 
 namespace {
 
-constexpr char Gap[] = "...";
+constexpr char Ellipsis[] = "...";
 /// Characters of a path that stand whatever else is said.
-constexpr std::size_t LeastKept = 24;
+constexpr std::size_t MinPathChars = 24;
 /// No bar shows more.
-constexpr std::size_t MostKept = 500;
+constexpr std::size_t MaxPathChars = 500;
 
 /// So many characters of a path and the gap: those of the file's name first, and of the folders
 /// from both ends.
-std::string Cut(const std::string& path, std::size_t kept) {
+std::string ElidePath(const std::string& path, std::size_t kept) {
   const std::size_t folders = path.rfind('/') + 1;  // 0 without any
   const std::size_t name = path.size() - folders;
   // Beside a name that does not fit there is no place for them.
   const std::size_t from = kept < name ? folders : 0;
   const std::size_t slashAndName = std::min(kept, name + 1);
   const std::size_t tail = kept < name ? kept / 2 : std::max(kept / 2, slashAndName);
-  return path.substr(from, kept - tail) + Gap + path.substr(path.size() - tail);
+  return path.substr(from, kept - tail) + Ellipsis + path.substr(path.size() - tail);
 }
 
 /// As much of a path as has room in the message bar between the words around it.
-std::string FittingPath(const Form1& form, const std::string& what, const std::string& path,
-                        const std::string& rest) {
+std::string ElideToFit(const Form1& form, const std::string& what, const std::string& path,
+                       const std::string& rest) {
   constexpr int Borders = 2;
   const int room = forms::PixelBounds(form.Message).Width - Borders;
   const auto fits = [&](const std::string& shown) {
     return form.Host.MeasureText(what + shown + rest).Width <= room;
   };
-  if (path.size() <= LeastKept || fits(path)) return path;
-  std::size_t kept = LeastKept;
-  std::size_t tooMany = std::min(path.size(), MostKept);
+  if (path.size() <= MinPathChars || fits(path)) return path;
+  std::size_t kept = MinPathChars;
+  std::size_t tooMany = std::min(path.size(), MaxPathChars);
   while (tooMany - kept > 1) {
     const std::size_t middle = (kept + tooMany) / 2;
-    (fits(Cut(path, middle)) ? kept : tooMany) = middle;
+    (fits(ElidePath(path, middle)) ? kept : tooMany) = middle;
   }
-  return Cut(path, kept);
+  return ElidePath(path, kept);
 }
 
 }  // namespace
 
 void ShowFileFault(Form1& form, const std::string& what, const std::string& path,
                    const std::string& rest) {
-  ShowMessage(form, what + FittingPath(form, what, path, rest) + rest, ClrRed);
+  ShowMessage(form, what + ElideToFit(form, what, path, rest) + rest, ClrRed);
 }
 
 }  // namespace terramark

@@ -8,7 +8,7 @@ namespace terramark {
 namespace {
 
 struct LabelRow {
-  Finder<Form1, forms::Label> Of;
+  Finder<Form1, forms::Label> Locate;
   forms::Color BackColor;
   forms::Color ForeColor;
   forms::Border Border;
@@ -26,31 +26,31 @@ constexpr LabelRow LabelLooks[] = {
     // label                         background        text                  border    alignment, what it stands over
     {Element<&Form1::Label1, 0>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 0>},
     {Element<&Form1::Label1, 1>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 1>},
-    {Element<&Form1::Label1, 2>,     ClrBlack,         ClrWhite,             NoBorder, Centred, The<&Form1::LoadMpa>},
-    {Element<&Form1::Label1, 5>,     ClrBlack,         ClrWhite,             NoBorder, Centred, The<&Form1::LoadMap>},
+    {Element<&Form1::Label1, 2>,     ClrBlack,         ClrWhite,             NoBorder, Centred, ControlOf<&Form1::LoadMpa>},
+    {Element<&Form1::Label1, 5>,     ClrBlack,         ClrWhite,             NoBorder, Centred, ControlOf<&Form1::LoadMap>},
     {Element<&Form1::Countx, 0>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
     {Element<&Form1::Countx, 1>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
-    {The<&Form1::Helpbar>,           LightGrey,        forms::SysWindowText, Single,   Centred},
-    {The<&Form1::Message>,           forms::SysWindow, forms::SysWindowText, Single,   Centred},
+    {ControlOf<&Form1::Helpbar>,           LightGrey,        forms::SysWindowText, Single,   Centred},
+    {ControlOf<&Form1::Message>,           forms::SysWindow, forms::SysWindowText, Single,   Centred},
     {Element<&Form1::ArmyAt, 0>,     ClrBlack,         forms::SysWindowText, Single,   forms::Alignment::Left},
     {Element<&Form1::Continent, 0>,  forms::SysWindow, forms::SysWindowText, Single,   Centred},
 };
 // clang-format on
 
 struct LimitRow {
-  Finder<Form1, forms::TextBox> Of;
+  Finder<Form1, forms::TextBox> Locate;
   std::size_t MaxLength;
 };
 
 constexpr LimitRow Limits[] = {
-    {The<&Form1::EditText>, 16},
-    {The<&Form1::Symb>, 1},
-    {The<&Form1::Armypc>, 2},
+    {ControlOf<&Form1::EditText>, 16},
+    {ControlOf<&Form1::Symb>, 1},
+    {ControlOf<&Form1::Armypc>, 2},
 };
 
 }  // namespace
 
-// The markers are numbered like the tables.
+/// The markers are numbered like the tables.
 static_assert(forms::ControlArray<forms::Label>::MaxElements == TableSize);
 
 Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
@@ -61,7 +61,7 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
   Height = 8985;
   BuildControls(*this, Form1Controls());
   for (const LabelRow& row : LabelLooks) {
-    forms::Label& label = row.Of(*this);
+    forms::Label& label = row.Locate(*this);
     label.BackColor = row.BackColor;
     label.ForeColor = row.ForeColor;
     label.BorderStyle = row.Border;
@@ -73,7 +73,7 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
   Helpbar.Announcement = forms::Announcement::OnRequest;
   Continent(0).AutoSize = true;
   Picture1.TabStop = true;
-  for (const LimitRow& row : Limits) row.Of(*this).MaxLength = row.MaxLength;
+  for (const LimitRow& row : Limits) row.Locate(*this).MaxLength = row.MaxLength;
   ColBar.ForEach([](forms::VScrollBar& bar) { bar.Max = UnsetComponent; });
 }
 

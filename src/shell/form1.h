@@ -42,7 +42,7 @@ struct Form1 : forms::Form, Tables {
   static constexpr std::int16_t LockOff = 0;
   // Of the keys (editor/formkeys): what had the keyboard before F6 gave it to the map; null for
   // none.
-  forms::Control* BeforeMap = nullptr;
+  forms::Control* FocusBeforeMap = nullptr;
   // Of the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int Side = 32;
 
-// K frame and borders, B sea, R G Y W the territories.
+/// K frame and borders, B sea, R G Y W the territories.
 constexpr const char* Drawing[] = {
     "KKKKKKKKKKKKKKKKKKKKKKKKKKKKKKKK", "KBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBK",
     "KBBBBBBBBBBBBKKKKKBBBBBBBBBBBBBK", "KBBBBBBBBBBBKRRKGGKBBBBBBBBBBBBK",
@@ -29,7 +29,7 @@ constexpr const char* Drawing[] = {
 };
 static_assert(std::size(Drawing) == Side);
 
-std::uint32_t PixelOf(char mark) {
+std::uint32_t PaletteColour(char mark) {
   switch (mark) {
     case 'K':
       return 0xFF000000;
@@ -53,7 +53,7 @@ forms::Picture ProgramIcon() {
   icon->Width = Side;
   icon->Height = Side;
   for (const char* row : Drawing) {
-    for (int x = 0; x < Side; ++x) icon->Pixels.push_back(PixelOf(row[x]));
+    for (int x = 0; x < Side; ++x) icon->Pixels.push_back(PaletteColour(row[x]));
   }
   return icon;
 }

@@ -16,31 +16,31 @@ forms::Label* RegionMarker(Form1& form, std::int16_t region) {
   return region < 1 ? nullptr : form.Continent.Find(region);
 }
 
-forms::Control* RingedMarker(Form1& form) {
-  forms::Control* const marker = form.Picture1.Ringed;
-  return marker != nullptr && marker->IsSeen() ? marker : nullptr;
+forms::Control* MarkerAtCursor(Form1& form) {
+  forms::Control* const marker = form.Picture1.CursorItem;
+  return marker != nullptr && marker->IsVisible() ? marker : nullptr;
 }
 
-void BringIntoView(Form1& form, const forms::Control& marker) {
-  if (marker.IsSeen()) form.Picture1.Reveal(PixelBounds(marker));
+void ScrollMarkerIntoView(Form1& form, const forms::Control& marker) {
+  if (marker.IsVisible()) form.Picture1.ScrollIntoView(PixelBounds(marker));
 }
 
-Look LookOf(const forms::Label& marker) {
-  if (marker.BackColor == ClrBlack) return Look::Plain;
-  return marker.BackColor == ClrWhite ? Look::Current : Look::Marked;
+MarkerState MarkerStateOf(const forms::Label& marker) {
+  if (marker.BackColor == ClrBlack) return MarkerState::Plain;
+  return marker.BackColor == ClrWhite ? MarkerState::Current : MarkerState::Marked;
 }
 
-void Show(forms::Label& marker, Look look) {
+void Show(forms::Label& marker, MarkerState look) {
   switch (look) {
-    case Look::Plain:
+    case MarkerState::Plain:
       marker.BackColor = ClrBlack;
       marker.ForeColor = OwnColour(marker);
       break;
-    case Look::Current:
+    case MarkerState::Current:
       marker.BackColor = ClrWhite;
       marker.ForeColor = ClrBlack;
       break;
-    case Look::Marked:
+    case MarkerState::Marked:
       marker.BackColor = ClrGrey;
       marker.ForeColor = ClrWhite;
       break;
@@ -62,7 +62,7 @@ void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text) {
   marker.BackColor = ClrBlack;
 }
 
-void TakeRegionColour(forms::Label& area, const forms::Label& region) {
+void CopyRegionColour(forms::Label& area, const forms::Label& region) {
   area.ForeColor = OwnColour(region);
   area.Tag = region.Tag;
 }

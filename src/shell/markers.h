@@ -22,21 +22,21 @@ forms::Label* AreaMarker(Form1& form, std::int16_t area);
 forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
 /// The marker that the keys on the map act on; null where none has the ring, or it is hidden.
-forms::Control* RingedMarker(Form1& form);
+forms::Control* MarkerAtCursor(Form1& form);
 
 /// Scrolls a marker into view, with some ground around it; not to one that is hidden.
-void BringIntoView(Form1& form, const forms::Control& marker);
+void ScrollMarkerIntoView(Form1& form, const forms::Control& marker);
 
 /// What is selected lives in the looks of the markers and nowhere else.
-enum class Look {
+enum class MarkerState {
   Plain,    // its own colour on ClrBlack
   Current,  // ClrBlack on ClrWhite
   Marked,   // ClrWhite on ClrGrey
 };
 
 /// By the background alone: a marker may keep that of a look under its own colour.
-Look LookOf(const forms::Label& marker);
-void Show(forms::Label& marker, Look look);
+MarkerState MarkerStateOf(const forms::Label& marker);
+void Show(forms::Label& marker, MarkerState look);
 
 /// The marker's own colour, which its Tag keeps as decimal text; black for a Tag without a number.
 forms::Color OwnColour(const forms::Label& marker);
@@ -51,7 +51,7 @@ void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm text);
 void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagForm::WithBlank);
 
 /// Gives an Area's marker the own colour of its Region's, Tag and all. The background stays.
-void TakeRegionColour(forms::Label& area, const forms::Label& region);
+void CopyRegionColour(forms::Label& area, const forms::Label& region);
 
 /// Makes a corner of an Area's marker its fill point, and shows it in the caption. The marker
 /// must exist.

@@ -4,7 +4,7 @@
 
 namespace terramark {
 
-bool Confirmed(Form1& form, const std::string& question) {
+bool Confirm(Form1& form, const std::string& question) {
   return form.Host.MsgBox(question, forms::Buttons::YesNo, "Terramark") == forms::Answer::Yes;
 }
 

@@ -8,6 +8,6 @@ namespace terramark {
 struct Form1;
 
 /// Asks in a box with Yes and No. Only Yes goes on; closing the box any other way is a No.
-bool Confirmed(Form1& form, const std::string& question);
+bool Confirm(Form1& form, const std::string& question);
 
 }  // namespace terramark

@@ -16,7 +16,7 @@ namespace {
 
 constexpr char Banner[] = "Terramark 1 - Map Layout editor, by the Terramark developers";
 
-// The stored default of full intensity is 256, not 255.
+/// The stored default of full intensity is 256, not 255.
 constexpr auto DefaultPlayerRGB = std::to_array<Components>({
     // red green blue
     {0, 256, 0},      // Player1
@@ -55,7 +55,7 @@ void Form_Load(Form1& form) {
 }
 
 void Quit_Click(Form1& form) {
-  if (Confirmed(form, "Exit Terramark")) form.Host.End(0);
+  if (Confirm(form, "Exit Terramark")) form.Host.End(0);
 }
 
 void Form_Unload(Form1& form) {

@@ -8,7 +8,7 @@
 namespace terramark {
 
 bool ValidateMap(Form1& form) {
-  const Verdict verdict = JudgeMap(form);
+  const Verdict verdict = CheckMap(form);
   const bool good = verdict.Status == 0;
   ShowMessage(form, verdict.Message, good ? ClrGreen : ClrRed);
   return good;

@@ -7,7 +7,7 @@ namespace terramark::thumbnail {
 
 /// Statuses of the program beside 0.
 inline constexpr int NoThumbnail = 1;
-inline constexpr int WrongUse = 2;
+inline constexpr int UsageError = 2;
 
 /// Ends the program with NoThumbnail, with one line on the standard error that says why. A handler
 /// of a signal may call it.

@@ -17,10 +17,10 @@ namespace terramark::thumbnail {
 namespace {
 
 /// What a desktop may wait for is two seconds; ending takes some of them.
-constexpr suseconds_t Patience = 1'800'000;
+constexpr suseconds_t TimeLimit = 1'800'000;
 /// Bytes beyond what the program begins with: a picture of 8192 x 8192 takes 256 MiB, and all else
 /// under 64.
-constexpr rlim_t MostMemory = rlim_t{360} << 20U;
+constexpr rlim_t MaxMemoryBytes = rlim_t{360} << 20U;
 /// Bytes. Qt shrinks a picture with a thread for each processor, and the limit counts all of a
 /// thread's stack; the usual size would have a large machine refuse a large picture.
 constexpr std::size_t ThreadStack = std::size_t{256} << 10U;
@@ -38,7 +38,7 @@ rlim_t PresentMemory() {
 void LimitCost() {
   std::signal(SIGPIPE, SIG_IGN);  // the status tells those too who do not listen
   std::signal(SIGALRM, [](int) { Refuse("this takes too long"); });
-  const itimerval once{{0, 0}, {Patience / 1'000'000, Patience % 1'000'000}};
+  const itimerval once{{0, 0}, {TimeLimit / 1'000'000, TimeLimit % 1'000'000}};
   setitimer(ITIMER_REAL, &once, nullptr);
   // Whoever calls may have held it up, and that is handed down.
   sigset_t alarm;
@@ -53,7 +53,7 @@ void LimitCost() {
   pthread_attr_destroy(&threads);
   // But for a mistake in the program nothing else is thrown that nobody catches.
   std::set_terminate([] { Refuse("the memory does not reach"); });
-  const rlim_t most = PresentMemory() + MostMemory;
+  const rlim_t most = PresentMemory() + MaxMemoryBytes;
   const rlimit limit{most, most};
   setrlimit(RLIMIT_DATA, &limit);
 }

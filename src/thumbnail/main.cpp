@@ -23,20 +23,20 @@
 #include "shell/form1.h"
 #include "shell/startup.h"
 #include "thumbnail/ending.h"
+#include "thumbnail/headlessdesktop.h"
 #include "thumbnail/limits.h"
-#include "thumbnail/quietdesktop.h"
 
 namespace terramark::thumbnail {
 namespace {
 
-constexpr int LongestSide = 1024;  // pixels
+constexpr int MaxSide = 1024;  // pixels
 
-/// From 1 to LongestSide; nothing for any other text.
-std::optional<int> SideOf(const char* text) {
+/// From 1 to MaxSide; nothing for any other text.
+std::optional<int> ParseSide(const char* text) {
   int side = 0;
   const char* const end = text + std::strlen(text);
   const auto read = std::from_chars(text, end, side);
-  if (read.ec != std::errc() || read.ptr != end || side < 1 || side > LongestSide) return {};
+  if (read.ec != std::errc() || read.ptr != end || side < 1 || side > MaxSide) return {};
   return side;
 }
 
@@ -65,7 +65,7 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
     files::SafeFile file(png);
     const auto written = file.Open().and_then([&] { return file.Replace(bytes); });
     if (written) return;
-    why = written.error().Words();
+    why = written.error().Description();
     if (file.Damaged()) why += "; the old file is damaged";
   }
   Refuse(cannot + why);
@@ -73,12 +73,12 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
 
 /// The map in a layout; ends the program where there is none.
 MapLayout Read(const std::filesystem::path& path) {
-  const auto bytes = files::ReadRegularFile(path, MostLayoutBytes);
-  if (!bytes) Refuse("cannot open " + path.string() + ": " + bytes.error().Words());
+  const auto bytes = files::ReadRegularFile(path, MaxLayoutBytes);
+  if (!bytes) Refuse("cannot open " + path.string() + ": " + bytes.error().Description());
   auto layout = ReadLayout(*bytes);
   if (!layout) {
     const LayoutFault& fault = layout.error();
-    Refuse(path.string() + ":" + std::to_string(fault.Line) + ": " + fault.Words());
+    Refuse(path.string() + ":" + std::to_string(fault.Line) + ": " + fault.Description());
   }
   return *std::move(layout);
 }
@@ -88,13 +88,13 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
   // The picture may be named by its bare name, and then lies where the layout does.
   files::EnterFolderOf(path);
   const paint::Windowless windowless;
-  QuietDesktop desktop;
+  HeadlessDesktop desktop;
   Form1 form(desktop);
   Form_Load(form);
   ClearMap(form);
   ShowHead(form, layout);
   PlaceMarkers(form, layout);
-  if (const Shown shown = ShowMap(form); !shown) {
+  if (const ShowResult shown = ShowMap(form); !shown) {
     Refuse("cannot read picture " + paint::InSystemEncoding(form.PictureFile) + ": " +
            shown.error());
   }
@@ -109,11 +109,11 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
 int main(int argc, char** argv) {
   using namespace terramark::thumbnail;
   LimitCost();
-  const auto side = argc == 4 ? SideOf(argv[3]) : std::nullopt;
+  const auto side = argc == 4 ? ParseSide(argv[3]) : std::nullopt;
   if (!side) {
     std::fprintf(stderr, "usage: terramark-thumbnail LAYOUT PNG SIZE, a size from 1 to %d\n",
-                 LongestSide);
-    return WrongUse;
+                 MaxSide);
+    return UsageError;
   }
   Show(Absolute(argv[1]), Absolute(argv[2]), *side);
   return 0;

@@ -17,18 +17,18 @@ struct Fault {
 };
 
 using Finding = std::optional<Fault>;
-using Message = std::optional<std::string>;
+using FaultText = std::optional<std::string>;
 
 /// Whether the map has this fault as a whole.
-Finding If(bool faulty, const char* text) {
+Finding FaultIf(bool faulty, const char* text) {
   return faulty ? Finding(Fault{text}) : std::nullopt;
 }
 
 /// The first number from 1 to last for which faulty gives a text.
 template <typename Faulty>
-Finding FirstOf(std::int16_t last, Faulty faulty) {
+Finding FirstFault(std::int16_t last, Faulty faulty) {
   for (std::int16_t number = 1; number <= last; ++number) {
-    if (Message text = faulty(number)) return Fault{*std::move(text), number};
+    if (FaultText text = faulty(number)) return Fault{*std::move(text), number};
   }
   return std::nullopt;
 }
@@ -46,71 +46,75 @@ std::string AreaInBrackets(const Tables& t, std::int16_t i, const char* gap) {
   return AreaAt(i) + gap + "(" + t.AreaName(i) + ")";
 }
 
-Finding Picture(const Tables& t) {
-  return If(t.PictureFile.empty(), "No Map file (.WMF/.BMP)");
+Finding HasPicture(const Tables& t) {
+  return FaultIf(t.PictureFile.empty(), "No Map file (.WMF/.BMP)");
 }
 
 Finding EnoughAreas(const Tables& t) {
-  return If(t.AreaCount < 2, "Number of Areas must be more than 1");
+  return FaultIf(t.AreaCount < 2, "Number of Areas must be more than 1");
 }
 
 Finding EnoughRegions(const Tables& t) {
-  return If(t.RegionCount < 2, "Number of Regions must be more than 1");
+  return FaultIf(t.RegionCount < 2, "Number of Regions must be more than 1");
 }
 
-Finding WholeHands(const Tables& t) {
-  return If(t.AreaCount % 6 != 0, "Number of Areas must be divisible by 2 and 3");
+Finding AreasDivisible(const Tables& t) {
+  return FaultIf(t.AreaCount % 6 != 0, "Number of Areas must be divisible by 2 and 3");
 }
 
 Finding AreasInRegions(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
+  return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
     if (t.AreaRegion(i) != 0) return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no Region";
   });
 }
 
-// Looks at the string and not at its count: "00" passes here, and stops a save.
+/// Looks at the string and not at its count: "00" passes here, and stops a save.
 Finding AreasLinked(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
+  return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
     if (!t.AreaLinks(i).empty() && t.AreaLinks(i)[0] != ' ') return std::nullopt;
     return AreaAt(i) + " : " + t.AreaName(i) + " has no neighbour";
   });
 }
 
 Finding RegionSizes(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
-    if (MembersOf(t, r) >= 2) return std::nullopt;
+  return FirstFault(t.RegionCount, [&](std::int16_t r) -> FaultText {
+    if (MemberCount(t, r) >= 2) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " has <2 Areas";
   });
 }
 
-/// Whether some Area of r has an entry in r itself, or else in another Region.
-bool HasLink(const Tables& t, std::int16_t r, bool inside) {
+/// Where a link from an Area of a Region ends.
+enum class LinkEnd { SameRegion, OtherRegion };
+
+/// Whether some Area of r has such a link.
+bool HasLink(const Tables& t, std::int16_t r, LinkEnd wanted) {
   for (std::int16_t i = 1; i <= t.AreaCount; ++i) {
     if (t.AreaRegion(i) != r) continue;
     for (const std::int16_t j : Neighbours(t.AreaLinks(i))) {
-      if ((t.AreaRegion(j) == r) == inside) return true;
+      const LinkEnd end = t.AreaRegion(j) == r ? LinkEnd::SameRegion : LinkEnd::OtherRegion;
+      if (end == wanted) return true;
     }
   }
   return false;
 }
 
 Finding RegionsLinkedOutward(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
-    if (HasLink(t, r, false)) return std::nullopt;
+  return FirstFault(t.RegionCount, [&](std::int16_t r) -> FaultText {
+    if (HasLink(t, r, LinkEnd::OtherRegion)) return std::nullopt;
     return RegionAt(r) + " : " + t.RegionName(r) + " is not linked to another Region";
   });
 }
 
 Finding RegionsLinkedInside(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
-    if (HasLink(t, r, true)) return std::nullopt;
+  return FirstFault(t.RegionCount, [&](std::int16_t r) -> FaultText {
+    if (HasLink(t, r, LinkEnd::SameRegion)) return std::nullopt;
     return "None of the Areas in " + RegionAt(r) + " : " + t.RegionName(r) + " are linked";
   });
 }
 
 Finding LinksMutual(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
+  return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
     for (const std::int16_t j : Neighbours(t.AreaLinks(i))) {
       if (IsNeighbour(t, j, i) != 0) continue;
       return AreaInBrackets(t, i, "") + " is not in the neighbour list of " +
@@ -121,21 +125,21 @@ Finding LinksMutual(const Tables& t) {
 }
 
 Finding LinksNumbered(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
-    if (!Neighbours(t.AreaLinks(i)).List(0)) return std::nullopt;
+  return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
+    if (!Neighbours(t.AreaLinks(i)).Contains(0)) return std::nullopt;
     return AreaInBrackets(t, i, "") + " Please respecify its Neighbours";
   });
 }
 
 Finding AreasNamed(const Tables& t) {
-  return FirstOf(t.AreaCount, [&](std::int16_t i) -> Message {
+  return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
     if (!t.AreaName(i).empty()) return std::nullopt;
     return AreaAt(i) + " has no name";
   });
 }
 
 Finding RegionsNamed(const Tables& t) {
-  return FirstOf(t.RegionCount, [&](std::int16_t r) -> Message {
+  return FirstFault(t.RegionCount, [&](std::int16_t r) -> FaultText {
     if (!t.RegionName(r).empty()) return std::nullopt;
     return RegionAt(r) + " has no name";
   });
@@ -147,29 +151,23 @@ struct Rule {
   Finding (*Test)(const Tables&);
 };
 
-// In the order of testing, which is not that of the numbers.
-// clang-format off
+/// In the order of testing, which is not that of the numbers.
+/// clang-format off
 constexpr Rule Rules[] = {
     // status  about  test
-    {15, Subject::Picture, Picture},
-    {1, Subject::Counts, EnoughAreas},
-    {2, Subject::Counts, EnoughRegions},
-    {10, Subject::Counts, WholeHands},
-    {11, Subject::Area, AreasInRegions},
-    {3, Subject::Area, AreasLinked},
-    {4, Subject::Region, RegionSizes},
-    {5, Subject::Region, RegionsLinkedOutward},
-    {6, Subject::Region, RegionsLinkedInside},
-    {7, Subject::Area, LinksMutual},
-    {12, Subject::Area, LinksNumbered},
-    {8, Subject::Area, AreasNamed},
+    {15, Subject::Picture, HasPicture},        {1, Subject::Counts, EnoughAreas},
+    {2, Subject::Counts, EnoughRegions},       {10, Subject::Counts, AreasDivisible},
+    {11, Subject::Area, AreasInRegions},       {3, Subject::Area, AreasLinked},
+    {4, Subject::Region, RegionSizes},         {5, Subject::Region, RegionsLinkedOutward},
+    {6, Subject::Region, RegionsLinkedInside}, {7, Subject::Area, LinksMutual},
+    {12, Subject::Area, LinksNumbered},        {8, Subject::Area, AreasNamed},
     {9, Subject::Region, RegionsNamed},
 };
 // clang-format on
 
 }  // namespace
 
-Verdict JudgeMap(const Tables& tables) {
+Verdict CheckMap(const Tables& tables) {
   for (const Rule& rule : Rules) {
     if (Finding fault = rule.Test(tables)) {
       return {rule.Status, std::move(fault->Text), rule.About, fault->Number};

@@ -22,6 +22,6 @@ struct Verdict {
 };
 
 /// Tests the document rule by rule, in a fixed order, up to the first fault.
-Verdict JudgeMap(const Tables& tables);
+Verdict CheckMap(const Tables& tables);
 
 }  // namespace terramark

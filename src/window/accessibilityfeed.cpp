@@ -46,7 +46,7 @@ void ForgetEarlyAccessible(QWidget& widget) {
 AccessibilityFeed::AccessibilityFeed() {
   QAccessible::installFactory(Make);
   later_.setSingleShot(true);
-  connect(&later_, &QTimer::timeout, this, &AccessibilityFeed::Tell);
+  connect(&later_, &QTimer::timeout, this, &AccessibilityFeed::NotifyChanges);
 }
 
 void AccessibilityFeed::Added(ControlView& view) {
@@ -68,11 +68,11 @@ void AccessibilityFeed::Changed(const forms::Control& control) {
   later_.start();
 }
 
-void AccessibilityFeed::Gone(const forms::Control& control) {
+void AccessibilityFeed::Forget(const forms::Control& control) {
   const auto shows = [&](const ControlView& view) { return &view.Shown() == &control; };
   std::erase_if(canvases_, [&](const CanvasView* canvas) { return shows(*canvas); });
   std::erase_if(messages_, [&](const Message& message) { return shows(*message.View); });
-  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).Gone(control);
+  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).Forget(control);
 }
 
 bool AccessibilityFeed::eventFilter(QObject* watched, QEvent* event) {
@@ -83,8 +83,8 @@ bool AccessibilityFeed::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-void AccessibilityFeed::Tell() {
-  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).Tell();
+void AccessibilityFeed::NotifyChanges() {
+  for (CanvasView* canvas : canvases_) AccessibleOf<CanvasAccessible>(*canvas).NotifyChanges();
   for (Message& message : messages_) {
     if (message.Fresh) AccessibleOf<MessageAccessible>(*message.View).Announce();
     message.Fresh = false;

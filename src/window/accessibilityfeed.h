@@ -25,7 +25,7 @@ class AccessibilityFeed final : public QObject {
   /// property holds may have changed with it.
   void Changed(const forms::Control& control);
   /// A control is about to go; only its identity is used.
-  void Gone(const forms::Control& control);
+  void Forget(const forms::Control& control);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,7 +36,7 @@ class AccessibilityFeed final : public QObject {
     bool Fresh = false;
   };
 
-  void Tell();
+  void NotifyChanges();
 
   std::vector<CanvasView*> canvases_;
   std::vector<Message> messages_;

@@ -12,7 +12,7 @@ namespace terramark::window {
 
 namespace {
 /// Values that a press beside the thumb, and a page key, go on.
-constexpr int Page = 16;
+constexpr int PageStep = 16;
 constexpr int TipDrop = 16;  // pixels
 constexpr int TipMilliseconds = 3000;
 }  // namespace
@@ -21,15 +21,15 @@ BarView::BarView(forms::VScrollBar& bar, QWidget& container)
     : QScrollBar(Qt::Vertical, &container), ControlView(bar, *this), bar_(bar) {
   setFocusPolicy(Qt::StrongFocus);
   setTracking(false);
-  setPageStep(Page);
+  setPageStep(PageStep);
   setRange(bar.Min, bar.Max);
   setValue(bar.Value);
   connect(this, &QScrollBar::valueChanged, this, [this](int value) {
     bar_.Moved(value);
     ShowOwn(forms::PropertyId::Value);
-    TellValue();
+    ShowValueTip();
   });
-  connect(this, &QScrollBar::sliderMoved, this, &BarView::TellValue);
+  connect(this, &QScrollBar::sliderMoved, this, &BarView::ShowValueTip);
 }
 
 void BarView::ShowOwn(forms::PropertyId /*id*/) {
@@ -43,7 +43,7 @@ QRect BarView::Thumb() const {
   return style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this);
 }
 
-void BarView::TellValue() {
+void BarView::ShowValueTip() {
   // Right of all bars in the frame, so that it hides none of them; tips hang this far down.
   const QPoint beside(parentWidget()->width() - x(), Thumb().top() - TipDrop);
   const QString tip = QString("%1: %2").arg(toolTip()).arg(sliderPosition());

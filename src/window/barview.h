@@ -13,7 +13,7 @@ class BarView : public QScrollBar, public ControlView {
  public:
   BarView(forms::VScrollBar& bar, QWidget& container);
 
-  bool OwnMouse() const override { return true; }
+  MouseUse Mouse() const override { return MouseUse::WidgetToo; }
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
@@ -22,7 +22,7 @@ class BarView : public QScrollBar, public ControlView {
  private:
   QRect Thumb() const;
   /// Shows where the thumb stands, behind the bar's hint and in its place.
-  void TellValue();
+  void ShowValueTip();
 
   forms::VScrollBar& bar_;
 };

@@ -5,12 +5,12 @@
 #include <QPainter>
 
 #include "forms/form.h"
+#include "paint/elidedtext.h"
 #include "paint/frames.h"
 #include "paint/lettering.h"
 #include "paint/screencolour.h"
-#include "paint/showntext.h"
+#include "window/appstyle.h"
 #include "window/keyfeed.h"
-#include "window/look.h"
 
 namespace terramark::window {
 
@@ -30,14 +30,15 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
   ShowOwn(forms::PropertyId::Caption);
   // By a dialog whose Enter key found nobody else, or by an assistive tool.
   connect(this, &QPushButton::clicked, this, [this] {
-    button_.Owner()->Pointer.PressKey(button_, KeyMask(QGuiApplication::keyboardModifiers()));
+    button_.ParentForm()->Pointer.SimulateClick(button_,
+                                                KeyMask(QGuiApplication::keyboardModifiers()));
   });
 }
 
 void ButtonView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption) {
     // A single "&" would make a shortcut.
-    const QString caption = paint::ShownText(button_.Caption, Qt::ElideMiddle);
+    const QString caption = paint::ElidedText(button_.Caption, Qt::ElideMiddle);
     setText(QString(caption).replace('&', "&&"));
     // A file's name, which is no word for what the button does.
     const bool named = button_.Caption.Get() == button_.AccessibleName;
@@ -59,7 +60,7 @@ void ButtonView::keyReleaseEvent(QKeyEvent* event) {
   if (!Pushes(*event)) return event->ignore();
   if (event->isAutoRepeat() || !isDown()) return;
   setDown(false);
-  button_.Owner()->Pointer.PressKey(button_, KeyMask(event->modifiers()));
+  button_.ParentForm()->Pointer.SimulateClick(button_, KeyMask(event->modifiers()));
 }
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {
@@ -69,9 +70,9 @@ void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   DrawEdge(painter);
   QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
   if (isDown()) inside.translate(1, 1);
-  painter.setPen(InkOn(face));
+  painter.setPen(TextColourOn(face));
   // Of a file's path both ends are worth seeing.
-  paint::DrawCaption(painter, inside, paint::ShownText(button_.Caption, Qt::ElideMiddle),
+  paint::DrawCaption(painter, inside, paint::ElidedText(button_.Caption, Qt::ElideMiddle),
                      Qt::ElideMiddle);
   if (hasFocus()) paint::DrawFocusRing(painter, inside);
 }

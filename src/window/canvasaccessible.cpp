@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "forms/form.h"
-#include "paint/showntext.h"
+#include "paint/elidedtext.h"
 #include "shell/markers.h"
 #include "window/accessibleitem.h"
 #include "window/canvasview.h"
@@ -31,10 +31,10 @@ class MarkerAccessible final : public AccessibleItem {
       : AccessibleItem(canvas), canvas_(canvas), label_(label) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Description) return canvas_.WhereaboutsOf(label_);
-    return kind == QAccessible::Name ? canvas_.NameOf(label_) : QString();
+    if (kind == QAccessible::Description) return canvas_.PositionTextOf(label_);
+    return kind == QAccessible::Name ? canvas_.MarkerName(label_) : QString();
   }
-  QRect rect() const override { return canvas_.PlaceOf(label_); }
+  QRect rect() const override { return canvas_.ScreenRectOf(label_); }
   QAccessible::Role role() const override { return QAccessible::ListItem; }
   QAccessible::State state() const override { return canvas_.StateOf(label_); }
 
@@ -53,14 +53,14 @@ CanvasAccessible::~CanvasAccessible() {
   for (const auto& [label, id] : ids_) QAccessible::deleteAccessibleInterface(id);
 }
 
-void CanvasAccessible::Tell() {
+void CanvasAccessible::NotifyChanges() {
   const std::vector<const forms::Label*> markers = Markers();
   std::vector<const forms::Control*> gone;
-  for (const auto& [label, told] : told_) {
+  for (const auto& [label, told] : notified_) {
     if (!label->Visible) gone.push_back(label);
   }
-  for (const forms::Control* label : gone) TellGone(*label);
-  for (const forms::Label* label : markers) TellLabel(*label);
+  for (const forms::Control* label : gone) NotifyRemoved(*label);
+  for (const forms::Label* label : markers) NotifyLabel(*label);
   const forms::Label* const now = Focused();
   if (now == focused_) return;
   focused_ = now;
@@ -71,26 +71,27 @@ void CanvasAccessible::Tell() {
   }
 }
 
-void CanvasAccessible::TellLabel(const forms::Label& label) {
+void CanvasAccessible::NotifyLabel(const forms::Label& label) {
   QAccessibleInterface& marker = *MarkerOf(label);
-  const Told now{NameOf(label), WhereaboutsOf(label), PlaceOf(label), LookOf(label) != Look::Plain};
-  const auto [entry, isNew] = told_.try_emplace(&label, now);
+  const NotifiedState now{MarkerName(label), PositionTextOf(label), ScreenRectOf(label),
+                          MarkerStateOf(label) != MarkerState::Plain};
+  const auto [entry, isNew] = notified_.try_emplace(&label, now);
   if (isNew) return Send(marker, QAccessible::ObjectCreated);
-  const Told before = std::exchange(entry->second, now);
+  const NotifiedState before = std::exchange(entry->second, now);
   if (now.Name != before.Name) Send(marker, QAccessible::NameChanged);
   if (now.Place != before.Place) Send(marker, QAccessible::LocationChanged);
-  if (now.Whereabouts != before.Whereabouts) Send(marker, QAccessible::DescriptionChanged);
+  if (now.PositionText != before.PositionText) Send(marker, QAccessible::DescriptionChanged);
   if (now.Selected == before.Selected) return;
   Send(marker, now.Selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
 }
 
-void CanvasAccessible::TellGone(const forms::Control& label) {
-  if (told_.erase(&label) == 0) return;
+void CanvasAccessible::NotifyRemoved(const forms::Control& label) {
+  if (notified_.erase(&label) == 0) return;
   Send(*QAccessible::accessibleInterface(ids_.at(&label)), QAccessible::ObjectDestroyed);
 }
 
-void CanvasAccessible::Gone(const forms::Control& label) {
-  TellGone(label);
+void CanvasAccessible::Forget(const forms::Control& label) {
+  NotifyRemoved(label);
   if (focused_ == &label) focused_ = nullptr;
   const auto id = ids_.find(&label);
   if (id == ids_.end()) return;
@@ -98,20 +99,20 @@ void CanvasAccessible::Gone(const forms::Control& label) {
   ids_.erase(id);
 }
 
-QString CanvasAccessible::NameOf(const forms::Label& label) const {
-  return paint::ShownText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
-                                                 : label.Caption.Get());
+QString CanvasAccessible::MarkerName(const forms::Label& label) const {
+  return paint::ElidedText(label.AccessibleNameOf ? label.AccessibleNameOf(label.Index())
+                                                  : label.Caption.Get());
 }
 
-QString CanvasAccessible::WhereaboutsOf(const forms::Label& label) const {
-  const forms::PointerRouter& pointer = label.Owner()->Pointer;
-  const QPoint corner = canvas_.WhereIs(label).topLeft();
-  const bool held = pointer.Holds() && &pointer.InFlight()->Source == &label;
+QString CanvasAccessible::PositionTextOf(const forms::Label& label) const {
+  const forms::PointerRouter& pointer = label.ParentForm()->Pointer;
+  const QPoint corner = canvas_.PictureRectOf(label).topLeft();
+  const bool held = pointer.HasKeyDrag() && &pointer.CurrentDrag()->Source == &label;
   return QString(held ? "held at %1, %2" : "at %1, %2").arg(corner.x()).arg(corner.y());
 }
 
-QRect CanvasAccessible::PlaceOf(const forms::Label& label) const {
-  const QRect inBox = canvas_.PlaceOf(label);
+QRect CanvasAccessible::ScreenRectOf(const forms::Label& label) const {
+  const QRect inBox = canvas_.WidgetRectOf(label);
   return {canvas_.mapToGlobal(inBox.topLeft()), inBox.size()};
 }
 
@@ -119,10 +120,10 @@ QAccessible::State CanvasAccessible::StateOf(const forms::Label& label) const {
   QAccessible::State state = QAccessibleWidget::state();
   state.multiSelectable = false;
   state.focusable = state.selectable = true;
-  state.selected = LookOf(label) != Look::Plain;
+  state.selected = MarkerStateOf(label) != MarkerState::Plain;
   state.focused = Focused() == &label;
   state.invisible = state.invisible || !label.Visible;
-  state.offscreen = state.offscreen || !canvas_.View().intersects(canvas_.PlaceOf(label));
+  state.offscreen = state.offscreen || !canvas_.Viewport().intersects(canvas_.WidgetRectOf(label));
   return state;
 }
 
@@ -151,7 +152,7 @@ QAccessibleInterface* CanvasAccessible::MarkerOf(const forms::Label& label) cons
 }
 
 const forms::Label* CanvasAccessible::Focused() const {
-  const forms::Control* const ringed = canvas_.ShownRinged();
+  const forms::Control* const ringed = canvas_.VisibleCursorItem();
   const bool label = ringed != nullptr && IsLabel(ringed);
   return label ? static_cast<const forms::Label*>(ringed) : nullptr;
 }
@@ -180,7 +181,7 @@ QAccessibleInterface* CanvasAccessible::childAt(int x, int y) const {
   const auto& stack = canvas_.Box().Children();
   const auto hit = std::find_if(stack.rbegin(), stack.rend(), [&](const forms::Control* child) {
     return IsLabel(child) && child->Visible &&
-           PlaceOf(static_cast<const forms::Label&>(*child)).contains(x, y);
+           ScreenRectOf(static_cast<const forms::Label&>(*child)).contains(x, y);
   });
   if (hit == stack.rend() || !rect().contains(x, y)) return QAccessibleWidget::childAt(x, y);
   return MarkerOf(static_cast<const forms::Label&>(**hit));

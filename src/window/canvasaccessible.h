@@ -21,18 +21,18 @@ class CanvasAccessible final : public QAccessibleWidget {
 
   /// Tells of the labels that came, went, moved or changed name or state since the last call, and
   /// of the one that the keyboard is at.
-  void Tell();
+  void NotifyChanges();
   /// A label is about to go; only its identity is used.
-  void Gone(const forms::Control& label);
+  void Forget(const forms::Control& label);
   /// The widget itself has just been told to have the keyboard.
   void Refocused() { focused_ = nullptr; }
 
-  QString NameOf(const forms::Label& label) const;
+  QString MarkerName(const forms::Label& label) const;
   /// Its corner in pixels of the picture, also while the keyboard carries it. Of a move readers
   /// hear by this alone: Qt 6.4 does not pass on that a place has changed.
-  QString WhereaboutsOf(const forms::Label& label) const;
+  QString PositionTextOf(const forms::Label& label) const;
   /// On the screen.
-  QRect PlaceOf(const forms::Label& label) const;
+  QRect ScreenRectOf(const forms::Label& label) const;
   QAccessible::State StateOf(const forms::Label& label) const;
 
   int childCount() const override;
@@ -43,9 +43,9 @@ class CanvasAccessible final : public QAccessibleWidget {
   QAccessible::State state() const override;
 
  private:
-  struct Told {
+  struct NotifiedState {
     QString Name;
-    QString Whereabouts;
+    QString PositionText;
     QRect Place;
     bool Selected = false;
   };
@@ -53,15 +53,15 @@ class CanvasAccessible final : public QAccessibleWidget {
   /// The labels that can be seen on the picture, array by array and by number.
   std::vector<const forms::Label*> Markers() const;
   QAccessibleInterface* MarkerOf(const forms::Label& label) const;
-  void TellLabel(const forms::Label& label);
-  void TellGone(const forms::Control& label);
+  void NotifyLabel(const forms::Label& label);
+  void NotifyRemoved(const forms::Control& label);
   /// The label that has the keyboard; null for none.
   const forms::Label* Focused() const;
 
   CanvasView& canvas_;
   /// What has been made for a label; Qt keeps it until it is told otherwise.
   mutable std::unordered_map<const forms::Control*, QAccessible::Id> ids_;
-  std::unordered_map<const forms::Control*, Told> told_;
+  std::unordered_map<const forms::Control*, NotifiedState> notified_;
   const forms::Label* focused_ = nullptr;
 };
 

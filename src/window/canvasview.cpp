@@ -18,10 +18,11 @@ namespace {
 
 constexpr int WheelStep = 48;  // pixels a notch
 constexpr int NotchAngle = 120;
-constexpr double AirOpacity = 0.75;
+constexpr double DragOpacity = 0.75;
 constexpr int ZoomLabelGap = 4;
 
-void LayBar(QScrollBar& bar, const QRect& place, int extent, int view, int value, bool shown) {
+void PlaceScrollBar(QScrollBar& bar, const QRect& place, int extent, int view, int value,
+                    bool shown) {
   const QSignalBlocker still(&bar);
   bar.setGeometry(place);
   bar.setRange(0, std::max(0, extent - view));
@@ -44,14 +45,14 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
     : QWidget(&container),
       ControlView(box, *this),
       box_(box),
-      across_(Qt::Horizontal, this),
-      down_(Qt::Vertical, this),
+      horizontalBar_(Qt::Horizontal, this),
+      verticalBar_(Qt::Vertical, this),
       zoom_(this),
-      ringed_(box.Ringed) {
+      cursorItem_(box.CursorItem) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   if (box.TabStop) setFocusPolicy(Qt::TabFocus);
-  const auto scroll = [this] { box_.ScrollTo(across_.value(), down_.value()); };
-  for (QScrollBar* bar : {&across_, &down_}) {
+  const auto scroll = [this] { box_.ScrollTo(horizontalBar_.value(), verticalBar_.value()); };
+  for (QScrollBar* bar : {&horizontalBar_, &verticalBar_}) {
     // Not the hand that may be over the picture.
     bar->setCursor(Qt::ArrowCursor);
     connect(bar, &QScrollBar::valueChanged, this, scroll);
@@ -62,21 +63,21 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
   zoom_.setBackgroundRole(QPalette::ToolTipBase);
   zoom_.setForegroundRole(QPalette::ToolTipText);
   zoom_.setMargin(2);
-  LayBars();
-  LayZoomLabel();
+  PlaceScrollBars();
+  PlaceZoomLabel();
 }
 
-void CanvasView::LayBars() {
+void CanvasView::PlaceScrollBars() {
   const int width = box_.ViewWidth();
   const int height = box_.ViewHeight();
   const int thick = forms::PictureBox::ScrollBarExtent;
-  LayBar(across_, {0, height, width, thick}, box_.ShownWidth(), width, box_.ScrollLeft,
-         box_.ScrollsAcross());
-  LayBar(down_, {width, 0, thick, height}, box_.ShownHeight(), height, box_.ScrollTop,
-         box_.ScrollsDown());
+  PlaceScrollBar(horizontalBar_, {0, height, width, thick}, box_.ZoomedWidth(), width,
+                 box_.ScrollLeft, box_.ScrollsAcross());
+  PlaceScrollBar(verticalBar_, {width, 0, thick, height}, box_.ZoomedHeight(), height,
+                 box_.ScrollTop, box_.ScrollsDown());
 }
 
-void CanvasView::LayZoomLabel() {
+void CanvasView::PlaceZoomLabel() {
   const forms::Magnification zoom = box_.Zoom;
   const QString text = QString("%1 %").arg(100 * zoom.Screen / zoom.Picture);
   if (text != zoom_.text()) {
@@ -90,70 +91,71 @@ void CanvasView::LayZoomLabel() {
 }
 
 void CanvasView::ShowOwn(forms::PropertyId id) {
-  if (id == forms::PropertyId::Ringed) return MoveRing();
-  LayBars();
-  LayZoomLabel();
-  flightSeen_ = Flight();
+  if (id == forms::PropertyId::CursorItem) return MoveRing();
+  PlaceScrollBars();
+  PlaceZoomLabel();
+  shownDragRect_ = DragRect();
   update();
 }
 
-const forms::Control* CanvasView::ShownRinged() const {
-  const forms::Control* const ringed = box_.Ringed;
+const forms::Control* CanvasView::VisibleCursorItem() const {
+  const forms::Control* const ringed = box_.CursorItem;
   return hasFocus() && ringed != nullptr && ringed->Visible ? ringed : nullptr;
 }
 
 void CanvasView::MoveRing() {
-  const forms::Control* const now = box_.Ringed;
-  for (const forms::Control* label : {std::exchange(ringed_, now), now}) {
+  const forms::Control* const now = box_.CursorItem;
+  for (const forms::Control* label : {std::exchange(cursorItem_, now), now}) {
     const auto seen = seen_.find(label);
     // Without the keyboard there is no ring to be seen.
-    if (hasFocus() && seen != seen_.end()) update(Around(seen->second));
+    if (hasFocus() && seen != seen_.end()) update(DirtyRect(seen->second));
   }
 }
 
 void CanvasView::LabelChanged(const forms::Control& label) {
   QRect& seen = seen_[&label];
   const QRect now = label.Visible ? BoundsOf(label) : QRect();
-  if (!seen.isEmpty()) update(Around(seen));
-  if (!now.isEmpty()) update(Around(now));
+  if (!seen.isEmpty()) update(DirtyRect(seen));
+  if (!now.isEmpty()) update(DirtyRect(now));
   seen = now;
 }
 
-void CanvasView::LabelGone(const forms::Control& label) {
+void CanvasView::ForgetLabel(const forms::Control& label) {
   const auto seen = seen_.find(&label);
   if (seen == seen_.end()) return;
-  if (!seen->second.isEmpty()) update(Around(seen->second));
+  if (!seen->second.isEmpty()) update(DirtyRect(seen->second));
   seen_.erase(seen);
 }
 
-QRect CanvasView::InBox(const QRect& onPicture) const {
-  const forms::PixelRect area = forms::InBox(
+QRect CanvasView::MapToBox(const QRect& onPicture) const {
+  const forms::PixelRect area = forms::MapToBox(
       box_, forms::PixelRect{onPicture.x(), onPicture.y(), onPicture.width(), onPicture.height()});
   return {area.Left, area.Top, area.Width, area.Height};
 }
 
-QRect CanvasView::Around(const QRect& onPicture) const {
-  return Widened(InBox(onPicture));
+QRect CanvasView::DirtyRect(const QRect& onPicture) const {
+  return Widened(MapToBox(onPicture));
 }
 
-QRect CanvasView::WhereIs(const forms::Control& label) const {
-  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
+QRect CanvasView::PictureRectOf(const forms::Control& label) const {
+  const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
   QRect area = BoundsOf(label);
-  if (!pointer.Holds()) return area;
-  const auto flight = *pointer.InFlight();
-  if (&flight.Source == &label) area.moveTo(flight.Corner.X, flight.Corner.Y);
+  if (!pointer.HasKeyDrag()) return area;
+  const auto flight = *pointer.CurrentDrag();
+  if (&flight.Source == &label) area.moveTo(flight.TopLeft.X, flight.TopLeft.Y);
   return area;
 }
 
-QRect CanvasView::Flight() const {
-  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
-  const auto flight = pointer.InFlight();
+QRect CanvasView::DragRect() const {
+  const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
+  const auto flight = pointer.CurrentDrag();
   if (!flight || flight->Source.Container() != &box_) return {};
-  QRect area = InBox({QPoint(flight->Corner.X, flight->Corner.Y), BoundsOf(flight->Source).size()});
-  const forms::PixelPoint grip = forms::InBox(box_, flight->Grip);
-  const QRect view = View();
+  QRect area =
+      MapToBox({QPoint(flight->TopLeft.X, flight->TopLeft.Y), BoundsOf(flight->Source).size()});
+  const forms::PixelPoint grip = forms::MapToBox(box_, flight->HotSpot);
+  const QRect view = Viewport();
   // Where no pointer shows its place, it has to be seen where it is, as far as it can be.
-  if (pointer.Holds() ? view.intersects(area) : view.contains(grip.X, grip.Y)) return area;
+  if (pointer.HasKeyDrag() ? view.intersects(area) : view.contains(grip.X, grip.Y)) return area;
   // Carried out of sight, it waits at the edge.
   area.moveLeft(std::clamp(area.left(), 0, std::max(0, view.width() - area.width())));
   area.moveTop(std::clamp(area.top(), 0, std::max(0, view.height() - area.height())));
@@ -161,30 +163,31 @@ QRect CanvasView::Flight() const {
 }
 
 void CanvasView::PointerMoved() {
-  if (const QRect flight = Flight(); flight != flightSeen_) {
-    update(Widened(flightSeen_));
-    flightSeen_ = flight;
-    update(Widened(flightSeen_));
+  if (const QRect flight = DragRect(); flight != shownDragRect_) {
+    update(Widened(shownDragRect_));
+    shownDragRect_ = flight;
+    update(Widened(shownDragRect_));
     // Put back, a marker has its ring where it stands.
-    if (flight.isEmpty() && box_.Ringed != nullptr) update(Around(BoundsOf(*box_.Ringed)));
+    if (flight.isEmpty() && box_.CursorItem != nullptr)
+      update(DirtyRect(BoundsOf(*box_.CursorItem)));
   }
-  ShowHand();
+  UpdateCursorShape();
 }
 
-void CanvasView::ShowHand() {
-  const forms::PointerRouter& pointer = box_.Owner()->Pointer;
-  const forms::PixelPoint at = pointer.At();
+void CanvasView::UpdateCursorShape() {
+  const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
+  const forms::PixelPoint at = pointer.Position();
   Qt::CursorShape shape = Qt::ArrowCursor;
-  if (pointer.Hovered(at.X, at.Y).Container() == &box_) shape = Qt::OpenHandCursor;
-  if (pointer.DragsByMouse()) shape = Qt::ClosedHandCursor;
+  if (pointer.HoveredControlAt(at.X, at.Y).Container() == &box_) shape = Qt::OpenHandCursor;
+  if (pointer.HasMouseDrag()) shape = Qt::ClosedHandCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
   // Another thing may lie by now under a pointer that stands still.
-  ShowHand();
+  UpdateCursorShape();
   QPainter painter(this);
-  const QRect view = View();
+  const QRect view = Viewport();
   if (!view.contains(event->rect())) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
@@ -192,14 +195,14 @@ void CanvasView::paintEvent(QPaintEvent* event) {
   // Where the scale is no whole number, what is painted may reach a line beyond.
   paint::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
   paint::ForEachLabel(box_, [&](const forms::Label& label) {
-    const QRect area = InBox(BoundsOf(label));
+    const QRect area = MapToBox(BoundsOf(label));
     if (!event->rect().intersects(area)) return;
     painter.setClipRect(area & view);
     PaintMarker(painter, area, label);
   });
   painter.setClipRect(view);
-  PaintFlight(painter);
-  if (hasFocus()) PaintKeys(painter);
+  PaintDrag(painter);
+  if (hasFocus()) PaintFocus(painter);
 }
 
 void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
@@ -208,11 +211,11 @@ void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
   paint::PaintLabel(painter, area, static_cast<double>(zoom.Screen) / zoom.Picture, label);
 }
 
-void CanvasView::PaintFlight(QPainter& painter) const {
-  const QRect area = Flight();
+void CanvasView::PaintDrag(QPainter& painter) const {
+  const QRect area = DragRect();
   if (area.isEmpty()) return;
-  painter.setOpacity(AirOpacity);
-  const forms::Control& source = box_.Owner()->Pointer.InFlight()->Source;
+  painter.setOpacity(DragOpacity);
+  const forms::Control& source = box_.ParentForm()->Pointer.CurrentDrag()->Source;
   if (source.Kind() == forms::ControlKind::Label) {
     PaintMarker(painter, area, static_cast<const forms::Label&>(source));
   }
@@ -221,18 +224,18 @@ void CanvasView::PaintFlight(QPainter& painter) const {
 }
 
 /// That the box has the keyboard, and what its keys act on.
-void CanvasView::PaintKeys(QPainter& painter) const {
-  if (const forms::Control* const ringed = ShownRinged()) {
-    const bool held = box_.Owner()->Pointer.Holds();
-    paint::PaintRing(painter, held ? Flight() : InBox(BoundsOf(*ringed)));
+void CanvasView::PaintFocus(QPainter& painter) const {
+  if (const forms::Control* const ringed = VisibleCursorItem()) {
+    const bool held = box_.ParentForm()->Pointer.HasKeyDrag();
+    paint::PaintRing(painter, held ? DragRect() : MapToBox(BoundsOf(*ringed)));
   }
-  paint::DrawFocusRing(painter, View());
+  paint::DrawFocusRing(painter, Viewport());
 }
 
 void CanvasView::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta();
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    return TurnZoom(turn.y(), PixelAt(*this, event->position()));
+    return ZoomByWheel(turn.y(), MapToPixel(*this, event->position()));
   }
   zoomTurn_ = 0;
   const bool across = event->modifiers().testFlag(Qt::ShiftModifier);
@@ -243,7 +246,7 @@ void CanvasView::wheelEvent(QWheelEvent* event) {
   box_.ScrollBy(-step.x(), -step.y());
 }
 
-void CanvasView::TurnZoom(int angle, QPoint about) {
+void CanvasView::ZoomByWheel(int angle, QPoint about) {
   zoomTurn_ += angle;
   const forms::PixelPoint at{about.x(), about.y()};
   for (; zoomTurn_ >= NotchAngle; zoomTurn_ -= NotchAngle) box_.ZoomTo(Larger(box_.Zoom), at);

@@ -18,18 +18,18 @@ class CanvasView : public QWidget, public ControlView {
 
   const forms::PictureBox& Box() const { return box_; }
   /// What the scroll bars leave, in pixels of the widget.
-  QRect View() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
+  QRect Viewport() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
   /// What the box's keys act on, which has a ring; null while there is none to be seen.
-  const forms::Control* ShownRinged() const;
+  const forms::Control* VisibleCursorItem() const;
 
   /// A label on the picture is new or has changed.
   void LabelChanged(const forms::Control& label);
   /// A label is about to go; only its identity is used.
-  void LabelGone(const forms::Control& label);
+  void ForgetLabel(const forms::Control& label);
   /// Where a label is in pixels of the picture, also while the keyboard carries it.
-  QRect WhereIs(const forms::Control& label) const;
+  QRect PictureRectOf(const forms::Control& label) const;
   /// The same in pixels of the widget; it may have scrolled out of view.
-  QRect PlaceOf(const forms::Control& label) const { return InBox(WhereIs(label)); }
+  QRect WidgetRectOf(const forms::Control& label) const { return MapToBox(PictureRectOf(label)); }
   /// The pointer moved, or the marker in the air moved, appeared or went.
   void PointerMoved();
 
@@ -41,35 +41,35 @@ class CanvasView : public QWidget, public ControlView {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void LayBars();
-  void LayZoomLabel();
+  void PlaceScrollBars();
+  void PlaceZoomLabel();
   void MoveRing();
-  void ShowHand();
-  void TurnZoom(int angle, QPoint about);
+  void UpdateCursorShape();
+  void ZoomByWheel(int angle, QPoint about);
 
-  QRect InBox(const QRect& onPicture) const;
+  QRect MapToBox(const QRect& onPicture) const;
   /// What is painted for something at a place of the picture, its ring included.
-  QRect Around(const QRect& onPicture) const;
+  QRect DirtyRect(const QRect& onPicture) const;
   /// Where the marker in the air is shown; empty when there is none.
-  QRect Flight() const;
+  QRect DragRect() const;
 
   void PaintMarker(QPainter& painter, const QRect& area, const forms::Label& label) const;
-  void PaintFlight(QPainter& painter) const;
-  void PaintKeys(QPainter& painter) const;
+  void PaintDrag(QPainter& painter) const;
+  void PaintFocus(QPainter& painter) const;
 
   forms::PictureBox& box_;
-  QScrollBar across_;
-  QScrollBar down_;
+  QScrollBar horizontalBar_;
+  QScrollBar verticalBar_;
   QLabel zoom_;
   /// What the wheel has turned towards the next magnification, in eighths of a degree.
   int zoomTurn_ = 0;
   /// What it has turned towards the next pixel, in parts of one: NotchAngle make a pixel.
   QPoint scrollRest_;
   /// The label that was ringed last; only its identity is used.
-  const forms::Control* ringed_;
+  const forms::Control* cursorItem_;
   /// Where each visible label was last seen, in pixels of the picture.
   std::unordered_map<const forms::Control*, QRect> seen_;
-  QRect flightSeen_;
+  QRect shownDragRect_;
 };
 
 }  // namespace terramark::window

@@ -8,7 +8,7 @@ namespace terramark::window {
 
 namespace {
 
-bool IsUsers(QEvent::Type type) {
+bool IsUserInput(QEvent::Type type) {
   switch (type) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -31,7 +31,7 @@ ClosedWindows::ClosedWindows() {
 }
 
 bool ClosedWindows::eventFilter(QObject* watched, QEvent* event) {
-  if (!IsUsers(event->type())) return false;
+  if (!IsUserInput(event->type())) return false;
   const auto* const window = qobject_cast<QWindow*>(watched);
   // A list that hangs from a box hands on what is left for it to the box that it hung from.
   return window != nullptr && !window->isVisible() && window->type() != Qt::Popup;

@@ -21,17 +21,17 @@ namespace terramark::window {
 namespace {
 
 /// Of a device pixel, by which its place may come out too small when it is scaled there and back.
-constexpr double Slack = 1e-4;
+constexpr double RoundingTolerance = 1e-4;
 
 /// Control arrays begin at element 0, so a name alone does not tell one from a lone control.
 bool InArray(const forms::Control& control) {
-  for (const forms::Control* other : control.Owner()->Controls()) {
+  for (const forms::Control* other : control.ParentForm()->Controls()) {
     if (other != &control && other->Name() == control.Name()) return true;
   }
   return false;
 }
 
-QString NameOf(const forms::Control& control) {
+QString ObjectName(const forms::Control& control) {
   const QString name = paint::FromCp1252(control.Name());
   return InArray(control) ? QString("%1(%2)").arg(name).arg(control.Index()) : name;
 }
@@ -39,7 +39,7 @@ QString NameOf(const forms::Control& control) {
 QFont FontOf(const forms::Control& control) {
   const bool formsOwn = control.Kind() == forms::ControlKind::CommandButton ||
                         control.Kind() == forms::ControlKind::Frame;
-  return (formsOwn ? paint::FormFont : paint::TextFont)(control.Owner()->Host);
+  return (formsOwn ? paint::FormFont : paint::TextFont)(control.ParentForm()->Host);
 }
 
 }  // namespace
@@ -47,7 +47,7 @@ QFont FontOf(const forms::Control& control) {
 ControlView::ControlView(forms::Control& control, QWidget& widget)
     : control_(control), widget_(widget) {
   const QString hint = paint::FromCp1252(control.ToolTipText);
-  widget.setObjectName(NameOf(control));
+  widget.setObjectName(ObjectName(control));
   widget.setToolTip(hint);
   widget.setAccessibleName(paint::FromCp1252(control.AccessibleName));
   widget.setAccessibleDescription(hint);
@@ -81,14 +81,14 @@ QRect BoundsOf(const forms::Control& control) {
   return {bounds.Left, bounds.Top, bounds.Width, bounds.Height};
 }
 
-QPoint PixelAt(const QWidget& widget, const QPointF& place) {
+QPoint MapToPixel(const QWidget& widget, const QPointF& place) {
   const QWidget& window = *widget.window();
   const QPointF inside = widget.mapTo(&window, place);
   // The events' scale is the window's own; the painter's is rounded.
   const double told = window.windowHandle()->devicePixelRatio();
   const double painted = window.devicePixelRatioF();
   const auto shown = [&](double at) {
-    return paint::ShownBy(qFloor(told * at + Slack), painted, 0);
+    return paint::MapFromDevice(qFloor(told * at + RoundingTolerance), painted, 0);
   };
   return widget.mapFrom(&window, QPoint(shown(inside.x()), shown(inside.y())));
 }

@@ -9,6 +9,9 @@
 
 namespace terramark::window {
 
+/// Who answers the mouse over a widget: the pointer router alone, or the widget too.
+enum class MouseUse { RouterOnly, WidgetToo };
+
 class ControlView {
  public:
   ControlView(const ControlView&) = delete;
@@ -22,8 +25,7 @@ class ControlView {
   /// else in the view of the kind.
   void Changed(forms::PropertyId id);
 
-  /// Whether the widget answers the mouse by itself, beside what the pointer router hears.
-  virtual bool OwnMouse() const { return false; }
+  virtual MouseUse Mouse() const { return MouseUse::RouterOnly; }
 
  protected:
   /// Names the widget after the control, "Name" or "Name(i)", and places it.
@@ -42,7 +44,7 @@ QRect BoundsOf(const forms::Control& control);
 
 /// The pixel of a widget that is seen at a place in it, as an event tells it: where a pixel of the
 /// device begins. The widget's window must have been shown.
-QPoint PixelAt(const QWidget& widget, const QPointF& place);
+QPoint MapToPixel(const QWidget& widget, const QPointF& place);
 
 /// Makes the view of a control inside its container's widget, by its kind; null for a form. It must
 /// go before the container's widget does.

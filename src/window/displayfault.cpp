@@ -9,7 +9,7 @@ namespace terramark::window {
 
 namespace {
 
-void HearJoining(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   static QStringList held;
   const QString line = qFormatLogMessage(type, context, text);
   if (type == QtFatalMsg) {
@@ -34,11 +34,11 @@ void HearJoining(QtMsgType type, const QMessageLogContext& context, const QStrin
 
 }  // namespace
 
-void BeginJoiningDisplay() {
-  qInstallMessageHandler(HearJoining);
+void BeginDisplayConnection() {
+  qInstallMessageHandler(HandleMessage);
 }
 
-void EndJoiningDisplay() {
+void EndDisplayConnection() {
   qInstallMessageHandler(nullptr);
 }
 

@@ -7,9 +7,9 @@ namespace terramark::window {
 /// Before the application is made. The messages about joining the display are held back from here
 /// on; if that fails, the process ends with EXIT_FAILURE, and one line tells of it where the
 /// display is at fault. All other messages go to standard error.
-void BeginJoiningDisplay();
+void BeginDisplayConnection();
 
 /// Once the application is made: what was held back is dropped, and messages go their usual way.
-void EndJoiningDisplay();
+void EndDisplayConnection();
 
 }  // namespace terramark::window

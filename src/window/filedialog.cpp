@@ -23,14 +23,14 @@
 
 #include "paint/cp1252.h"
 #include "shell/filenames.h"
-#include "widgets/screenroom.h"
 #include "widgets/scrollbarnames.h"
+#include "widgets/windowsize.h"
 
 namespace terramark::window {
 
 namespace {
 
-constexpr QSize UsualSize(760, 480);
+constexpr QSize DefaultSize(760, 480);
 
 /// What the files of a pattern list are called.
 struct FileKind {
@@ -40,7 +40,7 @@ struct FileKind {
 
 constexpr FileKind Kinds[] = {{LayoutFiles, "Map Layouts"}, {PictureFiles, "Pictures"}};
 
-QString Worded(const std::string& filter) {
+QString NameFilterOf(const std::string& filter) {
   // Patterns stand between semicolons here and between blanks there.
   QString patterns = paint::FromCp1252(filter).replace(';', ' ');
   for (const FileKind& kind : Kinds) {
@@ -72,7 +72,7 @@ void WidenFor(const QTreeView& list, QFileDialog& chooser) {
   const int lack = list.header()->length() - list.viewport()->width();
   if (!chooser.isVisible() || lack <= 0) return;
   const QRect screen = chooser.screen()->availableGeometry();
-  chooser.resize(std::min(chooser.width() + lack, widgets::RoomFor(chooser).width()),
+  chooser.resize(std::min(chooser.width() + lack, widgets::MaxWindowSizeFor(chooser).width()),
                  chooser.height());
   const int beyond = chooser.frameGeometry().right() - screen.right();
   if (beyond > 0) chooser.move(std::max(screen.left(), chooser.x() - beyond), chooser.y());
@@ -90,7 +90,7 @@ void ShowWholeColumns(QFileDialog& chooser) {
 }
 
 /// Names what has no words of its own for assistive tools.
-void NameParts(const QFileDialog& chooser) {
+void SetAccessibleNames(const QFileDialog& chooser) {
   for (auto* box : chooser.findChildren<QComboBox*>()) {
     const bool ofTypes = box->findText(chooser.nameFilters().value(0)) >= 0;
     const QString words = chooser.labelText(ofTypes ? QFileDialog::FileType : QFileDialog::LookIn);
@@ -104,7 +104,7 @@ void NameParts(const QFileDialog& chooser) {
 
 /// Each place of the side bar that opens would take its list's place away, so that the next arrow
 /// began anew.
-void KeepPlace(const QListView& bar) {
+void KeepCurrentItem(const QListView& bar) {
   QItemSelectionModel* const places = bar.selectionModel();
   QObject::connect(
       places, &QItemSelectionModel::selectionChanged, &bar, [places](const QItemSelection& opened) {
@@ -115,17 +115,17 @@ void KeepPlace(const QListView& bar) {
       });
 }
 
-void KeepPlaceInSideBar(const QFileDialog& chooser) {
+void KeepCurrentItemInSideBar(const QFileDialog& chooser) {
   for (const auto* list : chooser.findChildren<QListView*>()) {
-    if (qobject_cast<QSplitter*>(list->parentWidget()) != nullptr) KeepPlace(*list);
+    if (qobject_cast<QSplitter*>(list->parentWidget()) != nullptr) KeepCurrentItem(*list);
   }
 }
 
 /// The lists of names that come up under a line while one types. They would hand Enter on to the
 /// line, so that the same key took a name and closed the dialog under the list.
-class NamesLists final : public QObject {
+class CompleterPopups final : public QObject {
  public:
-  explicit NamesLists(const QFileDialog& chooser) {
+  explicit CompleterPopups(const QFileDialog& chooser) {
     for (auto* line : chooser.findChildren<QLineEdit*>()) {
       if (line->completer() == nullptr) continue;
       line->completer()->popup()->installEventFilter(this);
@@ -173,14 +173,14 @@ QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWid
   chooser.setAcceptMode(asked.Purpose.Saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   chooser.setFileMode(QFileDialog::AnyFile);
   chooser.setOption(QFileDialog::DontConfirmOverwrite);
-  chooser.setNameFilters({Worded(asked.Filter), "All files (*)"});
+  chooser.setNameFilters({NameFilterOf(asked.Filter), "All files (*)"});
   chooser.setViewMode(QFileDialog::Detail);
   AddSamples(chooser);
   ShowWholeColumns(chooser);
-  NameParts(chooser);
-  KeepPlaceInSideBar(chooser);
-  NamesLists lists(chooser);
-  chooser.resize(UsualSize.boundedTo(widgets::RoomFor(chooser)));
+  SetAccessibleNames(chooser);
+  KeepCurrentItemInSideBar(chooser);
+  CompleterPopups lists(chooser);
+  chooser.resize(DefaultSize.boundedTo(widgets::MaxWindowSizeFor(chooser)));
   if (chooser.exec() != QDialog::Accepted) return {};
   return chooser.selectedFiles().value(0);
 }

@@ -7,9 +7,9 @@
 #include "forms/geometry.h"
 #include "paint/cp1252.h"
 #include "paint/screencolour.h"
+#include "window/appstyle.h"
 #include "window/canvasview.h"
 #include "window/controlview.h"
-#include "window/look.h"
 
 namespace terramark::window {
 
@@ -27,15 +27,15 @@ bool OnCanvas(const forms::Control& control) {
 FormView::FormView(forms::Form& form, QWidget& parent)
     : QWidget(&parent), form_(form), pointer_(form, *this), keys_(form) {
   setObjectName("inside");
-  pointer_.Watch(*this, false);
+  pointer_.Watch(*this, MouseUse::RouterOnly);
   keys_.Watch(*this, nullptr);
   keys_.Watch(parent, nullptr);
   FormChanged(forms::PropertyId::BackColor);
   for (forms::Control* control : form.Controls()) ControlAdded(*control);
-  LayTabOrder();
-  JoinLabels();
+  InitTabOrder();
+  SetLabelBuddies();
   dragScroll_.setInterval(DragScrollMilliseconds);
-  connect(&dragScroll_, &QTimer::timeout, this, [this] { form_.Pointer.ScrollByDrag(); });
+  connect(&dragScroll_, &QTimer::timeout, this, [this] { form_.Pointer.AutoScroll(); });
   form.Observe(this);
 }
 
@@ -56,20 +56,20 @@ void FormView::ControlAdded(forms::Control& control) {
     return ShowOnCanvas(control);
   }
   views_.push_back(MakeView(control, inForm ? *this : ViewOf(container)->Widget()));
-  Attend(*views_.back());
+  WatchInput(*views_.back());
   accessibility_.Added(*views_.back());
 }
 
 /// Listens to the mouse over a view and over what the view is made of, and to its keys.
-void FormView::Attend(ControlView& view) {
+void FormView::WatchInput(ControlView& view) {
   QWidget& widget = view.Widget();
-  pointer_.Watch(widget, view.OwnMouse());
-  for (QWidget* part : widget.findChildren<QWidget*>()) pointer_.Watch(*part, true);
+  pointer_.Watch(widget, view.Mouse());
+  for (QWidget* part : widget.findChildren<QWidget*>()) pointer_.Watch(*part, MouseUse::WidgetToo);
   // Others get only the keys that those in them have left.
   if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, &view.Shown());
 }
 
-void FormView::LayTabOrder() {
+void FormView::InitTabOrder() {
   QWidget* last = nullptr;
   for (const forms::Control* control : form_.Controls()) {
     QWidget* widget = WidgetOf(*control);
@@ -81,7 +81,7 @@ void FormView::LayTabOrder() {
 }
 
 /// Tells assistive tools what a label over a control names.
-void FormView::JoinLabels() {
+void FormView::SetLabelBuddies() {
   for (const forms::Control* control : form_.Controls()) {
     if (control->Kind() != forms::ControlKind::Label || OnCanvas(*control)) continue;
     const forms::Control* named = static_cast<const forms::Label*>(control)->LabelFor;
@@ -94,7 +94,7 @@ QSize FormView::DesignSize() const {
   return {bounds.Width, bounds.Height};
 }
 
-void FormView::DressWindow() {
+void FormView::ApplyWindowProperties() {
   window()->setWindowIcon(WindowIcon());
   FormChanged(forms::PropertyId::Caption);
   FormChanged(forms::PropertyId::Left);
@@ -136,9 +136,9 @@ QWidget* FormView::WidgetOf(const forms::Control& control) const {
 }
 
 void FormView::ControlRemoved(forms::Control& control) {
-  accessibility_.Gone(control);
+  accessibility_.Forget(control);
   for (const auto& view : views_) {
-    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->LabelGone(control);
+    if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->ForgetLabel(control);
   }
   std::erase_if(views_, [&control](const auto& view) { return &view->Shown() == &control; });
 }
@@ -176,7 +176,7 @@ void FormView::PointerMoved() {
   for (const auto& view : views_) {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->PointerMoved();
   }
-  const bool dragging = form_.Pointer.DragsByMouse();
+  const bool dragging = form_.Pointer.HasMouseDrag();
   // What the keyboard carries has to be heard; whoever drags with the mouse sees.
   if (!dragging) accessibility_.Changed(form_);
   if (dragging == dragScroll_.isActive()) return;

@@ -26,7 +26,7 @@ class FormView final : public QWidget, private forms::FormObserver {
   /// Size of the form's client area, in pixels.
   QSize DesignSize() const;
   /// Puts the form's caption, icon and place on the window that holds the view.
-  void DressWindow();
+  void ApplyWindowProperties();
   /// The widget of a control; null for a label on a picture.
   QWidget* WidgetOf(const forms::Control& control) const;
 
@@ -49,9 +49,9 @@ class FormView final : public QWidget, private forms::FormObserver {
   void FormChanged(forms::PropertyId id);
   void ShowOnCanvas(const forms::Control& label);
   ControlView* ViewOf(const forms::Control& control) const;
-  void Attend(ControlView& view);
-  void LayTabOrder();
-  void JoinLabels();
+  void WatchInput(ControlView& view);
+  void InitTabOrder();
+  void SetLabelBuddies();
 
   forms::Form& form_;
   PointerFeed pointer_;

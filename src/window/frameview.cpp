@@ -2,10 +2,10 @@
 
 #include <QPainter>
 
+#include "paint/elidedtext.h"
 #include "paint/frames.h"
 #include "paint/lettering.h"
 #include "paint/screencolour.h"
-#include "paint/showntext.h"
 
 namespace terramark::window {
 
@@ -21,7 +21,7 @@ FrameView::FrameView(forms::Frame& frame, QWidget& container)
 
 void FrameView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::Caption)
-    setTitle(paint::ShownText(frame_.Caption).replace('&', "&&"));
+    setTitle(paint::ElidedText(frame_.Caption).replace('&', "&&"));
   update();
 }
 
@@ -34,7 +34,7 @@ void FrameView::paintEvent(QPaintEvent* /*event*/) {
   const QColor light = palette().color(QPalette::Light);
   paint::DrawBevel(painter, rect().adjusted(0, metrics.height() / 2, 0, 0),
                    {dark, light, light, dark});
-  const QString caption = paint::ShownText(frame_.Caption);
+  const QString caption = paint::ElidedText(frame_.Caption);
   if (caption.isEmpty()) return;
   const int width = metrics.horizontalAdvance(caption) + 2 * CaptionPadding;
   const QRect place(CaptionLeft, 0, qMin(width, this->width() - 2 * CaptionLeft), metrics.height());

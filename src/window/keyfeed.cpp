@@ -68,11 +68,11 @@ bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::KeyPress: {
       const auto& key = *static_cast<QKeyEvent*>(event);
-      return Hears(*watched, key) && Pressed(key);
+      return Accepts(*watched, key) && Pressed(key);
     }
     case QEvent::KeyRelease: {
       const auto& key = *static_cast<QKeyEvent*>(event);
-      if (Hears(*watched, key)) Released(key);
+      if (Accepts(*watched, key)) Released(key);
       return false;
     }
     default:
@@ -81,11 +81,11 @@ bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// Once, on the key's way up from the widget that has the focus, which it may lose over the key.
-bool KeyFeed::Hears(const QObject& watched, const QKeyEvent& key) {
+bool KeyFeed::Accepts(const QObject& watched, const QKeyEvent& key) {
   const Stamp stamp{&key, key.type(), key.timestamp()};
-  const bool onItsWay = controls_.at(&watched) == nullptr && stamp == heard_;
+  const bool onItsWay = controls_.at(&watched) == nullptr && stamp == lastKey_;
   if (onItsWay || !HasFocus(watched)) return false;
-  heard_ = stamp;
+  lastKey_ = stamp;
   return true;
 }
 

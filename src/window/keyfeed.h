@@ -26,7 +26,7 @@ class KeyFeed : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool Hears(const QObject& watched, const QKeyEvent& key);
+  bool Accepts(const QObject& watched, const QKeyEvent& key);
   bool Pressed(const QKeyEvent& key);
   void Released(const QKeyEvent& key);
 
@@ -40,7 +40,7 @@ class KeyFeed : public QObject {
 
   forms::Form& form_;
   std::unordered_map<const QObject*, forms::Control*> controls_;
-  Stamp heard_;
+  Stamp lastKey_;
 };
 
 }  // namespace terramark::window

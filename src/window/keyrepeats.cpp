@@ -10,7 +10,7 @@ namespace {
 
 /// The place on the keyboard: with the Shift key let go in between, a key goes up under another
 /// name. Where the platform tells no places, the name.
-std::uint32_t CodeOf(const QKeyEvent& key) {
+std::uint32_t ScanCodeOf(const QKeyEvent& key) {
   constexpr std::uint32_t Named = 1U << 31U;
   const std::uint32_t place = key.nativeScanCode();
   return place != 0 ? place : Named | static_cast<std::uint32_t>(key.key());
@@ -26,7 +26,7 @@ bool IsNew(const QEvent& surface) {
 }
 
 /// Null where the platform is no X server, or one that does not tell repeats.
-std::unique_ptr<X11Keyboard> JoinX11() {
+std::unique_ptr<X11Keyboard> ConnectX11() {
   // Other platforms too may have a connection, beside their own keyboards.
   if (QGuiApplication::platformName() != "xcb") return nullptr;
   const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
@@ -39,7 +39,7 @@ std::unique_ptr<X11Keyboard> JoinX11() {
 
 }  // namespace
 
-KeyRepeats::KeyRepeats() : x11_(JoinX11()) {
+KeyRepeats::KeyRepeats() : x11_(ConnectX11()) {
   qGuiApp->installEventFilter(this);
 }
 
@@ -66,31 +66,31 @@ bool KeyRepeats::IsRepeat(const QKeyEvent& press) const {
   return x11_ ? X11Keyboard::IsRepeat(press) : press.isAutoRepeat();
 }
 
-bool KeyRepeats::BeganIn(const QWindow& window, const QKeyEvent& event) const {
-  const auto key = down_.find(CodeOf(event));
+bool KeyRepeats::WentDownIn(const QWindow& window, const QKeyEvent& event) const {
+  const auto key = down_.find(ScanCodeOf(event));
   return key != down_.end() && key->second == &window;
 }
 
 bool KeyRepeats::Pressed(QWindow& window, QKeyEvent& event) {
   const bool repeat = IsRepeat(event);
   if (!repeat) {
-    down_[CodeOf(event)] = &window;
-  } else if (NeverRepeats(event) || !BeganIn(window, event)) {
+    down_[ScanCodeOf(event)] = &window;
+  } else if (NeverRepeats(event) || !WentDownIn(window, event)) {
     // An override that nobody accepts would go on to the shortcuts.
     event.accept();
     return true;
   }
-  return Passes(window, event, repeat);
+  return ResendMarked(window, event, repeat);
 }
 
 bool KeyRepeats::Released(QWindow& window, QKeyEvent& event) {
   const bool repeat = x11_ == nullptr && event.isAutoRepeat();
-  const bool here = BeganIn(window, event);
-  if (!repeat) down_.erase(CodeOf(event));
-  return !here || Passes(window, event, repeat);
+  const bool here = WentDownIn(window, event);
+  if (!repeat) down_.erase(ScanCodeOf(event));
+  return !here || ResendMarked(window, event, repeat);
 }
 
-bool KeyRepeats::Passes(QWindow& window, QKeyEvent& event, bool repeat) {
+bool KeyRepeats::ResendMarked(QWindow& window, QKeyEvent& event, bool repeat) {
   if (event.isAutoRepeat() == repeat) return false;
   QKeyEvent marked(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
                    event.nativeVirtualKey(), event.nativeModifiers(), event.text(), repeat);

@@ -29,14 +29,14 @@ class KeyRepeats : public QObject {
   bool Released(QWindow& window, QKeyEvent& event);
   bool IsRepeat(const QKeyEvent& press) const;
   /// Whether a key went down in the window.
-  bool BeganIn(const QWindow& window, const QKeyEvent& event) const;
+  bool WentDownIn(const QWindow& window, const QKeyEvent& event) const;
   /// The event as it stands when it has the mark already; else a copy with it, in the event's
   /// place, at once. Whether it was the copy.
-  bool Passes(QWindow& window, QKeyEvent& event, bool repeat);
+  bool ResendMarked(QWindow& window, QKeyEvent& event, bool repeat);
 
   /// Null where the platform marks repeats itself.
   std::unique_ptr<X11Keyboard> x11_;
-  /// In which window each key that is down went down, by CodeOf.
+  /// In which window each key that is down went down, by ScanCodeOf.
   std::unordered_map<std::uint32_t, QPointer<QWindow>> down_;
   /// The copy that is being told.
   const QEvent* copy_ = nullptr;

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
+#include "paint/elidedtext.h"
 #include "paint/labelpaint.h"
-#include "paint/showntext.h"
 #include "window/accessiblenames.h"
 
 namespace terramark::window {
@@ -17,7 +17,7 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 void LabelView::ShowOwn(forms::PropertyId id) {
   // Only assistive tools read the text from here.
   if (id == forms::PropertyId::Caption) {
-    setText(paint::ShownText(label_.Caption, Qt::ElideMiddle));
+    setText(paint::ElidedText(label_.Caption, Qt::ElideMiddle));
     const bool tells =
         label_.Announcement == forms::Announcement::AsName && !label_.AccessibleName.empty();
     if (tells) setAccessibleName(AccessibleText(label_));

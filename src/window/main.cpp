@@ -4,29 +4,29 @@
 #include "editor/handlers.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
+#include "window/appstyle.h"
 #include "window/closedwindows.h"
 #include "window/displayfault.h"
 #include "window/keyrepeats.h"
-#include "window/look.h"
 #include "window/mainwindow.h"
 #include "window/qtdesktop.h"
 
 int main(int /*argc*/, char** argv) {
   int argumentCount = 1;
-  terramark::window::BeginJoiningDisplay();
+  terramark::window::BeginDisplayConnection();
   QApplication application(argumentCount, argv);
-  terramark::window::EndJoiningDisplay();
-  terramark::window::SetUpLook(application);
+  terramark::window::EndDisplayConnection();
+  terramark::window::InstallStyle(application);
 
   terramark::window::QtDesktop desktop;
   terramark::Form1 form(desktop);
-  terramark::JoinHandlers(form);
+  terramark::ConnectHandlers(form);
   terramark::Form_Load(form);
 
   const terramark::window::KeyRepeats repeats;
   const terramark::window::ClosedWindows closed;
   terramark::window::MainWindow window(form);
-  desktop.StandOver(&window);
+  desktop.SetDialogParent(&window);
   window.show();
   return QApplication::exec();
 }

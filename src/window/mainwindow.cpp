@@ -10,7 +10,7 @@ namespace terramark::window {
 
 MainWindow::MainWindow(Form1& form) : form_(form), inside_(form, *this) {
   setCentralWidget(&inside_);
-  inside_.DressWindow();
+  inside_.ApplyWindowProperties();
   resize(inside_.DesignSize());
   FitScreen();
 }

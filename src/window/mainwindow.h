@@ -17,7 +17,7 @@ class MainWindow : public QMainWindow {
   /// leaves everything in its place.
   explicit MainWindow(Form1& form);
 
-  FormView& Inside() { return inside_; }
+  FormView& View() { return inside_; }
 
  protected:
   bool event(QEvent* event) override;

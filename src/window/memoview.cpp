@@ -10,7 +10,7 @@
 namespace terramark::window {
 
 namespace {
-constexpr int Edge = 129;  // percent of the ground's darkness
+constexpr int BorderDarkness = 129;  // percent of the ground's darkness
 }
 
 MemoView::MemoView(forms::TextBox& box, QWidget& container)
@@ -35,7 +35,7 @@ bool MemoView::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
   if (event->type() == QEvent::Paint) {
     QPainter painter(this);
-    paint::DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(Edge));
+    paint::DrawFrame(painter, rect(), palette().color(QPalette::Window).darker(BorderDarkness));
   }
   return done;
 }

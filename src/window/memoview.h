@@ -12,7 +12,7 @@ class MemoView final : public QPlainTextEdit, public ControlView {
  public:
   MemoView(forms::TextBox& box, QWidget& container);
 
-  bool OwnMouse() const override { return true; }
+  MouseUse Mouse() const override { return MouseUse::WidgetToo; }
 
  protected:
   void ShowOwn(forms::PropertyId id) override;

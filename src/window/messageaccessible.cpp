@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "paint/showntext.h"
+#include "paint/elidedtext.h"
 #include "window/accessibleitem.h"
 #include "window/accessiblenames.h"
 
@@ -69,7 +69,7 @@ QAccessible::Role MessageAccessible::Showing() const {
 }
 
 QString MessageAccessible::Caption() const {
-  return paint::ShownText(view_.Label().Caption, Qt::ElideMiddle);
+  return paint::ElidedText(view_.Label().Caption, Qt::ElideMiddle);
 }
 
 QAccessibleInterface* MessageAccessible::child(int index) const {

@@ -11,7 +11,7 @@ namespace terramark::window {
 
 namespace {
 
-constexpr int Edge = 2;  // pixels, as are all sizes here
+constexpr int BorderWidth = 2;  // pixels, as are all sizes here
 constexpr int CaptionHeight = 20;
 
 }  // namespace
@@ -19,10 +19,10 @@ constexpr int CaptionHeight = 20;
 ModalForm::ModalForm(forms::Form& form, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), inside_(form, *this) {
   const QSize size = inside_.DesignSize();
-  inside_.setGeometry({QPoint(Edge, Edge + CaptionHeight), size});
+  inside_.setGeometry({QPoint(BorderWidth, BorderWidth + CaptionHeight), size});
   inside_.OnUnload = [this] { accept(); };
-  inside_.DressWindow();
-  caption_.setGeometry(Edge, Edge, size.width(), CaptionHeight);
+  inside_.ApplyWindowProperties();
+  caption_.setGeometry(BorderWidth, BorderWidth, size.width(), CaptionHeight);
   caption_.setText(windowTitle());
   caption_.setAlignment(Qt::AlignCenter);
   caption_.setAutoFillBackground(true);
@@ -31,7 +31,7 @@ ModalForm::ModalForm(forms::Form& form, QWidget* parent)
   QFont letters = caption_.font();
   letters.setBold(true);
   caption_.setFont(letters);
-  setFixedSize(size + QSize(2 * Edge, 2 * Edge + CaptionHeight));
+  setFixedSize(size + QSize(2 * BorderWidth, 2 * BorderWidth + CaptionHeight));
 }
 
 void ModalForm::paintEvent(QPaintEvent* event) {

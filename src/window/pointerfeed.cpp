@@ -10,12 +10,12 @@ namespace terramark::window {
 namespace {
 
 constexpr Qt::MouseButton Buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
-constexpr char OwnMouse[] = "ownMouse";
+constexpr char UsesMouse[] = "usesMouse";
 /// A place where no control stands.
 constexpr QPoint Nowhere(-10000, -10000);
 
 /// 0 for a button that the forms layer does not know.
-std::int16_t CodeOf(Qt::MouseButton button) {
+std::int16_t ButtonMask(Qt::MouseButton button) {
   switch (button) {
     case Qt::LeftButton:
       return forms::LeftButton;
@@ -30,8 +30,8 @@ std::int16_t CodeOf(Qt::MouseButton button) {
 
 }  // namespace
 
-void PointerFeed::Watch(QWidget& widget, bool ownMouse) {
-  widget.setProperty(OwnMouse, ownMouse);
+void PointerFeed::Watch(QWidget& widget, MouseUse use) {
+  widget.setProperty(UsesMouse, use == MouseUse::WidgetToo);
   widget.setMouseTracking(true);
   // What a widget leaves is not offered to those below it, which would feed it twice.
   widget.setAttribute(Qt::WA_NoMousePropagation);
@@ -46,7 +46,7 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       Press(widget, *static_cast<QMouseEvent*>(event));
       // On a scaled screen a press just before a widget may be given to it.
-      if (!IsOn(widget, *static_cast<QMouseEvent*>(event))) return true;
+      if (!IsOverWidget(widget, *static_cast<QMouseEvent*>(event))) return true;
       forHelp = asksHelp_;
       break;
     case QEvent::MouseMove:
@@ -54,8 +54,8 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::MouseButtonRelease: {
       const auto& mouse = *static_cast<QMouseEvent*>(event);
-      forHelp = forHelp || (heard_ && forms::AsksForHelp(KeyMask(mouse.modifiers())));
-      Release(In(widget, mouse), mouse.button(), mouse.modifiers());
+      forHelp = forHelp || (reachesMouseUp_ && forms::AsksForHelp(KeyMask(mouse.modifiers())));
+      Release(MapFromWidget(widget, mouse), mouse.button(), mouse.modifiers());
       break;
     }
     case QEvent::ContextMenu:
@@ -63,61 +63,61 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
     default:
       return false;
   }
-  return forHelp || !(widget.isEnabled() && widget.property(OwnMouse).toBool());
+  return forHelp || !(widget.isEnabled() && widget.property(UsesMouse).toBool());
 }
 
 bool PointerFeed::IsDown(Qt::MouseButton button) const {
-  return (form_.Pointer.ButtonsDown() & CodeOf(button)) != 0;
+  return (form_.Pointer.ButtonsDown() & ButtonMask(button)) != 0;
 }
 
 /// The window's place is exact, and the widget's is the same in whole pixels. They differ while a
 /// button that went down here is held over another window, whose place it then is.
-QPoint PointerFeed::In(const QWidget& widget, const QMouseEvent& event) const {
+QPoint PointerFeed::MapFromWidget(const QWidget& widget, const QMouseEvent& event) const {
   QPointF at = widget.mapTo(inside_.window(), event.position());
   if ((event.scenePosition() - at).manhattanLength() <= 1) at = event.scenePosition();
-  return PixelAt(inside_, inside_.mapFrom(inside_.window(), at));
+  return MapToPixel(inside_, inside_.mapFrom(inside_.window(), at));
 }
 
 /// Whether the pixel that is meant is the widget's.
-bool PointerFeed::IsOn(const QWidget& widget, const QMouseEvent& event) const {
-  return widget.rect().contains(widget.mapFrom(&inside_, In(widget, event)));
+bool PointerFeed::IsOverWidget(const QWidget& widget, const QMouseEvent& event) const {
+  return widget.rect().contains(widget.mapFrom(&inside_, MapFromWidget(widget, event)));
 }
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
-  if (CodeOf(event.button()) == 0) return;
+  if (ButtonMask(event.button()) == 0) return;
   ReleaseLost(widget, event);
-  const QPoint at = In(widget, event);
+  const QPoint at = MapFromWidget(widget, event);
   if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
-    heard_ = static_cast<bool>(form_.Pointer.Under(at.x(), at.y()).MouseUp);
-    asksHelp_ = heard_ && forms::AsksForHelp(KeyMask(event.modifiers()));
+    reachesMouseUp_ = static_cast<bool>(form_.Pointer.ControlAt(at.x(), at.y()).MouseUp);
+    asksHelp_ = reachesMouseUp_ && forms::AsksForHelp(KeyMask(event.modifiers()));
   }
   if (held_) held_->setDown(true);
-  form_.Pointer.Press(at.x(), at.y(), CodeOf(event.button()), KeyMask(event.modifiers()));
+  form_.Pointer.Press(at.x(), at.y(), ButtonMask(event.button()), KeyMask(event.modifiers()));
 }
 
 void PointerFeed::Move(const QWidget& widget, const QMouseEvent& event) {
   ReleaseLost(widget, event);
-  const QPoint at = In(widget, event);
+  const QPoint at = MapFromWidget(widget, event);
   if (held_) held_->setDown(held_->rect().contains(held_->mapFrom(&inside_, at)));
   form_.Pointer.Move(at.x(), at.y(), KeyMask(event.modifiers()));
 }
 
 void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
-  const std::int16_t code = CodeOf(button);
+  const std::int16_t code = ButtonMask(button);
   if (code == 0) return;
   if (held_) held_->setDown(false);
   if ((form_.Pointer.ButtonsDown() & ~code) == 0) {
     held_.clear();
     asksHelp_ = false;
   }
-  if (form_.Pointer.InFlight() && !Shows(at)) at = Nowhere;
+  if (form_.Pointer.CurrentDrag() && !IsUncovered(at)) at = Nowhere;
   form_.Pointer.Release(at.x(), at.y(), code, KeyMask(keys));
 }
 
 /// Whether the window shows a place of the form: it has not been made too small for it, and no
 /// other window lies over it. X11 alone tells of other programs' windows, by naming none of ours.
-bool PointerFeed::Shows(QPoint at) const {
+bool PointerFeed::IsUncovered(QPoint at) const {
   if (!inside_.rect().contains(at)) return false;
   const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
   if (over == nullptr) return QGuiApplication::platformName() != "xcb";
@@ -130,7 +130,7 @@ void PointerFeed::ReleaseLost(const QWidget& widget, const QMouseEvent& event) {
     const bool pressedNow = event.type() != QEvent::MouseMove && event.button() == button;
     if (!IsDown(button) || (event.buttons().testFlag(button) && !pressedNow)) continue;
     form_.Pointer.CancelDrag();
-    Release(In(widget, event), button, event.modifiers());
+    Release(MapFromWidget(widget, event), button, event.modifiers());
   }
 }
 
@@ -138,8 +138,8 @@ void PointerFeed::ReleaseLost(const QWidget& widget, const QMouseEvent& event) {
 /// instead.
 bool PointerFeed::ContextMenu(const QWidget& widget, const QContextMenuEvent& event) {
   if (event.modifiers().testFlag(Qt::ShiftModifier)) return true;
-  if (!widget.property(OwnMouse).toBool()) return true;
-  const forms::PixelPoint at = form_.Pointer.At();
+  if (!widget.property(UsesMouse).toBool()) return true;
+  const forms::PixelPoint at = form_.Pointer.Position();
   if (IsDown(Qt::RightButton)) Release({at.X, at.Y}, Qt::RightButton, event.modifiers());
   return false;
 }

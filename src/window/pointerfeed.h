@@ -19,9 +19,9 @@ class PointerFeed : public QObject {
   /// inside is the widget that shows the form's inside; the widgets watched are in it.
   PointerFeed(forms::Form& form, QWidget& inside) : form_(form), inside_(inside) {}
 
-  /// Hears the mouse over the widget and all that it holds by now. The widget itself sees the mouse
-  /// only when ownMouse says so, and then after the router.
-  void Watch(QWidget& widget, bool ownMouse);
+  /// Hears the mouse over the widget and all that it holds by now. A widget that uses the mouse
+  /// itself sees it after the router.
+  void Watch(QWidget& widget, MouseUse use);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,15 +33,15 @@ class PointerFeed : public QObject {
   bool ContextMenu(const QWidget& widget, const QContextMenuEvent& event);
   void ReleaseLost(const QWidget& widget, const QMouseEvent& event);
   bool IsDown(Qt::MouseButton button) const;
-  QPoint In(const QWidget& widget, const QMouseEvent& event) const;
-  bool IsOn(const QWidget& widget, const QMouseEvent& event) const;
-  bool Shows(QPoint at) const;
+  QPoint MapFromWidget(const QWidget& widget, const QMouseEvent& event) const;
+  bool IsOverWidget(const QWidget& widget, const QMouseEvent& event) const;
+  bool IsUncovered(QPoint at) const;
 
   forms::Form& form_;
   QWidget& inside_;
   QPointer<QPushButton> held_;
   /// Of the press that holds the pointer: what it is on hears its release, and it asks for help.
-  bool heard_ = false;
+  bool reachesMouseUp_ = false;
   bool asksHelp_ = false;
 };
 

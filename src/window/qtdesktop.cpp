@@ -15,8 +15,8 @@
 #include "files/currentfolder.h"
 #include "helpview/showhelp.h"
 #include "paint/cp1252.h"
+#include "paint/elidedtext.h"
 #include "paint/lettering.h"
-#include "paint/showntext.h"
 #include "window/filedialog.h"
 #include "window/modalform.h"
 
@@ -27,7 +27,7 @@ namespace {
 constexpr double TwipsPerInch = 1440;
 constexpr float MillisecondsPerSecond = 1000;
 /// Characters of a word that any line has room for.
-constexpr int LongestWord = 40;
+constexpr int MaxWordLength = 40;
 /// Bits that a float holds exactly.
 constexpr unsigned FractionBits = 24;
 
@@ -48,12 +48,12 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
 /// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
 /// characters are blanks.
 QString WrappableText(const std::string& text) {
-  QString shown = paint::ShownText(text, Qt::ElideMiddle);
+  QString shown = paint::ElidedText(text, Qt::ElideMiddle);
   for (QChar& character : shown) {
     if (character < ' ') character = ' ';
   }
   // A blank of no width is where a word may break.
-  return shown.replace(QRegularExpression(QStringLiteral("(\\S{%1})").arg(LongestWord)),
+  return shown.replace(QRegularExpression(QStringLiteral("(\\S{%1})").arg(MaxWordLength)),
                        QStringLiteral("\\1\u200B"));
 }
 

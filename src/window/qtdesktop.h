@@ -16,7 +16,7 @@ namespace terramark::window {
 class QtDesktop : public forms::Desktop {
  public:
   /// The window over which boxes and dialogs stand; none until it is set.
-  void StandOver(QWidget* window) { window_ = window; }
+  void SetDialogParent(QWidget* window) { window_ = window; }
 
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
                        const std::string& title) override;

@@ -18,7 +18,7 @@ constexpr int SideMargin = 2;
 
 /// Of a longer text the box holds the beginning; what is behind stays as it is, also when the
 /// beginning is edited.
-constexpr std::size_t MostShown = 65536;
+constexpr std::size_t MaxShownBytes = 65536;
 
 /// What came in by an edit, as the box may hold it: composed, a line break or tab a blank, and "?"
 /// for a character that code page 1252 lacks.
@@ -57,21 +57,21 @@ TextView::TextView(forms::TextBox& box, QWidget& container)
     : QLineEdit(&container), ControlView(box, *this), box_(box) {
   setFrame(false);
   setTextMargins(SideMargin, 0, SideMargin, 0);
-  Limit(0);
+  SetMaxLengthFor(0);
   ShowText();
   ShowColours();
   const auto note = [this] {
-    if (!editing_) NoteCaret();
+    if (!editing_) SaveSelection();
   };
   connect(this, &QLineEdit::textEdited, this, &TextView::Edited);
   connect(this, &QLineEdit::cursorPositionChanged, this, note);
   connect(this, &QLineEdit::selectionChanged, this, note);
 }
 
-void TextView::NoteCaret() {
+void TextView::SaveSelection() {
   caret_ = cursorPosition();
-  markedFrom_ = hasSelectedText() ? selectionStart() : caret_;
-  markedSize_ = static_cast<int>(selectedText().size());
+  selectionStart_ = hasSelectedText() ? selectionStart() : caret_;
+  selectionSize_ = static_cast<int>(selectedText().size());
 }
 
 void TextView::Edited(const QString& edited) {
@@ -79,39 +79,39 @@ void TextView::Edited(const QString& edited) {
   const QScopedValueRollback<bool> still(editing_, true);
   const QString before = ShownPart();
   const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
-  Take(before, edited);
+  ApplyEdit(before, edited);
   if (const QString now = ShownPart(); now != text()) {
     // Less may have come in than the line shows.
     const auto size = static_cast<qsizetype>(box_.Text.Get().size());
     const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
     if (now == before) {
-      Restore();
+      RestoreSelection();
     } else {
       ShowText();
       setCursorPosition(std::clamp(caret, 0, static_cast<int>(now.size())));
     }
   }
-  NoteCaret();
+  SaveSelection();
 }
 
-void TextView::Take(const QString& before, const QString& edited) {
+void TextView::ApplyEdit(const QString& before, const QString& edited) {
   if (isRedoAvailable()) {
     // Taken back: the control has had this text, so it need not be held to the limit.
     const auto shown = static_cast<std::size_t>(before.size());
     box_.Text = paint::ToCp1252(edited) + box_.Text.Get().substr(shown);
     return;
   }
-  const Edit edit = EditBetween(before, edited, markedFrom_, cursorPosition());
+  const Edit edit = EditBetween(before, edited, selectionStart_, cursorPosition());
   box_.Edited(static_cast<std::size_t>(edit.At), static_cast<std::size_t>(edit.Cut),
               Cleaned(edit.Insert));
 }
 
 /// An edit that was refused, or came to nothing, leaves the caret and the mark as they were.
-void TextView::Restore() {
+void TextView::RestoreSelection() {
   ShowText();
-  const bool backwards = caret_ == markedFrom_;
-  setSelection(backwards ? markedFrom_ + markedSize_ : markedFrom_,
-               backwards ? -markedSize_ : markedSize_);
+  const bool backwards = caret_ == selectionStart_;
+  setSelection(backwards ? selectionStart_ + selectionSize_ : selectionStart_,
+               backwards ? -selectionSize_ : selectionSize_);
 }
 
 void TextView::inputMethodEvent(QInputMethodEvent* event) {
@@ -134,7 +134,7 @@ void TextView::Commit(QInputMethodEvent& event) {
     const QScopedValueRollback<bool> still(editing_, true);
     QLineEdit::inputMethodEvent(&event);
   }
-  NoteCaret();
+  SaveSelection();
 }
 
 /// The line takes a marked part out at once. The control hears of it with what comes in its place,
@@ -147,9 +147,9 @@ void TextView::Compose(QInputMethodEvent& event) {
   }
   if (text() != ShownPart()) {
     if (!event.preeditString().isEmpty()) return;
-    Restore();
+    RestoreSelection();
   }
-  NoteCaret();
+  SaveSelection();
 }
 
 void TextView::focusOutEvent(QFocusEvent* event) {
@@ -170,13 +170,13 @@ void TextView::ShowOwn(forms::PropertyId id) {
 }
 
 QString TextView::ShownPart() const {
-  return paint::FromCp1252(box_.Text.Get().substr(0, MostShown));
+  return paint::FromCp1252(box_.Text.Get().substr(0, MaxShownBytes));
 }
 
 void TextView::ShowText() {
   const QString text = ShownPart();
   if (text == this->text()) return;
-  Limit(text.size());
+  SetMaxLengthFor(text.size());
   setText(text);
   // A long text shows its beginning until the caret comes to it.
   if (!hasFocus() && fontMetrics().horizontalAdvance(text) > width()) setCursorPosition(0);
@@ -185,7 +185,7 @@ void TextView::ShowText() {
 /// The control decides what gives way to its limit. The line has the same one, since what it
 /// refuses itself leaves the way back to earlier edits; but a longer text that was assigned must
 /// pass.
-void TextView::Limit(qsizetype size) {
+void TextView::SetMaxLengthFor(qsizetype size) {
   const auto limit = std::max(static_cast<qsizetype>(box_.MaxLength), size);
   setMaxLength(box_.MaxLength == 0 ? std::numeric_limits<int>::max() : static_cast<int>(limit));
 }

@@ -13,7 +13,7 @@ class TextView : public QLineEdit, public ControlView {
  public:
   TextView(forms::TextBox& box, QWidget& container);
 
-  bool OwnMouse() const override { return true; }
+  MouseUse Mouse() const override { return MouseUse::WidgetToo; }
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
@@ -23,14 +23,14 @@ class TextView : public QLineEdit, public ControlView {
 
  private:
   void Edited(const QString& edited);
-  void Take(const QString& before, const QString& edited);
+  void ApplyEdit(const QString& before, const QString& edited);
   void Commit(QInputMethodEvent& event);
   void Compose(QInputMethodEvent& event);
-  void Restore();
-  void NoteCaret();
+  void RestoreSelection();
+  void SaveSelection();
   /// The beginning of the control's text, as much of it as the box holds.
   QString ShownPart() const;
-  void Limit(qsizetype size);
+  void SetMaxLengthFor(qsizetype size);
   void ShowText();
   void ShowColours();
 
@@ -38,8 +38,8 @@ class TextView : public QLineEdit, public ControlView {
   /// Before the edit that comes next: the caret, and where the marked part begins, or else the
   /// caret is.
   int caret_ = 0;
-  int markedFrom_ = 0;
-  int markedSize_ = 0;
+  int selectionStart_ = 0;
+  int selectionSize_ = 0;
   bool editing_ = false;
   /// While an input method shows what may yet come to nothing.
   bool composing_ = false;

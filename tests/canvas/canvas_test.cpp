@@ -25,8 +25,8 @@ TEST_F(MarkerTest, ADragLandsTheGrabbedPointUnderThePointerAndSelectsNothing) {
 TEST_F(MarkerTest, ADropOnAnotherMarkerOrControlMovesNothing) {
   for (const forms::Control* target : Form.Controls()) {
     if (!target->Visible || target == &Form.ArmyAt(1) || target == &Form.Picture1) continue;
-    Press(Middle(Form.ArmyAt(1)));
-    Release(Middle(*target));
+    Press(CentreOnForm(Form.ArmyAt(1)));
+    Release(CentreOnForm(*target));
     ASSERT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 ffffff plain") << NameOf(*target);
   }
   EXPECT_EQ(Marker(Form.Continent(1)), "Region 1 at 480,4 ffffff plain");
@@ -37,8 +37,8 @@ TEST_F(MarkerTest, PressesGoByButtonAndKeys) {
   EXPECT_EQ(Selected(), "A2 R0 3 o*o... ..") << "Ctrl drags and selects like a plain press";
   Click(Form.ArmyAt(3), forms::ShiftKey | forms::CtrlKey);
   EXPECT_EQ(Form.CurArea, 3) << "only Shift alone marks";
-  Press(Middle(Form.ArmyAt(4)), forms::ShiftKey);
-  Release(Middle(Form.ArmyAt(4)), 0);
+  Press(CentreOnForm(Form.ArmyAt(4)), forms::ShiftKey);
+  Release(CentreOnForm(Form.ArmyAt(4)), 0);
   EXPECT_EQ(Form.CurArea, 4) << "Shift let go before the release";
   Click(Form.ArmyAt(1), forms::ShiftKey, forms::MiddleButton);
   EXPECT_EQ(Selected(), "A4 R0 4 o.o*o. ..");

@@ -13,12 +13,12 @@ class CanvasKeysTest : public EditorTest {
   CanvasKeysTest() {
     MakeMap(3, 2);
     Form.Focus(&Form.Picture1);
-    Form.Picture1.Ringed = nullptr;
+    Form.Picture1.CursorItem = nullptr;
   }
 
   bool OnMap() const { return Form.ActiveControl() == &Form.Picture1; }
-  std::string Ringed() const {
-    const Control* const ringed = Form.Picture1.Ringed;
+  std::string CursorItem() const {
+    const Control* const ringed = Form.Picture1.CursorItem;
     return ringed == nullptr ? "none" : NameOf(*ringed);
   }
   /// Rings a marker of the walk, by its number in it.
@@ -32,7 +32,7 @@ TEST_F(CanvasKeysTest, WalksOverTheMarkersWithoutSelecting) {
   const std::string before = Selected();
   const struct {
     std::int16_t Key;
-    const char* Ringed;
+    const char* CursorItem;
     const char* Helpbar;
   } steps[]{{KeyLeftArrow, "Continent2", " 2:  Region 2"},
             {KeyRightArrow, "ArmyAt1", " 1: Area 1 in Region *UNKNOWN*"},
@@ -43,13 +43,13 @@ TEST_F(CanvasKeysTest, WalksOverTheMarkersWithoutSelecting) {
             {KeyHome, "ArmyAt1", " 1: Area 1 in Region *UNKNOWN*"}};
   for (const auto& [key, ringed, helpbar] : steps) {
     Key(key);
-    EXPECT_EQ(Ringed(), ringed);
+    EXPECT_EQ(CursorItem(), ringed);
     EXPECT_EQ(Form.Helpbar.Caption.Get(), helpbar);
   }
   EXPECT_EQ(Selected(), before);
   EXPECT_TRUE(OnMap());
   Form.ArmyAt.Unload(1);
-  EXPECT_EQ(Ringed(), "none");
+  EXPECT_EQ(CursorItem(), "none");
 }
 
 TEST_F(CanvasKeysTest, PressesWhatIsRingedAsTheMouseWould) {
@@ -73,17 +73,17 @@ TEST_F(CanvasKeysTest, PressesWhatIsRingedAsTheMouseWould) {
   Form.KeyReleased({KeySpace, 0});
   EXPECT_FALSE(Form.KeyPressed({KeySpace, 0}));
   Key(KeyF6);
-  EXPECT_EQ(Ringed(), "ArmyAt1");
+  EXPECT_EQ(CursorItem(), "ArmyAt1");
   Key(KeyUpArrow);
   EXPECT_EQ(Selected(), "A2 R0 1 .*. ..") << "up and down walk the selection";
-  EXPECT_EQ(Ringed(), "ArmyAt2");
+  EXPECT_EQ(CursorItem(), "ArmyAt2");
   Key(KeyF6);
   Key(KeyEscape);
   EXPECT_EQ(Selected(), "A0 R0 0 ... ..");
   Key(KeyF6);
   Key(KeyReturn, CtrlKey);
   EXPECT_EQ(Marker(Form.ArmyAt(4)), "+4 at 273,138 ffffff plain");
-  EXPECT_EQ(Ringed(), "ArmyAt4");
+  EXPECT_EQ(CursorItem(), "ArmyAt4");
 }
 
 TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
@@ -120,8 +120,8 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
     Form.Helpbar.Caption = "";
     for (const std::int16_t key : down) EXPECT_TRUE(Form.KeyPressed({key, 0, true})) << end;
     for (const std::int16_t key : down) Form.KeyReleased({key, 0});
-    EXPECT_EQ(Ringed() + Form.Helpbar.Caption.Get(), "ArmyAt1") << end;
-    EXPECT_FALSE(Form.Pointer.InFlight()) << end;
+    EXPECT_EQ(CursorItem() + Form.Helpbar.Caption.Get(), "ArmyAt1") << end;
+    EXPECT_FALSE(Form.Pointer.CurrentDrag()) << end;
     EXPECT_EQ(Form.ArmyAt(1).Left.Get(), left + 2) << end;
     EXPECT_EQ(Selected(), before) << end;
   }
@@ -135,7 +135,7 @@ TEST_F(CanvasKeysTest, CarriesAMarkerByPixelsAndPutsItDownOrBack) {
   for (int i = 0; i < 3; ++i) {
     Key(KeyReturn);
     Form.KeyPressed({KeyLeftArrow, 0, true});
-    EXPECT_EQ(Ringed(), "ArmyAt1");
+    EXPECT_EQ(CursorItem(), "ArmyAt1");
   }
   EXPECT_EQ(Form.ArmyAt(1).Left.Get(), 272) << "brought back to the middle, and one to the left";
 }
@@ -152,9 +152,9 @@ TEST_F(CanvasKeysTest, LeavesAloneWhatIsHidden) {
   for (const std::int16_t key : {KeySpace, KeyC, KeyMenu, KeyReturn}) {
     for (const std::int16_t shift : {std::int16_t{0}, ShiftKey}) Key(key, shift);
     EXPECT_EQ(Selected() + Area(3), before) << key;
-    EXPECT_TRUE(OnMap() && !Form.Pointer.InFlight() && Form.Picture1.ScrollLeft == 0) << key;
+    EXPECT_TRUE(OnMap() && !Form.Pointer.CurrentDrag() && Form.Picture1.ScrollLeft == 0) << key;
   }
-  EXPECT_EQ(Ringed() + Form.Helpbar.Caption.Get(), "ArmyAt3 1: Area 1 in Region *UNKNOWN*");
+  EXPECT_EQ(CursorItem() + Form.Helpbar.Caption.Get(), "ArmyAt3 1: Area 1 in Region *UNKNOWN*");
 }
 
 TEST_F(CanvasKeysTest, WhatTheKeysComeToIsScrolledIntoView) {
@@ -162,7 +162,7 @@ TEST_F(CanvasKeysTest, WhatTheKeysComeToIsScrolledIntoView) {
   PictureBox& box = Form.Picture1;
   Form.ArmyAt(3).Move(1500, 700);
   const auto seen = [&](const Control& marker) {
-    const PixelRect part = InBox(box, PixelBounds(marker));
+    const PixelRect part = MapToBox(box, PixelBounds(marker));
     return part.Left >= 24 && part.Top >= 24 && part.Left + part.Width <= box.ViewWidth() - 24 &&
            part.Top + part.Height <= box.ViewHeight() - 24;
   };

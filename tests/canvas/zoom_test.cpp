@@ -11,7 +11,7 @@ using namespace forms;
 TEST(Zoom, GoesBetweenPixelsOfThePictureAndOfTheScreen) {
   const struct {
     Magnification Zoom;
-    int OnScreen, OnPicture, Begins;
+    int OnScreen, MapToPicture, Begins;
   } cases[]{{{1, 4}, 0, 2, 0},  {{1, 4}, 5, 22, 5}, {{1, 4}, -1, -2, -1}, {{1, 2}, -3, -5, -3},
             {{1, 2}, 7, 15, 7}, {{1, 1}, 9, 9, 9},  {{3, 1}, 8, 2, 6},    {{3, 1}, -1, -1, -3},
             {{8, 1}, 7, 0, 0},  {{8, 1}, 8, 1, 8},  {{8, 1}, -9, -2, -16}};
@@ -44,19 +44,19 @@ class ZoomTest : public EditorTest {
 
 TEST_F(ZoomTest, KeepsThePixelUnderThePointer) {
   const PixelPoint about{301, 97};
-  const PixelPoint pixel = OnPicture(Box, about);
+  const PixelPoint pixel = MapToPicture(Box, about);
   for (int i = 0; i < 5; ++i) {
     Box.ZoomTo(Larger(Box.Zoom), about);
-    EXPECT_EQ(OnPicture(Box, about).X, pixel.X) << Box.Zoom.Get().Screen;
-    EXPECT_EQ(OnPicture(Box, about).Y, pixel.Y) << Box.Zoom.Get().Screen;
+    EXPECT_EQ(MapToPicture(Box, about).X, pixel.X) << Box.Zoom.Get().Screen;
+    EXPECT_EQ(MapToPicture(Box, about).Y, pixel.Y) << Box.Zoom.Get().Screen;
   }
-  EXPECT_EQ(Box.ShownWidth(), 16000);
+  EXPECT_EQ(Box.ZoomedWidth(), 16000);
   for (int i = 0; i < 9; ++i) Key(KeyMinus, CtrlKey);
-  EXPECT_EQ(Box.ShownWidth(), 500);
+  EXPECT_EQ(Box.ZoomedWidth(), 500);
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_FALSE(Box.ScrollsAcross() || Box.ScrollsDown());
   Key(KeyPlus, CtrlKey | ShiftKey);
-  EXPECT_EQ(Box.ShownWidth(), 1000);
+  EXPECT_EQ(Box.ZoomedWidth(), 1000);
   Key(Key0, CtrlKey);
   EXPECT_EQ(Box.Zoom.Get(), ActualSize);
 }
@@ -73,19 +73,19 @@ TEST_F(ZoomTest, EveryGestureMeansThePixelThatIsSeen) {
     SCOPED_TRACE(testing::Message() << zoom.Screen << " : " << zoom.Picture << " " << travel);
     Area().Move(603, 301);
     Show(zoom);
-    const PixelRect seen = InBox(Box, PixelBounds(Area()));
-    const PixelPoint corner = OnForm(Form, PixelBounds(Box).Corner() + seen.Corner());
+    const PixelRect seen = MapToBox(Box, PixelBounds(Area()));
+    const PixelPoint corner = MapToForm(Form, PixelBounds(Box).TopLeft() + seen.TopLeft());
     const int end = corner.X + seen.Width;
-    EXPECT_EQ(&Form.Pointer.Under(corner.X, corner.Y), &Area());
-    EXPECT_NE(&Form.Pointer.Under(corner.X - 1, corner.Y), &Area());
-    EXPECT_EQ(&Form.Pointer.Under(end - 1, corner.Y), &Area());
-    EXPECT_NE(&Form.Pointer.Under(end, corner.Y), &Area());
-    DragFrom(OnForm(Box, {608, 308}), travel, 0);
+    EXPECT_EQ(&Form.Pointer.ControlAt(corner.X, corner.Y), &Area());
+    EXPECT_NE(&Form.Pointer.ControlAt(corner.X - 1, corner.Y), &Area());
+    EXPECT_EQ(&Form.Pointer.ControlAt(end - 1, corner.Y), &Area());
+    EXPECT_NE(&Form.Pointer.ControlAt(end, corner.Y), &Area());
+    DragFrom(MapToForm(Box, {608, 308}), travel, 0);
     EXPECT_EQ(Area().Left.Get(), static_cast<float>(603 + moved));
     EXPECT_EQ(Form.MarkCount, moved == 0 ? 1 : 0) << "without travel it is a press";
     ClearSelection(Form);
   }
-  DragFrom(OnForm(Box, {610, 330}), 0, 0, CtrlKey);
+  DragFrom(MapToForm(Box, {610, 330}), 0, 0, CtrlKey);
   EXPECT_EQ(Marker(Form.ArmyAt(2)), "+2 at 610,314 ffffff plain");
 }
 

@@ -104,11 +104,11 @@ class GesturesTest : public EditorTest {
     // clang-format off
     switch (Pick(9)) {
       case 0: ClickMap(Pick(546), Pick(308), shift); break;
-      case 1: DragFrom(Middle(any), Pick(600) - 300, Pick(400) - 200, shift, button); break;
+      case 1: DragFrom(CentreOnForm(any), Pick(600) - 300, Pick(400) - 200, shift, button); break;
       case 2: Key(mapKeys[Pick(16)], shift); break;
       case 3: if (box != nullptr) Type(*box, texts[Pick(8)]); break;
       case 4: Form.ColBar(0).Moved(Pick(300)); break;
-      default: DragFrom(Middle(any), 0, 0, shift, button);
+      default: DragFrom(CentreOnForm(any), 0, 0, shift, button);
     }
     // clang-format on
   }

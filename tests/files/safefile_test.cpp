@@ -301,7 +301,7 @@ TEST_F(Saving, FollowsLinksToFilesOnly) {
   for (const auto& [link, to, why] : links) {
     files::SafeFile file(Folder / link);
     const auto done = file.Open().and_then([&] { return file.Replace("new"); });
-    EXPECT_EQ(done ? "" : done.error().Words(), why) << link;
+    EXPECT_EQ(done ? "" : done.error().Description(), why) << link;
     EXPECT_EQ(fs::read_symlink(Folder / link), to);
   }
   EXPECT_EQ(BytesOf(Folder / "inner/real"), "new");

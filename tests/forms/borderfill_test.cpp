@@ -27,7 +27,7 @@ void SlowFill(Raster& raster, PixelPoint seed, Color brush, Color border) {
     const PixelPoint at = next.back();
     next.pop_back();
     if (!PixelRect{0, 0, raster.Width, raster.Height}.Contains(at)) continue;
-    const std::size_t pixel = raster.At(at.X, at.Y);
+    const std::size_t pixel = raster.IndexOf(at.X, at.Y);
     if (seen[pixel] || raster.Pixels[pixel] == PixelOf(border)) continue;
     seen[pixel] = true;
     raster.Pixels[pixel] = PixelOf(brush);
@@ -43,7 +43,7 @@ struct PaintCount {
   void Run(int y, int left, int right) {
     for (int x = left; x < right; ++x) ++Times[static_cast<std::size_t>(y * Width + x)];
   }
-  void Spots(int y, int left, std::uint32_t bits) {
+  void PaintBits(int y, int left, std::uint32_t bits) {
     for (int i = 0; i < 32; ++i) {
       if ((bits >> i & 1U) != 0) Run(y, left + i, left + i + 1);
     }
@@ -75,7 +75,7 @@ TEST(BorderFill, PaintsWhatFillingPixelByPixelFromSeedAfterSeedDoes) {
     for (const PixelPoint seed : seeds) SlowFill(slow, seed, brush, border);
     PaintCount count(raster);
     const auto open = [&](int y, std::span<std::uint64_t> bits) {
-      SetOpenBits(std::span(raster.Pixels).subspan(raster.At(0, y), std::size_t(raster.Width)),
+      SetOpenBits(std::span(raster.Pixels).subspan(raster.IndexOf(0, y), std::size_t(raster.Width)),
                   PixelOf(border), FloodStops::AtColour, bits);
     };
     Flooder(raster.Width, raster.Height, open, count).From(seeds);

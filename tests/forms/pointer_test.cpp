@@ -90,8 +90,8 @@ TEST_F(PointerTest, DropsGoToWhatLiesUnderThePointer) {
 TEST_F(PointerTest, ACancelledDragDropsNothingAndItsReleaseReachesNobody) {
   Pointer.Press(45, 32, LeftButton, 0);
   Pointer.Move(100, 90, 0);
-  ASSERT_TRUE(Pointer.InFlight());
-  EXPECT_EQ(Pointer.InFlight()->Corner.X, 85);
+  ASSERT_TRUE(Pointer.CurrentDrag());
+  EXPECT_EQ(Pointer.CurrentDrag()->TopLeft.X, 85);
   Pointer.CancelDrag();
   Pointer.Release(100, 90, LeftButton, 0);
   EXPECT_EQ(Log, "");
@@ -102,10 +102,10 @@ TEST_F(PointerTest, OtherButtonsLeaveThePressThatHoldsThePointer) {
   Pointer.Press(45, 32, LeftButton, 0);
   Pointer.Press(305, 15, RightButton, ShiftKey);
   Pointer.Release(305, 15, RightButton, ShiftKey);
-  EXPECT_TRUE(Pointer.InFlight());
+  EXPECT_TRUE(Pointer.CurrentDrag());
   Pointer.Release(46, 33, LeftButton, 0);
   Under.Drag();
-  EXPECT_FALSE(Pointer.InFlight()) << "no button is down";
+  EXPECT_FALSE(Pointer.CurrentDrag()) << "no button is down";
   EXPECT_EQ(Stroke(45, 32, 400, 400, LeftButton, ShiftKey), "self up ")
       << "the release reaches what was pressed";
 }
@@ -114,9 +114,9 @@ TEST_F(PointerTest, AButtonActsOnTheReleaseOfAnyButtonInsideIt) {
   EXPECT_EQ(Stroke(310, 15, 320, 20, RightButton, CtrlKey), "button22 ");
   EXPECT_EQ(Stroke(310, 15, 310, 200), "") << "a change of mind";
   EXPECT_EQ(Stroke(310, 15, 320, 20), "button10 click ");
-  Pointer.PressKey(Button, ShiftKey);
+  Pointer.SimulateClick(Button, ShiftKey);
   Button.Enabled = false;
-  Pointer.PressKey(Button, 0);
+  Pointer.SimulateClick(Button, 0);
   EXPECT_EQ(Stroke(310, 15, 320, 20), "button11 click ");
 }
 
@@ -130,7 +130,7 @@ TEST_F(PointerTest, AControlThatGoesTakesItsDragWithIt) {
     passing.MouseDown = nullptr;
     Pointer.Press(115, 65, LeftButton, 0);
   }
-  EXPECT_FALSE(Pointer.InFlight());
+  EXPECT_FALSE(Pointer.CurrentDrag());
   Pointer.Release(115, 65, LeftButton, 0);
   EXPECT_EQ(Log, "");
 }
@@ -147,16 +147,16 @@ TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
   EXPECT_EQ(&Pointer.Under(100, 100), &Window) << "a scroll bar is no backdrop";
   Pointer.Press(15, 32, LeftButton, 0);
   Pointer.Move(190, 50, 0);
-  Pointer.ScrollByDrag();
+  Pointer.AutoScroll();
   EXPECT_GT(Box.ScrollLeft.Get(), 30);
   Pointer.Move(15, 90, 0);
-  for (int i = 0; i < 9; ++i) Pointer.ScrollByDrag();
+  for (int i = 0; i < 9; ++i) Pointer.AutoScroll();
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_EQ(Box.ScrollTop.Get(), 6) << "no blank ground below the picture";
   const auto scrolled = [&](int x) {
     Box.ScrollTo(0, 0);
     Pointer.Move(x, 50, 0);
-    Pointer.ScrollByDrag();
+    Pointer.AutoScroll();
     return Box.ScrollLeft.Get();
   };
   EXPECT_GT(scrolled(210), 0) << "also from outside the box";

@@ -57,7 +57,7 @@ bool ComesBack(const Tables& map) {
     linked = linked && Neighbours(map.AreaLinks(i)).Count() != 0;
   }
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) quoted += map.RegionName(r);
-  return linked && quoted.find('"') == std::string::npos && JudgeMap(map).Status == 0 &&
+  return linked && quoted.find('"') == std::string::npos && CheckMap(map).Status == 0 &&
          map.PictureFile[0] != ' ' && map.PictureFile.find_first_of(",\"\r\n") == std::string::npos;
 }
 
@@ -65,9 +65,9 @@ bool ComesBack(const Tables& map) {
 /// obeys. It reads what the window reads.
 void CheckReport(std::string_view bytes, bool read) {
   const check::Report report = check::CheckBytes(bytes, "map.tml");
-  const std::string lines = check::LinesOf("map.tml", report);
+  const std::string lines = check::FormatReport("map.tml", report);
   const bool cut = lines.find("a comma ends the path") != std::string::npos;
-  Check(cut || read == (report.Worst != check::Grade::Unreadable), "what the window reads");
+  Check(cut || read == (report.Worst != check::Severity::Unreadable), "what the window reads");
   std::size_t begun = 0;
   for (std::size_t end; (end = lines.find('\n', begun)) != std::string::npos; begun = end + 1) {
     Check(lines.compare(begun, 8, "map.tml:") == 0, "a line with the file's name");

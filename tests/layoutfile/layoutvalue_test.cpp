@@ -15,7 +15,7 @@ const SavingTime TinyTime{1999y / March / 14, hh_mm_ss(21h + 5min + 7s)};
 std::string FaultOf(const std::string& bytes) {
   const auto layout = ReadLayout(bytes);
   if (layout) return "";
-  return std::to_string(layout.error().Line) + ": " + layout.error().Words();
+  return std::to_string(layout.error().Line) + ": " + layout.error().Description();
 }
 
 TEST(MapLayout, HoldsAllThatAFileHoldsAndNothingElse) {
@@ -39,7 +39,7 @@ TEST(MapLayout, HoldsAllThatAFileHoldsAndNothingElse) {
   map.AreaLinks(4) = "00";
   const LayoutWritten broken = WriteLayout(map, TinyTime);
   EXPECT_EQ(broken.Text, TinyWith({{11, "4,\"G\",\"Dale\",\"00\",2"}}, 15));
-  EXPECT_EQ(broken.BrokenOffAt, 4);
+  EXPECT_EQ(broken.StoppedAtArea, 4);
 }
 
 TEST(MapLayout, AFaultTellsItsLineAndWhatWasExpected) {

@@ -11,7 +11,7 @@ TEST(Cp1252, EveryByteGoesRoundAndOnlyWhatItLacksIsLost) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   EXPECT_EQ(ToCp1252(FromCp1252(all)), all);
-  EXPECT_EQ(Utf8Of(all), FromCp1252(all).toStdString());
+  EXPECT_EQ(ToUtf8(all), FromCp1252(all).toStdString());
   EXPECT_EQ(FromCp1252("\x80\x9F\xA0\x81"), QStringLiteral("\u20AC\u0178\u00A0\u0081"));
   EXPECT_EQ(ToCp1252(QStringLiteral("\u0080\u0100\U0001F600")), "???");
 }

@@ -159,7 +159,7 @@ struct PictureFile : testing::Test {
   std::filesystem::path Path(const char* name) const { return Folder.filePath(name).toStdString(); }
   forms::LoadedPicture LoadFile(const char* name) const {
     const auto file = files::RegularFile::Open(Path(name));
-    if (!file) return tl::unexpected(file.error().Words());
+    if (!file) return tl::unexpected(file.error().Description());
     return LoadPictureFile(*file, 60, 40);
   }
   void Write(const char* name, const QByteArray& bytes) const {
@@ -205,8 +205,8 @@ TEST_F(PictureFile, IsReadInBandsThatMeet) {
         const int stored = height < 0 ? y : Height - 1 - y;
         const std::uint32_t ends =
             Black + static_cast<std::uint32_t>(stored < Height - cut ? stored : 0);
-        ASSERT_EQ(picture->Pixels[picture->At(0, y)], ends) << y;
-        ASSERT_EQ(picture->Pixels[picture->At(Width - 1, y)], ends) << y;
+        ASSERT_EQ(picture->Pixels[picture->IndexOf(0, y)], ends) << y;
+        ASSERT_EQ(picture->Pixels[picture->IndexOf(Width - 1, y)], ends) << y;
       }
     }
   }

@@ -46,8 +46,8 @@ TEST_F(SelectionTest, ShiftClicksFlipSingleMarksAndCountThem) {
   Mark({1, 2});
   EXPECT_EQ(Selected(), "A0 R0 2 oo.... ..") << "nothing need be current";
   EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff marked");
-  Press(Middle(Form.ArmyAt(1)), forms::ShiftKey);
-  Release(Middle(Form.ArmyAt(1)), forms::ShiftKey | forms::CtrlKey);
+  Press(CentreOnForm(Form.ArmyAt(1)), forms::ShiftKey);
+  Release(CentreOnForm(Form.ArmyAt(1)), forms::ShiftKey | forms::CtrlKey);
   EXPECT_EQ(Selected(), "A0 R0 1 .o.... ..");
   EXPECT_EQ(Marker(Form.ArmyAt(1)), "+1 at 10,24 8080ff plain");
   Click(Form.Continent(1));

@@ -19,7 +19,7 @@ namespace terramark {
 class EditorTest : public testing::Test {
  protected:
   EditorTest() {
-    JoinHandlers(Form);
+    ConnectHandlers(Form);
     Form_Load(Form);
   }
 
@@ -39,8 +39,8 @@ class EditorTest : public testing::Test {
   /// The middle of a control that the pointer can see, enabled or not; another one on top of it
   /// ends the test.
   forms::PixelPoint Grip(const forms::Control& control) const {
-    const forms::PixelPoint at = Middle(control);
-    const forms::Control& top = Form.Pointer.Hovered(at.X, at.Y);
+    const forms::PixelPoint at = CentreOnForm(control);
+    const forms::Control& top = Form.Pointer.HoveredControlAt(at.X, at.Y);
     if (&top == &control) return at;
     throw std::logic_error(NameOf(control) +
                            (control.Visible ? " is covered by " : " is hidden; on top is ") +
@@ -75,7 +75,7 @@ class EditorTest : public testing::Test {
     return Message();
   }
   void Hover(const forms::Control& control) {
-    const forms::PixelPoint at = Middle(control);
+    const forms::PixelPoint at = CentreOnForm(control);
     Form.Pointer.Move(at.X, at.Y, 0);
   }
   void Key(std::int16_t code, Bits shift = 0) {
@@ -153,7 +153,7 @@ class EditorTest : public testing::Test {
     std::string all = "A" + std::to_string(Form.CurArea) + " R" + std::to_string(Form.CurRegion) +
                       " " + std::to_string(Form.MarkCount) + " ";
     const auto look = [&](const forms::Label& marker) {
-      all += ".*o"[static_cast<int>(LookOf(marker))];
+      all += ".*o"[static_cast<int>(MarkerStateOf(marker))];
     };
     for (std::int16_t i = 1; i <= Form.AreaCount; ++i) look(Form.ArmyAt(i));
     all += ' ';

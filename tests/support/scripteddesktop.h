@@ -25,7 +25,7 @@ inline forms::Picture BlankPicture(int width, int height, std::uint32_t pixel = 
   auto raster = std::make_shared<forms::Raster>();
   raster->Width = width;
   raster->Height = height;
-  raster->Pixels.assign(raster->At(0, height), pixel);
+  raster->Pixels.assign(raster->IndexOf(0, height), pixel);
   return raster;
 }
 

@@ -43,7 +43,7 @@ const struct {
 class ValidateMapTest : public EditorTest {
  protected:
   bool Painted(int x, int y) const {
-    return Form.Picture1.Image().Pixels[Form.Picture1.Image().At(x, y)] == 0xFF800000;
+    return Form.Picture1.Image().Pixels[Form.Picture1.Image().IndexOf(x, y)] == 0xFF800000;
   }
 };
 
@@ -52,7 +52,7 @@ TEST_F(ValidateMapTest, StopsAtTheFirstFaultInTheOrderOfTheRules) {
   for (const auto& c : RuleCases) {
     Tables tables = Form;
     c.Spoil(tables);
-    const Verdict verdict = JudgeMap(tables);
+    const Verdict verdict = CheckMap(tables);
     EXPECT_EQ(verdict.Message, c.Message);
     EXPECT_EQ(verdict.Status, c.Status) << c.Message;
   }
@@ -66,7 +66,7 @@ TEST_F(ValidateMapTest, OnlyAGoodMapIsFloodedFromEachFillPointUpToTheBlack) {
   Form.AreaName(6) = "Area 6";
   // A wall down the middle; only Area 6 stands to its right.
   auto picture = std::make_shared<forms::Raster>(*BlankPicture(546, 308));
-  for (int y = 0; y < 308; ++y) picture->Pixels[picture->At(440, y)] = 0xFF000000;
+  for (int y = 0; y < 308; ++y) picture->Pixels[picture->IndexOf(440, y)] = 0xFF000000;
   Screen.Pictures["map.bmp"] = picture;
   Click(Form.RefMap);
   Form.ArmyAt(6).Move(450, 100);

@@ -21,7 +21,7 @@ TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
   const auto topics = helpview::ReadHelpTopics();
   for (const ControlRow<Form1>& row : Form1Controls()) {
     if (row.HelpTopic == 0) continue;
-    EXPECT_EQ(topics[helpview::PlaceOfTopic(topics, row.HelpTopic)].Number, row.HelpTopic);
+    EXPECT_EQ(topics[helpview::TopicIndex(topics, row.HelpTopic)].Number, row.HelpTopic);
   }
   int pictures = 0;
   for (const helpview::HelpTopic& topic : topics) {
@@ -40,10 +40,10 @@ TEST(HelpSearch, TopicsWithAllWordsAreFound) {
   const QStringList texts{"Red sea", "the sea, hundred", "Reddish REDs, sea"};
   EXPECT_EQ(
       helpview::FindWords(texts, " SEA\tred "),
-      (std::vector<helpview::HelpPlace>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
+      (std::vector<helpview::HelpMatch>{{0, 0, 3}, {0, 4, 3}, {2, 0, 3}, {2, 8, 3}, {2, 14, 3}}));
   EXPECT_EQ(helpview::FindWords({"++a"}, "+ +a"),
-            (std::vector<helpview::HelpPlace>{{0, 0, 1}, {0, 1, 1}}));
-  EXPECT_EQ(helpview::FindWords(texts, "the  SEA"), (std::vector<helpview::HelpPlace>{{1, 0, 7}}));
+            (std::vector<helpview::HelpMatch>{{0, 0, 1}, {0, 1, 1}}));
+  EXPECT_EQ(helpview::FindWords(texts, "the  SEA"), (std::vector<helpview::HelpMatch>{{1, 0, 7}}));
   EXPECT_TRUE(helpview::FindWords(texts, " ").empty());
 }
 

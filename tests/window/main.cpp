@@ -2,12 +2,12 @@
 
 #include <QApplication>
 
-#include "window/look.h"
+#include "window/appstyle.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  terramark::window::SetUpLook(application);
+  terramark::window::InstallStyle(application);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -96,15 +96,15 @@ TEST_F(MarkerTest, PaintsOnlyWhereAMarkerWasAndIs) {
   Form.Picture1.SetFocus();
   QTest::qWait(20);
   watch.Painted = {};
-  Form.Picture1.Ringed = &Marker();
+  Form.Picture1.CursorItem = &Marker();
   QTest::qWait(20);
   EXPECT_TRUE(watch.All({296, 196, 40, 24}));
   EXPECT_FALSE(watch.Painted.intersects(QRect(200, 100, 50, 50)));
-  Form.Pointer.TakeHold(Marker());
-  Form.Pointer.Carry(0, -99);
+  Form.Pointer.BeginKeyDrag(Marker());
+  Form.Pointer.MoveKeyDrag(0, -99);
   QTest::qWait(20);
   watch.Painted = {};
-  Form.Pointer.PutBack();
+  Form.Pointer.CancelKeyDrag();
   QTest::qWait(20);
   EXPECT_TRUE(watch.All({296, 196, 40, 24}));
 }
@@ -152,7 +152,7 @@ TEST_F(MarkerTest, EscapeAndALostFocusEndADragWithNothingMoved) {
       other.activateWindow();
       EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     }
-    EXPECT_FALSE(Form.Pointer.InFlight().has_value());
+    EXPECT_FALSE(Form.Pointer.CurrentDrag().has_value());
     EXPECT_EQ(Pixel(210, 158), White);
     Release(Canvas + QPoint(205, 155));
     EXPECT_TRUE(Drops.empty());
@@ -165,7 +165,7 @@ TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
   ASSERT_EQ(bars.size(), 2);
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
   auto picture = std::make_shared<forms::Raster>(*BlankPicture(800, 600));
-  picture->Pixels[picture->At(600, 10)] = 0xFF0000FF;
+  picture->Pixels[picture->IndexOf(600, 10)] = 0xFF0000FF;
   box.Picture = picture;
   EXPECT_TRUE(bars[0]->isVisible() && bars[1]->isVisible());
   EXPECT_EQ(bars[0]->geometry(), QRect(0, 292, 530, 16));
@@ -199,9 +199,9 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
   Form.ArmyAt(0).Visible = Form.Continent(0).Visible = false;
   for (const forms::Magnification zoom : forms::ZoomSteps) {
     box.ZoomTo(zoom, {9, 9});
-    box.Reveal(PixelBounds(Marker()));
+    box.ScrollIntoView(PixelBounds(Marker()));
     const QImage seen = Of(box).grab(QRect(0, 0, box.ViewWidth(), box.ViewHeight())).toImage();
-    const forms::PixelRect marker = InBox(box, PixelBounds(Marker()));
+    const forms::PixelRect marker = MapToBox(box, PixelBounds(Marker()));
     int wrong = 0;
     // But for the corner in which the zoom is told.
     for (int y = 0; y < seen.height() - 40; ++y) {
@@ -213,7 +213,7 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
         const int left = nearest(x + box.ScrollLeft);
         const int top = nearest(y + box.ScrollTop);
         const bool blank = left >= 1203 || top >= 801;
-        const QRgb pixel = blank ? White.rgb() : picture->Pixels[picture->At(left, top)];
+        const QRgb pixel = blank ? White.rgb() : picture->Pixels[picture->IndexOf(left, top)];
         wrong += seen.pixel(x, y) != (marker.Contains({x, y}) ? Blue.rgb() : pixel);
       }
     }
@@ -235,12 +235,12 @@ TEST_F(MarkerTest, TheWheelScrollsBothWaysAndZoomsAboutThePointer) {
   EXPECT_EQ(box.ScrollTop, 96);
   EXPECT_EQ(box.ScrollLeft, 96);
   EXPECT_FALSE(label.isVisible());
-  const forms::PixelPoint about = OnPicture(box, {200, 100});
+  const forms::PixelPoint about = MapToPicture(box, {200, 100});
   for (int i = 0; i < 4; ++i) turn(60, Qt::ControlModifier);
   EXPECT_EQ(label.text(), "300 %");
   EXPECT_TRUE(label.isVisible());
-  EXPECT_EQ(OnPicture(box, {200, 100}).X, about.X);
-  EXPECT_EQ(OnPicture(box, {200, 100}).Y, about.Y);
+  EXPECT_EQ(MapToPicture(box, {200, 100}).X, about.X);
+  EXPECT_EQ(MapToPicture(box, {200, 100}).Y, about.Y);
   turn(-240, Qt::ControlModifier);
   EXPECT_FALSE(label.isVisible());
 }
@@ -262,8 +262,8 @@ TEST_F(MarkerTest, AHandIsOverAMarkerAndHoldsTheOneInTheAir) {
   Release(Canvas + QPoint(300, 200));
   Move(Canvas + QPoint(300, 200));
   EXPECT_EQ(shape(), Qt::ArrowCursor);
-  Form.Pointer.TakeHold(Marker());
-  Form.Pointer.Carry(-110, 0);
+  Form.Pointer.BeginKeyDrag(Marker());
+  Form.Pointer.MoveKeyDrag(-110, 0);
   EXPECT_EQ(Pixel(15, 55), InTheAir);
   EXPECT_EQ(Pixel(24, 55), White) << "held by the keys it is seen where it is";
 }

@@ -17,7 +17,7 @@ struct WindowKeys : testing::Test, TestWindow {};
 
 TEST_F(WindowKeys, TabWalksInTheOrderOfTheTable) {
   for (const forms::Control* control : Form.Controls()) {
-    QWidget* const widget = Window.Inside().WidgetOf(*control);
+    QWidget* const widget = Window.View().WidgetOf(*control);
     if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus || !widget->isEnabled()) continue;
     EXPECT_EQ(Form.ActiveControl(), control) << control->Name();
     EXPECT_EQ(QApplication::focusWidget(), widget);

@@ -49,7 +49,7 @@ struct ScaleTest : testing::Test, TestWindow {
     marker.MouseDown = [this](const forms::MouseEvent&) { Meant = OnMarker; };
     // The corner in which the zoom is told shows no picture.
     Of(Box).findChild<QLabel*>("Zoom")->setMaximumSize(0, 0);
-    Window.setMinimumSize(Window.Inside().DesignSize());
+    Window.setMinimumSize(Window.View().DesignSize());
     Look();
   }
 
@@ -62,7 +62,7 @@ struct ScaleTest : testing::Test, TestWindow {
   }
   void ShowAt(forms::Magnification zoom) {
     Box.ZoomTo(zoom, {});
-    Box.Reveal(PixelBounds(Form.ArmyAt(1)));
+    Box.ScrollIntoView(PixelBounds(Form.ArmyAt(1)));
     Look();
   }
   static QPoint Place(const QImage& screen, QPoint at) {
@@ -120,8 +120,8 @@ TEST_F(ScaleTest, TheWheelZoomsAboutThePixelThatIsSeen) {
     for (int n = 0; n < 8; ++n) {
       ShowAt(forms::ZoomSteps[i]);
       // Where no edge of the picture holds it back.
-      Box.ScrollTo((Box.ShownWidth() - Box.ViewWidth()) / 2,
-                   (Box.ShownHeight() - Box.ViewHeight()) / 2);
+      Box.ScrollTo((Box.ZoomedWidth() - Box.ViewWidth()) / 2,
+                   (Box.ZoomedHeight() - Box.ViewHeight()) / 2);
       Look();
       const QPoint at = AnyPixel();
       for (const int turn : {120, -120}) {
@@ -182,7 +182,7 @@ TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
   marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(); };
   const auto at = [&](int x, int y) {
     const forms::PixelPoint onPicture{Marker.x() + x, Marker.y() + y};
-    const forms::PixelPoint place = InBox(Box, onPicture);
+    const forms::PixelPoint place = MapToBox(Box, onPicture);
     return (Scale * (QPointF(place.X, place.Y) + Canvas)).toPoint();
   };
   // Each changes what is seen.
@@ -198,15 +198,15 @@ TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
         Form.ArmyAt(2).Visible = true;
       },
       [&] { Box.SetFocus(); },
-      [&] { Box.Ringed = &Form.ArmyAt(2); },
-      [&] { Box.Ringed = &marker; },
+      [&] { Box.CursorItem = &Form.ArmyAt(2); },
+      [&] { Box.CursorItem = &marker; },
       [&] { marker.Move(Marker.x(), Marker.y()); },
       [&] {
-        Form.Pointer.TakeHold(marker);
+        Form.Pointer.BeginKeyDrag(marker);
         Form.Pointer.Carry(40, 20);
       },
       [&] { Form.Pointer.Carry(-30, -15); },
-      [&] { Form.Pointer.PutBack(); },
+      [&] { Form.Pointer.CancelKeyDrag(); },
       [&] {
         PressAt(at(5, 5));
         MoveTo(at(70, 5));
@@ -216,7 +216,7 @@ TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
         Key(Qt::Key_Escape);
         ReleaseAt(at(20, 20));
       },
-      [&] { Box.Ringed = nullptr; },
+      [&] { Box.CursorItem = nullptr; },
       [&] { Form.ArmyAt.Unload(2); },
   };
   for (const forms::Magnification zoom : {forms::ActualSize, forms::Magnification{3, 1}}) {

@@ -7,8 +7,8 @@
 #include "forms/geometry.h"
 #include "shell/form1.h"
 #include "support/scripteddesktop.h"
+#include "window/appstyle.h"
 #include "window/keyrepeats.h"
-#include "window/look.h"
 #include "window/mainwindow.h"
 
 namespace terramark::window {
@@ -28,16 +28,16 @@ struct TestWindow {
 
   template <typename T = QWidget>
   T& Of(const forms::Control& control) {
-    return *dynamic_cast<T*>(Window.Inside().WidgetOf(control));
+    return *dynamic_cast<T*>(Window.View().WidgetOf(control));
   }
   static QPoint Centre(const forms::Control& control) {
-    const forms::PixelPoint middle = forms::Middle(control);
+    const forms::PixelPoint middle = forms::CentreOnForm(control);
     return {middle.X, middle.Y};
   }
   /// The centre of a control that a press there reaches, as it does on none that is disabled.
   QPoint Reach(const forms::Control& control) const {
     const QPoint at = Centre(control);
-    const forms::Control& hit = Form.Pointer.Under(at.x(), at.y());
+    const forms::Control& hit = Form.Pointer.ControlAt(at.x(), at.y());
     EXPECT_EQ(&hit, &control) << control.Name() << " is covered by " << hit.Name();
     return at;
   }

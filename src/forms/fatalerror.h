@@ -8,7 +8,7 @@
 namespace terramark::forms {
 
 /// Says on the error output what does not hold, and aborts. Going on would be undefined.
-[[noreturn]] inline void Broken(const std::string& what) {
+[[noreturn]] inline void FatalError(const std::string& what) {
   std::fprintf(stderr, "terramark: %s\n", what.c_str());
   std::abort();
 }

@@ -9,12 +9,12 @@ class QIcon;
 namespace terramark::window {
 
 /// Gives the application its own light look; once, before the first widget is made.
-void SetUpLook(QApplication& application);
+void InstallStyle(QApplication& application);
 
 /// The program's icon for windows.
 QIcon WindowIcon();
 
 /// Black or white, whichever stands out more on a face of the colour.
-QColor InkOn(const QColor& face);
+QColor TextColourOn(const QColor& face);
 
 }  // namespace terramark::window

@@ -9,7 +9,7 @@
 
 namespace terramark::thumbnail {
 
-class QuietDesktop : public forms::Desktop {
+class HeadlessDesktop : public forms::Desktop {
  public:
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
                        const std::string& title) override;

@@ -9,8 +9,8 @@
 namespace terramark {
 
 /// As in " 7: Ash in Region North"; the Area's number must lie in the tables.
-std::string AreaWords(const Tables& tables, std::int16_t area);
+std::string AreaDescription(const Tables& tables, std::int16_t area);
 /// As in " 2:  North"; likewise.
-std::string RegionWords(const Tables& tables, std::int16_t region);
+std::string RegionDescription(const Tables& tables, std::int16_t region);
 
 }  // namespace terramark

@@ -8,6 +8,6 @@ namespace terramark::paint {
 
 /// As much of a text as a caption or a box shows: up to 500 characters, one of them an ellipsis
 /// where more are left out, at the end or in the middle. Costs the same however long the text is.
-QString ShownText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
+QString ElidedText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
 
 }  // namespace terramark::paint

@@ -22,9 +22,9 @@ struct LetterShape {
 };
 
 /// A font and those of its letters that were asked for.
-class LetteredFont {
+class CachedFont {
  public:
-  LetteredFont(const Font& wanted, QPointF scale)
+  CachedFont(const Font& wanted, QPointF scale)
       : Wanted(wanted), Scale(scale), Match(MatchFont(wanted, scale)) {}
 
   Font Wanted;
@@ -41,13 +41,13 @@ class LetteredFont {
   std::unordered_map<unsigned, LetterShape> letters_;
 };
 
-class MatchedFonts {
+class FontCache {
  public:
   /// As MatchFont. `target` is charged for one that is not kept. It stands until the next call.
-  LetteredFont& Find(Font wanted, QPointF scale, Surface& target);
+  CachedFont& Find(Font wanted, QPointF scale, Surface& target);
 
  private:
-  std::list<LetteredFont> fonts_;
+  std::list<CachedFont> fonts_;
 };
 
 }  // namespace terramark::metafile

@@ -1,15 +1,15 @@
-#include "canvas/markerwords.h"
+#include "canvas/markerdescription.h"
 
 #include "document/numbers.h"
 
 namespace terramark {
 
-std::string AreaWords(const Tables& tables, std::int16_t area) {
+std::string AreaDescription(const Tables& tables, std::int16_t area) {
   return NumberText(area) + ": " + tables.AreaName(area) + " in Region " +
          tables.RegionName(tables.AreaRegion(area));
 }
 
-std::string RegionWords(const Tables& tables, std::int16_t region) {
+std::string RegionDescription(const Tables& tables, std::int16_t region) {
   return NumberText(region) + ":  " + tables.RegionName(region);
 }
 

@@ -7,11 +7,11 @@
 namespace terramark::widgets {
 
 /// Pixels that the window manager may put around a window: at each side and below, and above it.
-inline constexpr int FrameRoom = 8;
-inline constexpr int TitleRoom = 40;
+inline constexpr int FrameMargin = 8;
+inline constexpr int TitleBarMargin = 40;
 
 /// The largest size, in pixels, at which the window with such a frame lies on its screen as a
 /// whole.
-QSize RoomFor(const QWidget& window);
+QSize MaxWindowSizeFor(const QWidget& window);
 
 }  // namespace terramark::widgets

@@ -1,4 +1,4 @@
-#include "metafile/matchedfonts.h"
+#include "metafile/fontcache.h"
 
 #include <QFontMetrics>
 #include <QRawFont>
@@ -24,7 +24,7 @@ bool HasAll(const QFont& font, const QString& text) {
                      [&raw](QChar letter) { return raw.supportsCharacter(letter); });
 }
 
-// Nothing where a font would draw the box it has for letters that it lacks.
+/// Nothing where a font would draw the box it has for letters that it lacks.
 QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
   QTextLayout layout(text, font);
   layout.beginLayout();
@@ -42,16 +42,16 @@ QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
 
 }  // namespace
 
-const LetterShape& LetteredFont::ShapeOf(QByteArrayView letter, Surface& target) {
+const LetterShape& CachedFont::ShapeOf(QByteArrayView letter, Surface& target) {
   unsigned bytes = 0;
   for (const char byte : letter) bytes = bytes << 8 | static_cast<unsigned char>(byte);
   const auto known = letters_.find(bytes);
   if (known != letters_.end()) return known->second;
-  target.Spend(WorkPerShape);
+  target.ChargeWork(WorkPerShape);
   return letters_.emplace(bytes, NewShape(letter, target)).first->second;
 }
 
-LetterShape LetteredFont::NewShape(QByteArrayView letter, Surface& target) {
+LetterShape CachedFont::NewShape(QByteArrayView letter, Surface& target) {
   const QString text = DecodeLetter(letter, Wanted);
   LetterShape shape{.Runs = {}, .Advance = 0, .Blank = letter == QByteArrayView(" ")};
   const auto take = [&shape](const QFont& face, const QString& as) {
@@ -65,12 +65,12 @@ LetterShape LetteredFont::NewShape(QByteArrayView letter, Surface& target) {
       const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
       if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
     }
-    const bool others = contents != FontContents::OwnSigns && !HasAll(Match.Face, text);
+    const bool others = contents != FontContents::PrivateSymbols && !HasAll(Match.Face, text);
     if (others && !searched_) {
-      target.Spend(WorkPerOtherFamily * InstalledFamilies());
+      target.ChargeWork(WorkPerOtherFamily * FamilyCount());
       searched_ = true;
     }
-    if (contents != FontContents::OwnSigns && take(Match.Face, text)) return shape;
+    if (contents != FontContents::PrivateSymbols && take(Match.Face, text)) return shape;
     if (contents == FontContents::Symbols) {
       const char16_t plainer = PlainerLetter(text[0].unicode());
       if (plainer != 0 && take(Match.Face, QString(QChar(plainer)))) return shape;
@@ -82,15 +82,15 @@ LetterShape LetteredFont::NewShape(QByteArrayView letter, Surface& target) {
   return shape;
 }
 
-LetteredFont& MatchedFonts::Find(Font wanted, QPointF scale, Surface& target) {
+CachedFont& FontCache::Find(Font wanted, QPointF scale, Surface& target) {
   wanted.Escapement = 0;  // the letters are turned when they are drawn
-  target.Spend(WorkPerSearch);
-  const auto kept = std::find_if(fonts_.begin(), fonts_.end(), [&](const LetteredFont& font) {
+  target.ChargeWork(WorkPerSearch);
+  const auto kept = std::find_if(fonts_.begin(), fonts_.end(), [&](const CachedFont& font) {
     return font.Scale == scale && font.Wanted == wanted;
   });
   if (kept != fonts_.end()) return *kept;
-  target.Spend(WorkPerFont);
-  if (fonts_.size() == MaxKeptFonts) fonts_.clear();
+  target.ChargeWork(WorkPerFont);
+  if (fonts_.size() == MaxCachedFonts) fonts_.clear();
   return fonts_.emplace_back(wanted, scale);
 }
 

@@ -1,4 +1,4 @@
-#include "thumbnail/quietdesktop.h"
+#include "thumbnail/headlessdesktop.h"
 
 #include <unistd.h>
 
@@ -13,31 +13,31 @@
 
 namespace terramark::thumbnail {
 
-forms::Answer QuietDesktop::MsgBox(const std::string& text, forms::Buttons /*buttons*/,
-                                   const std::string& /*title*/) {
+forms::Answer HeadlessDesktop::MsgBox(const std::string& text, forms::Buttons /*buttons*/,
+                                      const std::string& /*title*/) {
   Refuse(paint::InSystemEncoding(text));
 }
 
-forms::TextExtent QuietDesktop::MeasureText(const std::string& text) {
+forms::TextExtent HeadlessDesktop::MeasureText(const std::string& text) {
   return paint::ExtentOf(text, *this);
 }
 
-forms::LoadedPicture QuietDesktop::LoadPicture(const std::string& path, int width, int height) {
+forms::LoadedPicture HeadlessDesktop::LoadPicture(const std::string& path, int width, int height) {
   if (path.empty()) return std::make_shared<forms::Raster>();
   const auto file = files::RegularFile::Open(NativePath(path));
-  if (!file) return tl::unexpected(file.error().Words());
+  if (!file) return tl::unexpected(file.error().Description());
   return pictures::LoadPictureFile(*file, width, height);
 }
 
-std::string QuietDesktop::NativePath(const std::string& path) {
+std::string HeadlessDesktop::NativePath(const std::string& path) {
   return paint::InSystemEncoding(path);
 }
 
-void QuietDesktop::EnterFolderOf(const std::string& path) {
+void HeadlessDesktop::EnterFolderOf(const std::string& path) {
   files::EnterFolderOf(NativePath(path));
 }
 
-void QuietDesktop::End(int status) {
+void HeadlessDesktop::End(int status) {
   _exit(status);
 }
 

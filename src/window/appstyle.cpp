@@ -1,4 +1,4 @@
-#include "window/look.h"
+#include "window/appstyle.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -19,7 +19,7 @@ namespace terramark::window {
 namespace {
 
 constexpr double DialogPoints = 9;
-constexpr int ShortestThumb = 12;
+constexpr int MinThumbLength = 12;
 
 const QColor Shadow(0x80, 0x80, 0x80);
 const QColor Greyed(0x58, 0x58, 0x58);
@@ -52,7 +52,7 @@ class Style : public QProxyStyle {
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
-    if (metric == PM_ScrollBarSliderMin) return ShortestThumb;
+    if (metric == PM_ScrollBarSliderMin) return MinThumbLength;
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 };
@@ -75,7 +75,7 @@ QPalette LightPalette() {
 
 }  // namespace
 
-void SetUpLook(QApplication& application) {
+void InstallStyle(QApplication& application) {
   auto style = std::make_unique<Style>();
   style->setParent(&application);
   QApplication::setStyle(style.release());
@@ -97,7 +97,7 @@ QIcon WindowIcon() {
   return QPixmap::fromImage(image.copy());
 }
 
-QColor InkOn(const QColor& face) {
+QColor TextColourOn(const QColor& face) {
   return Luminance(face) < MiddleLuminance ? Qt::white : Qt::black;
 }
 
