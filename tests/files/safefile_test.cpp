@@ -31,6 +31,14 @@ struct Strike {
   std::string Hit{};    // the call that was struck
   std::string Rival{};  // where another file is to be; empty once it is
   int Folder = -1;      // the folder while it is flushed
+  int InPlace = -1;     // the file that is written in place
+  std::string Loose{};  // "text" or "name", while what has been done to it is not flushed
+  bool Rash = false;    // whether more was done while it was loose
+
+  void Touched(const std::string& what) {
+    Rash |= !Loose.empty() && Loose != what;
+    Loose = what;
+  }
 };
 
 Strike* Armed = nullptr;
@@ -50,7 +58,11 @@ auto Call(const std::string& name, Real real) -> decltype(real()) {
   if (name == Armed->Hit && Armed->Error == SameFail) error = EIO;
   errno = error;
   if (error != 0) return -1;
-  return real();
+  const auto done = real();
+  const auto begins = [&](const char* with) { return done >= 0 && name.starts_with(with); };
+  if (begins("pwrite")) Armed->Touched("text");
+  if (begins("link") || begins("rename")) Armed->Touched("name");
+  return done;
 }
 
 }  // namespace
@@ -77,10 +89,15 @@ WRAP(ssize_t, pwrite, d == 0 ? "pwrite" : "pwrite on",
 extern "C" {
 // A killed process needs no flush, and many of them take their time.
 int __wrap_fsync(int file) {
-  return Call(Armed && Armed->Folder == file ? "folder" : "fsync", [] { return 0; });
+  const bool folder = Armed && Armed->Folder == file;
+  return Call(folder ? "folder" : "fsync", [&] {
+    if (Armed && Armed->Loose == (folder ? "name" : "text")) Armed->Loose.clear();
+    return 0;
+  });
 }
 int __real_close(int file);
 int __wrap_close(int file) {
+  if (Armed && Armed->InPlace == file) Armed->Rash |= Armed->Loose == "text";
   const int closed = __real_close(file);  // also when it fails
   return Call("close", [&] { return closed; });
 }
@@ -91,6 +108,7 @@ int __wrap_open(const char* path, int flags, mode_t mode) {
   if (folder) name = "folder";
   const int file = Call(name, [&] { return __real_open(path, flags, mode); });
   if (Armed) Armed->Folder = folder ? file : -1;
+  if (Armed) Armed->InPlace = name == std::string("open") ? file : -1;
   return file;
 }
 }
@@ -206,6 +224,8 @@ TEST_P(Saving, LosesNothingWhateverFails) {
           const int error = blow == Rival ? EEXIST : blow > 0 ? blow : EIO;
           EXPECT_EQ(Why, said ? 0 : error);
         }
+        EXPECT_TRUE(!over || Struck.Loose.empty()) << Struck.Loose;
+        EXPECT_FALSE(Struck.Rash && (over || (blow > 0 && !said))) << Struck.Hit;
         const bool rival = Struck.Rival.empty();
         int litter = 0;
         bool whole = BytesOf(Map) == (rival ? "rival" : said ? text : before);
