@@ -76,7 +76,7 @@ PALETTE = ("CreatePalette", 0x300, 4, RED, GREEN, BLUE, YELLOW), ("SelectPalette
 UNDER = NO_PEN, brush(longs(0xAAAAAA)), BOX
 CLIPPED = brush(), ("IntersectClipRect", at(10, 8, 30, 20))
 # The mapping by the viewport, so that it scales about the cell's corner.
-MAPPED = ("SetWindowOrg", 0, 0), ("SetViewportOrg", CORNER), brush()
+MAPPED = ("SetWindowOrg", 0, 0), ("SetViewportOrg", CORNER), brush(), pen(0, 4)
 
 EVERY_RECORD = [
     ("MoveTo, LineTo", ("MoveTo", at(4, 4)), ("LineTo", at(40, 8)), ("LineTo", at(8, 28))),
@@ -109,8 +109,9 @@ EVERY_RECORD = [
         ("SetMapMode", 2), ("SetWindowExt", 700, 864), ("SetViewportExt", 176, 288),
         ("ScaleWindowExt", 1, 2, 3, 4), ("ScaleViewportExt", 4, 3, 2, 1),
         ("OffsetWindowOrg", -4, -8), ("OffsetViewportOrg", 3, 10))],
-    ("SaveDC, RestoreDC -1", ("SaveDC",), brush(), ("RestoreDC", -1), BOX),
-    ("SaveDC, RestoreDC 2", ("SaveDC",), brush(), ("SaveDC",), pen(0, 3), ("RestoreDC", 2), BOX),
+    # The first level is the cell's own.
+    *[(f"RestoreDC {level}", brush(), pen(0, 3), ("SaveDC",), pen(0, 1), ("SaveDC",), brush(BLUE),
+       ("RestoreDC", level), BOX, *rest) for level, *rest in ((-1, ("RestoreDC", -1)), (2,))],
     ("SelectObject", brush(), brush(BLUE), ("SelectObject", 0), BOX),
     ("DeleteObject", brush(), ("DeleteObject", 0), WHOLE, brush(BLUE), ("SelectObject", 0), BOX),
     ("IntersectClipRect", *CLIPPED, WHOLE),
@@ -125,13 +126,14 @@ EVERY_RECORD = [
     *[(name, pen(colour=BLUE), brush(GREEN), BOX, HOLLOW, ("Ellipse", at(20, 8, 45, 28)), brush(),
        ("SetPixel", BLACK, at(12, 12)), (name.split()[0], *how, at(8, 8))) for name, *how in (
            ("FloodFill", BLUE), ("ExtFloodFill 0", 0, BLUE), ("ExtFloodFill 1", 1, GREEN))],
-    *[(name, *PALETTE, (name, *how), brush(PICKED), BOX) for name, *how in (
+    *[(name, *PALETTE, brush(PICKED), (name, *how), BOX) for name, *how in (
         ("SelectPalette", 0), ("SetPaletteEntries", 1, 1, BLUE),
         ("AnimatePalette", 0, 2, BLUE, YELLOW))],
+    ("no palette", brush(PICKED), BOX),
     *[(f"text, {name}", font(**how), text()) for name, how in {
         "plain": {}, "italic": {"italic": 1}, "underlined": {"underline": 1},
         "struck out": {"strike": 1}, "weight 500": {"weight": 500}, "weight 600": {"weight": 600},
-        "weight 700": {"weight": 700}, "8 wide": {"width": 8}, "cell 20 high": {"height": 20},
+        "weight 700": {"weight": 700}, "8 wide": {"width": 8}, "cell 14 high": {"height": 14},
         "serifs by face": {"face": b"Times New Roman\0"},
         "serifs by family": {"face": b"\0\0", "family": 16},
         "fixed pitch": {"face": b"\0\0", "family": 1}}.items()],

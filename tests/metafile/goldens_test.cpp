@@ -32,9 +32,10 @@ void ExpectGolden(const QString& folder, const QString& name, const QList<QByteA
   const QImage drawn(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,
                      picture->Height, QImage::Format_RGB32);
   const QImage golden = QImage(GOLDENS "/" + name + ".png").convertToFormat(drawn.format());
+  const QString left = METAFILES "/" + name + ".png";
+  QFile::remove(left);
   if (drawn == golden) return;
 
-  const QString left = METAFILES "/" + name + ".png";
   EXPECT_TRUE(drawn.save(left));
   std::string different;
   for (qsizetype i = 0; i < cells.size(); ++i) {
