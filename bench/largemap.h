@@ -41,7 +41,7 @@ struct ShownEditor : Editor {
 /// Shows a picture and puts the Areas in its upper left corner, where all are seen at once.
 inline void MakeMap(Form1& form, const QString& picture) {
   form.PictureFile = picture.toStdString();
-  const Shown shown = ShowPicture(form, form.PictureFile);
+  const ShowResult shown = ShowPicture(form, form.PictureFile);
   if (!shown) qFatal("cannot show %s: %s", qPrintable(picture), shown.error().c_str());
   for (int i = 0; i < CountLimit; ++i) {
     const auto x = static_cast<float>(10 + 44 * (i % 12));

@@ -15,7 +15,7 @@ constexpr int MemoryRounds = 5;
 
 forms::Picture Load(const QString& path) {
   const auto file = files::RegularFile::Open(path.toStdString());
-  if (!file) qFatal("cannot open %s: %s", qPrintable(path), file.error().Words().c_str());
+  if (!file) qFatal("cannot open %s: %s", qPrintable(path), file.error().Description().c_str());
   forms::LoadedPicture loaded = pictures::LoadPictureFile(*file, 0, 0);
   if (!loaded) qFatal("cannot load %s: %s", qPrintable(path), loaded.error().c_str());
   return *loaded;

@@ -72,9 +72,9 @@ TEST_F(PointerTest, APressReachesTheUppermostEnabledControl) {
     Control& Hit;
   } cases[]{{50, 35, Over},  {69, 44, Over}, {49, 35, Under},
             {50, 34, Under}, {70, 44, Box},  {69, 45, Box}};
-  for (const auto& [x, y, hit] : cases) EXPECT_EQ(&Pointer.Under(x, y), &hit) << x << " " << y;
+  for (const auto& [x, y, hit] : cases) EXPECT_EQ(&Pointer.ControlAt(x, y), &hit) << x << " " << y;
   Over.Enabled = false;
-  EXPECT_EQ(&Pointer.Under(62, 42), &Box);
+  EXPECT_EQ(&Pointer.ControlAt(62, 42), &Box);
   Box.Enabled = false;
   EXPECT_EQ(Stroke(62, 42, 62, 42), "");
 }
@@ -144,7 +144,7 @@ TEST_F(PointerTest, ALargePictureScrollsAndPlacesStayThoseOfThePicture) {
   EXPECT_EQ(Box.ScrollTop.Get(), 0);
   Box.ScrollTo(30, 0);
   EXPECT_EQ(Stroke(15, 32, 110, 80), "box 130 70") << "the marker at 30, 20 is at the left edge";
-  EXPECT_EQ(&Pointer.Under(100, 100), &Window) << "a scroll bar is no backdrop";
+  EXPECT_EQ(&Pointer.ControlAt(100, 100), &Window) << "a scroll bar is no backdrop";
   Pointer.Press(15, 32, LeftButton, 0);
   Pointer.Move(190, 50, 0);
   Pointer.AutoScroll();

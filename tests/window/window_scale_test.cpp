@@ -203,9 +203,9 @@ TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
       [&] { marker.Move(Marker.x(), Marker.y()); },
       [&] {
         Form.Pointer.BeginKeyDrag(marker);
-        Form.Pointer.Carry(40, 20);
+        Form.Pointer.MoveKeyDrag(40, 20);
       },
-      [&] { Form.Pointer.Carry(-30, -15); },
+      [&] { Form.Pointer.MoveKeyDrag(-30, -15); },
       [&] { Form.Pointer.CancelKeyDrag(); },
       [&] {
         PressAt(at(5, 5));
