@@ -163,10 +163,10 @@ EVERY_RECORD = [
     *[(f"SetStretchBltMode {mode}", ("SetStretchBltMode", mode),
        ("StretchDib", 0, 0xCC, 0, at(8, 8, 16, 12, 0, 0, 32, 24), LINES)) for mode in (1, 2, 3)],
 ]
-LETTERS = {
-    0: b"H\xC4\x81\x80", 77: b"\x80\x8A", 128: b"\x84\x40a\x83\xBFa", 129: b"a\xAC\xA1b",
+LETTERS = {  # that the fonts have which the build asks for
+    0: b"\xC4\x80", 77: b"\x80\x8A", 128: b"\x84\x40a\x83\xBFa", 129: b"a\xAC\xA1b",
     134: b"a\xA7\xA1b", 136: b"a\xA3\x44b", 161: b"\xC1\xE1", 162: b"\xD0\xFE",
-    163: b"\xD0\xFE", 177: b"\xE0\xE1", 186: b"\xC0\xE0", 204: b"\xC6\xE6",
+    163: b"\xD0\xF0", 177: b"\xAA\xBA", 186: b"\xC0\xE0", 204: b"\xC6\xE6",
     238: b"\xA3\xB3", 255: b"\x80\xE1"}
 OLD_KINDS = [
     *[(f"BitBlt from {part}", ("BitBlt", 0, 0xCC, at(8, 8, 20, 8, *part), HEAD, BITS))
@@ -195,6 +195,7 @@ OLD_KINDS = [
      ("DibCreatePatternBrush", 5, 1, NUMBERED), BOX),
     *[(f"character set {charset}", font(charset=charset), text(letters))
       for charset, letters in LETTERS.items()],
+    ("letters that no font has", FONT, ("ExtTextOut", at(3, 6), 2, 0, b"\x81H", 15, 15)),
     # Which font has them depends on the system, so that they are clipped away.
     ("letters of other fonts",
      *[record for charset, face in ((128, b"Arial\0"), (2, b"Symbol\0\0"), (2, b"Signs\0"))
