@@ -30,7 +30,7 @@ from gestures import LOADING, View, drawn  # noqa: E402
 from hands import Hands  # noqa: E402
 from screen import Failure, Screen  # noqa: E402
 
-START_LIMIT, HANG_LIMIT, SLICE = 60, 5, 0.05  # seconds; of a longer look the machine is guilty
+START_LIMIT, HANG_LIMIT, SLICE = 180, 5, 0.05  # seconds; of a longer look the machine is guilty
 # What Qt's file dialog writes: in a folder that may not be read, and where a file goes that is just
 # being renamed.
 BORNE = b"inotify_add_watch(", b"QAbstractItemView::"

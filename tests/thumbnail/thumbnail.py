@@ -51,7 +51,7 @@ with tempfile.TemporaryDirectory() as folder:
     os.close(heard)
     block = lambda: signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM])
     fonts = {"FONTCONFIG_FILE": os.path.abspath("pipe.tml")}
-    run = subprocess.run([PROGRAM, "-h", "map.png", "64"], stderr=told, env=fonts, preexec_fn=block, timeout=10)
+    run = subprocess.run([PROGRAM, "-h", "map.png", "64"], stderr=told, env=fonts, preexec_fn=block, timeout=180)
     assert run.returncode == 1, run
     assert set(os.listdir()) == {os.fsdecode(b"\xff\xfe.tml"), "-h", "europe.bmp", "cut.tml",
                                  "alone.tml", "pipe.tml", "map.png", "link", "twin"}
