@@ -18,13 +18,15 @@ SOURCE = (DIST.parent / "src/shell/icon.cpp").read_text("ascii")
 rows = re.findall(r'"([A-Z]{32})"', SOURCE)
 marks = "".join(sorted(set("".join(rows))))
 colours = dict(re.findall(r"case '(\w)':\s+return 0xFF(\w{6});", SOURCE))
-other = re.search(r"default:\s+return 0xFF(\w{6});", SOURCE)[1]
+other = re.search(r"default:\s+return 0xFF(\w{6});", SOURCE)
+if len(rows) != 32 or len(colours) != 5 or not other:
+    sys.exit("src/shell/icon.cpp: not a drawing of 32 rows in six colours, as draw_icon.py reads it")
 
 # Four bits a pixel, as many as 16 colours take.
 digits = str.maketrans(marks, "0123456789ABCDEF"[:len(marks)])
 chunks = [
     (b"IHDR", struct.pack(">IIBBBBB", 32, len(rows), 4, 3, 0, 0, 0)),
-    (b"PLTE", bytes.fromhex("".join(colours.get(mark, other) for mark in marks))),
+    (b"PLTE", bytes.fromhex("".join(colours.get(mark, other[1]) for mark in marks))),
     (b"IDAT", zlib.compress(b"".join(b"\0" + bytes.fromhex(row.translate(digits)) for row in rows), 9)),
     (b"IEND", b""),
 ]

@@ -13,15 +13,13 @@ constexpr char AboutSentence[] =
     "Terramark 1 by the Terramark developers, see Help: good maps win games";
 
 /// In tab order; places and sizes in twips.
-/// clang-format off
+// clang-format off
 constexpr ControlRow<AboutForm> AboutControls[] = {
-    // control                   caption topic inside  left  top   width  height, tooltip,
-    // accessible name
-    {ControlOf<&AboutForm::AboutOk>, "OK", 0, Itself, 4530, 615, 510, 375},
-    {ControlOf<&AboutForm::Picture1>, "", 0, Itself, 4530, 45, 510, 480, "",
-     "The icon of Terramark"},
-    {ControlOf<&AboutForm::AboutText>, "", 0, Itself, 0, 30, 4440, 1050, "", "About Terramark"},
-    {ControlOf<&AboutForm::Label1>, "", 0, Itself, 30, 1110, 5025, 315, "", "A coloured bar"},
+    // control                   caption topic inside  left  top   width  height, tooltip, accessible name
+    {ControlOf<&AboutForm::AboutOk>,   "OK", 0, Itself, 4530,  615,  510,  375},
+    {ControlOf<&AboutForm::Picture1>,  "",   0, Itself, 4530,   45,  510,  480, "", "The icon of Terramark"},
+    {ControlOf<&AboutForm::AboutText>, "",   0, Itself,    0,   30, 4440, 1050, "", "About Terramark"},
+    {ControlOf<&AboutForm::Label1>,    "",   0, Itself,   30, 1110, 5025,  315, "", "A coloured bar"},
 };
 // clang-format on
 

@@ -10,7 +10,7 @@ namespace {
 constexpr char32_t FirstOfOwn = 0x80;
 
 /// Bytes 0x80 to 0x9F; all others stand for the character of the same number.
-/// clang-format off
+// clang-format off
 constexpr auto OwnCharacters = std::to_array<char16_t>({
     // 0/8   1/9     2/A     3/B     4/C     5/D     6/E     7/F
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80

@@ -11,11 +11,13 @@ constexpr Components UnsetRGB{UnsetComponent, UnsetComponent, UnsetComponent};
 }  // namespace
 
 void ClearRows(Tables& tables) {
-  tables.RegionRGB(0) = UnsetRGB;
+  // Names all members, so that a new one does not compile until it is said here what becomes of it:
+  // counts, colours and picture are not of the rows.
+  [[maybe_unused]] auto& [areaCount, regionCount, areas, regions, playerRGB, pictureFile] = tables;
+  regions(0).RGB = UnsetRGB;
   for (std::int16_t i = 1; i <= LastNumber; ++i) {
-    tables.Areas(i) = {
-        .Name = UnknownName, .Links = ClearedLinks, .Symbol{}, .Corner = tables.AreaCorner(i)};
-    tables.Regions(i) = {.Name = UnknownName, .Armies = NewArmies, .RGB = UnsetRGB};
+    areas(i) = {.Name = UnknownName, .Links = ClearedLinks, .Symbol{}, .Corner = areas(i).Corner};
+    regions(i) = {.Name = UnknownName, .Armies = NewArmies, .RGB = UnsetRGB};
   }
 }
 

@@ -43,21 +43,21 @@ struct CommandRow {
 
 // clang-format off
 constexpr CommandRow Commands[] = {
-    {ControlOf<&Form1::AddCont>,     IgnoreEvent<AddCont_MouseUp>},
-    {ControlOf<&Form1::AddTer>,      AddTer_MouseUp},
-    {ControlOf<&Form1::ClearLink>,   IgnoreEvent<ClearLink_MouseUp>},
-    {ControlOf<&Form1::Cvalid>,      IgnoreEvent<Cvalid_MouseUp>},
-    {ControlOf<&Form1::DBPush1>,     IgnoreEvent<DBPush1_MouseUp>},
-    {ControlOf<&Form1::DelAll>,      IgnoreEvent<DelAll_MouseUp>},
-    {ControlOf<&Form1::DelControl>,  IgnoreEvent<DelControl_MouseUp>},
-    {ControlOf<&Form1::LoadMap>,     IgnoreEvent<LoadMap_MouseUp>},
-    {ControlOf<&Form1::LoadMpa>,     IgnoreEvent<LoadMpa_MouseUp>},
-    {ControlOf<&Form1::MakeNeibor>,  IgnoreEvent<MakeNeibor_MouseUp>},
-    {ControlOf<&Form1::RefMap>,      IgnoreEvent<RefMap_MouseUp>},
-    {ControlOf<&Form1::SaveCFG>,     IgnoreEvent<SaveCFG_MouseUp>},
-    {ControlOf<&Form1::SetCont>,     IgnoreEvent<SetCont_MouseUp>},
-    {ControlOf<&Form1::SwapTer>,     IgnoreEvent<SwapTer_MouseUp>},
-    {ControlOf<&Form1::TMHelp>,      IgnoreEvent<TMHelp_MouseUp>},
+    {ControlOf<&Form1::AddCont>,    IgnoreEvent<AddCont_MouseUp>},
+    {ControlOf<&Form1::AddTer>,     AddTer_MouseUp},
+    {ControlOf<&Form1::ClearLink>,  IgnoreEvent<ClearLink_MouseUp>},
+    {ControlOf<&Form1::Cvalid>,     IgnoreEvent<Cvalid_MouseUp>},
+    {ControlOf<&Form1::DBPush1>,    IgnoreEvent<DBPush1_MouseUp>},
+    {ControlOf<&Form1::DelAll>,     IgnoreEvent<DelAll_MouseUp>},
+    {ControlOf<&Form1::DelControl>, IgnoreEvent<DelControl_MouseUp>},
+    {ControlOf<&Form1::LoadMap>,    IgnoreEvent<LoadMap_MouseUp>},
+    {ControlOf<&Form1::LoadMpa>,    IgnoreEvent<LoadMpa_MouseUp>},
+    {ControlOf<&Form1::MakeNeibor>, IgnoreEvent<MakeNeibor_MouseUp>},
+    {ControlOf<&Form1::RefMap>,     IgnoreEvent<RefMap_MouseUp>},
+    {ControlOf<&Form1::SaveCFG>,    IgnoreEvent<SaveCFG_MouseUp>},
+    {ControlOf<&Form1::SetCont>,    IgnoreEvent<SetCont_MouseUp>},
+    {ControlOf<&Form1::SwapTer>,    IgnoreEvent<SwapTer_MouseUp>},
+    {ControlOf<&Form1::TMHelp>,     IgnoreEvent<TMHelp_MouseUp>},
 };
 // clang-format on
 

@@ -49,6 +49,7 @@ void Control::CopyCommon(const Control& from) {
   ToolTipText = from.ToolTipText;
   AccessibleName = from.AccessibleName;
   AccessibleNameOf = from.AccessibleNameOf;
+  ListOrder = from.ListOrder;
   HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;
   MouseDown = from.MouseDown;

@@ -48,6 +48,9 @@ class Control : public PropertyOwner {
   /// The same for the elements of a control array on a picture, by the index; may be empty, and
   /// then the caption counts.
   std::function<std::string(std::int16_t index)> AccessibleNameOf;
+  /// Where it comes among the labels on a picture for assistive tools: the lowest first, and those
+  /// of one array by their index.
+  std::int16_t ListOrder = 0;
   /// Topic of the help that tells of the control; 0 for none.
   std::int16_t HelpTopic = 0;
   /// Unit inside this control, when it contains others.

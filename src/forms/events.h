@@ -24,25 +24,27 @@ inline bool AsksForHelp(std::int16_t shift) {
   return shift == ShiftKey;
 }
 
-/// Key codes; no other key has one.
-inline constexpr std::int16_t KeyReturn = 13;
-inline constexpr std::int16_t KeyEscape = 27;
-inline constexpr std::int16_t KeySpace = 32;
-inline constexpr std::int16_t KeyPageUp = 33;
-inline constexpr std::int16_t KeyPageDown = 34;
-inline constexpr std::int16_t KeyEnd = 35;
-inline constexpr std::int16_t KeyHome = 36;
-inline constexpr std::int16_t KeyLeftArrow = 37;
-inline constexpr std::int16_t KeyUpArrow = 38;
-inline constexpr std::int16_t KeyRightArrow = 39;
-inline constexpr std::int16_t KeyDownArrow = 40;
-inline constexpr std::int16_t Key0 = 48;
-inline constexpr std::int16_t KeyC = 67;
-inline constexpr std::int16_t KeyMenu = 93;
-inline constexpr std::int16_t KeyF1 = 112;
-inline constexpr std::int16_t KeyF6 = 117;
-inline constexpr std::int16_t KeyPlus = 187;
-inline constexpr std::int16_t KeyMinus = 189;
+/// Key codes; any other key has the code 0.
+enum KeyCode : std::int16_t {
+  KeyReturn = 13,
+  KeyEscape = 27,
+  KeySpace = 32,
+  KeyPageUp = 33,
+  KeyPageDown = 34,
+  KeyEnd = 35,
+  KeyHome = 36,
+  KeyLeftArrow = 37,
+  KeyUpArrow = 38,
+  KeyRightArrow = 39,
+  KeyDownArrow = 40,
+  Key0 = 48,
+  KeyC = 67,
+  KeyMenu = 93,
+  KeyF1 = 112,
+  KeyF6 = 117,
+  KeyPlus = 187,
+  KeyMinus = 189,
+};
 
 /// X and Y are in the scale of the control that gets the event: pixels in a picture box, twips from
 /// the top left corner of any other control. Index is the element's number in its control array.

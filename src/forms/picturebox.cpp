@@ -128,15 +128,23 @@ void PictureBox::PropertyChanged(PropertyId id) {
   if (id != PropertyId::Picture && id != PropertyId::Width && id != PropertyId::Height) {
     return Control::PropertyChanged(id);
   }
-  std::optional<Raster> old = std::exchange(own_, Padded());
+  std::optional<Raster> oldImage;
+  bool replaced = false;
   try {
+    oldImage = std::exchange(own_, Padded());
+    replaced = true;
     ScrollTo(ScrollLeft, ScrollTop);
     Control::PropertyChanged(id);
   } catch (...) {
-    // The assignment is taken back, and the image stays that of the old value.
-    own_ = std::move(old);
+    if (replaced) own_ = std::move(oldImage);
+    Picture.Restore(imagePicture_);
+    Width.Restore(imageWidth_);
+    Height.Restore(imageHeight_);
     throw;
   }
+  imagePicture_ = Picture;
+  imageWidth_ = Width;
+  imageHeight_ = Height;
 }
 
 void PictureBox::ChildRemoved(const Control& child) {

@@ -23,10 +23,10 @@ class PictureBox : public Control {
     InnerScale = Scale::Pixels;
   }
 
-  /// Assigning replaces the persistent image, paint included, also by the picture that stands
+  /// Assigning replaces the persistent image, paint included, also by the picture that the box has
   /// already. The empty picture empties the box. A picture that covers the box is not copied; for a
-  /// smaller one it throws std::bad_alloc when the memory does not reach. Whatever is thrown,
-  /// nothing has changed.
+  /// smaller one it throws std::bad_alloc when the memory does not reach, as does a larger size of
+  /// the box. Whatever is thrown, nothing has changed.
   Property<forms::Picture, NotifyOn::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
@@ -85,6 +85,10 @@ class PictureBox : public Control {
 
   /// The image where it is not the picture itself: larger, or painted on.
   std::optional<Raster> own_ = Raster{};
+  /// What the image was made for: the values to restore when an assignment fails.
+  forms::Picture imagePicture_;
+  float imageWidth_ = 0;
+  float imageHeight_ = 0;
 };
 
 }  // namespace terramark::forms

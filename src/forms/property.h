@@ -47,20 +47,18 @@ class Property {
   Property(const Property&) = delete;
   ~Property() = default;
 
-  /// An assignment of the value that stands already tells nobody, unless every assignment does. One
-  /// that the owner cannot carry out, and so throws, leaves the old value.
+  /// An assignment of the value that the property has already notifies nobody, unless every
+  /// assignment does.
   Property& operator=(T value) {
     if (When == NotifyOn::Changes && value == value_) return *this;
-    std::swap(value_, value);
-    try {
-      owner_.PropertyChanged(id_);
-    } catch (...) {
-      std::swap(value_, value);
-      throw;
-    }
+    value_ = std::move(value);
+    owner_.PropertyChanged(id_);
     return *this;
   }
   Property& operator=(const Property& other) { return *this = T(other.value_); }
+
+  /// Puts a value back, and notifies nobody: for an owner that could not carry an assignment out.
+  void Restore(T value) { value_ = std::move(value); }
 
   operator const T&() const { return value_; }
   const T& Get() const { return value_; }

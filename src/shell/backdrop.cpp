@@ -11,14 +11,9 @@ namespace terramark {
 
 namespace {
 
-constexpr char PictureFault[] = "Cannot read picture ";
-constexpr char NameFault[] = "Cannot use this file name in a Map Layout: ";
-
 /// Takes what was said of an earlier picture off the bar.
-void ClearPictureFaults(Form1& form) {
-  const std::string& text = form.Message.Caption;
-  const bool ours = text.starts_with(PictureFault) || text.starts_with(NameFault);
-  if (ours && form.Message.BackColor == ClrRed) ShowMessage(form, "", ClrGreen);
+void ClearPictureFault(Form1& form) {
+  if (form.PictureFaultShown) ShowMessage(form, "", ClrGreen);
 }
 
 ShowResult LoadBackdrop(Form1& form, const std::string& path) {
@@ -37,7 +32,7 @@ ShowResult ShowPicture(Form1& form, const std::string& path) {
   } catch (const std::bad_alloc&) {
     return tl::unexpected<std::string>("not enough memory");
   }
-  ClearPictureFaults(form);
+  ClearPictureFault(form);
   return {};
 }
 
@@ -48,11 +43,14 @@ ShowResult ShowNewPicture(Form1& form, const std::string& path) {
 }
 
 void ShowPictureFault(Form1& form, const std::string& path, const std::string& fault) {
-  ShowFileFault(form, PictureFault, path, ": " + fault);
+  ShowFileFault(form, "Cannot read picture ", path, ": " + fault);
+  form.PictureFaultShown = true;
 }
 
 void ShowNameFault(Form1& form, const std::string& name) {
-  ShowFileFault(form, NameFault, name, " (not all its letters fit)");
+  ShowFileFault(form, "Cannot use this file name in a Map Layout: ", name,
+                " (not all its letters fit)");
+  form.PictureFaultShown = true;
 }
 
 }  // namespace terramark

@@ -20,6 +20,7 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   form.Message.Alert = colour == ClrRed;
   if (form.Message.Alert) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
+  form.PictureFaultShown = false;
   // Where the same is said once more no property changes, and yet it is to be heard.
   form.Message.Refresh();
 }

@@ -24,16 +24,16 @@ constexpr forms::Color LightGrey = 0x00C0C0C0;
 // clang-format off
 constexpr LabelRow LabelLooks[] = {
     // label                         background        text                  border    alignment, what it stands over
-    {Element<&Form1::Label1, 0>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 0>},
-    {Element<&Form1::Label1, 1>,     ClrBlack,         ClrWhite,             NoBorder, Centred, Element<&Form1::Countx, 1>},
-    {Element<&Form1::Label1, 2>,     ClrBlack,         ClrWhite,             NoBorder, Centred, ControlOf<&Form1::LoadMpa>},
-    {Element<&Form1::Label1, 5>,     ClrBlack,         ClrWhite,             NoBorder, Centred, ControlOf<&Form1::LoadMap>},
-    {Element<&Form1::Countx, 0>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
-    {Element<&Form1::Countx, 1>,     ClrGrey,          ClrWhite,             NoBorder, Centred},
-    {ControlOf<&Form1::Helpbar>,           LightGrey,        forms::SysWindowText, Single,   Centred},
-    {ControlOf<&Form1::Message>,           forms::SysWindow, forms::SysWindowText, Single,   Centred},
-    {Element<&Form1::ArmyAt, 0>,     ClrBlack,         forms::SysWindowText, Single,   forms::Alignment::Left},
-    {Element<&Form1::Continent, 0>,  forms::SysWindow, forms::SysWindowText, Single,   Centred},
+    {Element<&Form1::Label1, 0>,    ClrBlack,         ClrWhite,             NoBorder, Centred,                Element<&Form1::Countx, 0>},
+    {Element<&Form1::Label1, 1>,    ClrBlack,         ClrWhite,             NoBorder, Centred,                Element<&Form1::Countx, 1>},
+    {Element<&Form1::Label1, 2>,    ClrBlack,         ClrWhite,             NoBorder, Centred,                ControlOf<&Form1::LoadMpa>},
+    {Element<&Form1::Label1, 5>,    ClrBlack,         ClrWhite,             NoBorder, Centred,                ControlOf<&Form1::LoadMap>},
+    {Element<&Form1::Countx, 0>,    ClrGrey,          ClrWhite,             NoBorder, Centred},
+    {Element<&Form1::Countx, 1>,    ClrGrey,          ClrWhite,             NoBorder, Centred},
+    {ControlOf<&Form1::Helpbar>,    LightGrey,        forms::SysWindowText, Single,   Centred},
+    {ControlOf<&Form1::Message>,    forms::SysWindow, forms::SysWindowText, Single,   Centred},
+    {Element<&Form1::ArmyAt, 0>,    ClrBlack,         forms::SysWindowText, Single,   forms::Alignment::Left},
+    {Element<&Form1::Continent, 0>, forms::SysWindow, forms::SysWindowText, Single,   Centred},
 };
 // clang-format on
 
@@ -72,6 +72,9 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
   // It changes with every move of the mouse.
   Helpbar.Announcement = forms::Announcement::OnRequest;
   Continent(0).AutoSize = true;
+  // Areas, then Regions, as the keyboard walks.
+  ArmyAt(0).ListOrder = 1;
+  Continent(0).ListOrder = 2;
   Picture1.TabStop = true;
   for (const LimitRow& row : Limits) row.Locate(*this).MaxLength = row.MaxLength;
   ColBar.ForEach([](forms::VScrollBar& bar) { bar.Max = UnsetComponent; });

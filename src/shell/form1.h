@@ -34,6 +34,8 @@ struct Form1 : forms::Form, Tables {
   Table<std::int16_t> MarkedAreas;
   // Of the armies (selection/inspector): the text of Armypc before the key now being pressed.
   std::string ArmypcLast;
+  // Of the message bar (shell/backdrop): whether it says that a picture cannot be read or named.
+  bool PictureFaultShown = false;
   // Of the colour panel (canvas/colourpanel): the colour composed on the bars, and what holds them
   // still while the panel moves them.
   forms::Color SliderColour = 0;
@@ -46,50 +48,49 @@ struct Form1 : forms::Form, Tables {
   // Of the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
 
-  // Behind each control its caption, or the word that a user knows it by.
+  // The controls. Their captions and accessible names are in the control table, form1controls.cpp.
 
   // Above the picture
-  forms::TextBox Text1{"Text1"};        // the header line of the layout
-  forms::TextBox EditText{"EditText"};  // the name of the Area or Region
-  forms::TextBox Symb{"Symb"};          // the card symbol of the Area
-  forms::TextBox Armypc{"Armypc"};      // the armies of the Region
-  forms::Label Helpbar{"Helpbar"};      // what is under the pointer
-  forms::Label Message{"Message"};      // what a command says
+  forms::TextBox Text1{"Text1"};
+  forms::TextBox EditText{"EditText"};
+  forms::TextBox Symb{"Symb"};
+  forms::TextBox Armypc{"Armypc"};
+  forms::Label Helpbar{"Helpbar"};
+  forms::Label Message{"Message"};
 
   // The map
-  forms::PictureBox Picture1{"Picture1"};                    // the picture
-  forms::ControlArray<forms::Label> ArmyAt{"ArmyAt"};        // the Areas' markers
-  forms::ControlArray<forms::Label> Continent{"Continent"};  // the Regions' markers
+  forms::PictureBox Picture1{"Picture1"};
+  forms::ControlArray<forms::Label> ArmyAt{"ArmyAt"};
+  forms::ControlArray<forms::Label> Continent{"Continent"};
 
   // "Colours" and "RGB"
-  forms::Frame Frame3D1{"Frame3D1"};                             // "Colours"
-  forms::ControlArray<forms::CommandButton> PlColor{"PlColor"};  // "Player1" to "Continent"
-  forms::Frame RGBFrame{"RGBFrame"};                             // "RGB"
-  forms::ControlArray<forms::VScrollBar> ColBar{"ColBar"};       // red, green, blue
+  forms::Frame Frame3D1{"Frame3D1"};
+  forms::ControlArray<forms::CommandButton> PlColor{"PlColor"};
+  forms::Frame RGBFrame{"RGBFrame"};
+  forms::ControlArray<forms::VScrollBar> ColBar{"ColBar"};
 
   // "Size", and the words over other controls
-  forms::Frame Frame1{"Frame1"};                       // "Size"
-  forms::ControlArray<forms::Label> Countx{"Countx"};  // the numbers of Areas and of Regions
-  forms::ControlArray<forms::Label> Label1{
-      "Label1"};  // "Areas", "Regions", "Map Layout", "Picture"
+  forms::Frame Frame1{"Frame1"};
+  forms::ControlArray<forms::Label> Countx{"Countx"};
+  forms::ControlArray<forms::Label> Label1{"Label1"};
 
   // Commands
-  forms::CommandButton LoadMap{"LoadMap"};        // "Load A .WMF Picture"; then the picture's name
-  forms::CommandButton LoadMpa{"LoadMpa"};        // "Load a Map Layout"; then the layout's name
-  forms::CommandButton SaveCFG{"SaveCFG"};        // "Save a Map Layout"
-  forms::CommandButton Cvalid{"Cvalid"};          // "Validate Map"
-  forms::CommandButton RefMap{"RefMap"};          // "Refresh map"
-  forms::CommandButton AddTer{"AddTer"};          // "Add Area"
-  forms::CommandButton AddCont{"AddCont"};        // "Add Region"
-  forms::CommandButton MakeNeibor{"MakeNeibor"};  // "Set Neighbours"
-  forms::CommandButton SetCont{"SetCont"};        // "Set Region"
-  forms::CommandButton SwapTer{"SwapTer"};        // "Swap Territories"
-  forms::CommandButton ClearLink{"ClearLink"};    // "Clear all Links"
-  forms::CommandButton DelControl{"DelControl"};  // "Delete"
-  forms::CommandButton DelAll{"DelAll"};          // "Clear whole Map"
-  forms::CommandButton TMHelp{"TMHelp"};          // "Help"
-  forms::CommandButton DBPush1{"DBPush1"};        // "About"
-  forms::CommandButton Quit{"Quit"};              // "Exit"
+  forms::CommandButton LoadMap{"LoadMap"};
+  forms::CommandButton LoadMpa{"LoadMpa"};
+  forms::CommandButton SaveCFG{"SaveCFG"};
+  forms::CommandButton Cvalid{"Cvalid"};
+  forms::CommandButton RefMap{"RefMap"};
+  forms::CommandButton AddTer{"AddTer"};
+  forms::CommandButton AddCont{"AddCont"};
+  forms::CommandButton MakeNeibor{"MakeNeibor"};
+  forms::CommandButton SetCont{"SetCont"};
+  forms::CommandButton SwapTer{"SwapTer"};
+  forms::CommandButton ClearLink{"ClearLink"};
+  forms::CommandButton DelControl{"DelControl"};
+  forms::CommandButton DelAll{"DelAll"};
+  forms::CommandButton TMHelp{"TMHelp"};
+  forms::CommandButton DBPush1{"DBPush1"};
+  forms::CommandButton Quit{"Quit"};
 };
 
 }  // namespace terramark

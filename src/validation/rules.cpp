@@ -1,6 +1,8 @@
 #include "validation/rules.h"
 
+#include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "document/links.h"
@@ -152,18 +154,31 @@ struct Rule {
 };
 
 /// In the order of testing, which is not that of the numbers.
-/// clang-format off
+// clang-format off
 constexpr Rule Rules[] = {
     // status  about  test
-    {15, Subject::Picture, HasPicture},        {1, Subject::Counts, EnoughAreas},
-    {2, Subject::Counts, EnoughRegions},       {10, Subject::Counts, AreasDivisible},
-    {11, Subject::Area, AreasInRegions},       {3, Subject::Area, AreasLinked},
-    {4, Subject::Region, RegionSizes},         {5, Subject::Region, RegionsLinkedOutward},
-    {6, Subject::Region, RegionsLinkedInside}, {7, Subject::Area, LinksMutual},
-    {12, Subject::Area, LinksNumbered},        {8, Subject::Area, AreasNamed},
+    {15, Subject::Picture, HasPicture},
+    {1, Subject::Counts, EnoughAreas},
+    {2, Subject::Counts, EnoughRegions},
+    {10, Subject::Counts, AreasDivisible},
+    {11, Subject::Area, AreasInRegions},
+    {3, Subject::Area, AreasLinked},
+    {4, Subject::Region, RegionSizes},
+    {5, Subject::Region, RegionsLinkedOutward},
+    {6, Subject::Region, RegionsLinkedInside},
+    {7, Subject::Area, LinksMutual},
+    {12, Subject::Area, LinksNumbered},
+    {8, Subject::Area, AreasNamed},
     {9, Subject::Region, RegionsNamed},
 };
 // clang-format on
+
+constexpr bool NumbersDiffer(std::span<const Rule> rules) {
+  return std::ranges::all_of(rules, [rules](const Rule& rule) {
+    return std::ranges::count(rules, rule.Status, &Rule::Status) == 1;
+  });
+}
+static_assert(NumbersDiffer(Rules), "two rules with one status number");
 
 }  // namespace
 

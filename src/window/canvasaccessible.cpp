@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <tuple>
 #include <utility>
 
 #include "forms/form.h"
@@ -133,10 +132,9 @@ std::vector<const forms::Label*> CanvasAccessible::Markers() const {
     if (IsLabel(child) && child->Visible)
       markers.push_back(static_cast<const forms::Label*>(child));
   }
-  // By their places in the stack they would change their numbers with every press. The names of the
-  // arrays stand in the order in which the keyboard walks: ArmyAt, Continent.
+  // The stack changes with every press, and a marker's number in the list with it: not used here.
   std::ranges::sort(markers, {}, [](const forms::Label* label) {
-    return std::tuple<const std::string&, int>(label->Name(), label->Index());
+    return std::pair(label->ListOrder, label->Index());
   });
   return markers;
 }

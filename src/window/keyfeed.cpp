@@ -1,42 +1,67 @@
 #include "window/keyfeed.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace terramark::window {
 
 namespace {
 
-struct KeyRow {
-  Qt::Key Key;
-  std::int16_t Code;
-};
-constexpr KeyRow Keys[] = {
-    {Qt::Key_Return, forms::KeyReturn},
-    {Qt::Key_Enter, forms::KeyReturn},
-    {Qt::Key_Escape, forms::KeyEscape},
-    {Qt::Key_Space, forms::KeySpace},
-    {Qt::Key_PageUp, forms::KeyPageUp},
-    {Qt::Key_PageDown, forms::KeyPageDown},
-    {Qt::Key_End, forms::KeyEnd},
-    {Qt::Key_Home, forms::KeyHome},
-    {Qt::Key_Left, forms::KeyLeftArrow},
-    {Qt::Key_Up, forms::KeyUpArrow},
-    {Qt::Key_Right, forms::KeyRightArrow},
-    {Qt::Key_Down, forms::KeyDownArrow},
-    {Qt::Key_0, forms::Key0},
-    {Qt::Key_C, forms::KeyC},
-    {Qt::Key_Menu, forms::KeyMenu},
-    {Qt::Key_F1, forms::KeyF1},
-    {Qt::Key_F6, forms::KeyF6},
-    {Qt::Key_Plus, forms::KeyPlus},
-    {Qt::Key_Equal, forms::KeyPlus},  // plus is on it, with the Shift key
-    {Qt::Key_Minus, forms::KeyMinus},
-};
+/// The key that has a code; Key_unknown for a number that is no code. A new code does not compile
+/// until it has its key here.
+constexpr Qt::Key KeyOf(forms::KeyCode code) {
+  switch (code) {
+    case forms::KeyReturn:
+      return Qt::Key_Return;
+    case forms::KeyEscape:
+      return Qt::Key_Escape;
+    case forms::KeySpace:
+      return Qt::Key_Space;
+    case forms::KeyPageUp:
+      return Qt::Key_PageUp;
+    case forms::KeyPageDown:
+      return Qt::Key_PageDown;
+    case forms::KeyEnd:
+      return Qt::Key_End;
+    case forms::KeyHome:
+      return Qt::Key_Home;
+    case forms::KeyLeftArrow:
+      return Qt::Key_Left;
+    case forms::KeyUpArrow:
+      return Qt::Key_Up;
+    case forms::KeyRightArrow:
+      return Qt::Key_Right;
+    case forms::KeyDownArrow:
+      return Qt::Key_Down;
+    case forms::Key0:
+      return Qt::Key_0;
+    case forms::KeyC:
+      return Qt::Key_C;
+    case forms::KeyMenu:
+      return Qt::Key_Menu;
+    case forms::KeyF1:
+      return Qt::Key_F1;
+    case forms::KeyF6:
+      return Qt::Key_F6;
+    case forms::KeyPlus:
+      return Qt::Key_Plus;
+    case forms::KeyMinus:
+      return Qt::Key_Minus;
+  }
+  return Qt::Key_unknown;
+}
+
+std::int16_t CodeOf(int key) {
+  // The other key of the same meaning, and the one that plus is on, with the Shift key.
+  if (key == Qt::Key_Enter) return forms::KeyReturn;
+  if (key == Qt::Key_Equal) return forms::KeyPlus;
+  constexpr std::int16_t LastCode = 255;
+  for (std::int16_t code = 1; code <= LastCode; ++code) {
+    if (key == KeyOf(forms::KeyCode{code})) return code;
+  }
+  return 0;
+}
 
 forms::KeyEvent EventOf(const QKeyEvent& key) {
-  const auto* const row = std::ranges::find(Keys, key.key(), &KeyRow::Key);
-  const std::int16_t code = row == std::end(Keys) ? std::int16_t{0} : row->Code;
+  // A key that has no name is none of those without a code.
+  const std::int16_t code = key.key() == Qt::Key_unknown ? std::int16_t{0} : CodeOf(key.key());
   return {code, KeyMask(key.modifiers()), key.isAutoRepeat()};
 }
 

@@ -1,3 +1,4 @@
+#include "shell/backdrop.h"
 #include "shell/bars.h"
 #include "support/editortest.h"
 
@@ -129,7 +130,7 @@ TEST_F(BackdropTest, APictureGoesByItsFullNameOrByItsBareOne) {
             "(not all its letters fit)");
   EXPECT_EQ(Screen.Entered, (std::vector<std::string>{"/?/a map", "/?/a map"}));
   EXPECT_EQ(load(true, true), "/?/a map ") << "a text about an earlier picture goes";
-  ShowMessage(Form, "Cannot read picture b.bmp: gone", ClrRed);
+  ShowPictureFault(Form, "b.bmp", "gone");
   EXPECT_EQ(load(true, true), "/?/a map ");
 }
 

@@ -30,8 +30,11 @@ BARE_FORM = Rect(700, 500, 1, 1)  # a place of the window where nothing stands
 CONTROLS = {
     name + index: (frame, [int(int(twips) / TWIPS + 0.5) for twips in at])
     for name, index, frame, *at in re.findall(
-        r'{(?:The|Make)<&Form1::(\w+)(?:, (\d))?>, +".*?", +\d+, (?:Itself|The<&Form1::(\w+)>),'
+        r'{(?:ControlOf|Make)<&Form1::(\w+)(?:, (\d))?>, +".*?", +\d+, +'
+        r'(?:Itself|ControlOf<&Form1::(\w+)>),'
         r" +(\d+), +(\d+), +(\d+), +(\d+)", FORM.read_text("utf-8"))}
+if not CONTROLS:
+    raise LookupError(f"{FORM}: no row of the control table is as editor.py reads it")
 
 
 def place_of(name):

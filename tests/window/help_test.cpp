@@ -23,9 +23,12 @@ TEST(HelpTopics, EveryControlHasATopicAndEveryLinkAndPictureATarget) {
     if (row.HelpTopic == 0) continue;
     EXPECT_EQ(topics[helpview::TopicIndex(topics, row.HelpTopic)].Number, row.HelpTopic);
   }
+  const QString contents = topics[helpview::TopicIndex(topics, 2)].Text.section("## ", 1, 1);
   int pictures = 0;
   for (const helpview::HelpTopic& topic : topics) {
     EXPECT_NE(topic.Title, "") << topic.Number;
+    const QString link = "](" + topic.Source.fileName() + ")";
+    EXPECT_TRUE(topic.Number == 2 || contents.contains(link)) << link.toStdString();
     auto targets = QRegularExpression("\\]\\(([^)]*)\\)").globalMatch(topic.Text);
     while (targets.hasNext()) {
       const QString target = targets.next().captured(1);
