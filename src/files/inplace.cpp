@@ -15,7 +15,7 @@ namespace terramark::files {
 
 namespace {
 
-constexpr off_t MostKept = off_t{64} << 20;
+constexpr off_t MaxKept = off_t{64} << 20;
 
 /// The whole file, which must be one to keep in memory.
 Result<std::string> ReadAll(int file) {
@@ -23,7 +23,7 @@ Result<std::string> ReadAll(int file) {
   const int error = ErrorOf([&] { return ::fstat(file, &status); });
   if (error != 0) return Failed(error);
   if (!S_ISREG(status.st_mode)) return Failed(EINVAL);
-  if (status.st_size > MostKept) return Failed(EFBIG);
+  if (status.st_size > MaxKept) return Failed(EFBIG);
   const auto size = static_cast<std::size_t>(status.st_size);
   auto bytes = ReadBytes(file, size);
   if (bytes && bytes->size() != size) return Failed(EIO);  // it is being cut short just now

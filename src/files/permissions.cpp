@@ -35,8 +35,8 @@ int Permissions::Read(const std::filesystem::path& path, const struct stat& stat
   owner_ = status.st_uid;
   group_ = status.st_gid;
   mode_ = status.st_mode & ModeBits;
-  constexpr std::size_t MostBytes = 65536;
-  list_.resize(MostBytes);
+  constexpr std::size_t MaxBytes = 65536;
+  list_.resize(MaxBytes);
   const ssize_t size = Uninterrupted(
       [&] { return ::getxattr(path.c_str(), AccessList, list_.data(), list_.size()); });
   const int error = size >= 0 ? 0 : errno;

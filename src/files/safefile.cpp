@@ -17,7 +17,7 @@ namespace terramark::files {
 namespace {
 
 /// Links that may lead to one another before they are taken for a ring.
-constexpr int MostLinks = 40;
+constexpr int MaxLinks = 40;
 /// Of a file that was not there; the umask and the folder say how much of it holds.
 constexpr mode_t NewMode = 0666;
 
@@ -101,7 +101,7 @@ Result<> SafeFile::WriteOver(std::string_view text) {
 }
 
 Result<> SafeFile::FindTarget() {
-  for (int links = 0; links < MostLinks; ++links) {
+  for (int links = 0; links < MaxLinks; ++links) {
     struct stat status {};
     int error = ErrorOf([&] { return ::lstat(target_.c_str(), &status); });
     if (error == ENOENT) return {};

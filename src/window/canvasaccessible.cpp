@@ -150,9 +150,9 @@ QAccessibleInterface* CanvasAccessible::MarkerOf(const forms::Label& label) cons
 }
 
 const forms::Label* CanvasAccessible::Focused() const {
-  const forms::Control* const ringed = canvas_.VisibleCursorItem();
-  const bool label = ringed != nullptr && IsLabel(ringed);
-  return label ? static_cast<const forms::Label*>(ringed) : nullptr;
+  const forms::Control* const item = canvas_.VisibleCursorItem();
+  const bool label = item != nullptr && IsLabel(item);
+  return label ? static_cast<const forms::Label*>(item) : nullptr;
 }
 
 int CanvasAccessible::childCount() const {

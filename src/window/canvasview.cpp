@@ -99,8 +99,8 @@ void CanvasView::ShowOwn(forms::PropertyId id) {
 }
 
 const forms::Control* CanvasView::VisibleCursorItem() const {
-  const forms::Control* const ringed = box_.CursorItem;
-  return hasFocus() && ringed != nullptr && ringed->Visible ? ringed : nullptr;
+  const forms::Control* const item = box_.CursorItem;
+  return hasFocus() && item != nullptr && item->Visible ? item : nullptr;
 }
 
 void CanvasView::MoveRing() {
@@ -225,9 +225,9 @@ void CanvasView::PaintDrag(QPainter& painter) const {
 
 /// That the box has the keyboard, and what its keys act on.
 void CanvasView::PaintFocus(QPainter& painter) const {
-  if (const forms::Control* const ringed = VisibleCursorItem()) {
+  if (const forms::Control* const item = VisibleCursorItem()) {
     const bool held = box_.ParentForm()->Pointer.HasKeyDrag();
-    paint::PaintRing(painter, held ? DragRect() : MapToBox(BoundsOf(*ringed)));
+    paint::PaintRing(painter, held ? DragRect() : MapToBox(BoundsOf(*item)));
   }
   paint::DrawFocusRing(painter, Viewport());
 }
