@@ -33,7 +33,7 @@ from screen import Failure, Screen  # noqa: E402
 START_LIMIT, HANG_LIMIT, SLICE = 180, 5, 0.05  # seconds; of a longer look the machine is guilty
 # What Qt's file dialog writes: in a folder that may not be read, and where a file goes that is just
 # being renamed.
-BORNE = b"inotify_add_watch(", b"QAbstractItemView::"
+BORNE = b"inotify_add_watch(", b"QAbstractItemView::", b"edit: editing failed"
 TIDY = 150  # gestures until the files and the window are put in their places again
 PAUSES = {0: 4, 0.003: 4, 0.012: 3, 0.04: 0.5}  # seconds behind each event, and how often
 HASTY, STOPPED, BUSY = 0.2, 0.12, 0.01  # shares of the gestures
