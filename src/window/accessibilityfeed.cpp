@@ -35,7 +35,8 @@ Accessible& AccessibleOf(QWidget& widget) {
   return dynamic_cast<Accessible&>(*QAccessible::queryAccessibleInterface(&widget));
 }
 
-/// An event while the widget was being built has found it a plain one.
+/// Qt may have made a plain interface already, for an event while the widget was being built.
+/// Deletes that one, so that the factory is asked anew.
 void ForgetEarlyAccessible(QWidget& widget) {
   QAccessible::deleteAccessibleInterface(
       QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&widget)));

@@ -1,5 +1,5 @@
-// What assistive tools are told of a form, beside what widgets tell by themselves: the markers on a
-// picture and the announcements. Costs nothing while there is no such tool.
+// Reports to assistive tools what the widgets of a form do not report by themselves: the markers on
+// a picture and the announcements. Does nothing while there is no such tool.
 #pragma once
 
 #include <QObject>
@@ -19,12 +19,12 @@ class AccessibilityFeed final : public QObject {
  public:
   AccessibilityFeed();
 
-  /// A view has been made; of a container, before those in it.
+  /// A view has been made. A container must be added before the views in it.
   void Added(ControlView& view);
-  /// Something of a control is to be told when the event in hand has run to its end: names that no
-  /// property holds may have changed with it.
+  /// A control has changed: reports when the current event has been handled to its end. The names
+  /// of others may have changed too, without any property of theirs.
   void Changed(const forms::Control& control);
-  /// A control is about to go; only its identity is used.
+  /// A control is about to be destroyed; only its address is used.
   void Forget(const forms::Control& control);
 
  protected:

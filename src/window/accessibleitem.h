@@ -1,4 +1,4 @@
-// A part of a widget that has no widget of its own, as assistive tools meet it.
+// A part of a widget that is not a widget itself, as assistive tools see it.
 #pragma once
 
 #include <QAccessible>
@@ -7,10 +7,10 @@
 
 namespace terramark::window {
 
-/// Without parts of its own. What derives from it tells its place, name, role and state.
+/// An item without children. Derived classes give its place, name, role and state.
 class AccessibleItem : public QAccessibleInterface {
  public:
-  /// The widget must outlive its parts.
+  /// The widget must outlive its items.
   explicit AccessibleItem(QAccessibleWidget& widget) : widget_(widget) {}
 
   bool isValid() const override { return true; }
@@ -27,7 +27,7 @@ class AccessibleItem : public QAccessibleInterface {
   QAccessibleWidget& widget_;
 };
 
-/// Hands an interface to Qt, which keeps it until deleteAccessibleInterface.
+/// Passes an interface to Qt, which keeps it until deleteAccessibleInterface.
 template <typename Made>
 QAccessible::Id Register(std::unique_ptr<Made> made) {
   return QAccessible::registerAccessibleInterface(made.release());

@@ -1,4 +1,4 @@
-// What parts of the windows are called by assistive tools, where their widgets do not say it.
+// The names of parts of the windows for assistive tools, where the widgets have none.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,7 @@
 
 namespace terramark::window {
 
-/// A label's own name, and then its caption: "Areas 42".
+/// The label's accessible name, followed by its caption: "Areas 42".
 QString AccessibleText(const forms::Label& label);
 
 }  // namespace terramark::window

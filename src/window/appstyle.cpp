@@ -26,10 +26,11 @@ const QColor Greyed(0x58, 0x58, 0x58);
 const QColor Marked(0x00, 0x00, 0x80);
 const QColor Hint(0xFF, 0xFF, 0xE1);
 
-/// Where black and white stand out equally: 1.05 / (L + 0.05) = (L + 0.05) / 0.05.
+/// The luminance L at which black and white have the same contrast: 1.05 / (L + 0.05) = (L + 0.05)
+/// / 0.05.
 constexpr double MiddleLuminance = 0.179;
 
-/// Of a colour on a screen that follows sRGB, 0 to 1.
+/// The relative luminance of an sRGB colour, 0 to 1.
 double Luminance(const QColor& colour) {
   const auto light = [](double part) {
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -38,8 +39,8 @@ double Luminance(const QColor& colour) {
          0.0722 * light(colour.blueF());
 }
 
-/// The buttons of a box stand with the agreeing one first, on every desktop. A thumb may be short:
-/// a bar of colour has room for no more than a few dozen pixels of travel over 257 values.
+/// The first button of a box is the agreeing one, on every desktop. A thumb may be short: a colour
+/// bar has only a few dozen pixels of travel for 257 values.
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle("Fusion") {}
@@ -85,7 +86,7 @@ void InstallStyle(QApplication& application) {
   font.setPointSizeF(DialogPoints);
   QApplication::setFont(font);
   application.setWindowIcon(WindowIcon());
-  // By this name the desktop finds the entry, dist/desktop/terramark.desktop, and its large icon.
+  // The desktop finds the entry dist/desktop/terramark.desktop, and its large icon, by this name.
   QApplication::setDesktopFileName("terramark");
 }
 
@@ -93,7 +94,7 @@ QIcon WindowIcon() {
   const forms::Picture icon = ProgramIcon();
   const QImage image(reinterpret_cast<const uchar*>(icon->Pixels.data()), icon->Width, icon->Height,
                      QImage::Format_RGB32);
-  // A pixmap may share an image's memory, which here goes with the picture.
+  // A pixmap may share the image's memory, which is freed with the picture here.
   return QPixmap::fromImage(image.copy());
 }
 

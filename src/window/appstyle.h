@@ -1,4 +1,4 @@
-// How the window looks whatever the desktop's theme: its style and its palette.
+// The style and the palette of the windows, the same on every desktop.
 #pragma once
 
 #include <QColor>
@@ -8,13 +8,13 @@ class QIcon;
 
 namespace terramark::window {
 
-/// Gives the application its own light look; once, before the first widget is made.
+/// Gives the application its own light style; once, before the first widget is made.
 void InstallStyle(QApplication& application);
 
 /// The program's icon for windows.
 QIcon WindowIcon();
 
-/// Black or white, whichever stands out more on a face of the colour.
+/// Black or white, whichever has more contrast on the colour.
 QColor TextColourOn(const QColor& face);
 
 }  // namespace terramark::window

@@ -11,7 +11,7 @@
 namespace terramark::window {
 
 namespace {
-/// Values that a press beside the thumb, and a page key, go on.
+/// How many values a press beside the thumb, or a page key, moves.
 constexpr int PageStep = 16;
 constexpr int TipDrop = 16;  // pixels
 constexpr int TipMilliseconds = 3000;
@@ -44,7 +44,8 @@ QRect BarView::Thumb() const {
 }
 
 void BarView::ShowValueTip() {
-  // Right of all bars in the frame, so that it hides none of them; tips hang this far down.
+  // Right of all bars in the frame, so that the tip hides none of them. Qt shows a tip TipDrop
+  // pixels below the place it is given.
   const QPoint beside(parentWidget()->width() - x(), Thumb().top() - TipDrop);
   const QString tip = QString("%1: %2").arg(toolTip()).arg(sliderPosition());
   QToolTip::showText(mapToGlobal(beside), tip, this, {}, TipMilliseconds);

@@ -1,5 +1,5 @@
-// A vertical scroll bar: its control hears of a value when the thumb is let go, and of every step.
-// Its value shows beside it while it moves.
+// A vertical scroll bar. Its control receives a new value when the thumb is released, and at every
+// step. While the value changes it is shown in a tip beside the bar.
 #pragma once
 
 #include <QScrollBar>
@@ -21,7 +21,7 @@ class BarView : public QScrollBar, public ControlView {
 
  private:
   QRect Thumb() const;
-  /// Shows where the thumb stands, behind the bar's hint and in its place.
+  /// Shows the thumb's value beside it, after the bar's own tip text.
   void ShowValueTip();
 
   forms::VScrollBar& bar_;

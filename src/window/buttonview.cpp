@@ -28,7 +28,8 @@ ButtonView::ButtonView(forms::CommandButton& button, QWidget& container)
     : QPushButton(&container), ControlView(button, *this), button_(button) {
   setFocusPolicy(Qt::StrongFocus);
   ShowOwn(forms::PropertyId::Caption);
-  // By a dialog whose Enter key found nobody else, or by an assistive tool.
+  // Qt clicks the button when Enter was pressed in a dialog and no other widget took it, or for an
+  // assistive tool.
   connect(this, &QPushButton::clicked, this, [this] {
     button_.ParentForm()->Pointer.SimulateClick(button_,
                                                 KeyMask(QGuiApplication::keyboardModifiers()));
@@ -40,7 +41,7 @@ void ButtonView::ShowOwn(forms::PropertyId id) {
     // A single "&" would make a shortcut.
     const QString caption = paint::ElidedText(button_.Caption, Qt::ElideMiddle);
     setText(QString(caption).replace('&', "&&"));
-    // A file's name, which is no word for what the button does.
+    // The caption of this button is a file's name, which does not say what the button does.
     const bool named = button_.Caption.Get() == button_.AccessibleName;
     setAccessibleDescription(named ? toolTip() : caption);
   }
@@ -49,7 +50,8 @@ void ButtonView::ShowOwn(forms::PropertyId id) {
 
 void ButtonView::keyPressEvent(QKeyEvent* event) {
   if (!Pushes(*event)) {
-    // A change of mind. The arrows, which would go to a neighbour here, belong to the form.
+    // Escape releases the button without pressing it. Arrows, with which Qt would go to the next
+    // button, belong to the form.
     if (event->key() == Qt::Key_Escape) setDown(false);
     return event->ignore();
   }

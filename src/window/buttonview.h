@@ -1,6 +1,6 @@
 // A command button: a raised face in its BackColor, flat while disabled. The mouse reaches it
-// through the pointer router only; Space and Enter do, at their release, what a left press and
-// release in its middle do.
+// through the pointer router only. Space and Enter, when released, do what a left click on its
+// middle does.
 #pragma once
 
 #include <QPushButton>
@@ -21,7 +21,8 @@ class ButtonView final : public QPushButton, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  /// Raised, or sunken while it is held down; of a disabled button a line, and the face lies flat.
+  /// Draws a raised edge, a sunken one while the button is held down, and a plain line while it is
+  /// disabled.
   void DrawEdge(QPainter& painter) const;
 
   forms::CommandButton& button_;

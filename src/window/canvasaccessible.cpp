@@ -132,7 +132,8 @@ std::vector<const forms::Label*> CanvasAccessible::Markers() const {
     if (IsLabel(child) && child->Visible)
       markers.push_back(static_cast<const forms::Label*>(child));
   }
-  // The stack changes with every press, and a marker's number in the list with it: not used here.
+  // The order of the stack is not used: it changes with every press, and the numbers of the items
+  // would change with it.
   std::ranges::sort(markers, {}, [](const forms::Label* label) {
     return std::pair(label->ListOrder, label->Index());
   });
@@ -142,7 +143,7 @@ std::vector<const forms::Label*> CanvasAccessible::Markers() const {
 QAccessibleInterface* CanvasAccessible::MarkerOf(const forms::Label& label) const {
   const auto [entry, isNew] = ids_.try_emplace(&label);
   if (isNew) {
-    // Qt asks a constant parent for parts that are not.
+    // Qt takes a parent only as non-const.
     auto& list = const_cast<CanvasAccessible&>(*this);
     entry->second = Register(std::make_unique<MarkerAccessible>(list, label));
   }

@@ -1,5 +1,5 @@
-// A picture box to assistive tools: a list of the markers on it, each with its name, place and
-// state. What becomes of them is told when an event has run to its end.
+// A picture box for assistive tools: a list of the markers on it, each with its name, place and
+// state. Changes are reported when an event has been handled to its end.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -12,26 +12,26 @@ namespace terramark::window {
 
 class CanvasView;
 
-/// A list, since readers know how to walk one, say that an item is "3 of 50" and whether it is
-/// selected. A box without labels is a graphic.
+/// A list, since screen readers can walk one, and say "3 of 50" and whether an item is selected. A
+/// box without labels has the role of a graphic.
 class CanvasAccessible final : public QAccessibleWidget {
  public:
   explicit CanvasAccessible(CanvasView& canvas);
   ~CanvasAccessible() override;
 
-  /// Tells of the labels that came, went, moved or changed name or state since the last call, and
-  /// of the one that the keyboard is at.
+  /// Reports the labels that were added, removed or moved, or that changed name or state since the
+  /// last call, and the label that has the keyboard focus.
   void NotifyChanges();
-  /// A label is about to go; only its identity is used.
+  /// A label is about to be destroyed; only its address is used.
   void Forget(const forms::Control& label);
-  /// The widget itself has just been told to have the keyboard.
+  /// Qt has just reported that the widget itself has the focus.
   void Refocused() { focused_ = nullptr; }
 
   QString MarkerName(const forms::Label& label) const;
-  /// Its corner in pixels of the picture, also while the keyboard carries it. Of a move readers
-  /// hear by this alone: Qt 6.4 does not pass on that a place has changed.
+  /// The corner of a label in pixels of the picture, also during a key drag. Readers learn of a
+  /// move by this text alone: Qt 6.4 does not pass on LocationChanged.
   QString PositionTextOf(const forms::Label& label) const;
-  /// On the screen.
+  /// In pixels of the screen.
   QRect ScreenRectOf(const forms::Label& label) const;
   QAccessible::State StateOf(const forms::Label& label) const;
 
@@ -50,16 +50,16 @@ class CanvasAccessible final : public QAccessibleWidget {
     bool Selected = false;
   };
 
-  /// The labels that can be seen on the picture, array by array and by number.
+  /// The visible labels on the picture, in the order of the list.
   std::vector<const forms::Label*> Markers() const;
   QAccessibleInterface* MarkerOf(const forms::Label& label) const;
   void NotifyLabel(const forms::Label& label);
   void NotifyRemoved(const forms::Control& label);
-  /// The label that has the keyboard; null for none.
+  /// The label that the keys on the map act on; null for none.
   const forms::Label* Focused() const;
 
   CanvasView& canvas_;
-  /// What has been made for a label; Qt keeps it until it is told otherwise.
+  /// The interface made for each label; Qt keeps it until deleteAccessibleInterface.
   mutable std::unordered_map<const forms::Control*, QAccessible::Id> ids_;
   std::unordered_map<const forms::Control*, NotifiedState> notified_;
   const forms::Label* focused_ = nullptr;

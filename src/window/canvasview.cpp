@@ -32,8 +32,8 @@ void PlaceScrollBar(QScrollBar& bar, const QRect& place, int extent, int view, i
   bar.setVisible(shown);
 }
 
-/// A pixel wider than the ring: of what is to be painted anew, Qt may leave out a line at the edge
-/// where the screen's scale is no whole number.
+/// One pixel wider than the ring: where the screen's scale is no whole number, Qt may leave out a
+/// line at the edge of the area to repaint.
 QRect Widened(const QRect& area) {
   const int by = paint::RingWidth + 1;
   return area.adjusted(-by, -by, by, by);
@@ -53,7 +53,7 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
   if (box.TabStop) setFocusPolicy(Qt::TabFocus);
   const auto scroll = [this] { box_.ScrollTo(horizontalBar_.value(), verticalBar_.value()); };
   for (QScrollBar* bar : {&horizontalBar_, &verticalBar_}) {
-    // Not the hand that may be over the picture.
+    // The picture's hand cursor must not show over the bar.
     bar->setCursor(Qt::ArrowCursor);
     connect(bar, &QScrollBar::valueChanged, this, scroll);
   }
@@ -107,7 +107,7 @@ void CanvasView::MoveRing() {
   const forms::Control* const now = box_.CursorItem;
   for (const forms::Control* label : {std::exchange(cursorItem_, now), now}) {
     const auto seen = seen_.find(label);
-    // Without the keyboard there is no ring to be seen.
+    // The ring is visible only while the box has the focus.
     if (hasFocus() && seen != seen_.end()) update(DirtyRect(seen->second));
   }
 }
@@ -154,9 +154,9 @@ QRect CanvasView::DragRect() const {
       MapToBox({QPoint(flight->TopLeft.X, flight->TopLeft.Y), BoundsOf(flight->Source).size()});
   const forms::PixelPoint grip = forms::MapToBox(box_, flight->HotSpot);
   const QRect view = Viewport();
-  // Where no pointer shows its place, it has to be seen where it is, as far as it can be.
+  // In a key drag no pointer shows the place, so the label is shown as far as it is in view.
   if (pointer.HasKeyDrag() ? view.intersects(area) : view.contains(grip.X, grip.Y)) return area;
-  // Carried out of sight, it waits at the edge.
+  // A label that is dragged out of view is shown at the edge.
   area.moveLeft(std::clamp(area.left(), 0, std::max(0, view.width() - area.width())));
   area.moveTop(std::clamp(area.top(), 0, std::max(0, view.height() - area.height())));
   return area;
@@ -167,7 +167,7 @@ void CanvasView::PointerMoved() {
     update(Widened(shownDragRect_));
     shownDragRect_ = flight;
     update(Widened(shownDragRect_));
-    // Put back, a marker has its ring where it stands.
+    // A cancelled key drag leaves the marker where it was, and the ring there.
     if (flight.isEmpty() && box_.CursorItem != nullptr)
       update(DirtyRect(BoundsOf(*box_.CursorItem)));
   }
@@ -184,7 +184,7 @@ void CanvasView::UpdateCursorShape() {
 }
 
 void CanvasView::paintEvent(QPaintEvent* event) {
-  // Another thing may lie by now under a pointer that stands still.
+  // After scrolling another control may be under the pointer, which has not moved.
   UpdateCursorShape();
   QPainter painter(this);
   const QRect view = Viewport();
@@ -192,7 +192,7 @@ void CanvasView::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), palette().color(QPalette::Button));
   }
   painter.setClipRect(view, Qt::IntersectClip);
-  // Where the scale is no whole number, what is painted may reach a line beyond.
+  // Where the scale is no whole number, painting may reach one line beyond the area.
   paint::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
   paint::ForEachLabel(box_, [&](const forms::Label& label) {
     const QRect area = MapToBox(BoundsOf(label));
@@ -223,7 +223,7 @@ void CanvasView::PaintDrag(QPainter& painter) const {
   paint::DrawFocusRing(painter, area);
 }
 
-/// That the box has the keyboard, and what its keys act on.
+/// Paints the dotted edge of the focused box, and the ring around the item that its keys act on.
 void CanvasView::PaintFocus(QPainter& painter) const {
   if (const forms::Control* const item = VisibleCursorItem()) {
     const bool held = box_.ParentForm()->Pointer.HasKeyDrag();
@@ -240,7 +240,7 @@ void CanvasView::wheelEvent(QWheelEvent* event) {
   zoomTurn_ = 0;
   const bool across = event->modifiers().testFlag(Qt::ShiftModifier);
   scrollRest_ += WheelStep * (across ? turn.transposed() : turn);
-  // Not divided as points, which rounds.
+  // QPoint's own division rounds; the rest is needed exactly.
   const QPoint step(scrollRest_.x() / NotchAngle, scrollRest_.y() / NotchAngle);
   scrollRest_ -= NotchAngle * step;
   box_.ScrollBy(-step.x(), -step.y());

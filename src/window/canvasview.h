@@ -1,5 +1,5 @@
-// A picture box: its image, the labels on it, the marker in the air, how much it is magnified, and
-// scroll bars of its own when the picture is larger than the box. Only what changes is painted.
+// A picture box: its image, the labels on it, the label that is dragged, its zoom, and scroll bars
+// when the picture is larger than the box. Only what has changed is repainted.
 #pragma once
 
 #include <QLabel>
@@ -17,20 +17,21 @@ class CanvasView : public QWidget, public ControlView {
   CanvasView(forms::PictureBox& box, QWidget& container);
 
   const forms::PictureBox& Box() const { return box_; }
-  /// What the scroll bars leave, in pixels of the widget.
+  /// The box without its scroll bars, in pixels of the widget.
   QRect Viewport() const { return {0, 0, box_.ViewWidth(), box_.ViewHeight()}; }
-  /// What the box's keys act on, which has a ring; null while there is none to be seen.
+  /// The item that the box's keys act on, which has a ring around it; null while no ring is
+  /// visible.
   const forms::Control* VisibleCursorItem() const;
 
   /// A label on the picture is new or has changed.
   void LabelChanged(const forms::Control& label);
-  /// A label is about to go; only its identity is used.
+  /// A label is about to be destroyed; only its address is used.
   void ForgetLabel(const forms::Control& label);
-  /// Where a label is in pixels of the picture, also while the keyboard carries it.
+  /// The place of a label in pixels of the picture, also during a key drag.
   QRect PictureRectOf(const forms::Control& label) const;
-  /// The same in pixels of the widget; it may have scrolled out of view.
+  /// The same in pixels of the widget; it may be scrolled out of view.
   QRect WidgetRectOf(const forms::Control& label) const { return MapToBox(PictureRectOf(label)); }
-  /// The pointer moved, or the marker in the air moved, appeared or went.
+  /// The pointer moved, or the dragged label moved, appeared or disappeared.
   void PointerMoved();
 
  protected:
@@ -48,9 +49,10 @@ class CanvasView : public QWidget, public ControlView {
   void ZoomByWheel(int angle, QPoint about);
 
   QRect MapToBox(const QRect& onPicture) const;
-  /// What is painted for something at a place of the picture, its ring included.
+  /// The pixels of the widget to repaint for something at a place of the picture, including its
+  /// ring.
   QRect DirtyRect(const QRect& onPicture) const;
-  /// Where the marker in the air is shown; empty when there is none.
+  /// Where the dragged label is shown, in pixels of the widget; empty without a drag.
   QRect DragRect() const;
 
   void PaintMarker(QPainter& painter, const QRect& area, const forms::Label& label) const;
@@ -61,13 +63,14 @@ class CanvasView : public QWidget, public ControlView {
   QScrollBar horizontalBar_;
   QScrollBar verticalBar_;
   QLabel zoom_;
-  /// What the wheel has turned towards the next magnification, in eighths of a degree.
+  /// How far the wheel has been turned towards the next zoom step, in eighths of a degree.
   int zoomTurn_ = 0;
-  /// What it has turned towards the next pixel, in parts of one: NotchAngle make a pixel.
+  /// How far it has been turned towards the next pixel, in parts of a pixel: NotchAngle parts are
+  /// one.
   QPoint scrollRest_;
-  /// The label that was ringed last; only its identity is used.
+  /// The item that had the ring last; only its address is used.
   const forms::Control* cursorItem_;
-  /// Where each visible label was last seen, in pixels of the picture.
+  /// Where each visible label was shown last, in pixels of the picture.
   std::unordered_map<const forms::Control*, QRect> seen_;
   QRect shownDragRect_;
 };

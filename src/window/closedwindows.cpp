@@ -33,7 +33,7 @@ ClosedWindows::ClosedWindows() {
 bool ClosedWindows::eventFilter(QObject* watched, QEvent* event) {
   if (!IsUserInput(event->type())) return false;
   const auto* const window = qobject_cast<QWindow*>(watched);
-  // A list that hangs from a box hands on what is left for it to the box that it hung from.
+  // A popup list passes on the events that are left for it to the box that it belongs to.
   return window != nullptr && !window->isVisible() && window->type() != Qt::Popup;
 }
 

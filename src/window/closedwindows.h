@@ -1,16 +1,16 @@
-// Keeps what was meant for a window that has closed from being obeyed.
+// Drops the input for windows that have closed.
 #pragma once
 
 #include <QObject>
 
 namespace terramark::window {
 
-/// While the program is busy keys and presses gather, each for the window that had them then. When
-/// the first of them closes a box, the others would still reach its buttons, and could turn a No
-/// into a Yes. They reach nobody.
+/// While the program is busy, keys and presses queue up for the window that was active when they
+/// were made. When the first of them closes a box, Qt would still deliver the others to its
+/// buttons, and could turn a No into a Yes. They are dropped.
 class ClosedWindows : public QObject {
  public:
-  /// Watches the application as long as this lives.
+  /// Filters the events of the application for as long as this object lives.
   ClosedWindows();
 
  protected:

@@ -20,10 +20,11 @@ namespace terramark::window {
 
 namespace {
 
-/// Of a device pixel, by which its place may come out too small when it is scaled there and back.
+/// In device pixels: a place that is scaled there and back may come out smaller by so little.
 constexpr double RoundingTolerance = 1e-4;
 
-/// Control arrays begin at element 0, so a name alone does not tell one from a lone control.
+/// Control arrays begin at element 0, so the index alone does not distinguish an element from a
+/// single control.
 bool InArray(const forms::Control& control) {
   for (const forms::Control* other : control.ParentForm()->Controls()) {
     if (other != &control && other->Name() == control.Name()) return true;
@@ -84,7 +85,7 @@ QRect BoundsOf(const forms::Control& control) {
 QPoint MapToPixel(const QWidget& widget, const QPointF& place) {
   const QWidget& window = *widget.window();
   const QPointF inside = widget.mapTo(&window, place);
-  // The events' scale is the window's own; the painter's is rounded.
+  // Events use the scale of the window itself; the scale of the painter is rounded.
   const double told = window.windowHandle()->devicePixelRatio();
   const double painted = window.devicePixelRatioF();
   const auto shown = [&](double at) {

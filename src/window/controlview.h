@@ -21,14 +21,14 @@ class ControlView {
   forms::Control& Shown() const { return control_; }
   QWidget& Widget() const { return widget_; }
 
-  /// Brings the widget into line after a property has changed: place, Visible and Enabled here, all
-  /// else in the view of the kind.
+  /// Updates the widget after a property has changed: place, Visible and Enabled here, all other
+  /// properties in the view of the kind.
   void Changed(forms::PropertyId id);
 
   virtual MouseUse Mouse() const { return MouseUse::RouterOnly; }
 
  protected:
-  /// Names the widget after the control, "Name" or "Name(i)", and places it.
+  /// Gives the widget the control's name, "Name" or "Name(i)", and its place.
   ControlView(forms::Control& control, QWidget& widget);
 
   /// Shows caption, text, value, picture or colours as they are now.
@@ -39,15 +39,15 @@ class ControlView {
   QWidget& widget_;
 };
 
-/// Where a control stands in its container, in pixels.
+/// The place of a control in its container, in pixels.
 QRect BoundsOf(const forms::Control& control);
 
-/// The pixel of a widget that is seen at a place in it, as an event tells it: where a pixel of the
+/// The pixel of a widget at the place of an event. An event has the place where a pixel of the
 /// device begins. The widget's window must have been shown.
 QPoint MapToPixel(const QWidget& widget, const QPointF& place);
 
-/// Makes the view of a control inside its container's widget, by its kind; null for a form. It must
-/// go before the container's widget does.
+/// Makes the view of a control, by its kind, inside its container's widget; null for a form. It
+/// must be destroyed before the container's widget.
 std::unique_ptr<ControlView> MakeView(forms::Control& control, QWidget& container);
 
 }  // namespace terramark::window

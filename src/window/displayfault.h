@@ -1,15 +1,15 @@
-// Tells in one line that the display does not answer, where the platform would write many and
-// abort.
+// Reports in one line that the display does not answer, where the platform plugin would write many
+// lines and abort.
 #pragma once
 
 namespace terramark::window {
 
-/// Before the application is made. The messages about joining the display are held back from here
-/// on; if that fails, the process ends with EXIT_FAILURE, and one line tells of it where the
-/// display is at fault. All other messages go to standard error.
+/// Before the application is made. Holds back the messages about connecting to the display from
+/// here on. If the connection fails, the process ends with EXIT_FAILURE, with one line about the
+/// display if that is at fault. All other messages go to standard error.
 void BeginDisplayConnection();
 
-/// Once the application is made: what was held back is dropped, and messages go their usual way.
+/// After the application is made: drops what was held back; messages go their usual way again.
 void EndDisplayConnection();
 
 }  // namespace terramark::window

@@ -32,7 +32,7 @@ namespace {
 
 constexpr QSize DefaultSize(760, 480);
 
-/// What the files of a pattern list are called.
+/// The name that the dialog shows for the files of a pattern.
 struct FileKind {
   const char* Filter;
   const char* Name;
@@ -41,7 +41,7 @@ struct FileKind {
 constexpr FileKind Kinds[] = {{LayoutFiles, "Map Layouts"}, {PictureFiles, "Pictures"}};
 
 QString NameFilterOf(const std::string& filter) {
-  // Patterns stand between semicolons here and between blanks there.
+  // The filter separates patterns by semicolons, Qt by blanks.
   QString patterns = paint::FromCp1252(filter).replace(';', ' ');
   for (const FileKind& kind : Kinds) {
     if (filter == kind.Filter) return QStringLiteral("%1 (%2)").arg(kind.Name, patterns);
@@ -49,8 +49,8 @@ QString NameFilterOf(const std::string& filter) {
   return patterns;
 }
 
-/// Tells a file's kind by its name alone. The dialog would look into each file that it lists, and
-/// one that keeps its reader waiting would hold the editor for ever.
+/// Determines a file's kind by its name alone. Qt's own provider looks into each file that is
+/// listed, and a file that blocks its reader would block the editor for ever.
 class KindByName : public QFileIconProvider {
  public:
   using QFileIconProvider::icon;
@@ -61,13 +61,13 @@ class KindByName : public QFileIconProvider {
   }
 };
 
-/// The dialog would find its columns and folders again in the next run, and so would that of any
-/// other program; nothing but the layouts outlives a run here.
+/// Otherwise the dialog would restore columns and folders from the last run, also of other
+/// programs. Only layouts outlive a run of the editor.
 void ForgetSettings() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
-/// Makes the dialog as wide as its columns, as far as the screen goes.
+/// Makes the dialog as wide as its columns, as far as the screen allows.
 void WidenFor(const QTreeView& list, QFileDialog& chooser) {
   const int lack = list.header()->length() - list.viewport()->width();
   if (!chooser.isVisible() || lack <= 0) return;
@@ -83,13 +83,13 @@ void ShowWholeColumns(QFileDialog& chooser) {
   auto* const list = chooser.findChild<QTreeView*>();
   if (list == nullptr) return;
   list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  // The columns grow when the folder has been read; how far is known when all of them have.
+  // The columns grow while the folder is read; their width is known when all of it has been read.
   QObject::connect(
       list->header(), &QHeaderView::sectionResized, &chooser,
       [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
 }
 
-/// Names what has no words of its own for assistive tools.
+/// Gives accessible names to the parts that have none.
 void SetAccessibleNames(const QFileDialog& chooser) {
   for (auto* box : chooser.findChildren<QComboBox*>()) {
     const bool ofTypes = box->findText(chooser.nameFilters().value(0)) >= 0;
@@ -102,14 +102,14 @@ void SetAccessibleNames(const QFileDialog& chooser) {
   }
 }
 
-/// Each place of the side bar that opens would take its list's place away, so that the next arrow
-/// began anew.
+/// When a place of the side bar opens, the dialog would clear the bar's current item, and the next
+/// arrow key would begin at the first place again.
 void KeepCurrentItem(const QListView& bar) {
   QItemSelectionModel* const places = bar.selectionModel();
   QObject::connect(
       places, &QItemSelectionModel::selectionChanged, &bar, [places](const QItemSelection& opened) {
         if (opened.isEmpty()) return;
-        // It has been opened.
+        // The places without their own signals: the selection has been handled already.
         const QSignalBlocker still(places);
         places->setCurrentIndex(opened.indexes().front(), QItemSelectionModel::NoUpdate);
       });
@@ -121,8 +121,8 @@ void KeepCurrentItemInSideBar(const QFileDialog& chooser) {
   }
 }
 
-/// The lists of names that come up under a line while one types. They would hand Enter on to the
-/// line, so that the same key took a name and closed the dialog under the list.
+/// The completion lists under a line edit. Qt passes Enter on from the list to the line, so that
+/// one key would take a name and also close the dialog.
 class CompleterPopups final : public QObject {
  public:
   explicit CompleterPopups(const QFileDialog& chooser) {
@@ -138,15 +138,15 @@ class CompleterPopups final : public QObject {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     auto& list = *static_cast<QAbstractItemView*>(watched);
-    // A name that is marked in the list stands in the line by now.
+    // The line already has the text of the list's current item.
     const bool takes = list.isVisible() && list.currentIndex().isValid();
     list.hide();
     return takes;
   }
 
  private:
-  /// A folder that has been read only now would bring the list up once more while the dialog
-  /// closes, and keys that were meant for the list would look for the line.
+  /// A folder that has just been read would open the list again while the dialog closes, and the
+  /// keys for the list would be passed to a line that is gone.
   static void End(QLineEdit& line) {
     QCompleter* const completer = line.completer();
     if (completer == nullptr) return;
@@ -156,7 +156,7 @@ class CompleterPopups final : public QObject {
   }
 };
 
-/// The samples, where dist/CMakeLists.txt installs them, stand beside the usual places.
+/// Adds the samples, where dist/CMakeLists.txt installs them, to the usual places.
 void AddSamples(QFileDialog& chooser) {
   const QDir samples(QCoreApplication::applicationDirPath() + "/../share/terramark/samples");
   if (!samples.exists()) return;

@@ -9,9 +9,9 @@ class QWidget;
 
 namespace terramark::window {
 
-/// Shows the desktop's own dialog, or Qt's where it has none, with the files of the filter in a
-/// folder, and gives the full path of the one chosen, the empty text for a cancel. The process's
-/// current folder stays.
+/// Shows the desktop's own file dialog, or Qt's where there is none, with the files of the filter
+/// in a folder. Returns the full path of the chosen file, or an empty text when the dialog is
+/// cancelled. The current folder of the process stays.
 QString AskForFile(const forms::CommonDialog& asked, const QString& folder, QWidget* parent);
 
 }  // namespace terramark::window

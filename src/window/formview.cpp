@@ -17,7 +17,7 @@ namespace {
 
 constexpr int DragScrollMilliseconds = 20;
 
-/// Labels on a picture are drawn by its canvas.
+/// The canvas draws the labels on a picture.
 bool OnCanvas(const forms::Control& control) {
   return control.Container()->Kind() == forms::ControlKind::PictureBox;
 }
@@ -41,7 +41,7 @@ FormView::FormView(forms::Form& form, QWidget& parent)
 
 FormView::~FormView() {
   form_.Observe(nullptr);
-  // A container would delete the widgets in it.
+  // Otherwise a container would delete the widgets in it first.
   while (!views_.empty()) views_.pop_back();
 }
 
@@ -49,7 +49,7 @@ void FormView::ControlAdded(forms::Control& control) {
   if (ViewOf(control) != nullptr) return;
   forms::Control& container = *control.Container();
   const bool inForm = &container == &form_;
-  // The tab order may name a control before the frame around it.
+  // The control table may have a control before the frame that contains it.
   if (!inForm) ControlAdded(container);
   if (OnCanvas(control)) {
     accessibility_.Changed(control);
@@ -60,12 +60,13 @@ void FormView::ControlAdded(forms::Control& control) {
   accessibility_.Added(*views_.back());
 }
 
-/// Listens to the mouse over a view and over what the view is made of, and to its keys.
+/// Watches the mouse over a view and over its parts, and the view's keys.
 void FormView::WatchInput(ControlView& view) {
   QWidget& widget = view.Widget();
   pointer_.Watch(widget, view.Mouse());
   for (QWidget* part : widget.findChildren<QWidget*>()) pointer_.Watch(*part, MouseUse::WidgetToo);
-  // Others get only the keys that those in them have left.
+  // A container without focus gets only the keys that the widgets in it have ignored, and they have
+  // been handled there.
   if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, &view.Shown());
 }
 
@@ -80,7 +81,7 @@ void FormView::InitTabOrder() {
   }
 }
 
-/// Tells assistive tools what a label over a control names.
+/// Connects a label with the control that it names, for assistive tools.
 void FormView::SetLabelBuddies() {
   for (const forms::Control* control : form_.Controls()) {
     if (control->Kind() != forms::ControlKind::Label || OnCanvas(*control)) continue;
@@ -177,7 +178,7 @@ void FormView::PointerMoved() {
     if (auto* canvas = dynamic_cast<CanvasView*>(view.get())) canvas->PointerMoved();
   }
   const bool dragging = form_.Pointer.HasMouseDrag();
-  // What the keyboard carries has to be heard; whoever drags with the mouse sees.
+  // A key drag is reported to assistive tools; who drags with the mouse sees it.
   if (!dragging) accessibility_.Changed(form_);
   if (dragging == dragScroll_.isActive()) return;
   if (dragging) {

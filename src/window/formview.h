@@ -1,5 +1,5 @@
-// The inside of a form: a widget for each control of its table, brought into line with every change
-// of the form. The window or dialog that holds it gets the form's caption and place.
+// The inside of a form: a widget for each control of its table, updated with every change of the
+// form. The window or dialog that contains it gets the form's caption and place.
 #pragma once
 
 #include <QTimer>
@@ -19,13 +19,13 @@ class ControlView;
 
 class FormView final : public QWidget, private forms::FormObserver {
  public:
-  /// The form must outlive the view. It has one view at a time.
+  /// The form must outlive the view, and has only one view at a time.
   FormView(forms::Form& form, QWidget& parent);
   ~FormView() override;
 
-  /// Size of the form's client area, in pixels.
+  /// The size of the form's client area, in pixels.
   QSize DesignSize() const;
-  /// Puts the form's caption, icon and place on the window that holds the view.
+  /// Gives the window that contains the view the form's caption, icon and place.
   void ApplyWindowProperties();
   /// The widget of a control; null for a label on a picture.
   QWidget* WidgetOf(const forms::Control& control) const;
@@ -58,7 +58,7 @@ class FormView final : public QWidget, private forms::FormObserver {
   KeyFeed keys_;
   AccessibilityFeed accessibility_;
   QTimer dragScroll_;
-  /// A container stands before what is in it.
+  /// A container is before the views in it.
   std::vector<std::unique_ptr<ControlView>> views_;
 };
 

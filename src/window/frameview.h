@@ -1,5 +1,5 @@
-// A frame: an etched line with the caption in its upper edge. Disabled, it holds its children
-// still.
+// A frame: an etched line with the caption in its upper edge. While it is disabled, the controls in
+// it take no input.
 #pragma once
 
 #include <QGroupBox>

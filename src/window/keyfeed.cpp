@@ -4,8 +4,8 @@ namespace terramark::window {
 
 namespace {
 
-/// The key that has a code; Key_unknown for a number that is no code. A new code does not compile
-/// until it has its key here.
+/// The Qt key of a key code; Key_unknown for any other number. A new code does not compile until it
+/// has its line here.
 constexpr Qt::Key KeyOf(forms::KeyCode code) {
   switch (code) {
     case forms::KeyReturn:
@@ -49,7 +49,7 @@ constexpr Qt::Key KeyOf(forms::KeyCode code) {
 }
 
 std::int16_t CodeOf(int key) {
-  // The other key of the same meaning, and the one that plus is on, with the Shift key.
+  // Enter on the keypad means Return; plus is on the key of the equals sign, with Shift.
   if (key == Qt::Key_Enter) return forms::KeyReturn;
   if (key == Qt::Key_Equal) return forms::KeyPlus;
   constexpr std::int16_t LastCode = 255;
@@ -60,12 +60,13 @@ std::int16_t CodeOf(int key) {
 }
 
 forms::KeyEvent EventOf(const QKeyEvent& key) {
-  // A key that has no name is none of those without a code.
+  // Key_unknown would match the numbers between the codes.
   const std::int16_t code = key.key() == Qt::Key_unknown ? std::int16_t{0} : CodeOf(key.key());
   return {code, KeyMask(key.modifiers()), key.isAutoRepeat()};
 }
 
-/// Whether keys go to the widget, or to it as the window when no widget in it has the focus.
+/// Whether the widget has the focus in its window, or is that window and no widget in it has the
+/// focus.
 bool HasFocus(const QObject& watched) {
   const auto& widget = static_cast<const QWidget&>(watched);
   const QWidget* window = widget.window();
@@ -105,7 +106,8 @@ bool KeyFeed::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-/// Once, on the key's way up from the widget that has the focus, which it may lose over the key.
+/// True once for each event: Qt offers it to the focus widget, and then to its window if the widget
+/// ignores it. By then a handler may have moved the focus, so the event itself is compared.
 bool KeyFeed::Accepts(const QObject& watched, const QKeyEvent& key) {
   const Stamp stamp{&key, key.type(), key.timestamp()};
   const bool onItsWay = controls_.at(&watched) == nullptr && stamp == lastKey_;

@@ -1,4 +1,4 @@
-// Brings the keys and the focus of a form's widgets to the form.
+// Passes the keys and the focus of a form's widgets to the form.
 #pragma once
 
 #include <QKeyEvent>
@@ -11,15 +11,15 @@
 
 namespace terramark::window {
 
-/// The key mask Shift of the forms layer.
+/// The forms layer's mask of Shift, Ctrl and Alt.
 std::int16_t KeyMask(Qt::KeyboardModifiers modifiers);
 
 class KeyFeed : public QObject {
  public:
   explicit KeyFeed(forms::Form& form) : form_(form) {}
 
-  /// The widget takes the focus for the control, or with null for the form itself. The form hears
-  /// the keys of the widget that has the focus before that widget does.
+  /// The widget takes the focus for the control, or with null for the form itself. The form
+  /// receives the keys of the focus widget before that widget does.
   void Watch(QWidget& widget, forms::Control* control);
 
  protected:
@@ -30,7 +30,7 @@ class KeyFeed : public QObject {
   bool Pressed(const QKeyEvent& key);
   void Released(const QKeyEvent& key);
 
-  /// What tells one event from another.
+  /// Identifies an event: Qt may reuse the address.
   struct Stamp {
     const QKeyEvent* Event = nullptr;
     QEvent::Type Type = QEvent::None;

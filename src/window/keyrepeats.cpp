@@ -8,8 +8,8 @@ namespace terramark::window {
 
 namespace {
 
-/// The place on the keyboard: with the Shift key let go in between, a key goes up under another
-/// name. Where the platform tells no places, the name.
+/// The key's place on the keyboard: when Shift is released in between, a key is released under
+/// another name than it was pressed. Where the platform gives no scan codes, the name.
 std::uint32_t ScanCodeOf(const QKeyEvent& key) {
   constexpr std::uint32_t Named = 1U << 31U;
   const std::uint32_t place = key.nativeScanCode();
@@ -25,9 +25,9 @@ bool IsNew(const QEvent& surface) {
          QPlatformSurfaceEvent::SurfaceCreated;
 }
 
-/// Null where the platform is no X server, or one that does not tell repeats.
+/// Null where the platform is not X11, or the server cannot report repeats.
 std::unique_ptr<X11Keyboard> ConnectX11() {
-  // Other platforms too may have a connection, beside their own keyboards.
+  // Other platforms may have an X11 connection too, beside their own keyboards.
   if (QGuiApplication::platformName() != "xcb") return nullptr;
   const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr) return nullptr;
@@ -44,14 +44,14 @@ KeyRepeats::KeyRepeats() : x11_(ConnectX11()) {
 }
 
 bool KeyRepeats::eventFilter(QObject* watched, QEvent* event) {
-  // From the window a key goes on to its widgets, past here again.
+  // The window passes the key on to its widgets, and this filter sees it again there.
   auto* const window = qobject_cast<QWindow*>(watched);
   if (window == nullptr || event == copy_) return false;
   switch (event->type()) {
     case QEvent::PlatformSurface:
       if (x11_ && IsNew(*event)) x11_->Watch(*window);
       return false;
-    // What a shortcut takes is told of by this alone.
+    // A key that a shortcut takes comes as this event only.
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
       return Pressed(*window, *static_cast<QKeyEvent*>(event));

@@ -1,4 +1,4 @@
-// Tells a held key's repeats from presses, for all windows of the application.
+// Distinguishes the repeats of a held key from presses, for all windows of the application.
 #pragma once
 
 #include <QKeyEvent>
@@ -13,12 +13,13 @@
 
 namespace terramark::window {
 
-/// Marks repeats as such before a window sees them. The repeats and the release of a key reach only
-/// the window in which it went down: a box that comes up under a held key knows nothing of it.
-/// Enter and Escape do not repeat at all, since boxes and dialogs obey them at each press.
+/// Marks repeats before a window receives them. The repeats and the release of a key reach only the
+/// window in which it was pressed: a box that opens under a held key does not get them. Enter and
+/// Escape do not repeat at all, since boxes and dialogs act at each press.
 class KeyRepeats : public QObject {
  public:
-  /// Watches the application as long as this lives; before the first window is shown.
+  /// Filters the events of the application for as long as this object lives; to be made before the
+  /// first window is shown.
   KeyRepeats();
 
  protected:
@@ -28,17 +29,17 @@ class KeyRepeats : public QObject {
   bool Pressed(QWindow& window, QKeyEvent& event);
   bool Released(QWindow& window, QKeyEvent& event);
   bool IsRepeat(const QKeyEvent& press) const;
-  /// Whether a key went down in the window.
+  /// Whether the key was pressed in the window.
   bool WentDownIn(const QWindow& window, const QKeyEvent& event) const;
-  /// The event as it stands when it has the mark already; else a copy with it, in the event's
-  /// place, at once. Whether it was the copy.
+  /// An event with the right mark passes. Otherwise a marked copy is sent in its place, at once.
+  /// Returns whether the event is that copy.
   bool ResendMarked(QWindow& window, QKeyEvent& event, bool repeat);
 
   /// Null where the platform marks repeats itself.
   std::unique_ptr<X11Keyboard> x11_;
-  /// In which window each key that is down went down, by ScanCodeOf.
+  /// The window in which each held key was pressed, by ScanCodeOf.
   std::unordered_map<std::uint32_t, QPointer<QWindow>> down_;
-  /// The copy that is being told.
+  /// The copy that is being delivered.
   const QEvent* copy_ = nullptr;
 };
 

@@ -15,7 +15,7 @@ LabelView::LabelView(forms::Label& label, QWidget& container)
 }
 
 void LabelView::ShowOwn(forms::PropertyId id) {
-  // Only assistive tools read the text from here.
+  // Only assistive tools read the widget's text.
   if (id == forms::PropertyId::Caption) {
     setText(paint::ElidedText(label_.Caption, Qt::ElideMiddle));
     const bool tells =

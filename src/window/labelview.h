@@ -1,4 +1,4 @@
-// Labels outside a picture, as widgets; those on a picture its canvas draws.
+// A label outside a picture. The canvas draws the labels on a picture.
 #pragma once
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-// Starts the editor. There is no command line: what stands on it is passed over.
+// Starts the editor. There are no command line arguments; any are ignored.
 #include <QApplication>
 
 #include "editor/handlers.h"

@@ -24,7 +24,7 @@ void MainWindow::FitScreen() {
 }
 
 bool MainWindow::event(QEvent* event) {
-  // Only now is there a frame around the window.
+  // The window manager has put a frame around the window only by now.
   if (event->type() == QEvent::WindowActivate && !framed_) {
     framed_ = true;
     FitScreen();

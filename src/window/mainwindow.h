@@ -13,8 +13,8 @@ namespace terramark::window {
 
 class MainWindow : public QMainWindow {
  public:
-  /// Shows the form at its design size, or at the screen's where that is smaller; a larger window
-  /// leaves everything in its place.
+  /// Shows the form at its design size, or at the screen's where that is smaller. In a larger
+  /// window all controls keep their places.
   explicit MainWindow(Form1& form);
 
   FormView& View() { return inside_; }
@@ -24,7 +24,7 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// Keeps the window as large as what stands on it, but never larger than the screen.
+  /// The smallest size is that of the form, but never larger than the screen.
   void FitScreen();
 
   Form1& form_;

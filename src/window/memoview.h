@@ -1,4 +1,4 @@
-// A text box of several lines, to be read only.
+// A text box of several lines, read only.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -16,7 +16,7 @@ class MemoView final : public QPlainTextEdit, public ControlView {
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
-  /// Paints the frame too, of which the style leaves out sides on a scaled screen.
+  /// Also paints the frame: the style leaves out sides of it on a scaled screen.
   bool event(QEvent* event) override;
 
  private:

@@ -44,7 +44,7 @@ MessageAccessible::MessageAccessible(LabelView& view)
     return Register(std::make_unique<MessageTextAccessible>(*this, role));
   };
   children_ = {make(QAccessible::AlertMessage), make(QAccessible::StatusBar)};
-  // What stands there by now may have been read without having been announced.
+  // An earlier text may have been read by a tool without having been announced.
   shown_ = Showing();
 }
 
@@ -57,7 +57,7 @@ void MessageAccessible::Announce() {
   shown_ = Showing();
   QAccessibleInterface* const now = ChildOf(shown_);
   if (now == nullptr) return;
-  // The name first: what comes to show is announced by it.
+  // The name first: readers announce the name of what becomes visible.
   Send(*now, QAccessible::NameChanged);
   Send(*now, QAccessible::ObjectShow);
 }

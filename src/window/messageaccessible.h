@@ -1,5 +1,5 @@
-// Labels that tell a screen reader otherwise than by the change of their names: one that announces
-// what it says, and one that says it when asked.
+// Labels that do not report a new caption as a change of their name: one announces each text, one
+// is read only on request.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -9,17 +9,17 @@
 
 namespace terramark::window {
 
-/// A label with two children, an alert and a status bar, of which one shows while there is a text:
-/// coming to show is what readers announce.
+/// A label with two children, an alert and a status bar. While there is a text one of them is
+/// visible: readers announce what becomes visible.
 class MessageAccessible final : public QAccessibleWidget {
  public:
   explicit MessageAccessible(LabelView& view);
   ~MessageAccessible() override;
 
-  /// Announces what the label says now, also where it has said so before.
+  /// Announces the label's text, even if it is the same as before.
   void Announce();
 
-  /// The role of the child that shows; NoRole while the label is blank.
+  /// The role of the visible child; NoRole while the label is blank.
   QAccessible::Role Showing() const;
   QString Caption() const;
 
@@ -36,7 +36,7 @@ class MessageAccessible final : public QAccessibleWidget {
   QAccessible::Role shown_ = QAccessible::NoRole;
 };
 
-/// A label that tells nobody of a new caption.
+/// A label that does not report a new caption.
 class OnRequestAccessible final : public QAccessibleWidget {
  public:
   explicit OnRequestAccessible(LabelView& view);

@@ -45,7 +45,7 @@ void ModalForm::paintEvent(QPaintEvent* event) {
 
 void ModalForm::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  // Out of sight it would still keep the window behind it from answering.
+  // A minimised dialog would still block the window behind it.
   if (event->type() == QEvent::WindowStateChange && isMinimized()) showNormal();
 }
 

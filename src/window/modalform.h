@@ -8,9 +8,9 @@
 
 namespace terramark::window {
 
-/// Draws its frame and caption itself: some window managers put all their buttons on whatever has a
-/// frame of theirs. It is as large as the form and these, and is never minimised. Escape closes it
-/// too.
+/// Draws its frame and caption itself: some window managers add all their buttons to any window
+/// that they frame. It is as large as the form with frame and caption, and is never minimised.
+/// Escape closes it too.
 class ModalForm : public QDialog {
  public:
   /// The form must outlive the dialog.
@@ -19,7 +19,7 @@ class ModalForm : public QDialog {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
-  /// A press on the caption takes the dialog along.
+  /// A press on the caption moves the dialog.
   void mousePressEvent(QMouseEvent* event) override;
 
  private:

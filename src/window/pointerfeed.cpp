@@ -11,7 +11,7 @@ namespace {
 
 constexpr Qt::MouseButton Buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 constexpr char UsesMouse[] = "usesMouse";
-/// A place where no control stands.
+/// A place without any control.
 constexpr QPoint Nowhere(-10000, -10000);
 
 /// 0 for a button that the forms layer does not know.
@@ -33,7 +33,7 @@ std::int16_t ButtonMask(Qt::MouseButton button) {
 void PointerFeed::Watch(QWidget& widget, MouseUse use) {
   widget.setProperty(UsesMouse, use == MouseUse::WidgetToo);
   widget.setMouseTracking(true);
-  // What a widget leaves is not offered to those below it, which would feed it twice.
+  // Qt must not offer what a widget ignores to the widgets below it: the router would get it twice.
   widget.setAttribute(Qt::WA_NoMousePropagation);
   widget.installEventFilter(this);
 }
@@ -45,7 +45,7 @@ bool PointerFeed::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       Press(widget, *static_cast<QMouseEvent*>(event));
-      // On a scaled screen a press just before a widget may be given to it.
+      // On a scaled screen Qt may deliver a press just outside a widget to it.
       if (!IsOverWidget(widget, *static_cast<QMouseEvent*>(event))) return true;
       forHelp = asksHelp_;
       break;
@@ -70,15 +70,16 @@ bool PointerFeed::IsDown(Qt::MouseButton button) const {
   return (form_.Pointer.ButtonsDown() & ButtonMask(button)) != 0;
 }
 
-/// The window's place is exact, and the widget's is the same in whole pixels. They differ while a
-/// button that went down here is held over another window, whose place it then is.
+/// The place in the window is exact; the place in the widget is the same in whole pixels. They
+/// differ while a button that was pressed here is held over another window: then the window's place
+/// belongs to that one.
 QPoint PointerFeed::MapFromWidget(const QWidget& widget, const QMouseEvent& event) const {
   QPointF at = widget.mapTo(inside_.window(), event.position());
   if ((event.scenePosition() - at).manhattanLength() <= 1) at = event.scenePosition();
   return MapToPixel(inside_, inside_.mapFrom(inside_.window(), at));
 }
 
-/// Whether the pixel that is meant is the widget's.
+/// Whether the pixel of the event is one of the widget's.
 bool PointerFeed::IsOverWidget(const QWidget& widget, const QMouseEvent& event) const {
   return widget.rect().contains(widget.mapFrom(&inside_, MapFromWidget(widget, event)));
 }
@@ -115,8 +116,8 @@ void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifie
   form_.Pointer.Release(at.x(), at.y(), code, KeyMask(keys));
 }
 
-/// Whether the window shows a place of the form: it has not been made too small for it, and no
-/// other window lies over it. X11 alone tells of other programs' windows, by naming none of ours.
+/// Whether a place of the form is visible: the window is large enough, and no other window covers
+/// it. Only X11 knows of the windows of other programs, and then reports no widget of ours there.
 bool PointerFeed::IsUncovered(QPoint at) const {
   if (!inside_.rect().contains(at)) return false;
   const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
@@ -124,7 +125,7 @@ bool PointerFeed::IsUncovered(QPoint at) const {
   return over == inside_.window()->windowHandle();
 }
 
-/// A menu or a box that came up while a button was down has swallowed its release.
+/// A menu or a box that opened while a button was down has received its release.
 void PointerFeed::ReleaseLost(const QWidget& widget, const QMouseEvent& event) {
   for (const Qt::MouseButton button : Buttons) {
     const bool pressedNow = event.type() != QEvent::MouseMove && event.button() == button;
@@ -134,8 +135,8 @@ void PointerFeed::ReleaseLost(const QWidget& widget, const QMouseEvent& event) {
   }
 }
 
-/// Text boxes have a menu, which swallows the release; with the Shift key a press asks for help
-/// instead.
+/// The context menu of a text box receives the release of the button. With Shift a press asks for
+/// help instead.
 bool PointerFeed::ContextMenu(const QWidget& widget, const QContextMenuEvent& event) {
   if (event.modifiers().testFlag(Qt::ShiftModifier)) return true;
   if (!widget.property(UsesMouse).toBool()) return true;

@@ -1,6 +1,6 @@
-// Brings the mouse over all widgets of a form to the form's pointer router, in pixels of the form's
-// inside, and shows which button is held down. A press with the Shift key alone, on what hears its
-// release, asks for help and never reaches the widget.
+// Passes the mouse over all widgets of a form to the form's pointer router, in pixels of the form's
+// inside, and shows which button is held down. A press with Shift alone, on a control that handles
+// the release, asks for help and never reaches the widget.
 #pragma once
 
 #include <QContextMenuEvent>
@@ -16,11 +16,11 @@ namespace terramark::window {
 
 class PointerFeed : public QObject {
  public:
-  /// inside is the widget that shows the form's inside; the widgets watched are in it.
+  /// `inside` is the widget that shows the form's inside; all watched widgets are in it.
   PointerFeed(forms::Form& form, QWidget& inside) : form_(form), inside_(inside) {}
 
-  /// Hears the mouse over the widget and all that it holds by now. A widget that uses the mouse
-  /// itself sees it after the router.
+  /// Watches the mouse over the widget and all that it contains by now. A widget that uses the
+  /// mouse itself receives it after the router.
   void Watch(QWidget& widget, MouseUse use);
 
  protected:
@@ -40,7 +40,8 @@ class PointerFeed : public QObject {
   forms::Form& form_;
   QWidget& inside_;
   QPointer<QPushButton> held_;
-  /// Of the press that holds the pointer: what it is on hears its release, and it asks for help.
+  /// Of the current press: whether the control under it handles its release, and whether it asks
+  /// for help.
   bool reachesMouseUp_ = false;
   bool asksHelp_ = false;
 };

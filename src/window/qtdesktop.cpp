@@ -26,13 +26,13 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr float MillisecondsPerSecond = 1000;
-/// Characters of a word that any line has room for.
+/// A word of so many characters fits into a line of every box.
 constexpr int MaxWordLength = 40;
-/// Bits that a float holds exactly.
+/// The bits of a fraction that a float holds exactly.
 constexpr unsigned FractionBits = 24;
 
 bool Fits(const QString& name) {
-  // A line end in a name would end the line of the layout that holds it.
+  // A line end in a name would end the layout's line that contains it.
   return paint::FitsCp1252(name) && !name.contains('\n') && !name.contains('\r');
 }
 
@@ -45,14 +45,14 @@ void TakeChosenPath(forms::CommonDialog& dialog, const QString& path) {
   dialog.FileTitleFits = Fits(title);
 }
 
-/// What is shown of a text as one paragraph that can be wrapped: long words may break, and control
-/// characters are blanks.
+/// The visible part of a text as one paragraph that can be wrapped: long words may break, and
+/// control characters become blanks.
 QString WrappableText(const std::string& text) {
   QString shown = paint::ElidedText(text, Qt::ElideMiddle);
   for (QChar& character : shown) {
     if (character < ' ') character = ' ';
   }
-  // A blank of no width is where a word may break.
+  // A zero-width space marks where a word may break.
   return shown.replace(QRegularExpression(QStringLiteral("(\\S{%1})").arg(MaxWordLength)),
                        QStringLiteral("\\1\u200B"));
 }

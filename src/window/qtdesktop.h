@@ -15,7 +15,7 @@ namespace terramark::window {
 
 class QtDesktop : public forms::Desktop {
  public:
-  /// The window over which boxes and dialogs stand; none until it is set.
+  /// The window over which boxes and dialogs open; none until it is set.
   void SetDialogParent(QWidget* window) { window_ = window; }
 
   forms::Answer MsgBox(const std::string& text, forms::Buttons buttons,
@@ -41,7 +41,7 @@ class QtDesktop : public forms::Desktop {
 
  private:
   QPointer<QWidget> window_;
-  /// The help viewer, once it has been asked for.
+  /// The help viewer; null until the first request.
   std::unique_ptr<QWidget> help_;
   /// The file chosen last in the file dialog; empty before the first.
   QString chosen_;

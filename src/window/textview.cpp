@@ -16,11 +16,11 @@ namespace {
 
 constexpr int SideMargin = 2;
 
-/// Of a longer text the box holds the beginning; what is behind stays as it is, also when the
+/// The box shows only the beginning of a longer text; the rest stays unchanged, also when the
 /// beginning is edited.
 constexpr std::size_t MaxShownBytes = 65536;
 
-/// What came in by an edit, as the box may hold it: composed, a line break or tab a blank, and "?"
+/// An inserted text as the box may hold it: composed, with blanks for line breaks and tabs, and "?"
 /// for a character that code page 1252 lacks.
 std::string Cleaned(QString insert) {
   insert.replace("\r\n", " ");
@@ -30,15 +30,15 @@ std::string Cleaned(QString insert) {
   return paint::ToCp1252(paint::ComposedForm(insert));
 }
 
-/// An edit, from a place of the text on.
+/// An edit: what was cut and inserted, from an offset of the text on.
 struct Edit {
   qsizetype At;
   qsizetype Cut;
   QString Insert;
 };
 
-/// What an edit replaced, by the part of the text that was marked before it and the caret after it:
-/// behind the caret, and before the part or the caret, nothing changes.
+/// What an edit replaced, found from the selection before it and the caret after it: nothing
+/// changes behind the caret, nor before the selection or the caret.
 Edit EditBetween(const QString& before, const QString& after, qsizetype markedFrom,
                  qsizetype caret) {
   const qsizetype at = std::min(markedFrom, caret);
@@ -47,7 +47,7 @@ Edit EditBetween(const QString& before, const QString& after, qsizetype markedFr
       before.sliced(at + cut) == after.sliced(caret)) {
     return {at, cut, after.sliced(at, caret - at)};
   }
-  // An edit that was made anew, or by an input method, has changed some other place.
+  // A redo, or an input method, has changed another place.
   return {0, before.size(), after};
 }
 
@@ -81,7 +81,7 @@ void TextView::Edited(const QString& edited) {
   const auto hidden = static_cast<qsizetype>(box_.Text.Get().size()) - before.size();
   ApplyEdit(before, edited);
   if (const QString now = ShownPart(); now != text()) {
-    // Less may have come in than the line shows.
+    // The control may have accepted less than the line shows.
     const auto size = static_cast<qsizetype>(box_.Text.Get().size());
     const int caret = cursorPosition() - static_cast<int>(edited.size() + hidden - size);
     if (now == before) {
@@ -96,7 +96,7 @@ void TextView::Edited(const QString& edited) {
 
 void TextView::ApplyEdit(const QString& before, const QString& edited) {
   if (isRedoAvailable()) {
-    // Taken back: the control has had this text, so it need not be held to the limit.
+    // An undo: the control has had this text before, so the limit need not be applied.
     const auto shown = static_cast<std::size_t>(before.size());
     box_.Text = paint::ToCp1252(edited) + box_.Text.Get().substr(shown);
     return;
@@ -106,7 +106,7 @@ void TextView::ApplyEdit(const QString& before, const QString& edited) {
               Cleaned(edit.Insert));
 }
 
-/// An edit that was refused, or came to nothing, leaves the caret and the mark as they were.
+/// After an edit that was refused or changed nothing, caret and selection are as before.
 void TextView::RestoreSelection() {
   ShowText();
   const bool backwards = caret_ == selectionStart_;
@@ -117,7 +117,7 @@ void TextView::RestoreSelection() {
 void TextView::inputMethodEvent(QInputMethodEvent* event) {
   if (event->commitString().isEmpty() && event->replacementLength() == 0) return Compose(*event);
   if (event->preeditString().isEmpty()) return Commit(*event);
-  // One after the other: where the text is set anew over the first, the line forgets the second.
+  // One after the other: when the text is set anew for the first, the line loses the second.
   QInputMethodEvent first;
   first.setCommitString(event->commitString(), event->replacementStart(),
                         event->replacementLength());
@@ -127,18 +127,18 @@ void TextView::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void TextView::Commit(QInputMethodEvent& event) {
-  // To the control it is a key that makes a character.
+  // For the control this is a key that makes a character.
   box_.KeyPress.Raise({box_.Index()});
   {
-    // It moves the caret before it tells of the edit.
+    // Qt moves the caret before it reports the edit.
     const QScopedValueRollback<bool> still(editing_, true);
     QLineEdit::inputMethodEvent(&event);
   }
   SaveSelection();
 }
 
-/// The line takes a marked part out at once. The control hears of it with what comes in its place,
-/// as with a key, or not at all.
+/// The line removes a selected part at once. The control receives that together with what replaces
+/// it, as with a key, or not at all.
 void TextView::Compose(QInputMethodEvent& event) {
   const QScopedValueRollback<bool> still(editing_, true);
   {
@@ -154,15 +154,15 @@ void TextView::Compose(QInputMethodEvent& event) {
 
 void TextView::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  // What was composed over a mark and has not come in is gone.
+  // Text that was composed over a selection and not committed is gone.
   if (!editing_) ShowText();
 }
 
 void TextView::ShowOwn(forms::PropertyId id) {
-  // While an edit goes on, only what the control has in the end is shown.
+  // During an edit only the control's final text is shown.
   if (id == forms::PropertyId::Text && !editing_) ShowText();
   if (id == forms::PropertyId::Selection) {
-    // From the end to the front, so that of a long text the beginning shows.
+    // Selected from the end to the front, so that the beginning of a long text is visible.
     const auto size = static_cast<int>(text().size());
     setSelection(size, -size);
   }
@@ -178,13 +178,12 @@ void TextView::ShowText() {
   if (text == this->text()) return;
   SetMaxLengthFor(text.size());
   setText(text);
-  // A long text shows its beginning until the caret comes to it.
+  // A long text shows its beginning until the caret enters it.
   if (!hasFocus() && fontMetrics().horizontalAdvance(text) > width()) setCursorPosition(0);
 }
 
-/// The control decides what gives way to its limit. The line has the same one, since what it
-/// refuses itself leaves the way back to earlier edits; but a longer text that was assigned must
-/// pass.
+/// The control decides what it cuts at its limit. The line has the same limit, so that what it
+/// refuses itself does not end the undo history; but a longer text that was assigned must fit.
 void TextView::SetMaxLengthFor(qsizetype size) {
   const auto limit = std::max(static_cast<qsizetype>(box_.MaxLength), size);
   setMaxLength(box_.MaxLength == 0 ? std::numeric_limits<int>::max() : static_cast<int>(limit));

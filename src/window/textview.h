@@ -1,5 +1,5 @@
-// A text box of one line. What is typed or pasted goes to the control, and the box then shows what
-// the control made of it.
+// A text box of one line. What is typed or pasted goes to the control, and the box then shows the
+// control's text.
 #pragma once
 
 #include <QLineEdit>
@@ -28,20 +28,20 @@ class TextView : public QLineEdit, public ControlView {
   void Compose(QInputMethodEvent& event);
   void RestoreSelection();
   void SaveSelection();
-  /// The beginning of the control's text, as much of it as the box holds.
+  /// The beginning of the control's text, as much as the box shows.
   QString ShownPart() const;
   void SetMaxLengthFor(qsizetype size);
   void ShowText();
   void ShowColours();
 
   forms::TextBox& box_;
-  /// Before the edit that comes next: the caret, and where the marked part begins, or else the
-  /// caret is.
+  /// Before the next edit: the caret, and the start of the selection, or the caret where nothing is
+  /// selected.
   int caret_ = 0;
   int selectionStart_ = 0;
   int selectionSize_ = 0;
   bool editing_ = false;
-  /// While an input method shows what may yet come to nothing.
+  /// While an input method composes a text that may still be cancelled.
   bool composing_ = false;
 };
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <type_traits>
 
-// A field in it has the name of a C++ keyword.
+// A field in that header has the name of a C++ keyword.
 #define explicit explicit_
 #include <xcb/xkb.h>
 #undef explicit
@@ -14,14 +14,14 @@ namespace terramark::window {
 
 namespace {
 
-/// No modifier or button has this bit of an event's state. Set on a repeat, it goes along with the
-/// event, through an input method too, and comes out in nativeModifiers.
+/// No modifier or button uses this bit of an event's state. Set on a repeat, it stays in the event,
+/// through an input method too, and appears in nativeModifiers.
 constexpr std::uint16_t RepeatBit = 1U << 15U;
-/// The top bit tells that another program sent the event.
+/// The top bit is set in events that another program sent.
 constexpr std::uint8_t TypeBits = 0x7F;
 constexpr std::size_t KeysInAByte = 8;
 
-/// Replies are the caller's to free.
+/// The caller frees replies.
 template <typename Reply>
 using Owned = std::unique_ptr<Reply, std::integral_constant<void (*)(void*), &std::free>>;
 
@@ -68,7 +68,7 @@ bool X11Keyboard::nativeEventFilter(const QByteArray& type, void* message, qintp
       down_.reset(static_cast<xcb_key_release_event_t*>(message)->detail);
       break;
     case XCB_KEYMAP_NOTIFY: {
-      // Of the first byte's keys, which there are none, the event has no room to tell.
+      // The event has no byte for the first eight key codes, which no key has.
       const auto& map = *static_cast<xcb_keymap_notify_event_t*>(message);
       for (std::size_t key = KeysInAByte; key < down_.size(); ++key) {
         down_.set(key, (map.keys[key / KeysInAByte - 1] >> (key % KeysInAByte) & 1U) != 0);
