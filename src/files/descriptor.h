@@ -1,4 +1,5 @@
-// An open file that is closed in time, and the system's calls repeated when a signal cuts in.
+// An open file that closes itself, and system calls that are repeated when a signal interrupts
+// them.
 #pragma once
 
 #include <unistd.h>
@@ -8,7 +9,8 @@
 
 namespace terramark::files {
 
-/// The call's result, once no signal has interrupted it; errno tells of a failure.
+/// Repeats a call of the system until no signal interrupts it. After a failure errno has the
+/// reason.
 template <typename Call>
 auto Uninterrupted(Call call) {
   auto result = call();
@@ -16,14 +18,14 @@ auto Uninterrupted(Call call) {
   return result;
 }
 
-/// 0, or the errno with which the call has failed.
+/// 0, or the errno with which the call failed.
 template <typename Call>
 int ErrorOf(Call call) {
   return Uninterrupted(call) < 0 ? errno : 0;
 }
 
-/// An open file's number, or -1. What is written has to be flushed before, so that the closing has
-/// nothing to report.
+/// The number of an open file, or -1. Written bytes must be flushed before, so that closing has no
+/// failure to report.
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
@@ -39,7 +41,7 @@ class Descriptor {
   bool IsOpen() const { return number_ >= 0; }
   int Number() const { return number_; }
   void Close() {
-    // Never twice: even a closing that fails has given the number back.
+    // Called once only: the number is free again even after a close that failed.
     if (number_ >= 0) ::close(number_);
     number_ = -1;
   }

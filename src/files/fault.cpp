@@ -15,11 +15,11 @@ Fault Fault::OfKind(mode_t mode) {
 
 std::string Fault::Description() const {
   if (kind_ != nullptr) return kind_;
-  // strerror would speak the desktop's language, in an encoding that is not the editor's.
+  // strerror would use the language and the encoding of the desktop.
   const char* const known = ::strerrordesc_np(error_);
   if (known == nullptr) return "error " + std::to_string(error_);
   std::string words = known;
-  // "RPC" keeps its capitals.
+  // An abbreviation such as "RPC" keeps its capitals.
   const bool word = words.size() > 1 && std::islower(static_cast<unsigned char>(words[1])) != 0;
   if (word) words[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(words[0])));
   return words;

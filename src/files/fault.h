@@ -1,4 +1,4 @@
-// Why something cannot be done with a file.
+// The reason why something cannot be done with a file.
 #pragma once
 
 #include <sys/types.h>
@@ -10,15 +10,15 @@ namespace terramark::files {
 
 class Fault {
  public:
-  /// A call of the system has failed with this errno.
+  /// A call of the system failed with this errno.
   explicit Fault(int error) : error_(error) {}
-  /// The file is no regular one, by its mode, as stat gives it.
+  /// The file is not a regular one, according to its mode as stat returns it.
   static Fault OfKind(mode_t mode);
 
-  /// The errno; 0 when it is the kind of the file.
+  /// The errno; 0 when the kind of the file is the reason.
   int Error() const { return error_; }
-  /// For the user: words that stand behind a colon, with a small letter first, in English as all
-  /// that the editor says.
+  /// The text for the user, to stand after a colon: it begins with a small letter and is in
+  /// English, like all texts of the editor.
   std::string Description() const;
 
  private:
@@ -26,11 +26,11 @@ class Fault {
   const char* kind_ = nullptr;
 };
 
-/// What a step with a file gives, or why it has failed.
+/// The result of an operation on a file, or the reason of its failure.
 template <typename Value = void>
 using Result = tl::expected<Value, Fault>;
 
-/// As the result of such a step: it has failed.
+/// The failed result of such an operation.
 inline tl::unexpected<Fault> Failed(int error) {
   return tl::unexpected(Fault(error));
 }

@@ -11,9 +11,9 @@ namespace terramark::files {
 
 namespace {
 
-/// Longer than a tick of any kernel.
+/// Longer than a clock tick of any kernel.
 constexpr std::int64_t FineNanoseconds = 20'000'000;
-/// The coarsest disks count in steps of two.
+/// The coarsest file systems count in steps of two seconds.
 constexpr std::int64_t CoarseSeconds = 2;
 constexpr std::int64_t NanosecondsPerSecond = 1'000'000'000;
 
@@ -21,7 +21,8 @@ Moment MomentOf(const timespec& time) {
   return {time.tv_sec, time.tv_nsec};
 }
 
-/// From the clock's time: a file's own can be any, and a sum with it too large.
+/// Subtracts from the clock's time: the time of a file can be any number, and adding to it could
+/// overflow.
 Moment Before(const Moment& now, std::int64_t seconds, std::int64_t nanoseconds) {
   if (now.Nanoseconds >= nanoseconds) return {now.Seconds - seconds, now.Nanoseconds - nanoseconds};
   return {now.Seconds - seconds - 1, now.Nanoseconds - nanoseconds + NanosecondsPerSecond};

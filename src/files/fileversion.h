@@ -1,4 +1,4 @@
-// Which file stands behind a name, and in which state: tells whether it has changed since.
+// Identifies a file and its state, to find out whether it has changed.
 #pragma once
 
 #include <compare>
@@ -17,7 +17,8 @@ struct Moment {
   auto operator<=>(const Moment&) const = default;
 };
 
-/// Equal versions are one file with the same bytes, provided that the earlier was settled.
+/// Equal versions mean the same file with the same bytes, provided that the earlier version was
+/// settled.
 struct FileVersion {
   std::uint64_t Device = 0;
   std::uint64_t Inode = 0;
@@ -26,15 +27,14 @@ struct FileVersion {
   Moment Changed;
 
   /// Whether any change after `now`, a moment just before the version was taken, gives the file
-  /// another version. The times that a disk keeps stand still between the kernel's ticks, or on
-  /// some for two whole seconds: a file that has just been changed can change again within the same
-  /// time.
+  /// another version. The file times of a disk advance only with the kernel's ticks, on some disks
+  /// only every two seconds: a file that has just changed can change again without a new time.
   bool SettledBy(const Moment& now) const;
 
   bool operator==(const FileVersion&) const = default;
 };
 
-/// The version as of now of an open file.
+/// The present version of an open file.
 Result<FileVersion> VersionOf(int file);
 
 }  // namespace terramark::files

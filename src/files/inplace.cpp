@@ -17,7 +17,7 @@ namespace {
 
 constexpr off_t MaxKept = off_t{64} << 20;
 
-/// The whole file, which must be one to keep in memory.
+/// Reads the whole file; one that is too large to keep in memory is refused.
 Result<std::string> ReadAll(int file) {
   struct stat status {};
   const int error = ErrorOf([&] { return ::fstat(file, &status); });
@@ -30,13 +30,13 @@ Result<std::string> ReadAll(int file) {
   return bytes;
 }
 
-/// 0 or an errno, as in all that follows.
+/// All functions below return 0 or an errno.
 int Truncate(int file, std::size_t size) {
   return ErrorOf([&] { return ::ftruncate(file, static_cast<off_t>(size)); });
 }
 
-/// A full disk shows here, before a byte of the old text is gone. The size stays, and where room
-/// cannot be asked for, the writing finds out.
+/// Reserves the disk space, so that a full disk fails before any byte of the old text is
+/// overwritten. The size of the file stays. Where space cannot be reserved, writing will find out.
 int MakeRoom(int file, std::size_t size) {
   if (size == 0) return 0;
   const auto length = static_cast<off_t>(size);
@@ -44,7 +44,7 @@ int MakeRoom(int file, std::size_t size) {
   return error == EOPNOTSUPP || error == ENOSYS || error == EINVAL ? 0 : error;
 }
 
-/// How far a writing over old bytes came.
+/// How far overwriting the old bytes came.
 struct Progress {
   Written Text;
   bool Cut = false;  // what the old text had beyond the new one
@@ -54,7 +54,7 @@ struct Progress {
 Progress Overwrite(int file, std::string_view text, std::size_t oldSize) {
   Progress done{.Text = WriteAll(file, text)};
   done.Error = done.Text.Error;
-  // A file that has the right size already is not cut: that could only fail.
+  // A file that already has the right size is not truncated: that could only fail.
   if (done.Error == 0 && text.size() < oldSize) {
     done.Error = Truncate(file, text.size());
     done.Cut = done.Error == 0;
@@ -68,7 +68,8 @@ bool PutBack(int file, std::string_view old, const Progress& done) {
   if (gone == 0 && !done.Cut) return true;
   const std::size_t put = WriteAll(file, old).Bytes;
   const bool sized = gone <= old.size() || Truncate(file, old.size()) == 0;
-  // Where the disk took none of the new text it has the old one still, and will take none of that.
+  // The bytes that were not overwritten are still those of the old text, and writing them would
+  // fail at the same place of the disk.
   const std::size_t lost = done.Cut ? old.size() : std::min(gone, old.size());
   return put >= lost && sized && Flush(file) == 0;
 }
@@ -83,7 +84,7 @@ InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view t
   if (!old) return {InPlace::Kept, old.error().Error()};
 
   if (const int error = MakeRoom(file.Number(), text.size()); error != 0) {
-    // Gives back what room there was.
+    // Frees the space that was reserved beyond the old text.
     Truncate(file.Number(), old->size());
     return {InPlace::Kept, error};
   }

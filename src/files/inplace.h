@@ -1,4 +1,4 @@
-// Writes over a file that cannot be replaced, and puts its old bytes back when that fails.
+// Overwrites a file that cannot be replaced, and restores its old bytes when that fails.
 #pragma once
 
 #include <filesystem>
@@ -17,8 +17,9 @@ struct InPlaceResult {
   int Error;  // the errno that stopped the writing, 0 for none
 };
 
-/// Keeps the old bytes in memory meanwhile, so that a file that may not be read, or has more than
-/// 64 MiB, is not written. A process that is killed in the middle leaves a mix.
+/// Keeps the old bytes in memory meanwhile. A file that cannot be read, or that has more than 64
+/// MiB, is therefore not written. A process that is killed in the middle leaves a mix of old and
+/// new bytes.
 InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view text);
 
 }  // namespace terramark::files

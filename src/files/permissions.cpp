@@ -10,16 +10,16 @@ namespace terramark::files {
 namespace {
 
 constexpr const char* AccessList = "system.posix_acl_access";
-/// Reading, writing and executing; the rest of a mode is for programs and folders.
+/// Read, write and execute; the other bits of a mode concern programs and folders.
 constexpr mode_t ModeBits = 0777;
 
-/// The user may not, or the file system has no such thing; the file itself is sound.
+/// The user may not set it, or the file system does not support it; the file itself is sound.
 bool CannotBeSet(int error) {
   return error == EPERM || error == EACCES || error == ENOTSUP || error == ENOSYS ||
          error == EINVAL;
 }
 
-/// 0, or why the file has another list than this one. A new file may have its folder's.
+/// Sets the access list; 0 or an errno. A new file may have inherited a list from its folder.
 int SetList(int file, const std::string& list) {
   if (!list.empty()) {
     const auto set = [&] { return ::fsetxattr(file, AccessList, list.data(), list.size(), 0); };
@@ -46,14 +46,14 @@ int Permissions::Read(const std::filesystem::path& path, const struct stat& stat
 }
 
 bool Permissions::GroupCounts() const {
-  // A list speaks of this group, and may deny to some what it allows to others.
+  // An access list may name this group, or give some users rights that it denies to others.
   return !list_.empty() || (mode_ >> 3U & 7U) != (mode_ & 7U);
 }
 
 Giving Permissions::GiveTo(int file) const {
   int error = ErrorOf([&] { return ::fchown(file, owner_, group_); });
   if (error != 0 && !CannotBeSet(error)) return {Given::Failed, error};
-  // Where they cannot be set they may be right all the same.
+  // What cannot be set may have the right value already.
   struct stat now {};
   error = ErrorOf([&] { return ::fstat(file, &now); });
   if (error != 0) return {Given::Failed, error};

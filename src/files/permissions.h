@@ -1,4 +1,4 @@
-// Who may do what with a file, for the file that is to replace it.
+// The permissions of a file, for the file that is to replace it.
 #pragma once
 
 #include <sys/stat.h>
@@ -8,14 +8,14 @@
 
 namespace terramark::files {
 
-/// Whether a new file has got what the old one has.
+/// Whether a new file has received the permissions of the old one.
 enum class Given {
   All,     // who could read or write the old file can the new one, and nobody else
   Less,    // somebody would lose a right; nobody has gained one
   Failed,  // neither is sure: the system has refused something else
 };
 
-/// How it went, and the errno when it has failed.
+/// The outcome, and the errno of a failure.
 struct Giving {
   Given Rights;
   int Error = 0;
@@ -24,15 +24,16 @@ struct Giving {
 /// Owner, group, mode and access list of a file.
 class Permissions {
  public:
-  /// The mode to create the new file with: safe whatever its owner and group turn out to be.
+  /// The mode for creating the new file: safe whatever its owner and group will be.
   static constexpr mode_t StartMode = 0600;
 
-  /// Of the file whose status is given; 0, or an errno when its access list cannot be read.
+  /// Reads those of the file with the given status; 0, or an errno when its access list cannot be
+  /// read.
   int Read(const std::filesystem::path& path, const struct stat& status);
 
   /// Gives them to a file that was created with StartMode, as far as the user and the file system
-  /// can. Another owner than the old one is always Less. Another group is not where the group had
-  /// the rights of all others: then nobody loses or gains one by it.
+  /// can. A different owner is always Less. A different group is not Less where the group had the
+  /// same rights as all others: then nobody loses or gains a right.
   Giving GiveTo(int file) const;
 
  private:

@@ -10,12 +10,12 @@
 
 namespace terramark::files {
 
-/// Fills the room with the file's bytes from so many bytes after its start; how many there were,
-/// fewer than the room where the file ends.
+/// Reads the file's bytes from an offset into the span. Returns how many were read: fewer than the
+/// span holds where the file ends.
 Result<std::size_t> ReadInto(int file, std::uintmax_t offset, std::span<char> room);
 
-/// The file's bytes from its start on, at most so many, and fewer where it ends. A read that fails
-/// is a fault, never a short result.
+/// The file's bytes from its start, at most `most` of them, fewer where it ends. A read that fails
+/// gives a fault, never a short result.
 Result<std::string> ReadBytes(int file, std::size_t most);
 
 }  // namespace terramark::files

@@ -11,7 +11,7 @@ namespace terramark::files {
 
 namespace {
 
-/// Nothing for a regular file.
+/// No fault for a regular file.
 Result<> Regular(int error, const struct stat& status) {
   if (error != 0) return Failed(error);
   if (!S_ISREG(status.st_mode)) return tl::unexpected(Fault::OfKind(status.st_mode));
@@ -21,9 +21,9 @@ Result<> Regular(int error, const struct stat& status) {
 }  // namespace
 
 Result<RegularFile> RegularFile::Open(const std::filesystem::path& path) {
-  // The system's call would take the path for one that ends at the NUL.
+  // The system would end the path at the NUL.
   if (path.native().find('\0') != std::string::npos) return Failed(ENOENT);
-  // Asked before opening: that alone can stir a pipe's writer or a device.
+  // Checked before opening: opening alone can wake the writer of a pipe, or a device.
   struct stat status {};
   const int error = ErrorOf([&] { return ::stat(path.c_str(), &status); });
   if (const auto regular = Regular(error, status); !regular) {
@@ -43,7 +43,7 @@ Result<> RegularFile::TakeSize() {
   if (auto regular = Regular(error, status); !regular) return regular;
   size_ = static_cast<std::uintmax_t>(status.st_size);
   if (size_ > 0) return {};
-  // The kernel's own files call themselves empty; then they give bytes, or let the reader wait.
+  // Files that the kernel generates report the size 0, but give bytes or block the reader.
   const auto byte = ReadBytes(file_.Number(), 1);
   if (!byte) return tl::unexpected(byte.error());
   if (!byte->empty()) return tl::unexpected(Fault::OfKind(S_IFCHR));

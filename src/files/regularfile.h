@@ -1,4 +1,4 @@
-// A file opened for reading that is sure to be a plain one: reading it ends, and waits for nobody.
+// A file opened for reading that is certain to be a regular one: reading it ends and never blocks.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,8 @@
 
 namespace terramark::files {
 
-/// Takes no folder, pipe or device, nor what the kernel makes up as it is read, and does not wait
-/// for any of them. A path with a NUL names no file.
+/// Refuses a folder, a pipe, a device and a file that the kernel generates, without waiting for any
+/// of them. A path with a NUL names no file.
 class RegularFile {
  public:
   static Result<RegularFile> Open(const std::filesystem::path& path);
@@ -23,26 +23,26 @@ class RegularFile {
   /// Bytes at the time of opening.
   std::uintmax_t Size() const { return size_; }
 
-  /// The file as it is now.
+  /// The file's version now.
   Result<FileVersion> Version() const { return VersionOf(file_.Number()); }
 
-  /// From the beginning up to the size, and at most so many bytes. Fewer when another program has
-  /// cut the file short in the meantime; a read that fails is a fault, never a short result.
+  /// The bytes from the start up to Size(), at most `most`. Fewer when another program has
+  /// truncated the file meanwhile; a read that fails gives a fault, never a short result.
   Result<std::string> Read(std::size_t most) const;
-  /// Fills the room with the bytes from so many after the beginning; how many there were, fewer
-  /// than the room where the file ends.
+  /// Reads from an offset into the span. Returns how many bytes were read: fewer than the span
+  /// holds where the file ends.
   Result<std::size_t> ReadAt(std::uintmax_t offset, std::span<char> room) const;
 
  private:
   explicit RegularFile(Descriptor file) : file_(std::move(file)) {}
-  /// Finds out those that only look like a plain file.
+  /// Also detects files that only look like regular ones.
   Result<> TakeSize();
 
   Descriptor file_;
   std::uintmax_t size_ = 0;
 };
 
-/// The bytes of such a file from its beginning, at most so many.
+/// Opens such a file and returns its bytes from the start, at most `most`.
 Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size_t most);
 
 }  // namespace terramark::files

@@ -16,25 +16,25 @@ namespace terramark::files {
 
 namespace {
 
-/// Links that may lead to one another before they are taken for a ring.
+/// After so many symbolic links in a chain they are taken for a loop.
 constexpr int MaxLinks = 40;
-/// Of a file that was not there; the umask and the folder say how much of it holds.
+/// The mode of a new file; the umask and the folder limit it.
 constexpr mode_t NewMode = 0666;
 
-/// The folder takes no new file, or does not let it take the name.
+/// The folder accepts no new file, or does not allow the rename.
 bool FolderRefuses(int error) {
   return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
 }
 
-/// Files without a name, naming them later, or a new name that replaces nothing may not be had
-/// here; the next, simpler way tells what is really wrong.
+/// This system has no unnamed files, cannot name them later, or cannot rename without replacing.
+/// The next, simpler way then fails with the real reason.
 bool NeedsSimplerWay(int error) {
   return FolderRefuses(error) || error == EOPNOTSUPP || error == ENOSYS || error == EISDIR ||
          error == EINVAL || error == ENOENT || error == EXDEV || error == EMLINK;
 }
 
-/// Where the user's limit on the size of files is reached, a call fails like any other instead of
-/// killing the process.
+/// At the user's limit on the size of files a call fails with an errno, instead of a signal that
+/// ends the process.
 class LimitFails {
  public:
   LimitFails() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
@@ -45,8 +45,8 @@ class LimitFails {
   void (*before_)(int);
 };
 
-/// A new name is safe when the folder that holds it is on the disk too. Not every file system can
-/// be asked for that, and the file itself is complete either way.
+/// A new name is safe only when the folder that contains it is on the disk too. Not every file
+/// system can flush a folder, and the file itself is complete either way.
 void FlushFolder(const std::filesystem::path& folder) {
   const auto open = [&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); };
   const Descriptor opened(Uninterrupted(open));
@@ -89,7 +89,7 @@ Result<> SafeFile::Replace(std::string_view text) {
 }
 
 Result<> SafeFile::WriteOver(std::string_view text) {
-  // So that the text is beside a mix even when the power fails.
+  // So that the file with the whole text survives a power failure during the writing in place.
   if (!temporary_.empty()) FlushFolder(Folder());
   const InPlaceResult result = WriteInPlace(target_, text);
   if (result.State == InPlace::Written) return {};
@@ -118,7 +118,7 @@ Result<> SafeFile::FindTarget() {
         Uninterrupted([&] { return ::readlink(target_.c_str(), text.data(), text.size()); });
     if (size < 0) return Failed(errno);
     if (size == PATH_MAX) return Failed(ENAMETOOLONG);
-    // A relative link starts at its own folder; an absolute one takes the whole path over.
+    // A relative link is relative to its own folder; an absolute one replaces the whole path.
     target_ = target_.parent_path() / std::string(text.data(), static_cast<std::size_t>(size));
   }
   return Failed(ELOOP);
@@ -155,7 +155,7 @@ int SafeFile::OpenTemporary(const std::filesystem::path& path, int flags) {
 int SafeFile::TakeTarget(std::string_view text) {
   if (temporary_.empty()) {
     const int error = NameTemporary(text);
-    // One that replaces nothing has been given the target's name at once.
+    // A file that replaces nothing has already been given the target's name.
     if (error != 0 || temporary_.empty()) return error;
   }
   file_.Close();
@@ -183,7 +183,7 @@ int SafeFile::TakeNewName() {
   int error = ErrorOf([&] { return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE); });
   if (NeedsSimplerWay(error)) {
     error = ErrorOf([&] { return ::link(from, to); });
-    // The other name goes in the end.
+    // The temporary name is removed by the destructor.
     if (error == 0) return 0;
   }
   if (NeedsSimplerWay(error)) error = TakeReservedName();
@@ -192,7 +192,7 @@ int SafeFile::TakeNewName() {
 }
 
 int SafeFile::TakeReservedName() {
-  // An empty file takes the name, if no other has it, and is the one that is replaced.
+  // Creates an empty file with the name, if there is none, and the new file then replaces that.
   constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
   const auto reserve = [&] { return ::open(target_.c_str(), Flags, NewMode); };
   Descriptor reserved(Uninterrupted(reserve));
@@ -211,8 +211,8 @@ int SafeFile::LinkTo(const std::filesystem::path& name) const {
 
 template <typename Make>
 int SafeFile::MakeTemporary(Make make) {
-  // Short, so that it fits where the target's name does; the number keeps two editors apart, and
-  // clear of what killed ones have left.
+  // Short, so that it fits wherever the target's name fits. The process number keeps it apart from
+  // those of other editors, and from what killed ones have left.
   const std::string stem = ".terramark-" + std::to_string(::getpid()) + "-";
   constexpr int Tries = 10000;
   int error = EEXIST;

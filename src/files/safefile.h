@@ -1,4 +1,4 @@
-// Replaces a file as a whole: either the new text stands under its name, or the old file does.
+// Replaces a file as a whole: its name has either the new text or the old file.
 #pragma once
 
 #include <filesystem>
@@ -41,27 +41,27 @@ class SafeFile {
   explicit SafeFile(std::filesystem::path target);
   SafeFile(const SafeFile&) = delete;
   SafeFile& operator=(const SafeFile&) = delete;
-  /// Takes the temporary file away, unless it is the target now or is kept.
+  /// Removes the temporary file, unless it has become the target or is kept.
   ~SafeFile();
 
-  /// Whether the target can be written as far as can be told beforehand. Touches nothing but the
-  /// temporary file.
+  /// Checks whether the target can be written, as far as that is known beforehand. Touches nothing
+  /// but the temporary file.
   Result<> Open();
 
   /// Makes the text the target's content, once, after Open. A failure leaves the target as it was,
-  /// but for a disk that fails in the middle of writing in place and fails again for the old text.
+  /// except when the disk fails in the middle of writing in place and fails again for the old text.
   Result<> Replace(std::string_view text);
 
-  /// Whether a Replace that failed has left the target neither old nor new.
+  /// Whether a Replace that failed left the target with neither the old nor the new text.
   bool Damaged() const { return damaged_; }
-  /// The file beside a damaged target that holds the text; empty where the folder took none.
+  /// The file beside a damaged target that has the new text; empty where the folder accepted none.
   const std::filesystem::path& Kept() const { return kept_; }
 
  private:
   Result<> FindTarget();
   Result<> WriteOver(std::string_view text);
 
-  // These give 0 or an errno.
+  // These return 0 or an errno.
   int Complete(std::string_view text);
   int OpenUnnamed();
   int OpenNamed();

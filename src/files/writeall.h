@@ -6,13 +6,13 @@
 
 namespace terramark::files {
 
-/// How far a writing came, and the errno that stopped it, 0 when all is written.
+/// How many bytes were written, and the errno that stopped it, 0 when all are written.
 struct Written {
   std::size_t Bytes = 0;
   int Error = 0;
 };
 
-/// Writes from the file's start on.
+/// Writes from the file's start.
 Written WriteAll(int file, std::string_view text);
 
 /// 0 when all of the file is on the disk, or an errno.

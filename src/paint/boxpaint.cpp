@@ -17,7 +17,7 @@ namespace terramark::paint {
 
 namespace {
 
-/// What a part of the device shows, which must lie on the image.
+/// What a part of the device shows of the image; the part must lie on the image.
 QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
   const forms::Raster& image = box.Image();
   std::vector<int> columns;
@@ -52,13 +52,13 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
   if (seen != part) painter.fillRect(part, ScreenColour(box.BackColor));
   const QTransform toDevice = painter.deviceTransform();
   if (zoom != forms::ActualSize || toDevice.isScaling()) {
-    // Not left to the painter, which rounds by the edges of what it paints.
+    // Not left to the painter, which rounds at the edges of each area that it paints.
     const QRect part = MapToDevice(toDevice, seen);
     painter.setTransform(toDevice.inverted(), true);
     painter.drawImage(part.topLeft(), Magnified(box, toDevice, part));
     return painter.resetTransform();
   }
-  // Shares the raster's memory; nothing is copied but what goes on the screen.
+  // The QImage uses the raster's memory; only what is shown is copied.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
                      raster.Height, QImage::Format_RGB32);
   painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));

@@ -1,4 +1,4 @@
-// What stands on a picture box, as large as it is shown: its image, labels and rings.
+// Draws what is on a picture box, at the size at which it is shown: image, labels and rings.
 #pragma once
 
 #include <QRect>
@@ -10,14 +10,14 @@ class QPainter;
 
 namespace terramark::paint {
 
-/// Pixels by which a ring goes beyond what it is around.
+/// How many pixels a ring extends beyond the area that it surrounds.
 inline constexpr int RingWidth = 3;
 
-/// Paints a part of the box, in its pixels, each of which shows the nearest pixel of the box's
-/// image. Beside the image the box has its own colour.
+/// Paints a part of the box, in pixels of the box. Each pixel shows the nearest pixel of the box's
+/// image; beyond the image the box's own colour.
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
-/// Hands over each label that is to be seen on the box, the lowest first.
+/// Calls the visitor with each visible label on the box, from the back to the front.
 template <typename Visitor>
 void ForEachLabel(const forms::PictureBox& box, Visitor visit) {
   for (const forms::Control* child : box.Children()) {
@@ -26,11 +26,11 @@ void ForEachLabel(const forms::PictureBox& box, Visitor visit) {
   }
 }
 
-/// Paints a label into the area that it covers at a scale; its letters are drawn in that size.
-/// Leaves the painter without a transform.
+/// Paints a label into the area that it covers at a scale, with its letters in that size. Resets
+/// the painter's transform.
 void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label);
 
-/// Paints a ring around an area, which shows on every colour.
+/// Paints a ring around an area; it is visible on every colour.
 void PaintRing(QPainter& painter, const QRect& area);
 
 }  // namespace terramark::paint

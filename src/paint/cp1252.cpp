@@ -12,8 +12,8 @@ namespace {
 
 constexpr qsizetype PieceLength = 200;
 
-/// Whether a character may be one with what stands before it: marks, halves of a character, and the
-/// vowels and finals of Korean syllables.
+/// Whether a character may combine with the one before it: marks, halves of a surrogate pair, and
+/// the vowels and finals of Korean syllables.
 bool MayCompose(QChar character) {
   return character.isMark() || character.isSurrogate() ||
          (character >= QChar(0x1161) && character <= QChar(0x11C2));
@@ -35,8 +35,8 @@ std::string ToCp1252(const QString& text) {
 }
 
 QString ComposedForm(const QString& text) {
-  // Composing moves all that follows for each mark it takes in, so it gets pieces. A piece that
-  // finds no end, since all are marks, is cut where it is.
+  // Composing is quadratic in the number of marks, so it gets pieces of the text. A piece that
+  // consists of marks only is cut at its length.
   QString composed;
   for (qsizetype from = 0, end = 0; from < text.size(); from = end) {
     const qsizetype last = std::min(from + 2 * PieceLength, text.size());

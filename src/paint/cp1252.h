@@ -1,5 +1,5 @@
-// Text on its way between the 8-bit text of the editor, code page 1252, and the Unicode of what is
-// shown and of the names of files.
+// Converts between the editor's 8-bit text, code page 1252, and Unicode, for what is shown and for
+// the names of files.
 #pragma once
 
 #include <QString>
@@ -7,18 +7,19 @@
 
 namespace terramark::paint {
 
-// Byte by byte as document/codepage.h tells.
+// Byte by byte, by the table in document/codepage.h. A character that the code page lacks becomes
+// "?".
 QString FromCp1252(const std::string& text);
 std::string ToCp1252(const QString& text);
 
-/// The text with letters and their marks composed where they can be; linear in its length.
+/// The text with letters and marks composed where possible, in linear time.
 QString ComposedForm(const QString& text);
 
-/// The text as the system writes the names of files; what the code page lacks is lost either way.
+/// The text in the encoding of the system's file names; characters that one of both lacks are lost.
 std::string InSystemEncoding(const std::string& text);
 std::string FromSystemEncoding(const std::string& name);
 
-/// Whether the text comes back from 8-bit text as it went in.
+/// Whether the text is the same after a conversion to 8-bit text and back.
 bool FitsCp1252(const QString& text);
 
 }  // namespace terramark::paint

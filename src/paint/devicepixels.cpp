@@ -8,7 +8,7 @@ namespace terramark::paint {
 
 QRect MapToDevice(const QTransform& toDevice, const QRect& area) {
   const QRectF mapped = toDevice.mapRect(QRectF(area));
-  // Each edge by itself; QRectF::toRect rounds sizes.
+  // Each edge is rounded by itself; QRectF::toRect rounds sizes.
   return {QPoint(qRound(mapped.left()), qRound(mapped.top())),
           QPoint(qRound(mapped.right()) - 1, qRound(mapped.bottom()) - 1)};
 }

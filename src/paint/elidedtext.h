@@ -1,4 +1,4 @@
-// What is shown of a text that may be of any length.
+// The visible part of a text of any length.
 #pragma once
 
 #include <QString>
@@ -6,8 +6,8 @@
 
 namespace terramark::paint {
 
-/// As much of a text as a caption or a box shows: up to 500 characters, one of them an ellipsis
-/// where more are left out, at the end or in the middle. Costs the same however long the text is.
+/// The part of a text that a caption or a box shows: at most 500 characters, with an ellipsis at
+/// the end or in the middle where more are left out. Takes the same time however long the text is.
 QString ElidedText(const std::string& text, Qt::TextElideMode cutAt = Qt::ElideRight);
 
 }  // namespace terramark::paint

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int Dash = 2;  // lines thick
 
-/// Paints an area's edges, counted in pixels of the device.
+/// Paints lines along an area's edges, in pixels of the device.
 class Edges {
  public:
   Edges(QPainter& painter, const QRect& area)
@@ -23,8 +23,8 @@ class Edges {
         area_(MapToDevice(toDevice_, area)),
         thick_(std::max(1, qRound(toDevice_.m11()))) {}
 
-  /// One line; what comes next lies within it. Two corners are shade's. No pixel is painted twice,
-  /// which would show where the painter lets the ground through.
+  /// Paints one line; the next line is inside it. Two of the corners have the colour `shade`. No
+  /// pixel is painted twice, which would be visible with a transparent colour.
   void Line(const QColor& lit, const QColor& shade) {
     const QRect in = area_.adjusted(thick_, thick_, -thick_, -thick_);
     Fill({area_.left(), area_.top(), area_.width() - thick_, thick_}, lit);
@@ -34,7 +34,7 @@ class Edges {
     area_ = in;
   }
 
-  /// Every other dash of a line, from the corners above and on the left.
+  /// Paints every other dash of a line, beginning at the top and at the left corners.
   void Dashes(const QColor& colour) {
     const int dash = Dash * thick_;
     for (int x = 0; x < area_.width(); x += 2 * dash) {

@@ -1,6 +1,6 @@
-// Frames, bevels and focus rings whose lines are whole pixels of the device, as thick on every side
-// at any scale of the screen or the painter. A pen's lines, which begin and end between the pixels
-// of a scaled device, come out thicker on one side or not at all.
+// Frames, bevels and focus rings. Their lines are whole pixels of the device, equally thick on all
+// sides at any scale of the screen or the painter; lines of a QPen would differ or disappear, since
+// they begin and end between the pixels of a scaled device.
 #pragma once
 
 #include <QColor>
@@ -10,12 +10,12 @@ class QRect;
 
 namespace terramark::paint {
 
-/// Draws one line along the inside of the area's edges: as many pixels of the device thick as the
-/// painter's scale comes to, and one at the least. A turned painter is not for these.
+/// Draws one line along the inside of the area's edges. Its thickness is the painter's scale in
+/// device pixels, at least one. The painter must not be rotated.
 void DrawFrame(QPainter& painter, const QRect& area, const QColor& colour);
 
-/// Two lines, one within the other, each with a colour above and on the left, and another below and
-/// on the right.
+/// Two lines, one inside the other, each with one colour at the top and left and one at the bottom
+/// and right.
 struct Bevel {
   QColor OuterLit;
   QColor OuterShade;
@@ -24,7 +24,8 @@ struct Bevel {
 };
 void DrawBevel(QPainter& painter, const QRect& area, const Bevel& bevel);
 
-/// Draws a line as DrawFrame does, in black and white by turns, so that it shows on every colour.
+/// Draws a line as DrawFrame does, with alternating black and white dashes, so that it is visible
+/// on every colour.
 void DrawFocusRing(QPainter& painter, const QRect& area);
 
 }  // namespace terramark::paint

@@ -17,13 +17,13 @@ void DrawLabel(QPainter& painter, const QRect& area, const forms::Label& label) 
   painter.fillRect(area, ScreenColour(label.BackColor));
   QRect inside = area;
   if (label.BorderStyle == forms::Border::FixedSingle) {
-    // On a black label a black border would not show.
+    // A black border would be invisible on a black label.
     const bool dark = ScreenColour(label.BackColor).lightness() < DarkLightness;
     DrawFrame(painter, area, dark ? Qt::gray : Qt::black);
     inside.adjust(1, 1, -1, -1);
   }
   painter.setPen(ScreenColour(label.ForeColor));
-  // What is said of a long name stands before and behind it.
+  // In a message with a long name, the words before and after the name matter.
   const QString caption = ElidedText(label.Caption, Qt::ElideMiddle);
   if (label.Alignment == forms::Alignment::Centred) {
     DrawCaption(painter, inside, caption, Qt::ElideMiddle);

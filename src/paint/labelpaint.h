@@ -1,4 +1,4 @@
-// A label as a drawing.
+// Draws a label.
 #pragma once
 
 #include "forms/controls.h"

@@ -13,8 +13,8 @@ namespace {
 
 constexpr float FontTwips = 8.25F * 20;
 
-/// Those of the families that are installed, or all when none is. For one that is not, Qt has the
-/// system look for stand-ins at every start, though another of them follows.
+/// The families that are installed, or all when none is. A family that is not installed is left
+/// out, since Qt has the system look for a substitute at every start.
 QStringList InstalledOf(const QStringList& families) {
   const QStringList all = QFontDatabase::families();
   QStringList installed;

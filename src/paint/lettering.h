@@ -1,4 +1,4 @@
-// The fonts of controls and captions, and a caption drawn in one.
+// The fonts of controls and captions, and drawing a caption.
 #pragma once
 
 #include <QFont>
@@ -13,21 +13,21 @@ class QRect;
 
 namespace terramark::paint {
 
-/// Arial or what has its measures, the one that is installed first.
+/// Arial and the families with the same letter widths that are installed, best first.
 const QStringList& TextFamilies();
 
-/// Of labels and boxes: the text families, 8.25 pt bold, sized by the screen's twips.
+/// The font of labels and boxes: the text families, 8.25 pt bold, sized by the screen's twips.
 QFont TextFont(forms::Desktop& host);
 
-/// The form's own, which shows on buttons and in the captions of frames: MS Sans Serif of the same
-/// size and weight, or else the text families.
+/// The form's own font, on buttons and in the captions of frames: MS Sans Serif of the same size
+/// and weight, or else the text families.
 QFont FormFont(forms::Desktop& host);
 
-/// The size of a text in pixels as one line in the text font, as far as a caption shows it.
+/// The size in pixels of a text as one line in the text font, as far as a caption shows it.
 forms::TextExtent ExtentOf(const std::string& text, forms::Desktop& host);
 
-/// Draws one line of text into the rectangle: in the middle, or from the left with an ellipsis at
-/// the place told where it does not fit.
+/// Draws one line of text into the rectangle: centred, or from the left with an ellipsis at `cutAt`
+/// where it does not fit.
 void DrawCaption(QPainter& painter, const QRect& area, const QString& text,
                  Qt::TextElideMode cutAt);
 

@@ -14,7 +14,7 @@ namespace terramark::paint {
 
 namespace {
 
-/// Each edge by itself, so that what touches still does.
+/// Each edge is rounded by itself, so that adjacent areas stay adjacent.
 QRect Shrunk(const forms::PixelRect& area, double scale) {
   const auto edge = [scale](int at) { return qRound(at * scale); };
   const QPoint corner(edge(area.Left), edge(area.Top));
@@ -39,7 +39,7 @@ std::optional<std::string> MapAsPng(const forms::PictureBox& box, int side) {
   const forms::Raster& picture = *box.Picture.Get();
   const int longer = std::max(picture.Width, picture.Height);
   if (longer < 1 || side < 1) return std::nullopt;
-  // Shares the raster's memory: only what is shrunk is copied.
+  // The QImage uses the raster's memory: only a shrunk picture is a copy.
   QImage map(reinterpret_cast<const uchar*>(picture.Pixels.data()), picture.Width, picture.Height,
              QImage::Format_RGB32);
   const double scale = std::min(1.0, static_cast<double>(side) / longer);

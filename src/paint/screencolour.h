@@ -1,4 +1,4 @@
-// The editor's colours on a screen, whatever the desktop's theme.
+// The editor's colours on the screen, the same on every desktop.
 #pragma once
 
 #include <QColor>
@@ -7,7 +7,7 @@
 
 namespace terramark::paint {
 
-/// A system colour or 0x00BBGGRR on the screen.
+/// The screen's colour for a system colour or for 0x00BBGGRR.
 QColor ScreenColour(forms::Color colour);
 
 }  // namespace terramark::paint

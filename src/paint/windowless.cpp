@@ -9,11 +9,11 @@ Windowless::Windowless() {
   static int argumentCount = 1;
   static char name[] = "terramark";
   static char* arguments[] = {name, nullptr};
-  // What Qt misses of a desktop is no news here.
+  // Qt warns about parts of a desktop that are missing, which are not needed here.
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qunsetenv("QT_QPA_PLATFORMTHEME");
-  // Qt would make a folder for a session that there is not, and leave it behind. Here it cannot.
+  // Qt would create a folder for the session and leave it behind. With these it cannot.
   qunsetenv("XDG_RUNTIME_DIR");
   qputenv("TMPDIR", "/dev/null");
   application_ = std::make_unique<QGuiApplication>(argumentCount, arguments);

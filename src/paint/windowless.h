@@ -1,4 +1,4 @@
-// Qt for a program that draws and letters pictures and has no window.
+// Qt for a program that draws pictures and text and has no window.
 #pragma once
 
 #include <memory>
@@ -7,9 +7,9 @@ class QGuiApplication;
 
 namespace terramark::paint {
 
-/// One in a program, before the first text is measured or drawn. Asks for no display, takes no
-/// notice of the desktop's theme and makes no folders; to that end it changes the environment of
-/// the process, and what Qt has to say is dropped from then on.
+/// One per program, before the first text is measured or drawn. It connects to no display, ignores
+/// the desktop's theme and creates no folders. For this it changes the environment of the process;
+/// Qt's messages are dropped from then on.
 class Windowless {
  public:
   Windowless();
