@@ -12,30 +12,29 @@
 
 namespace terramark::files {
 
-/// Qt's QSaveFile does not serve: it keeps neither the owner nor the access list of the old file,
-/// and where it writes in place it does not put the old bytes back. And the editor saves without
-/// Qt.
+/// The editor saves without Qt, whose QSaveFile would not do: it keeps neither owner nor access
+/// list of the old file, and does not restore the old bytes where it writes in place.
 ///
-/// The new text goes into a temporary file in the target's folder and takes the target's name when
-/// all of it has reached the disk; what a link names is replaced, not the link. An old file that
-/// may not be written is not replaced. Where there was no file, one that comes into being meanwhile
-/// is not replaced either.
+/// The new text is written to a temporary file in the target's folder. When all of it is on the
+/// disk the temporary file takes the target's name. Of a symbolic link the file behind it is
+/// replaced. An old file without write permission is not replaced, nor a file that somebody creates
+/// meanwhile where there was none.
 ///
-/// Nobody gains a right by it, and nobody loses one. So the old file is written in place, and stays
-/// the same file, where the new one cannot be given its owner, or its group, mode or access list
-/// and somebody would lose a right by that; and where the folder refuses a new file or its name.
-/// Its bytes are put back when that fails. Meanwhile the temporary file stands beside it with the
-/// whole text, unless the folder takes none.
+/// Nobody gains or loses a right. The old file is therefore written in place, and stays the same
+/// file, where the new one cannot get its owner, or where somebody would lose a right because it
+/// cannot get the group, mode or access list; also where the folder refuses a new file or the
+/// rename. When writing in place fails the old bytes are restored. Until it is done the temporary
+/// file with the whole text stays beside the target, unless the folder refuses one.
 ///
-/// Hard links: a replaced file is a new one, and other names of the old file keep the old text;
-/// written in place, all of them show the new.
+/// Hard links: a replaced file is a new one, and other names of the old file keep the old text.
+/// When it is written in place, all its names have the new text.
 ///
-/// A kill leaves the old text or the new one, but in place perhaps a mix. The temporary file has no
-/// name until it is whole, and then for a moment one of its own, or as long as is written in place.
-/// A kill in that time, or at any time on a file system that cannot do without names, leaves a
-/// hidden ".terramark-..." beside the target, which nothing reads and which may be deleted, unless
-/// it is Kept or the target is a mix. Where the file system neither links nor renames without
-/// replacing, a kill may leave a new target empty.
+/// A process that is killed leaves the old or the new text, but while it writes in place perhaps a
+/// mix. The temporary file has no name until it is complete, and then one of its own for a moment,
+/// or for as long as the writing in place takes. A kill in that time, or at any time on a file
+/// system without unnamed files, leaves a hidden ".terramark-..." beside the target. Nothing reads
+/// it, and it may be deleted, unless it is Kept or the target is a mix. On a file system that can
+/// neither link nor rename without replacing, a kill may leave a new target empty.
 class SafeFile {
  public:
   explicit SafeFile(std::filesystem::path target);

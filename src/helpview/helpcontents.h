@@ -5,7 +5,7 @@
 
 namespace terramark::helpview {
 
-/// Marks the current topic in grey, and in the colour of a selection while it has the keyboard.
+/// The current topic is grey; with the keyboard focus it has the colour of a selection.
 class HelpContents final : public QListWidget {
  public:
   HelpContents();

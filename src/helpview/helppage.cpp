@@ -20,7 +20,7 @@ constexpr double ZoomStep = 1.15;
 constexpr int MinZoom = -4;
 constexpr int MaxZoom = 10;
 constexpr double Margin = 18;
-/// Pixels of the page that should be seen above and below what was found.
+/// How many pixels of the page should be visible above and below a match.
 constexpr int MatchMargin = 40;
 
 const QColor MatchBackground(0xFF, 0xE0, 0x70);
@@ -32,7 +32,7 @@ HelpPage::HelpPage() {
   setObjectName("HelpPage");
   setAccessibleName("Help page");
   widgets::NameScrollBars(*this, "Help page");
-  // The caret is what a keyboard marks by, and what a screen reader reads by.
+  // With a text cursor the keyboard can select, and a screen reader can read.
   setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   QPalette colours = palette();
@@ -46,7 +46,7 @@ void HelpPage::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   const QUrl target = source().resolved(name);
   if (target.scheme() != "qrc" || !target.path().endsWith(".md")) return;
   if (!QFile::exists(':' + target.path())) return;
-  // It would be dressed once more.
+  // Loading the same page again would style it twice.
   if (target == source()) return;
   QTextBrowser::doSetSource(target, type);
 }
@@ -56,7 +56,7 @@ void HelpPage::ApplyStyle() {
   StylePage(*document());
   Fit();
   setTextCursor(QTextCursor(document()));
-  // A reader need not follow the caret to have the page read.
+  // So that a reader can read the whole page without following the text cursor.
   setAccessibleDescription(toPlainText());
 }
 
@@ -97,7 +97,7 @@ void HelpPage::Zoom(int zoom) {
   QFont letters = font();
   letters.setPointSizeF(DefaultPoints * std::pow(ZoomStep, zoom_));
   setFont(letters);
-  // What was read goes on being read.
+  // The text at the top stays at the top.
   verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
 }
 
@@ -115,14 +115,14 @@ void HelpPage::wheelEvent(QWheelEvent* event) {
 }
 
 bool HelpPage::focusNextPrevChild(bool next) {
-  // Backwards from a page of which no link is marked is out of it, and not to its last link.
+  // Shift+Tab leaves the page, unless a link is selected. Qt would go to the page's last link.
   if (!next && !textCursor().hasSelection()) return QWidget::focusNextPrevChild(next);
   return QTextBrowser::focusNextPrevChild(next);
 }
 
 void HelpPage::keyPressEvent(QKeyEvent* event) {
-  // A link that has the keyboard is a selection with a dotted line around it, and so would be what
-  // grows from it.
+  // A focused link is a selection with a dotted line around it, and a selection that is extended
+  // from it would keep the line.
   const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
   if (moves && event->modifiers().testFlag(Qt::ShiftModifier)) setTextCursor(textCursor());
   QTextBrowser::keyPressEvent(event);

@@ -1,4 +1,4 @@
-// The page of the help viewer: one topic, with links, marked words and letters of any size.
+// The page of the help viewer: one topic, with links, highlighted matches and letters of any size.
 #pragma once
 
 #include <QTextBrowser>
@@ -12,9 +12,9 @@ class HelpPage final : public QTextBrowser {
  public:
   HelpPage();
 
-  /// Marks places of the shown topic's text, and no others.
+  /// Highlights these places of the topic's text, and no others.
   void HighlightMatches(const std::vector<HelpMatch>& places);
-  /// Selects a place and brings it into view.
+  /// Selects a match and scrolls it into view.
   void SelectMatch(const HelpMatch& place);
 
   void Enlarge() { Zoom(zoom_ + 1); }
@@ -22,7 +22,7 @@ class HelpPage final : public QTextBrowser {
   void ActualSize() { Zoom(0); }
 
  protected:
-  /// A link to nowhere does nothing.
+  /// A link without a target does nothing.
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -10,7 +10,7 @@ bool BeginsWord(const QString& text, qsizetype at) {
   return at == 0 || !text[at - 1].isLetterOrNumber() || !text[at].isLetterOrNumber();
 }
 
-/// Empty unless all words are there.
+/// The matches of all words; none unless each word occurs.
 std::vector<HelpMatch> MatchesIn(const QString& text, std::size_t topic, const QStringList& words) {
   std::vector<HelpMatch> places;
   for (const QString& word : words) {
@@ -47,7 +47,7 @@ std::vector<HelpMatch> FindWords(const QStringList& texts, const QString& query)
   std::vector<HelpMatch> found = FindAll(texts, {whole});
   if (!found.empty()) return found;
   QStringList words = whole.split(' ');
-  // A pasted page has many a word many times.
+  // A pasted page has many words more than once.
   words.removeDuplicates();
   return FindAll(texts, words);
 }

@@ -9,7 +9,7 @@
 
 namespace terramark::helpview {
 
-/// Characters of a topic's text.
+/// Some characters of a topic's text.
 struct HelpMatch {
   std::size_t Topic;
   int At;
@@ -18,13 +18,13 @@ struct HelpMatch {
   auto operator<=>(const HelpMatch&) const = default;
 };
 
-/// Where a query stands in the texts as it is; or else its words, in those texts that have all of
-/// them. In order; one place does not reach into the next. Case does not matter, and a word may go
-/// on. None for a query without words.
+/// The places of the query as a whole; if there are none, those of its words, in the texts that
+/// have all of them. In order, and without overlap. Case does not matter, and a match may be the
+/// beginning of a longer word. None for a query without words.
 std::vector<HelpMatch> FindWords(const QStringList& texts, const QString& query);
 
-/// The first place that begins there or later, or else the very first: the search goes round.
-/// There must be one.
+/// The first match that begins at this place or later, or else the very first match. There must be
+/// one.
 std::size_t NextMatch(const std::vector<HelpMatch>& places, std::size_t topic, int at);
 
 }  // namespace terramark::helpview

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int ContentsTopic = 2;
 
-/// Of the first line, which is the heading.
+/// The title is in the first line, the heading.
 QString TitleOf(const QString& text) {
   return text.section('\n', 0, 0).remove(0, QStringLiteral("# ").size()).trimmed();
 }

@@ -1,4 +1,4 @@
-// The topics of the help, as they were built into the program: one Markdown file each.
+// The topics of the help, one Markdown file each, built into the program.
 #pragma once
 
 #include <QString>
@@ -14,10 +14,10 @@ struct HelpTopic {
   QUrl Source;
 };
 
-/// In the order of their numbers.
+/// All topics, by their numbers.
 std::vector<HelpTopic> ReadHelpTopics();
 
-/// The place of a number among the topics, or else that of the contents.
+/// The index of a topic's number, or that of the contents for any other number.
 std::size_t TopicIndex(const std::vector<HelpTopic>& topics, int number);
 
 }  // namespace terramark::helpview

@@ -20,13 +20,13 @@ namespace terramark::helpview {
 namespace {
 
 constexpr QSize DefaultSize(840, 600);
-/// Less would cut off what is told of a search.
+/// A smaller window would cut off the status of a search.
 constexpr QSize MinViewerSize(640, 320);
 constexpr int ContentsWidth = 180;
 constexpr int SearchWidth = 200;
 constexpr int Gap = 6;
 
-/// As the page has it, so that places in the one are places in the other.
+/// The same text as the page has, so that a match has the same place in both.
 QString PlainText(const HelpTopic& topic) {
   QTextDocument page;
   page.setMarkdown(topic.Text);
@@ -71,7 +71,7 @@ void HelpWindow::LayOut() {
   search_.setFixedWidth(SearchWidth);
   bar->addWidget(&search_);
   bar->addSpacing(Gap);
-  // Whatever it tells, the others stay where they are.
+  // The other widgets keep their places whatever the status says.
   QSizePolicy staying(QSizePolicy::Ignored, QSizePolicy::Preferred);
   staying.setRetainSizeWhenHidden(true);
   status_.setSizePolicy(staying);
@@ -82,7 +82,7 @@ void HelpWindow::LayOut() {
   contents_.setSpacing(2);
   halves->addWidget(&contents_);
   halves->addWidget(&page_, 1);
-  // Each belongs to the layout that it is in, and the outermost to the window.
+  // Each belongs to its layout, and the outermost layout to the window.
   auto* const whole = std::make_unique<QVBoxLayout>(this).release();
   whole->setContentsMargins(Gap, Gap, Gap, Gap);
   whole->setSpacing(Gap);
@@ -132,8 +132,7 @@ void HelpWindow::SetKeys() {
   on("Ctrl+0", [this] { page_.ActualSize(); });
 }
 
-/// Covers as little of the editor as may be: on the right of it, or else at the screen's right
-/// edge.
+/// Covers as little of the editor as possible: on its right, or else at the screen's right edge.
 void HelpWindow::PlaceBeside(const QWidget& editor) {
   const QRect room = editor.screen()->availableGeometry();
   const QRect taken = editor.frameGeometry();
@@ -210,8 +209,7 @@ void HelpWindow::ShowMatches() {
   ShowStatus(Counted(matches_.size(), "place") + " in " + Counted(topics.size(), "topic"));
 }
 
-/// Also as what is said of the search box, since a screen reader tells that of where the keyboard
-/// is.
+/// Also sets the description of the search box: a screen reader reads that of the focused widget.
 void HelpWindow::ShowStatus(const QString& news) {
   status_.setText(news);
   status_.setVisible(!news.isEmpty());

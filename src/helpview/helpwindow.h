@@ -17,10 +17,10 @@ namespace terramark::helpview {
 
 class HelpWindow : public QWidget {
  public:
-  /// Stands beside the editor's window where the screen has room; null is none.
+  /// Opens beside the editor's window where the screen has room; null for no editor's window.
   explicit HelpWindow(const QWidget* editor);
 
-  /// Shows a topic and comes to the front; for a number that is no topic, the contents.
+  /// Shows a topic and raises the window; for a number that is no topic, the contents.
   void Open(std::int32_t topic);
 
  private:
@@ -35,18 +35,18 @@ class HelpWindow : public QWidget {
   void PageChanged(const QUrl& source);
   /// Whether the search box has words.
   bool HasQuery() const { return !search_.text().trimmed().isEmpty(); }
-  /// They have changed.
+  /// Finds the words in the search box anew.
   void Search();
-  /// To the next place found, or the one before.
+  /// Goes to the next or the previous match.
   void FindNext(Direction direction);
-  /// Marks on the page what was found, and tells how much there is.
+  /// Highlights the matches on the page, and shows their number.
   void ShowMatches();
-  /// Null when a topic has nothing of it.
+  /// Null for a topic without a match.
   const HelpMatch* FirstMatchIn(int row) const;
   void ShowStatus(const QString& news);
 
   const std::vector<HelpTopic> topics_ = ReadHelpTopics();
-  /// The topics as they are read; empty until the first search.
+  /// The topics' plain texts; empty until the first search.
   QStringList texts_;
   std::vector<HelpMatch> matches_;
 

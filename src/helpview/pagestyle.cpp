@@ -42,7 +42,7 @@ std::vector<Image> ImagesOf(const QTextDocument& page) {
   return images;
 }
 
-/// A heading's letters stay in proportion to the page's font, which a reader may enlarge.
+/// The letters of a heading keep their proportion to the page's font, which a reader may enlarge.
 void StyleHeading(QTextCursor& block, int level) {
   QTextCharFormat letters;
   letters.setProperty(QTextFormat::FontSizeAdjustment, std::max(3 - level, 0));
@@ -69,8 +69,8 @@ void StyleBlocks(QTextDocument& page) {
   }
 }
 
-/// What has to be typed, and names of files: on a ground of their own, since a system may lack a
-/// font with letters of one width.
+/// Text to type and file names get a background of their own, since a system may have no font with
+/// letters of equal width.
 void StyleCode(QTextDocument& page) {
   for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
     std::vector<QTextFragment> parts;
@@ -117,10 +117,10 @@ void StyleTables(const QTextDocument& page) {
   }
 }
 
-/// What a picture shows is told to those who do not see it, and found by a search.
+/// The caption of a picture is for readers who cannot see it, and for the search.
 void AddCaptions(QTextDocument& page) {
   std::vector<Image> images = ImagesOf(page);
-  // From the end, so that places before stay as they are.
+  // From the end, so that earlier places do not change.
   std::ranges::reverse(images);
   for (const Image& image : images) {
     QTextCursor cursor(&page);
@@ -154,7 +154,7 @@ void FitPictures(QTextDocument& page, int width, double ratio) {
     QImage picture(":/help/" + name);
     if (picture.isNull()) continue;
     if (picture.width() > width) {
-      // By itself a page scales without smoothing.
+      // A page scales pictures without smoothing.
       const int pixels = std::max(1, static_cast<int>(std::floor(width * ratio)));
       picture = picture.scaledToWidth(std::min(pixels, picture.width()), Qt::SmoothTransformation);
       picture.setDevicePixelRatio(static_cast<double>(picture.width()) / width);

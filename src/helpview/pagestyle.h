@@ -1,16 +1,16 @@
-// How the pages of the help are set: spacing, headings, tables, pictures.
+// The style of the help's pages: spacing, headings, tables, pictures.
 #pragma once
 
 class QTextDocument;
 
 namespace terramark::helpview {
 
-/// Dresses a page that has just been read from Markdown, and puts the words of each picture below
-/// it. The text is final afterwards.
+/// Styles a page that has just been read from Markdown, and adds the caption below each picture.
+/// The text does not change afterwards.
 void StylePage(QTextDocument& page);
 
-/// Scales those pictures down that are wider than a width in pixels, and brings those back to their
-/// own size that need it no longer. Ratio: pixels of the screen to one of the page.
+/// Scales down the pictures that are wider than `width`, in pixels of the page, and restores those
+/// that fit again. `ratio` is the number of screen pixels for one of the page.
 void FitPictures(QTextDocument& page, int width, double ratio);
 
 }  // namespace terramark::helpview

@@ -9,8 +9,8 @@ namespace terramark::helpview {
 
 namespace {
 
-/// A window to assistive tools: as the dialog that Qt takes it for it would pass for a part of the
-/// editor's.
+/// A window to assistive tools. Qt takes it for a dialog, which would seem a part of the editor's
+/// window.
 class WindowAccessible final : public QAccessibleWidget {
  public:
   explicit WindowAccessible(HelpWindow& window) : QAccessibleWidget(&window, QAccessible::Window) {}

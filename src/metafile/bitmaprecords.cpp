@@ -16,19 +16,20 @@ constexpr int TwoColourPlanes = 0x0101;  // one plane of one bit a pixel
 constexpr std::int64_t WorkPerBitmapPixel = 1;
 constexpr std::int64_t WorkPerKeptPixel = 12;
 
-/// The bitmap in a record. Its size is in pixels, 1 or more each way.
+/// The bitmap in a record. Its size is in pixels, at least 1 each way.
 struct RecordBitmap {
   int Width = 0;
   int Height = 0;
   bool BottomUp = false;
   std::int64_t Words = 0;  // of the record
-  /// Null when it is broken.
+  /// Decodes it; null when it is broken.
   std::function<forms::Picture(const DeviceContext& context)> Decode;
 
   std::int64_t Pixels() const { return std::int64_t{Width} * Height; }
 };
 
-/// The older bitmap of two colours: clear bits show the text colour, set bits the background.
+/// Decodes the older bitmap of two colours: clear bits have the text colour, set bits the
+/// background colour.
 forms::Picture DecodeTwoColours(const DeviceContext& context, QSize size, qsizetype rowBytes,
                                 QByteArrayView bits) {
   if (bits.size() < rowBytes * size.height()) return nullptr;
@@ -47,8 +48,8 @@ forms::Picture DecodeTwoColours(const DeviceContext& context, QSize size, qsizet
   return image;
 }
 
-/// The older kind, whose head is at the word `at` of the record and whose bits begin at `bitsAt`.
-/// None when it is broken or too large.
+/// The older kind of bitmap: its head is at the word `at` of the record, its bits begin at the word
+/// `bitsAt`. None when it is broken or too large.
 std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizetype at,
                                             qsizetype bitsAt) {
   const QSize size(record.Int(at + 1), record.Int(at + 2));
@@ -66,15 +67,15 @@ std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizet
                       }};
 }
 
-/// Of a bitmap with a header: what its colour table holds.
+/// What the colour table of a bitmap contains.
 enum class TableOf { Colours, PaletteEntries };
 
 TableOf TableIn(int colourUse) {
   return colourUse == PaletteColours ? TableOf::PaletteEntries : TableOf::Colours;
 }
 
-/// Packed at the word `at` of the record, header, colour table and rows. None when it is broken or
-/// too large.
+/// A bitmap with header, colour table and rows at the word `at` of the record. None when it is
+/// broken or too large.
 std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype at,
                                          TableOf table) {
   const QByteArrayView bytes = record.From(at);
@@ -94,7 +95,7 @@ std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype
                       }};
 }
 
-/// Null when it is broken, or when the work that is left does not reach for it.
+/// Null when the bitmap is broken, or when the work that is left is too little.
 forms::Picture Decode(DeviceContext& context, const RecordBitmap& from) {
   if (!context.Target().ChargeWork(WorkPerBitmapPixel * from.Pixels() + from.Words)) return nullptr;
   return from.Decode(context);
@@ -103,7 +104,7 @@ forms::Picture Decode(DeviceContext& context, const RecordBitmap& from) {
 /// Draws nothing without a bitmap.
 void DrawBitmap(DeviceContext& context, Blit blit, const std::optional<RecordBitmap>& from) {
   if (!from) return;
-  // The rows of such a bitmap are counted from the first stored one.
+  // Rows of the source rectangle are counted from the first stored row.
   if (from->BottomUp) blit.From.moveTop(from->Height - blit.From.top() - blit.From.height());
   DrawBlit(context, blit, [&] { return Decode(context, *from); });
 }
@@ -112,7 +113,7 @@ int RopOf(const MetafileRecord& record) {
   return record.Word(1) & 0xFF;
 }
 
-/// A record without a bitmap is no longer than this, and fills with the brush.
+/// A record without a bitmap is no longer than this; it fills with the brush.
 bool HasBitmap(const MetafileRecord& record) {
   constexpr qsizetype WordsWithout = 9;
   return record.Words() > WordsWithout;
@@ -120,7 +121,7 @@ bool HasBitmap(const MetafileRecord& record) {
 
 constexpr qsizetype BitmapAtInBitBlt = 8;
 
-/// Of BitBlt and DibBitBlt: the target is behind a word that is not used where no bitmap follows.
+/// Reads BitBlt and DibBitBlt. Without a bitmap the target is one word later, after an unused one.
 Blit ReadBitBlt(const MetafileRecord& record) {
   const qsizetype at = HasBitmap(record) ? 4 : 5;
   const QSize size(record.Int(at + 1), record.Int(at));
@@ -130,7 +131,7 @@ Blit ReadBitBlt(const MetafileRecord& record) {
           .From = QRect(record.PointYX(2), size)};
 }
 
-/// Of the stretching records, source and target of which stand from the word `at`.
+/// Reads the records that stretch. Their source and target begin at the word `at`.
 Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
   return {.Rop = RopOf(record),
           .To = record.PointYX(at + 6),
@@ -138,11 +139,11 @@ Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
           .From = QRect(record.PointYX(at + 2), QSize(record.Int(at + 1), record.Int(at)))};
 }
 
-/// A brush that fails keeps its number all the same: the file counts on it.
+/// A brush that fails still takes its number: later records count on it.
 void AddPatternBrush(DeviceContext& context, const std::optional<RecordBitmap>& from) {
   GraphicsObject object = Unusable();
   if (auto tile = from ? Decode(context, *from) : nullptr) {
-    // It may be kept, so its memory weighs more than pixels that are painted.
+    // A brush may be kept, so its memory costs more than painted pixels.
     context.Target().ChargeWork(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
     object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};
   }
@@ -198,7 +199,7 @@ void PlayDibCreatePatternBrush(DeviceContext& context, const MetafileRecord& rec
   AddPatternBrush(context, PackedBitmap(record, 2, TableIn(record.Word(1))));
 }
 
-/// Between the bitmap's head and its bits this record has 20 words that are not used.
+/// This record has 20 unused words between the bitmap's head and its bits.
 void PlayCreatePatternBrush(DeviceContext& context, const MetafileRecord& record) {
   constexpr qsizetype UnusedWords = 20;
   AddPatternBrush(context, TwoColourBitmap(record, 0, TwoColourHeadWords + UnusedWords));

@@ -48,16 +48,16 @@ Axes AxesOf(const DeviceContext& context, const Blit& blit) {
           MakeAxis(start.y(), end.y(), blit.From.top(), blit.From.height())};
 }
 
-/// What becomes of the bitmap's pixels where several fall on one.
-enum class Shrinking { Nearest, CombinePixels };
+/// How several pixels of the bitmap become one: one of them is taken, or all are combined.
+enum class Shrinking { Nearest, Combined };
 
-/// The bitmap's pixels First <= pixel < End that one pixel stands for; none beyond the bitmap.
+/// The bitmap's pixels First <= pixel < End for one pixel of the target; none beyond the bitmap.
 struct SourceRange {
   int First = 0;
   int End = 0;
 };
 
-/// For each pixel from one to another.
+/// The ranges for the target's pixels `from` to `to`.
 std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmapSide,
                                   Shrinking shrinking) {
   const std::int64_t length = axis.Length;
@@ -65,7 +65,7 @@ std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmap
   std::vector<SourceRange> ranges;
   for (int at = from; at <= to; ++at) {
     const std::int64_t index = axis.Mirrored ? axis.From + length - 1 - at : at - axis.From;
-    const bool joined = shrinking == Shrinking::CombinePixels;
+    const bool joined = shrinking == Shrinking::Combined;
     const std::int64_t first =
         joined ? index * count / length : (2 * index + 1) * count / (2 * length);
     const std::int64_t end = joined ? std::max(first + 1, (index + 1) * count / length) : first + 1;
@@ -100,7 +100,7 @@ bool UsesSource(int rop) {
   return (rop >> 2 & 0x33) != (rop & 0x33);
 }
 
-/// Bit (pattern * 4 + source * 2 + destination) of the operation is the result.
+/// The result is bit (pattern * 4 + source * 2 + destination) of the operation.
 QRgb CombineTernary(int rop, QRgb pattern, QRgb source, QRgb destination) {
   if (rop == SourceCopy) return source;
   QRgb result = 0;
@@ -138,10 +138,9 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
                const forms::Raster& source) {
   Surface& target = context.Target();
   const int mode = context.State.StretchMode;
-  // The classic default lays pixels that fall together over each other, so that no black line
-  // gets lost.
+  // The default mode combines them, so that no thin black line is lost.
   const bool joins = axes.Shrinks() && (mode == StretchAnd || mode == StretchOr);
-  const Shrinking shrinking = joins ? Shrinking::CombinePixels : Shrinking::Nearest;
+  const Shrinking shrinking = joins ? Shrinking::Combined : Shrinking::Nearest;
   const auto columns =
       RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
   const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);

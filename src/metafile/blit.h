@@ -1,5 +1,5 @@
-// Lays a bitmap over the raster: stretched or mirrored, and mixed with the brush and what is there
-// by a ternary raster operation.
+// Draws a bitmap on the surface: stretched or mirrored, and combined with the brush and the
+// destination by a ternary raster operation.
 #pragma once
 
 #include <QPoint>
@@ -22,12 +22,13 @@ struct Blit {
   Unit SizeUnit = Unit::Logical;
 };
 
-/// A blit without a bitmap. Draws nothing when the operation asks for one, or for a brush and there
-/// is none.
+/// A blit without a bitmap. Draws nothing when the operation needs a source, or a brush and none is
+/// selected.
 void DrawBlit(DeviceContext& context, const Blit& blit);
 
-/// Where the blit reaches beyond its bitmap, what is there stays. The bitmap is decoded only when
-/// the blit reaches the surface; null for a broken one, and then nothing is drawn that needs it.
+/// A blit with a bitmap; beyond the bitmap the destination stays. `decode` is called only when the
+/// blit reaches the surface. It may return null for a broken bitmap; then an operation that needs a
+/// source draws nothing.
 void DrawBlit(DeviceContext& context, const Blit& blit,
               const std::function<forms::Picture()>& decode);
 

@@ -17,7 +17,7 @@ int Rounded(double value) {
   return static_cast<int>(std::clamp(std::floor(value + 0.5), -MaxDevice, MaxDevice));
 }
 
-/// One row of bits a row of pixels, the leftmost in the highest bit.
+/// A row of bits for each row of pixels, the leftmost pixel in the highest bit.
 constexpr std::uint8_t Hatches[][HatchSide] = {
     {0x00, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00},  // horizontal
     {0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08, 0x08},  // vertical

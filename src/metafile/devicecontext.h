@@ -1,5 +1,5 @@
-// What a metafile's records change and draw by: the mapping from logical units to pixels, the
-// selected objects, colours and modes, with SaveDC and RestoreDC.
+// The state that a metafile's records change and draw with: the mapping from logical units to
+// pixels, the selected objects, colours and modes, with SaveDC and RestoreDC.
 #pragma once
 
 #include <QPointF>
@@ -12,14 +12,14 @@
 
 namespace terramark::metafile {
 
-/// Where the picture lies before the file says anything: this much of the plane, in logical units,
-/// fills the box. Its sides are not 0; a negative one runs backwards.
+/// The part of the logical plane that fills the box until the file says otherwise. Its sides are
+/// not 0; a negative one runs backwards.
 struct LogicalFrame {
   QPoint Origin;
   QSize Extent{1, 1};
 };
 
-/// All that SaveDC keeps. The start values are those of a fresh drawing context.
+/// All that SaveDC saves. The initial values are those of a new drawing context.
 struct DeviceState {
   QPointF WindowOrigin{0, 0};  // logical, as the next
   QPointF WindowExtent{1, 1};
@@ -46,12 +46,12 @@ struct DeviceState {
 
 class DeviceContext {
  public:
-  /// Where the frame comes from. It fills the box until the file sets a window of its own; but a
-  /// file whose drawing was measured names no window at all: its units are pixels, and the frame is
-  /// for good.
+  /// Where the frame comes from. A frame from the file fills the box until the file sets a window
+  /// of its own. When the drawing was measured, the file sets no window: its units are pixels, and
+  /// the frame stays.
   enum class FrameSource { File, Measured };
 
-  /// Plays onto `surface`, `frame` filling `box` pixels.
+  /// Draws on `surface`; `frame` fills `box` pixels.
   DeviceContext(Surface& surface, const LogicalFrame& frame, QSize box, FrameSource source);
 
   Surface& Target() { return surface_; }
@@ -61,7 +61,7 @@ class DeviceContext {
 
   bool Measured() const { return source_ == FrameSource::Measured; }
 
-  /// SaveDC; beyond MaxSaves levels a save is dropped.
+  /// SaveDC; beyond MaxSaves levels a save is ignored.
   void Save();
   /// RestoreDC: a negative level counts back from the last save, a positive one from the first. A
   /// level that was never saved changes nothing.
@@ -69,22 +69,22 @@ class DeviceContext {
   /// A region becomes the clip; a palette or monostate changes nothing.
   void Select(const GraphicsObject& object);
 
-  /// Logical units to pixels, limited to MaxDevice either way.
+  /// Maps logical units to pixels, limited to MaxDevice each way.
   QPoint ToDevice(QPointF logical) const;
-  /// Both corners mapped and put in order, right and bottom edges outside.
+  /// Maps both corners and puts them in order; the right and bottom edges are outside.
   QRect ToDevice(int left, int top, int right, int bottom) const;
   /// Pixels per logical unit; negative where the axis runs backwards.
   QPointF Scale() const;
 
-  /// Opaque; black for a number that the palette does not have.
+  /// An opaque pixel; black for a palette index without an entry.
   QRgb Resolve(ColourRef colour) const;
   bool HasPen() const { return State.CurrentPen.Style != PenStyle::None; }
   bool HasBrush() const { return State.CurrentBrush.Style != BrushStyle::None; }
   /// The pen's width in pixels, 1 to MaxPenWidth.
   int PenWidth() const;
   Paint PenPaint() const;
-  /// A hatch or pattern comes as the paint's Pattern. Of a brush that paints nothing it is its
-  /// colour: ask HasBrush first.
+  /// A hatch or a pattern is the paint's Pattern. A brush that paints nothing gives its colour: ask
+  /// HasBrush first.
   Paint BrushPaint(const Brush& brush) const;
 
  private:

@@ -13,7 +13,7 @@ namespace {
 constexpr std::int64_t WorkPerShape = 50;
 constexpr std::int64_t WorkPerPoint = 16;
 
-/// A shape is drawn as the file gives it: `count` pairs of words from the word `at`.
+/// The points of a shape: `count` pairs of words from the word `at`.
 std::vector<QPoint> ReadPoints(DeviceContext& context, const MetafileRecord& record, qsizetype at,
                                int count) {
   const qsizetype present = std::clamp<qsizetype>((record.Words() - at) / 2, 0, count);
@@ -47,8 +47,8 @@ void DrawPolygons(DeviceContext& context, const std::vector<std::vector<QPoint>>
   for (const auto& shape : shapes) Stroke(context, shape, LineShape::Closed);
 }
 
-/// The box a shape's outline runs in, both ends inside. A pen that stays inside the frame takes its
-/// width from the box.
+/// The box of a shape's outline, including its right and bottom edges. The width of an inside-frame
+/// pen is inside the box.
 QRect OutlineBox(const DeviceContext& context, const QRect& box) {
   QRect outline = box;
   if (context.State.CurrentPen.Style == PenStyle::InsideFrame) {
@@ -71,8 +71,8 @@ void DrawRectangle(DeviceContext& context, const QRect& box) {
          LineShape::Closed);
 }
 
-/// An outline of a box with elliptic corners of the given whole size; an ellipse when the corners
-/// fill the box. The points stand one pixel from the next along the corners.
+/// The outline of a box with elliptic corners of the given full size; an ellipse when the corners
+/// fill the box. Along the corners the points are one pixel apart.
 std::vector<QPoint> RoundOutline(const QRect& box, QSize corner) {
   const std::vector<QPoint> quarter = EllipseQuarter(corner.width(), corner.height());
   const std::vector<QPoint> backwards(quarter.rbegin(), quarter.rend());
@@ -105,7 +105,7 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
 
 enum class ArcKind { Open, Chord, Pie };
 
-/// Against the clock from the ray through `from` to the ray through `to`.
+/// Counter-clockwise from the ray through `from` to the ray through `to`.
 void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind) {
   const QRect box = OutlineBox(
       context, context.ToDevice(record.Int(7), record.Int(6), record.Int(5), record.Int(4)));
@@ -150,7 +150,7 @@ void DrawFlood(DeviceContext& context, const MetafileRecord& record, qsizetype c
                          context.BrushPaint(context.State.CurrentBrush));
 }
 
-/// The box of a shape, of which the sides stand from the word `at`: bottom, right, top, left.
+/// The box of a shape. Its sides begin at the word `at`: bottom, right, top, left.
 QRect BoxOf(const DeviceContext& context, const MetafileRecord& record, qsizetype at) {
   return context.ToDevice(record.Int(at + 3), record.Int(at + 2), record.Int(at + 1),
                           record.Int(at));

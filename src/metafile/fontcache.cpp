@@ -13,7 +13,7 @@ namespace terramark::metafile {
 namespace {
 
 constexpr std::int64_t WorkPerFont = 100'000;
-// The first letter that a font lacks has the system look through all that are installed.
+// For the first letter that a font lacks the system searches all installed families.
 constexpr std::int64_t WorkPerOtherFamily = 10'000;
 constexpr std::int64_t WorkPerSearch = 500;
 constexpr std::int64_t WorkPerShape = 20'000;
@@ -24,7 +24,7 @@ bool HasAll(const QFont& font, const QString& text) {
                      [&raw](QChar letter) { return raw.supportsCharacter(letter); });
 }
 
-/// Nothing where a font would draw the box it has for letters that it lacks.
+/// No runs where the font would draw its box for missing letters.
 QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
   QTextLayout layout(text, font);
   layout.beginLayout();

@@ -1,5 +1,5 @@
-// The fonts that a metafile has used lately, with their letters: to find one takes many times
-// longer than to draw it.
+// The fonts that a metafile has used lately, with their letters: finding a font takes much longer
+// than drawing with it.
 #pragma once
 
 #include <QByteArrayView>
@@ -14,14 +14,14 @@
 
 namespace terramark::metafile {
 
-/// A letter as its font draws it, the baseline starting at the origin.
+/// A letter as its font draws it. The baseline starts at the origin.
 struct LetterShape {
   QList<QGlyphRun> Runs;  // none where no font has the letter
   int Advance = 0;        // pixels, before the font's Stretch
   bool Blank = false;     // the space that justified text stretches
 };
 
-/// A font and those of its letters that were asked for.
+/// A font and its letters that have been used.
 class CachedFont {
  public:
   CachedFont(const Font& wanted, QPointF scale)
@@ -31,7 +31,7 @@ class CachedFont {
   QPointF Scale;
   MatchedFont Match;
 
-  /// Of the bytes of one letter. `target` is charged for one that was not asked for before.
+  /// The letter of one or two bytes. `target` is charged for one that is not in the cache.
   const LetterShape& ShapeOf(QByteArrayView letter, Surface& target);
 
  private:
@@ -43,7 +43,8 @@ class CachedFont {
 
 class FontCache {
  public:
-  /// As MatchFont. `target` is charged for one that is not kept. It stands until the next call.
+  /// As MatchFont. `target` is charged for a font that is not in the cache. The result is valid
+  /// until the next call.
   CachedFont& Find(Font wanted, QPointF scale, Surface& target);
 
  private:

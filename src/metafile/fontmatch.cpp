@@ -35,7 +35,8 @@ constexpr FaceRow Faces[] = {
     {"fixedsys", "Liberation Mono"},  {"terminal", "Liberation Mono"},
 };
 
-/// The family that stands in for a usual face of letters, named in lower case; null for any other.
+/// The substitute for one of the usual faces, which is given in lower case; null for any other
+/// face.
 const char* SubstituteFor(const QByteArray& face) {
   for (const FaceRow& row : Faces) {
     if (face.startsWith(row.Face)) return row.Family;
@@ -43,7 +44,7 @@ const char* SubstituteFor(const QByteArray& face) {
   return nullptr;
 }
 
-/// What the symbol font says of itself, for each pixel of its size.
+/// The metrics of the symbol font, for a size of one pixel.
 constexpr double SymbolAscent = 1.005;
 constexpr double SymbolDescent = 0.220;
 constexpr double SymbolWidth = 0.5755;
@@ -68,7 +69,8 @@ QString FamilyOf(const Font& font) {
   return kind == Roman ? "Liberation Serif" : "Liberation Sans";
 }
 
-/// The wanted font itself or, for symbols, a free one of the same encoding that is read as Western.
+/// The wanted font itself or, for symbols, a free font with the same encoding that Qt reads as
+/// Western.
 std::optional<SymbolFont> SignsOf(const Font& wanted, QFont face) {
   const FontContents contents = ContentsOf(wanted);
   if (contents == FontContents::Letters) return std::nullopt;
@@ -87,7 +89,7 @@ std::optional<SymbolFont> SignsOf(const Font& wanted, QFont face) {
   return std::nullopt;
 }
 
-/// What an ascent, a descent and a mean width are for letters of `size` pixels.
+/// The ascent, descent and mean width of letters of a size in pixels.
 struct EmMetrics {
   int Ascent = 0;
   int Descent = 0;
@@ -107,7 +109,7 @@ EmMetrics EmMetricsOf(QFont face, FontContents contents, double size) {
           .Width = metrics.averageCharWidth()};
 }
 
-/// The font's cell for each pixel of its letters' size.
+/// The height of the font's cell for a size of one pixel.
 double CellHeightPerEm(QFont face, FontContents contents) {
   if (contents == FontContents::Symbols) return SymbolAscent + SymbolDescent;
   constexpr int Sample = 1000;
@@ -116,7 +118,7 @@ double CellHeightPerEm(QFont face, FontContents contents) {
   return (metrics.ascent() + metrics.descent()) / Sample;
 }
 
-/// The nearest size, or one less where its own cell, rounded, would be too high.
+/// The nearest size, or one less where its rounded cell would be too high.
 double EmSizeFor(double height, double cell) {
   const double size = std::floor(height / cell + 0.5);
   return std::floor(size * cell + 0.5) > height ? size - 1 : size;
@@ -128,7 +130,7 @@ FontContents ContentsOf(const Font& font) {
   const QByteArray face = font.Face.toLower();
   if (face.startsWith("symbol")) return FontContents::Symbols;
   if (font.Charset != SymbolCharset) return FontContents::Letters;
-  // A face for letters has no signs: the symbol font steps in.
+  // A face that is known for letters has no symbols: the symbol font is used instead.
   const bool symbols = face.isEmpty() || face.contains("symbol") || SubstituteFor(face) != nullptr;
   return symbols ? FontContents::Symbols : FontContents::PrivateSymbols;
 }

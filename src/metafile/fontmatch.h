@@ -1,5 +1,5 @@
-// Finds the screen font for a metafile's font: a family of the same letter widths, its size in
-// pixels, and drawn without grey edges.
+// Finds the screen font for a metafile's font: a family with the same letter widths, in a size in
+// pixels and without antialiasing.
 #pragma once
 
 #include <QFont>
@@ -10,15 +10,15 @@
 
 namespace terramark::metafile {
 
-/// What a font holds: letters; the signs of the symbol font; or signs of its own, known by nothing
-/// but its name.
+/// What a font contains: letters; the symbols of the symbol font; or symbols of its own, which only
+/// the face's name identifies.
 enum class FontContents { Letters, Symbols, PrivateSymbols };
 FontContents ContentsOf(const Font& font);
 
-/// Fonts of signs keep them from here on.
+/// Fonts of symbols map byte 0 to this character of the private use area.
 constexpr char16_t PrivateUseStart = 0xF000;
 
-/// A font that keeps its signs by their byte.
+/// A font that maps bytes to symbols.
 struct SymbolFont {
   QFont Face;
   char16_t From = 0;  // where byte 0 is
@@ -26,21 +26,21 @@ struct SymbolFont {
 
 struct MatchedFont {
   QFont Face;
-  /// For a font of signs: the one to try first.
+  /// For a font of symbols: the one to try first.
   std::optional<SymbolFont> Signs;
   int Ascent = 0;   // pixels
   int Descent = 0;  // pixels
-  /// How much wider than its own proportion the font is to be drawn.
+  /// The factor by which the letters are drawn wider than the font has them.
   double Stretch = 1;
-  /// How far each pixel of height leans right, for a font that has no italic of its own.
+  /// By how much each pixel of height leans to the right, for a font without an italic face.
   double Slant = 0;
 };
 
-/// How many families of fonts the system has.
+/// The number of font families of the system.
 qsizetype FamilyCount();
 
-/// The font for `wanted` at so many pixels per logical unit. One of the families that are expected
-/// is named even when it is not installed; the size is 1 to MaxLetterSize pixels.
+/// The font for `wanted`, with the scale in pixels per logical unit. It may name a family that is
+/// not installed. Its size is 1 to MaxLetterSize pixels.
 MatchedFont MatchFont(const Font& wanted, QPointF scale);
 
 }  // namespace terramark::metafile

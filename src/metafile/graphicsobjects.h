@@ -1,5 +1,5 @@
-// The objects a metafile creates, selects and deletes by number: pens, brushes, fonts, palettes
-// and regions.
+// The objects that a metafile creates, selects and deletes by number: pens, brushes, fonts,
+// palettes and regions.
 #pragma once
 
 #include <QByteArray>
@@ -13,7 +13,8 @@
 
 namespace terramark::metafile {
 
-/// 0x00BBGGRR, or a palette's entry when the top byte is 1. Resolved when it is used.
+/// 0x00BBGGRR, or the index of a palette's entry when the top byte is 1. It is resolved when it is
+/// used.
 using ColourRef = std::uint32_t;
 constexpr ColourRef WhiteRef = 0xFFFFFF;
 
@@ -59,19 +60,19 @@ struct RegionObject {
   std::vector<QRect> Rects;  // logical where they are painted, pixels where they clip
 };
 
-/// An object whose creation failed. It keeps its number; to select it changes nothing.
+/// An object whose creation failed. It keeps its number; selecting it changes nothing.
 struct Unusable {};
 
 using GraphicsObject =
     std::variant<std::monostate, Pen, Brush, Font, Palette, RegionObject, Unusable>;
 
-/// The objects by number; a new one takes the lowest number that is free.
+/// The objects by number. A new one takes the lowest free number.
 class ObjectTable {
  public:
-  /// Gives the slots that were passed on the search for a free one. Beyond MaxObjects a new one is
+  /// Returns how many slots were searched for a free one. Beyond MaxObjects a new object is
   /// dropped.
   std::size_t Add(GraphicsObject object);
-  /// A number without an object is passed over.
+  /// A number without an object is ignored.
   void Delete(std::size_t number);
   /// Monostate for a number without an object.
   const GraphicsObject& At(std::size_t number) const;

@@ -1,5 +1,5 @@
-// What one metafile may cost: the caps on its file, its size, its numbers and its work. A file
-// beyond them is refused, or drawn as far as they reach.
+// The limits of a metafile: its file, sizes, numbers and work. A file beyond them is refused, or
+// drawn up to the limit.
 #pragma once
 
 #include <cstddef>
@@ -7,35 +7,35 @@
 
 namespace terramark::metafile {
 
-/// Longer files are not read.
+/// Larger files are not read.
 constexpr std::size_t MaxMetafileBytes = std::size_t{64} * 1024 * 1024;
-/// The box that a metafile is drawn for is cut down to this, in pixels each way.
+/// Pixels each way; the box that a metafile is drawn for is reduced to this.
 constexpr int MaxPictureBoxSide = 4096;
 
-/// Records of a file; what follows is not played.
+/// Further records are not played.
 constexpr std::size_t MaxMetafileRecords = 1'000'000;
-/// Objects at a time; a new one beyond is dropped.
+/// Objects at the same time; further ones are dropped.
 constexpr std::size_t MaxObjects = 65536;
-/// Levels of SaveDC; a save beyond is dropped.
+/// Levels of SaveDC; further saves are ignored.
 constexpr std::size_t MaxSaves = 256;
-/// Colours of a palette; the rest is left out.
+/// Colours of a palette; further ones are left out.
 constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
-/// Letters of one text; the rest is not drawn.
+/// Letters of one text; further ones are not drawn.
 constexpr std::ptrdiff_t MaxLetters = 4096;
 constexpr int MaxPenWidth = 65536;  // pixels
 /// Pixels each way; larger ellipses and round rectangles are not drawn.
 constexpr int MaxRoundSide = 65536;
-/// Chords that stand for an arc.
+/// The straight lines that approximate an arc.
 constexpr int MaxArcSteps = 20000;
 constexpr int MaxLetterSize = 4096;  // pixels
-/// Fonts that are kept with their letters; one more drops them all.
+/// Fonts in the cache, with their letters; one more empties it.
 constexpr std::size_t MaxCachedFonts = 64;
-/// Pixels either way to which mapped points are limited.
+/// Mapped points are limited to so many pixels each way.
 constexpr double MaxDevice = 1 << 24;
 
-/// The work one metafile may cost. A unit stands for at most four nanoseconds of a processor of the
-/// year 2020, so that no file takes more than about a second; whatever is sampled, made, united or
-/// painted is charged for, seen or not.
+/// The work that one metafile may cost. A unit takes at most four nanoseconds on a processor of
+/// 2020, so that no file takes longer than about a second. Everything that is read, made, combined
+/// or painted is charged, visible or not.
 constexpr std::int64_t WorkLimit = 300'000'000;
 
 }  // namespace terramark::metafile

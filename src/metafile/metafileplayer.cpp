@@ -28,7 +28,7 @@ bool SetsWindow(const Metafile& metafile) {
   });
 }
 
-/// Takes what it costs from `work`.
+/// Subtracts its cost from `work`.
 QRect MeasureDrawing(const Metafile& metafile, std::int64_t& work) {
   Surface surface(QSize(1, 1), Surface::Use::Measure, work);
   DeviceContext context(surface, LogicalFrame{}, QSize(1, 1), FrameSource::Measured);

@@ -8,10 +8,10 @@
 
 namespace terramark::metafile {
 
-/// Draws the metafile over white, stretched both ways so that its frame fills `size` pixels: the
-/// bounds of the placeable header, else the window the file sets, else what it draws. What lies
-/// past the limit on work is not drawn. Null when there is nothing to draw and no frame, or `size`
-/// is empty. std::bad_alloc when the memory does not reach.
+/// Draws the metafile on white, stretched both ways so that its frame fills `size` pixels. The
+/// frame is the bounds of the placeable header, or else the window that the file sets, or else what
+/// it draws. Records beyond the limit on work are not drawn. Null when there is no frame and
+/// nothing to draw, or when `size` is empty. std::bad_alloc when memory runs out.
 forms::Picture PlayMetafile(const Metafile& metafile, QSize size);
 
 }  // namespace terramark::metafile

@@ -49,7 +49,7 @@ std::optional<QRect> BoundsIn(QByteArrayView placeableHeader) {
   return QRect(topLeft, size);
 }
 
-/// Takes the first record off the bytes; none at their end.
+/// Removes the first record from the bytes; none at their end.
 std::optional<MetafileRecord> TakeRecord(QByteArrayView& bytes) {
   if (bytes.size() < RecordHeadBytes) return std::nullopt;
   const qsizetype claimed = static_cast<qsizetype>(LongAt(bytes, 0)) * 2;

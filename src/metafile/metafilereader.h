@@ -1,5 +1,4 @@
-// The bounded reader of a 16-bit metafile: headers and records, never a byte outside what was
-// given.
+// Splits a 16-bit metafile into header and records. It never reads a byte outside the given ones.
 #pragma once
 
 #include <QByteArrayView>
@@ -14,38 +13,39 @@
 
 namespace terramark::metafile {
 
-/// One record: what it does and its parameters. Whatever lies past its end reads as 0.
+/// One record: its kind and its parameters. Words beyond its end read as 0.
 struct MetafileRecord {
   RecordKind Kind = RecordKind::End;
   QByteArrayView Parameters;
 
-  /// How many parameter words there are.
+  /// The number of parameter words.
   qsizetype Words() const { return Parameters.size() / 2; }
   /// The parameter word at `index`, counted from 0, as a signed number.
   int Int(qsizetype index) const { return static_cast<std::int16_t>(Word(index)); }
-  /// The same without a sign.
+  /// The same as an unsigned number.
   std::uint16_t Word(qsizetype index) const;
   /// The two words from `index`, the low one first.
   std::uint32_t Long(qsizetype index) const;
-  /// The bytes from the word `index` to the end; empty when it lies past the end.
+  /// The bytes from the word `index` to the end; empty when that is beyond the end.
   QByteArrayView From(qsizetype index) const;
-  /// The point in the two words from `index`, stored y before x.
+  /// The point in the two words from `index`, of which the first is y.
   QPoint PointYX(qsizetype index) const { return {Int(index + 1), Int(index)}; }
 };
 
-/// A metafile's bytes, taken apart once.
+/// A metafile's header and records.
 struct Metafile {
-  /// The bounds of a placeable header in logical units: the corners as they stand, so a width or
+  /// The bounds of a placeable header in logical units. The corners may be exchanged, so a width or
   /// height may be negative. None without such a header, or when it encloses nothing.
   std::optional<QRect> Bounds;
-  /// Up to the end record, the end of the bytes, a record whose length is shorter than its own
-  /// head, or MaxMetafileRecords. One that claims more than is left holds what is left.
+  /// The records up to the end record, the end of the bytes, a record that is shorter than its own
+  /// head, or MaxMetafileRecords. A record that claims more bytes than are left has those that are
+  /// left.
   std::vector<MetafileRecord> Records;
 };
 
 /// None when the bytes do not begin like a metafile: with the placeable key, or a file header of
-/// type 1 or 2 with its fixed length of nine words and a known version. The bytes must outlive
-/// what is given. std::bad_alloc when the memory does not reach.
+/// type 1 or 2 with its fixed length of nine words and a known version. The result refers to the
+/// bytes, which must outlive it. std::bad_alloc when memory runs out.
 std::optional<Metafile> ReadMetafile(QByteArrayView bytes);
 
 }  // namespace terramark::metafile

@@ -1,12 +1,12 @@
-// The numbers of the 16-bit metafile format by their usual names: the records that are played, and
-// the values of their fields that make a difference.
+// The numbers of the 16-bit metafile format by their usual names: the kinds of records that are
+// played, and those values of their fields that matter.
 #pragma once
 
 #include <cstdint>
 
 namespace terramark::metafile {
 
-/// The function number of a record. A file may hold any other number: such a record is passed over.
+/// The function number of a record. A file may contain any other number; such a record is ignored.
 enum class RecordKind : std::uint16_t {
   End = 0x0000,
   SaveDC = 0x001E,
@@ -74,14 +74,14 @@ enum class RecordKind : std::uint16_t {
   StretchDib = 0x0F43,
 };
 
-/// Of SetBkMode: whether gaps in lines, hatches and text keep what is there.
+/// Of SetBkMode: the gaps in lines, hatches and text are not painted.
 constexpr int TransparentBackground = 1;
 
-/// Of SetMapMode: the modes from here to there count in lengths and upwards.
+/// Of SetMapMode: in the modes from this to TwipsMode units are lengths and y points upwards.
 constexpr int LoMetricMode = 2;
 constexpr int TwipsMode = 6;
 
-/// Of SetROP2: how pen and brush mix with what is there, 1 to 16.
+/// Of SetROP2: how pen and brush are combined with the destination, 1 to 16.
 constexpr int FirstOperation = 1;
 constexpr int InvertOperation = 6;
 constexpr int CopyOperation = 13;
@@ -90,11 +90,11 @@ constexpr int LastOperation = 16;
 /// Of SetPolyFillMode.
 constexpr int WindingFill = 2;
 
-/// Of SetStretchBltMode: how pixels that fall together are joined.
+/// Of SetStretchBltMode: how several pixels that become one are combined.
 constexpr int StretchAnd = 1;
 constexpr int StretchOr = 2;
 
-/// Of SetTextAlign: bits, and the fields of bits that hold a place across and a place upright.
+/// Of SetTextAlign: a bit, and two fields of bits for the horizontal and the vertical place.
 constexpr int AlignUpdate = 1;
 constexpr int AlignSideways = 6;
 constexpr int AlignRight = 2;
@@ -108,13 +108,13 @@ constexpr int TextOpaque = 2;
 constexpr int TextClipped = 4;
 constexpr int TextGlyphs = 0x10;
 
-/// Of ExtFloodFill: the colour is that of the border, not of the ground.
+/// Of ExtFloodFill: the given colour is that of the border, not of the area.
 constexpr int FloodToBorder = 0;
 
-/// Of the blits: the ternary operation that lays the bitmap over what is there.
+/// Of the blits: the ternary operation that copies the bitmap.
 constexpr int SourceCopy = 0xCC;
 
-/// Of the records with a bitmap: its colour table has numbers of the palette's entries.
+/// Of the records with a bitmap: its colour table contains numbers of the palette's entries.
 constexpr int PaletteColours = 1;
 
 }  // namespace terramark::metafile

@@ -17,7 +17,7 @@ Pen ReadPen(const MetafileRecord& record) {
 
 Brush ReadBrush(const MetafileRecord& record) {
   auto style = BrushStyle{record.Word(0)};
-  // The numbers behind the hatches stand for plain colours.
+  // Numbers beyond the hatches mean a solid brush.
   if (style == BrushStyle::Hatched && record.Word(3) > LastHatch) style = BrushStyle::Solid;
   return {.Style = style <= BrushStyle::Hatched ? style : BrushStyle::None,
           .Colour = record.Long(1),
@@ -41,7 +41,7 @@ Font ReadFont(const MetafileRecord& record) {
           .Face = QByteArray(face.data(), std::min<qsizetype>(end - face.begin(), MaxFaceBytes))};
 }
 
-/// The colour of a palette record's entry: red, green and blue from the lowest byte on.
+/// The colour of an entry of a palette record: red is the lowest byte, then green and blue.
 QRgb EntryOf(const MetafileRecord& record, qsizetype entry) {
   const std::uint32_t colour = record.Long(2 + 2 * entry);
   return qRgb(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
@@ -57,8 +57,8 @@ Palette ReadPalette(const MetafileRecord& record) {
   return palette;
 }
 
-/// Of rows of rectangles. Each row has the number of its edges, its top and bottom, the left and
-/// right edges in turn, and their number again. Unusable when a row does not fit the record.
+/// Reads rows of rectangles. A row has the number of its edges, its top and bottom, the left and
+/// right edges alternately, and the number again. Unusable when a row does not fit the record.
 GraphicsObject ReadRegion(const MetafileRecord& record) {
   RegionObject region;
   qsizetype at = 11;
@@ -77,7 +77,7 @@ GraphicsObject ReadRegion(const MetafileRecord& record) {
 
 void AddObject(DeviceContext& context, const MetafileRecord& record, GraphicsObject object) {
   const std::size_t searched = context.Objects.Add(std::move(object));
-  // What stays in memory weighs more than what is drawn.
+  // Memory that stays in use costs more than painted pixels.
   context.Target().ChargeWork(static_cast<std::int64_t>(searched) + record.Words() * 32);
 }
 
@@ -111,7 +111,7 @@ void PlaySelectObject(DeviceContext& context, const MetafileRecord& record) {
   context.Select(context.Objects.At(record.Word(0)));
 }
 
-/// Without a region it opens the clip.
+/// Without a region the clip is removed.
 void PlaySelectClipRegion(DeviceContext& context, const MetafileRecord& record) {
   const GraphicsObject& object = context.Objects.At(record.Word(0));
   if (std::holds_alternative<RegionObject>(object)) {

@@ -1,4 +1,5 @@
-// Which pixels of an area are meant: a byte a pixel, 0 for those that are not.
+// A mask: which pixels of an area are marked. It has a byte for each pixel, 0 for those that are
+// not.
 #pragma once
 
 #include <QSize>
@@ -10,14 +11,14 @@ namespace terramark::metafile {
 
 class PixelMask {
  public:
-  /// `size` is in pixels and not empty. std::bad_alloc when the memory does not reach.
+  /// `size` is in pixels and not empty. std::bad_alloc when memory runs out.
   PixelMask(QSize size, std::uint8_t value)
       : size_(size),
         bytes_(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()),
                value) {}
 
   QSize Size() const { return size_; }
-  /// The bytes of row y, counted from the top; it must be inside.
+  /// The bytes of row y, counted from the top; the row must be inside.
   std::uint8_t* Row(int y) { return bytes_.data() + At(y); }
   const std::uint8_t* Row(int y) const { return bytes_.data() + At(y); }
 

@@ -1,5 +1,5 @@
 // A player for each kind of record. A record that is cut short or makes no sense draws what it can.
-// std::bad_alloc when the memory does not reach.
+// std::bad_alloc when memory runs out.
 #pragma once
 
 #include "metafile/devicecontext.h"

@@ -1,4 +1,4 @@
-// The records that are played.
+// The table of the records that are played.
 #pragma once
 
 #include <algorithm>
@@ -15,7 +15,7 @@ struct RecordRow {
   RecordPlayer* Player;
 };
 
-/// A row for each kind, by number.
+/// A row for each kind, in the order of their numbers.
 inline constexpr auto Records = std::to_array<RecordRow>({
     {RecordKind::SaveDC, "SaveDC", PlaySaveDC},
     {RecordKind::SetPaletteEntries, "SetPaletteEntries", PlaySetPaletteEntries},
@@ -85,7 +85,7 @@ static_assert(std::ranges::adjacent_find(Records, std::ranges::greater_equal(), 
                   Records.end(),
               "rows are found by halving, so each number is above the one before");
 
-/// The row of a kind; null for one that is passed over.
+/// The row of a kind; null for a kind that is ignored.
 constexpr const RecordRow* RowOf(RecordKind kind) {
   const auto* const row = std::ranges::lower_bound(Records, kind, {}, &RecordRow::Kind);
   return row != Records.end() && row->Kind == kind ? &*row : nullptr;

@@ -10,8 +10,8 @@ namespace {
 constexpr std::int64_t WorkPerRect = 16;
 constexpr std::int64_t WorkPerFramePixel = 5;
 
-/// Regions are painted in logical units, unlike the clip that is made of them. None for a number
-/// that is no region's.
+/// The rectangles of a region in pixels. A region is painted in logical units, unlike the clip that
+/// is made from it. None for a number that is not a region's.
 std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   std::vector<QRect> rects;
   const auto* region = std::get_if<RegionObject>(&context.Objects.At(number));
@@ -38,7 +38,7 @@ void FillRegion(DeviceContext& context, const MetafileRecord& record, const Brus
   PaintRects(context, RegionRects(context, record.Word(0)), context.BrushPaint(brush));
 }
 
-/// What of the surface the rectangles cover when they are moved.
+/// The pixels of the surface that the rectangles cover when they are moved.
 PixelMask RegionMask(Surface& target, const std::vector<QRect>& rects, QPoint by) {
   PixelMask mask(target.Area().size(), 0);
   for (const QRect& rect : rects) {
@@ -51,7 +51,7 @@ PixelMask RegionMask(Surface& target, const std::vector<QRect>& rects, QPoint by
   return mask;
 }
 
-/// Leaves of a mask what another of its size has too.
+/// Removes the pixels from a mask that another of its size does not have.
 void Intersect(PixelMask& mask, const PixelMask& other) {
   for (int y = 0; y < mask.Size().height(); ++y) {
     std::uint8_t* row = mask.Row(y);
@@ -60,7 +60,7 @@ void Intersect(PixelMask& mask, const PixelMask& other) {
   }
 }
 
-/// Leaves of a mask what another of its size does not have.
+/// Removes the pixels from a mask that another of its size has.
 void Subtract(PixelMask& mask, const PixelMask& other) {
   for (int y = 0; y < mask.Size().height(); ++y) {
     std::uint8_t* row = mask.Row(y);
@@ -69,8 +69,8 @@ void Subtract(PixelMask& mask, const PixelMask& other) {
   }
 }
 
-/// The frame is what the region loses when it is laid over itself, moved by the frame's width to
-/// either side and by its height up and down.
+/// The frame is what the region loses when it is intersected with copies of itself that are moved
+/// left and right by the frame's width, and up and down by its height.
 PixelMask FrameMask(Surface& target, const std::vector<QRect>& rects, int width, int height) {
   PixelMask inside = RegionMask(target, rects, {width, 0});
   for (const QPoint by : {QPoint(-width, 0), QPoint(0, height), QPoint(0, -height)}) {

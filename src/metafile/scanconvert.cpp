@@ -10,7 +10,7 @@
 namespace terramark::metafile {
 namespace {
 
-/// Where an edge crosses a row: the first pixel to its right.
+/// Where an edge crosses a row: the first pixel to the right of the edge.
 struct Crossing {
   int X;
   int Direction;
@@ -53,7 +53,8 @@ class CrossingRows {
     });
     std::partial_sum(ends_.begin(), ends_.end(), ends_.begin());
     crossings_.resize(ends_.back());
-    // From here on an entry is where its row's next crossing goes, and at last where the row ends.
+    // From here on an entry is the index for the row's next crossing, and finally the end of the
+    // row.
     ends_.pop_back();
     const int right = area.right() + 1;
     ForEachEdge(polygons, [&](QPointF a, QPointF b) {
@@ -88,7 +89,8 @@ std::int64_t CeilDiv(std::int64_t value, std::int64_t divisor) {
   return value >= 0 ? (value + divisor - 1) / divisor : -(-value / divisor);
 }
 
-/// Where a line passes exactly between two pixels, these directions take the farther one.
+/// Whether the line takes the farther of two pixels when it passes exactly between them; this
+/// depends on its direction.
 bool TieStepsOn(std::int64_t dx, std::int64_t dy) {
   const bool xMajor = std::abs(dx) > std::abs(dy);
   if (dy > 0) return dx > 0 ? false : !xMajor;
@@ -135,7 +137,7 @@ void ScanLine(QPoint from, QPoint to, const QRect& area,
   const std::int64_t high = xMajor ? area.right() : area.bottom();
   const bool forward = (xMajor ? dx : dy) > 0;
 
-  // Of a line that runs far beyond the area only the steps within are looked at.
+  // Of a line that extends far beyond the area only the steps inside are computed.
   std::int64_t first = std::max<std::int64_t>(0, forward ? low - start : start - high);
   const std::int64_t last = std::min(major - 1, forward ? high - start : start - low);
   for (; first <= last; ++first) {

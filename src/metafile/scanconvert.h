@@ -1,5 +1,5 @@
-// Turns shapes into rows of pixels by the classic rules: a pixel stands at its whole-number
-// coordinate, a shape covers its left and top edges but not its right and bottom ones.
+// Converts shapes to rows of pixels by the classic rules: a pixel is at its whole-number
+// coordinate, and a shape covers its left and top edges but not its right and bottom ones.
 #pragma once
 
 #include <QPolygonF>
@@ -10,29 +10,29 @@
 
 namespace terramark::metafile {
 
-/// Takes the pixels x0 <= x < x1 of row y.
+/// Receives the pixels x0 <= x < x1 of row y.
 using SpanSink = std::function<void(int y, int x0, int x1)>;
 
-/// Which parts of polygons that overlap are inside: every other one from the outside, or all.
+/// Which parts of overlapping polygons are inside: every other one from the outside, or all.
 enum class FillRule { Alternate, Winding };
 
 // All coordinates are pixels.
 
-/// The rows of `area` that the polygons' edges cross, summed: what ScanPolygons will work through.
+/// The number of rows of `area` that the polygons' edges cross, summed: the work of ScanPolygons.
 std::int64_t PolygonCrossings(const std::vector<QPolygonF>& polygons, const QRect& area);
 
-/// The inside of the polygons, each closed by itself. Gives only pixels inside `area`, no pixel
-/// twice.
+/// The inside of the polygons, each of which is closed. Only pixels inside `area` are reported, and
+/// each once.
 void ScanPolygons(const std::vector<QPolygonF>& polygons, FillRule rule, const QRect& area,
                   const SpanSink& sink);
 
-/// The pixels of a line one pixel wide without its last one. Calls `plot` with the pixels inside
-/// `area` and the number of each along the whole line.
+/// The pixels of a line one pixel wide, without its last one. Calls `plot` for those inside `area`,
+/// with the number of each along the whole line.
 void ScanLine(QPoint from, QPoint to, const QRect& area,
               const std::function<void(QPoint pixel, std::int64_t step)>& plot);
 
 /// The outline of the ellipse that touches all edges of a box of width x height pixels: the points
-/// of its lower right quarter from the right end of the middle to the bottom. Width and height are
+/// of its lower right quarter, from the right end of the middle to the bottom. Width and height are
 /// at least 1; it takes width + height steps.
 std::vector<QPoint> EllipseQuarter(int width, int height);
 

@@ -6,7 +6,7 @@
 namespace terramark::metafile {
 namespace {
 
-/// Multiplier and divisor of y, then of x; a ratio of nothing is no ratio.
+/// The record has divisor and factor of y, then of x. A 0 among them changes nothing.
 QPointF Scaled(QPointF extent, const MetafileRecord& record) {
   const int yDivisor = record.Int(0);
   const int yFactor = record.Int(1);
@@ -21,12 +21,12 @@ QPointF Scaled(QPointF extent, const MetafileRecord& record) {
   return sane(scaled.x()) && sane(scaled.y()) ? scaled : extent;
 }
 
-/// An extent of nothing does not count.
+/// An extent of 0 changes nothing.
 QPointF NewExtent(QPointF extent, QPoint wanted) {
   return wanted.x() != 0 && wanted.y() != 0 ? QPointF(wanted) : extent;
 }
 
-/// The sides stand from the last to the first: bottom, right, top, left.
+/// The record has the sides in the order bottom, right, top, left.
 QRect RectOf(const DeviceContext& context, const MetafileRecord& record) {
   return context.ToDevice(record.Int(3), record.Int(2), record.Int(1), record.Int(0));
 }

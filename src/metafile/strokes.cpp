@@ -9,14 +9,14 @@
 namespace terramark::metafile {
 namespace {
 
-/// For finding the pixels; painting them is charged for by the surface.
+/// The work of finding the pixels; the surface charges for painting them.
 constexpr std::int64_t WorkPerLine = 8;
 constexpr std::int64_t WorkPerLinePixel = 6;
 constexpr std::int64_t WorkPerDiscRow = 8;
 constexpr std::int64_t WorkPerPoint = 8;
 constexpr std::int64_t WorkPerBand = 100;
 
-/// Pixels drawn and left out by turns; none for an unbroken line.
+/// Pixels drawn and left out alternately; empty for a solid line.
 std::span<const int> DashesOf(PenStyle style) {
   static constexpr int Dash[] = {18, 6};
   static constexpr int Dot[] = {3, 3};
@@ -84,8 +84,8 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   }
 }
 
-/// The line's rectangle. Its corners stand on whole pixels, the odd one to the right and above, and
-/// it is never thinner than the pen, so that no border gets a hole.
+/// The rectangle of a wide line. Its corners are on whole pixels; where the width is odd the extra
+/// pixel is at the right and above. It is never thinner than the pen, so that no border has a hole.
 QPolygonF LineQuad(QPoint from, QPoint to, int width) {
   const double dx = to.x() - from.x();
   const double dy = to.y() - from.y();
@@ -136,8 +136,8 @@ class Disc {
   std::vector<int> reach_;  // how far each row goes to the right, from the box's left edge
 };
 
-/// The whole shape is collected before it is painted: where a line crosses itself an operation that
-/// inverts must not act twice.
+/// The whole shape is collected before it is painted: an operation that inverts must not be applied
+/// twice where a line crosses itself.
 void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int width) {
   Surface& target = context.Target();
   const QRect bounds = BoundingRect(points).adjusted(-width, -width, width, width);

@@ -12,8 +12,8 @@ namespace terramark::metafile {
 enum class LineShape { Open, Closed };
 
 /// Draws through `points`, in pixels; a closed line returns to its start. A line one pixel wide
-/// leaves out its very last pixel. Fewer than two points, or no pen, draw nothing. std::bad_alloc
-/// when the memory does not reach for a wide line.
+/// leaves out its very last pixel. Fewer than two points, or no pen, draw nothing. A wide line
+/// throws std::bad_alloc when memory runs out.
 void Stroke(DeviceContext& context, const std::vector<QPoint>& points, LineShape shape);
 
 }  // namespace terramark::metafile

@@ -16,11 +16,11 @@ constexpr std::int64_t WorkPerEdge = 6;
 constexpr std::int64_t WorkPerCrossing = 16;
 constexpr std::int64_t WorkPerFloodRun = 10;
 constexpr std::int64_t PixelsPerFloodWork = 32;  // two bits each, cleared by words
-// Copies of the clip that SaveDC keeps alive hold memory, so they weigh more than pixels.
+// Copies of the clip that SaveDC keeps use memory, so they cost more than painted pixels.
 constexpr std::int64_t WorkPerClipPixel = 4;
 constexpr std::int64_t WorkPerClipRect = 10;
 
-/// Bit (pattern * 2 + destination) of the operation's number less 1 is the result.
+/// The result is bit (pattern * 2 + destination) of the operation's number minus 1.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   const int code = operation - 1;
   QRgb result = 0;
@@ -31,7 +31,7 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   return result | OpaqueBlack;
 }
 
-/// Paints what a flood takes, in runs.
+/// Paints the pixels of a flood, in runs.
 struct FloodPainter {
   void Run(int y, int x0, int x1) {
     if (Target.ChargeWork(WorkPerFloodRun)) Target.PaintSpan(y, x0, x1, FillPaint);
@@ -141,7 +141,7 @@ void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Pai
   const std::int64_t pixels = std::int64_t{Area().width()} * Area().height();
   if (!Area().contains(seed) || !ChargeWork(pixels / PixelsPerFloodWork)) return;
   const auto width = static_cast<std::size_t>(Area().width());
-  // Rows without open pixels end the flood when the work is used up.
+  // When the work is used up, all further rows are closed, which ends the flood.
   const auto open = [&](int y, std::span<std::uint64_t> row) {
     if (!ChargeWork(Area().width())) return;
     forms::SetOpenBits({Row(y), width}, colour, stops, row);

@@ -1,5 +1,5 @@
-// The raster a metafile is drawn into: every pixel passes the clip, the raster operation and the
-// limit on the work one picture may cost.
+// The raster that a metafile is drawn on. Every pixel passes the clip, the raster operation and the
+// limit on the work that one picture may cost.
 #pragma once
 
 #include <QPolygonF>
@@ -21,72 +21,73 @@ namespace terramark::metafile {
 
 /// What an area or a line is painted with.
 struct Paint {
-  /// FirstOperation to LastOperation; CopyOperation lays the colour over what is there.
+  /// FirstOperation to LastOperation; CopyOperation replaces the destination.
   int Operation = CopyOperation;
   QRgb Colour = 0xFF000000;
-  /// When not null, tiled from the raster's top left corner in place of Colour; where its alpha is
-  /// 0 nothing is painted.
+  /// If not null, used instead of Colour, tiled from the raster's top left corner. Pixels with
+  /// alpha 0 are not painted.
   forms::Picture Pattern;
 };
 
-/// The clip: 0 where nothing may be painted; null lets everything through. Whoever changes one that
-/// is shared makes a copy first, so keeping one aside costs nothing.
+/// The clip: 0 where nothing may be painted; null allows everything. It is copied before a change
+/// while it is shared, so that saving it costs nothing.
 using Clip = std::shared_ptr<PixelMask>;
 
-/// Starts white. Where it only measures nothing is painted; it learns what would be.
+/// Initially white. A surface that measures paints nothing; it learns the bounds of what would be
+/// painted.
 class Surface {
  public:
   enum class Use { Draw, Measure };
 
-  /// `size` is in pixels and not empty; `work` is what may be spent. std::bad_alloc when the memory
-  /// does not reach, as in whatever makes a clip or a mask.
+  /// `size` is in pixels and not empty; `work` is the limit. std::bad_alloc when memory runs out,
+  /// here and in every function that makes a clip or a mask.
   Surface(QSize size, Use use, std::int64_t work);
 
-  /// What has been drawn; the surface is of no use afterwards.
+  /// What has been drawn; the surface must not be used afterwards.
   forms::Picture TakeImage() { return std::make_shared<forms::Raster>(std::move(image_)); }
-  /// All coordinates are pixels of this, from its top left corner.
+  /// All coordinates are pixels in this area, counted from its top left corner.
   QRect Area() const { return {0, 0, image_.Width, image_.Height}; }
 
-  /// Takes `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
+  /// Subtracts `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
   bool ChargeWork(std::int64_t work);
   std::int64_t WorkLeft() const { return workLeft_; }
 
-  /// To be asked before a shape is drawn, with all it may touch. False when there is nothing to
-  /// do: it lies outside, the work is used up, or only the bounds were wanted.
+  /// To be called before a shape is drawn, with the bounds of what it may paint. False when there
+  /// is nothing to draw: the shape is outside, the work is used up, or the surface only measures.
   bool BeginShape(const QRect& bounds);
-  /// The bounds that Touch was given while measuring, united.
+  /// The union of the bounds passed to BeginShape while measuring.
   QRect MeasuredBounds() const { return measuredBounds_; }
 
-  /// The pixels x0 <= x < x1 of row y, which must lie inside Area().
+  /// Paints the pixels x0 <= x < x1 of row y, which must be inside Area().
   void PaintSpan(int y, int x0, int x1, const Paint& paint);
-  /// The pixel must lie inside Area().
+  /// The pixel must be inside Area().
   void PaintPixel(QPoint at, const Paint& paint);
-  /// The part of `rect` that is inside Area().
+  /// Paints the part of `rect` that is inside Area().
   void PaintRectangle(const QRect& rect, const Paint& paint);
-  /// The pixels of `mask`, whose top left corner lies at `at`.
+  /// Paints the marked pixels of `mask`, whose top left corner is at `at`.
   void PaintMask(const PixelMask& mask, QPoint at, const Paint& paint);
-  /// The inside of the polygons as ScanPolygons has it.
+  /// Paints the inside of the polygons, as ScanPolygons finds it.
   void PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint);
-  /// A pixel as a blit writes it, past the paint's operation but not past the clip. It must lie
-  /// inside Area(), as that of At.
+  /// Sets a pixel, for blits: within the clip, but without a raster operation. It must be inside
+  /// Area(), as the pixel of At.
   void WritePixel(QPoint at, QRgb colour);
   QRgb At(QPoint at) const { return image_.Pixels[image_.IndexOf(at.x(), at.y())]; }
-  /// Fills from `seed` up to the pixels of `colour`, or over those of `colour` alone. A seed
+  /// Fills from `seed` up to the pixels of `colour`, or only over pixels of `colour`. A seed
   /// outside Area() fills nothing.
   void Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint);
 
   const Clip& CurrentClip() const { return clip_; }
   void SetClip(Clip clip) { clip_ = std::move(clip); }
-  /// The rectangles alone are open from now on.
+  /// The rectangles become the clip.
   void ClipTo(const std::vector<QRect>& rects);
   void IntersectClip(const QRect& rect);
   void ExcludeClip(const QRect& rect);
-  /// Moves the clip; what comes in from outside is closed.
+  /// Moves the clip; nothing may be painted where the moved clip comes from outside.
   void OffsetClip(QPoint by);
 
  private:
   bool Clipped(int x, int y) const { return clip_ && clip_->Row(y)[x] == 0; }
-  /// Takes the bits of clipped pixels from a row of 64 pixels a word.
+  /// Clears the bits of pixels outside the clip in a row of 64 pixels a word.
   void ClearClippedBits(int y, std::span<std::uint64_t> row) const;
   void FillClip(const QRect& rect, std::uint8_t value);
   Clip NewClip(std::uint8_t value) const;

@@ -5,7 +5,7 @@
 namespace terramark::metafile {
 namespace {
 
-/// From 0x20 and from 0xA0 on, sixteen a row.
+/// The characters from 0x20 and from 0xA0, sixteen in a row.
 constexpr std::u16string_view Lower =
     u" !∀#∃%&∋()∗+,−./"
     u"0123456789:;<=>?"

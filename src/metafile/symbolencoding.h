@@ -3,10 +3,10 @@
 
 namespace terramark::metafile {
 
-/// The letter of a byte of that encoding; U+FFFD where it has none.
+/// The character of a byte in that encoding; U+FFFD where it has none.
 char16_t DecodeSymbol(unsigned char byte);
 
-/// The letter that reads the same, or nearly so, and that more fonts have; 0 without one.
+/// A character that looks the same, or nearly so, and that more fonts have; 0 where there is none.
 char16_t PlainerLetter(char16_t symbol);
 
 }  // namespace terramark::metafile

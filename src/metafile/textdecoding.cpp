@@ -71,7 +71,7 @@ class Converter {
     if (iconv(handle_, &from, &fromLeft, &to, &toLeft) == static_cast<std::size_t>(-1)) {
       return QString(QChar::ReplacementCharacter);
     }
-    // Some code pages hold a letter back in case an accent follows.
+    // Some code pages hold back a letter in case an accent follows.
     iconv(handle_, nullptr, nullptr, &to, &toLeft);
     return QString::fromUtf8(out.data(), to - out.data());
   }

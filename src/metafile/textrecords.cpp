@@ -15,8 +15,8 @@ namespace terramark::metafile {
 namespace {
 
 constexpr std::int64_t WorkPerLetter = 40;  // to lay it out
-// To draw one: from what the font keeps ready, which is less for letters that are turned or
-// stretched, or its outline, at so much for each column.
+// To draw one: from the glyphs that the font caches, which is slower for rotated or stretched
+// letters, or as an outline, which costs more for each column.
 constexpr std::int64_t WorkPerImage = 300;
 constexpr std::int64_t WorkPerTurnedImage = 5000;
 constexpr std::int64_t WorkPerImageRow = 5;
@@ -30,14 +30,14 @@ struct TextRun {
   std::vector<int> Advance;  // logical, one a byte; empty for the font's own
 };
 
-/// Letters laid along the baseline, in pixels from its start.
+/// Letters along the baseline, with their offsets in pixels from its start.
 struct TextLine {
   std::vector<const LetterShape*> Letters;
   std::vector<int> Offsets;
   int Width = 0;
 };
 
-/// Breaks off when the work is used up.
+/// Stops when the work is used up.
 TextLine LayOut(DeviceContext& context, const TextRun& run, CachedFont& font) {
   const DeviceState& state = context.State;
   const double scale = std::abs(context.Scale().x());
@@ -65,7 +65,7 @@ TextLine LayOut(DeviceContext& context, const TextRun& run, CachedFont& font) {
   return line;
 }
 
-/// Where the baseline starts, as seen from the reference point, before the text is turned.
+/// The start of the baseline relative to the reference point, before the text is rotated.
 QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   QPoint start;
   if ((align & AlignSideways) == AlignRight) start.setX(-line.Width);
@@ -78,12 +78,12 @@ QPoint BaselineStart(int align, const TextLine& line, const MatchedFont& font) {
   return start;
 }
 
-/// The room of letters along so many pixels of the baseline.
+/// The cell of letters along `width` pixels of the baseline.
 QRectF CellRect(const MatchedFont& font, double width) {
   return {0, -double(font.Ascent), width, double(font.Ascent + font.Descent)};
 }
 
-/// What letters of that cell may paint: some hang over it.
+/// The pixels that letters of a cell may paint: some extend beyond it.
 QRectF InkRect(const QRectF& cell, const MatchedFont& font) {
   const double overhang = font.Face.pixelSize() * std::max(1.0, font.Stretch) / 2;
   return cell.adjusted(-overhang, -overhang, overhang, overhang);
@@ -97,7 +97,7 @@ std::int64_t WorkOfLetter(const MatchedFont& font, const QTransform& shape, cons
   return (shape.isIdentity() ? WorkPerImage : WorkPerTurnedImage) + WorkPerImageRow * size;
 }
 
-/// Lines along the whole text, under its blanks as well.
+/// The lines under and through the whole text, its blanks included.
 void DrawRules(QPainter& painter, double width, const QFont& font) {
   if (!font.underline() && !font.strikeOut()) return;
   const QFontMetricsF metrics(font);
@@ -108,15 +108,15 @@ void DrawRules(QPainter& painter, double width, const QFont& font) {
   if (font.strikeOut()) painter.drawLine(QLineF(0, through, width, through));
 }
 
-/// An image whose pixels are not yet set. Qt gives a null one when the memory does not reach, and
-/// drawing on that is lost or worse: std::bad_alloc instead.
+/// An image whose pixels are not yet set. Throws std::bad_alloc where Qt would return a null image,
+/// which must not be drawn on.
 QImage NewImage(QSize size) {
   QImage image(size, QImage::Format_RGB32);
   if (image.isNull()) throw std::bad_alloc();
   return image;
 }
 
-/// Letters that lie outside the area cost nothing but the look at them.
+/// Letters outside the area are skipped at almost no cost.
 PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& font,
                       const QTransform& place, const QRect& area) {
   QImage image = NewImage(area.size());
@@ -150,7 +150,7 @@ PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& 
   return mask;
 }
 
-/// Text is laid over what is there, whatever the raster operation.
+/// Text replaces the destination, whatever the raster operation.
 Paint SolidPaint(const DeviceContext& context, ColourRef colour) {
   return {.Operation = CopyOperation, .Colour = context.Resolve(colour), .Pattern = {}};
 }
