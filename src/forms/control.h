@@ -1,4 +1,4 @@
-// What all controls share: place, colours, state, mouse events and the place in the stack.
+// What all controls share: place, colours, state, mouse events and their place in the stack.
 #pragma once
 
 #include <cstdint>
@@ -17,21 +17,21 @@ class Form;
 
 enum class ControlKind { Form, Label, TextBox, CommandButton, PictureBox, Frame, VScrollBar };
 
-/// Unit of a container's inside, for the places of its children and for its own mouse events.
+/// The unit inside a container, for the places of its children and for its own mouse events.
 enum class Scale { Twips, Pixels };
 
 enum class StackEnd { Front, Back };
 
 class Control : public PropertyOwner {
  public:
-  /// A control has its name and its index for life; a lone one has index 0.
+  /// The name and the index of a control never change; a control outside an array has index 0.
   Control(ControlKind kind, std::string name, std::int16_t index = 0)
       : kind_(kind), name_(std::move(name)), index_(index) {}
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   virtual ~Control();
 
-  /// Place inside the container and size, in the container's scale.
+  /// The place inside the container and the size, in the container's scale.
   Property<float> Left{*this, PropertyId::Left};
   Property<float> Top{*this, PropertyId::Top};
   Property<float> Width{*this, PropertyId::Width};
@@ -42,16 +42,16 @@ class Control : public PropertyOwner {
   Property<Color> ForeColor{*this, PropertyId::ForeColor, SysWindowText};
   Property<std::string> Tag{*this, PropertyId::Tag};
   std::string ToolTipText;
-  /// What assistive tools call it; a label's caption follows it there. Empty where the caption says
-  /// all.
+  /// The name for assistive tools, which read a label's caption after it. Empty where the caption
+  /// is enough.
   std::string AccessibleName;
-  /// The same for the elements of a control array on a picture, by the index; may be empty, and
-  /// then the caption counts.
+  /// The name of an element of a control array on a picture, by its index. Where it is empty,
+  /// assistive tools read the caption.
   std::function<std::string(std::int16_t index)> AccessibleNameOf;
-  /// Where it comes among the labels on a picture for assistive tools: the lowest first, and those
-  /// of one array by their index.
+  /// The order among the labels on a picture for assistive tools: the lowest first; labels with the
+  /// same number by their index.
   std::int16_t ListOrder = 0;
-  /// Topic of the help that tells of the control; 0 for none.
+  /// The topic of the help about the control; 0 for none.
   std::int16_t HelpTopic = 0;
   /// Unit inside this control, when it contains others.
   Scale InnerScale = Scale::Twips;
@@ -63,39 +63,39 @@ class Control : public PropertyOwner {
   Slot<KeyEvent&> KeyDown;
   Slot<KeyEvent> KeyUp;
   Slot<PlainEvent> KeyPress;
-  /// After the control has got the keyboard.
+  /// Raised after the control has received the focus.
   Slot<PlainEvent> GotFocus;
 
   ControlKind Kind() const { return kind_; }
   const std::string& Name() const { return name_; }
   /// Number in the control array; 0 for a control that stands alone.
   std::int16_t Index() const { return index_; }
-  /// The form it stands on; null until it is added to one.
+  /// The form that it is on; null until it is added to one.
   Form* ParentForm() const { return form_; }
   Control* Container() const { return container_; }
-  /// Contained controls from the back to the front.
+  /// The controls in it, from the back to the front.
   const std::vector<Control*>& Children() const { return children_; }
-  /// Whether it and all that it stands in are visible.
+  /// Whether it and all its containers are visible.
   bool IsVisible() const;
 
-  /// Begins a drag of this control by the pointer that is down; a drop ends it. Does nothing where
-  /// no button is down, or the control is on no form.
+  /// Begins a drag of this control with the mouse button that is down; a drop ends it. Does nothing
+  /// when no button is down, or when the control is on no form.
   void Drag();
-  /// Sets Left and Top, in the container's scale. Any place will do; nothing is clamped.
+  /// Sets Left and Top, in the container's scale. The place is not limited.
   void Move(float left, float top);
-  /// Puts the control at one end of its container's stack; one on no form stays as it is.
+  /// Moves the control to one end of its container's stack; a control on no form stays as it is.
   void ZOrder(StackEnd end);
-  /// Gives the control the keyboard, if Form::Focus does.
+  /// Gives the control the focus, as Form::Focus does.
   void SetFocus();
-  /// Asks that the screen shows the control as it is now.
+  /// Asks the observer to show the control as it is now.
   void Refresh();
 
   void PropertyChanged(PropertyId id) override;
-  /// A control in this one is about to go; only its identity may be used.
+  /// A control in this one is about to be destroyed; only its address may be used.
   virtual void ChildRemoved(const Control& /*child*/) {}
 
  protected:
-  /// Takes over all that the template has but its index, visibility and place in the stack.
+  /// Copies all that the template has, except its index, visibility and place in the stack.
   void CopyCommon(const Control& from);
 
  private:

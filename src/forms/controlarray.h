@@ -1,5 +1,5 @@
-// A control array: controls of one kind and name, told apart by their index. Element 0 is the
-// template from which Load makes more while the form runs.
+// A control array: controls of one kind and name, distinguished by their index. Element 0 is the
+// template: Load makes copies of it while the form runs.
 #pragma once
 
 #include <array>
@@ -22,17 +22,18 @@ class ControlArray {
 
   explicit ControlArray(std::string name) : name_(std::move(name)) {}
 
-  /// The element, which must exist: another index ends the program and names the array.
+  /// The element, which must exist: for any other index the program ends with the name of the
+  /// array.
   T& operator()(std::int16_t index) { return *Existing(index); }
   const T& operator()(std::int16_t index) const { return *Existing(index); }
 
-  /// The element, or null when there is none of that index, whatever the index.
+  /// The element, or null when there is none with that index; any index is allowed.
   T* Find(std::int16_t index) const {
     return InRange(index) ? elements_[static_cast<std::size_t>(index)].get() : nullptr;
   }
 
-  /// Creates an element at design time, with the defaults of its kind; not yet on a form. An
-  /// element that exists is given as it is. An index out of range ends the program, here and in
+  /// Creates an element at design time, with the defaults of its kind, not yet on a form. Returns
+  /// an element that exists already unchanged. An index out of range ends the program, here and in
   /// Load.
   T& Design(std::int16_t index) {
     if (!InRange(index)) FatalError(ElementName(index) + " is out of range");
@@ -41,25 +42,25 @@ class ControlArray {
     return *element;
   }
 
-  /// Creates an element as an invisible copy of element 0, which must be on a form, in front of its
-  /// container's stack. False where it exists already: it stays as it is.
+  /// Creates an element as an invisible copy of element 0, which must be on a form, at the front of
+  /// its container's stack. False when the element exists already: it is unchanged.
   bool Load(std::int16_t index) {
     if (Find(index) != nullptr) return false;
     T& pattern = (*this)(0);
     T& element = Design(index);
     element.Visible = false;
-    // On the form first: a caption is measured there.
+    // On the form first: measuring a caption needs the form.
     pattern.ParentForm()->Add(element, *pattern.Container());
     element.CopyTemplate(pattern);
     return true;
   }
 
-  /// Destroys an element; one that does not exist is passed over, whatever the index.
+  /// Destroys an element; one that does not exist is ignored, with any index.
   void Unload(std::int16_t index) {
     if (Find(index) != nullptr) elements_[static_cast<std::size_t>(index)].reset();
   }
 
-  /// Calls visit with each element that exists, by rising index.
+  /// Calls `visit` with each element that exists, in the order of the indices.
   template <typename Visit>
   void ForEach(Visit visit) {
     for (auto& element : elements_) {

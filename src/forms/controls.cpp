@@ -35,7 +35,7 @@ void TextBox::Edited(std::size_t at, std::size_t cut, std::string_view insert) {
   if (!Enabled) return;
   std::string text = Text;
   if (MaxLength != 0) {
-    // An assignment may have made the text longer than the limit; then there is no room at all.
+    // An assignment may have made the text longer than the limit; then nothing can be inserted.
     const std::size_t kept = text.size() - cut;
     insert = insert.substr(0, MaxLength - std::min(MaxLength, kept));
   }
@@ -43,7 +43,7 @@ void TextBox::Edited(std::size_t at, std::size_t cut, std::string_view insert) {
 }
 
 void TextBox::SelectAll() {
-  // The mark is the screen's own; that it is wanted is all there is to tell.
+  // The screen keeps the selection; the control only reports the request.
   Control::PropertyChanged(PropertyId::Selection);
 }
 

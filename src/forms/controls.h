@@ -13,7 +13,7 @@ namespace terramark::forms {
 
 enum class Alignment { Left, Centred };
 enum class Border { None, FixedSingle };
-/// How a screen reader is told of a label's new caption.
+/// How a screen reader learns of a label's new caption.
 enum class Announcement {
   AsName,     // as the new name of one thing among others
   OnRequest,  // not at all; it may ask
@@ -29,16 +29,16 @@ class Label : public Control {
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
   forms::Alignment Alignment = forms::Alignment::Left;
   forms::Announcement Announcement = forms::Announcement::AsName;
-  /// Whether what is announced is a fault.
+  /// Whether the announcement reports a fault.
   bool Alert = false;
-  /// The control that the caption stands over and names, on the same form; null for none. Like
-  /// Announcement it is of one label alone: a template does not hand it on.
+  /// The control that the caption names, on the same form; null for none. Like Announcement it is
+  /// not copied from a template.
   Control* LabelFor = nullptr;
-  /// Width and Height follow the caption, by the font's own measure on the screen.
+  /// Width and Height follow the caption, as the font measures it on the screen.
   bool AutoSize = false;
 
   void PropertyChanged(PropertyId id) override;
-  /// Takes over what element 0 of a control array has.
+  /// Copies element 0 of a control array.
   void CopyTemplate(const Label& from);
 
  private:
@@ -51,18 +51,18 @@ class TextBox : public Control {
       : Control(ControlKind::TextBox, std::move(name), index) {}
 
   Property<std::string> Text{*this, PropertyId::Text};
-  /// Characters that typing may reach; 0 for no limit. Assignments are not held to it.
+  /// The most characters that typing may reach; 0 for no limit. Assignments may exceed it.
   std::size_t MaxLength = 0;
   bool MultiLine = false;
   /// Raised by every real change of Text, typed or assigned, before the assignment returns.
   Slot<PlainEvent> Change;
 
-  /// An edit by the user: so many characters cut from a place on, counted from 0, and what came in
-  /// there instead. What came in is held to the room that MaxLength leaves; what stands beside it
-  /// is never pushed out. A disabled box takes nothing. The place and the cut must lie in the text.
+  /// An edit by the user: `cut` characters are removed at the offset `at`, counted from 0, and
+  /// `insert` takes their place. Only as much is inserted as MaxLength allows; the rest of the text
+  /// is never removed. A disabled box ignores the edit. Offset and cut must be inside the text.
   void Edited(std::size_t at, std::size_t cut, std::string_view insert);
 
-  /// Marks the whole text on the screen, so that what is typed next replaces it.
+  /// Selects the whole text on the screen, so that typing replaces it.
   void SelectAll();
 
   void PropertyChanged(PropertyId id) override;
@@ -97,8 +97,8 @@ class VScrollBar : public Control {
   /// Raised by every real change of Value, by the user or assigned, before the assignment returns.
   Slot<PlainEvent> Change;
 
-  /// What the user moved the thumb to, held to Min and Max. A bar that is disabled, or whose frame
-  /// is, takes nothing.
+  /// The user moved the thumb to a value, which is limited to Min and Max. A bar that is disabled,
+  /// or in a disabled frame, ignores it.
   void Moved(int value);
 
   void PropertyChanged(PropertyId id) override;

@@ -1,4 +1,4 @@
-// The events of the forms layer and the slots that take them.
+// The events of the forms layer, and the slots for their handlers.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ inline constexpr std::int16_t ShiftKey = 1;
 inline constexpr std::int16_t CtrlKey = 2;
 inline constexpr std::int16_t AltKey = 4;
 
-/// Whether a press or a release asks for the help on what it is on: with the Shift key alone.
+/// Whether a press or a release asks for help: with the Shift key alone.
 inline bool AsksForHelp(std::int16_t shift) {
   return shift == ShiftKey;
 }
@@ -46,8 +46,9 @@ enum KeyCode : std::int16_t {
   KeyMinus = 189,
 };
 
-/// X and Y are in the scale of the control that gets the event: pixels in a picture box, twips from
-/// the top left corner of any other control. Index is the element's number in its control array.
+/// X and Y are in the scale of the control that receives the event: pixels in a picture box, twips
+/// from the top left corner of any other control. Index is the element's number in its control
+/// array.
 struct MouseEvent {
   std::int16_t Index = 0;
   std::int16_t Button = 0;
@@ -56,7 +57,8 @@ struct MouseEvent {
   float Y = 0;
 };
 
-/// Source is the control that was dragged; X and Y as in MouseEvent, of the control dropped on.
+/// Source is the control that was dragged; X and Y are as in MouseEvent, for the control that it
+/// was dropped on.
 struct DropEvent {
   std::int16_t Index = 0;
   Control& Source;
@@ -64,25 +66,24 @@ struct DropEvent {
   float Y = 0;
 };
 
-/// KeyCode is one of the codes above or, for any other key, 0; Shift is a sum of ShiftKey, CtrlKey
-/// and AltKey.
+/// KeyCode is a code of the enum, or 0 for any other key; Shift is a sum of ShiftKey, CtrlKey and
+/// AltKey.
 struct KeyEvent {
   std::int16_t KeyCode = 0;
   std::int16_t Shift = 0;
-  /// Whether a key that is held down is told again.
+  /// Whether it is a repeat of a key that is held down.
   bool Repeat = false;
-  /// Set by a handler of KeyDown for which the key was meant: nobody hears of it after that one.
+  /// Set by a handler of KeyDown that has used the key: no further handler receives it.
   bool Handled = false;
 };
 
-/// An event without arguments but the element's number: Click, Change, KeyPress and
-/// GotFocus.
+/// An event with no arguments but the element's number: Click, Change, KeyPress and GotFocus.
 struct PlainEvent {
   std::int16_t Index = 0;
 };
 
-/// An event slot; an empty one lets the event pass unheard. A handler may change the event only in
-/// a slot of a reference: in Slot<KeyEvent&>.
+/// The slot of an event's handler; without a handler the event has no effect. A handler can change
+/// the event only where the slot passes a reference, in Slot<KeyEvent&>.
 template <typename Event>
 class Slot {
  public:
@@ -93,7 +94,7 @@ class Slot {
   void Raise(const Event& event) const {
     if (handler_) handler_(event);
   }
-  /// Whether somebody listens.
+  /// Whether the slot has a handler.
   explicit operator bool() const { return static_cast<bool>(handler_); }
 
  private:

@@ -1,4 +1,5 @@
-// The end for what only a fault in the editor's own tables and code can bring about.
+// Ends the program after an error that only a mistake in the editor's own tables and code can
+// cause.
 #pragma once
 
 #include <cstdio>
@@ -7,7 +8,7 @@
 
 namespace terramark::forms {
 
-/// Says on the error output what does not hold, and aborts. Going on would be undefined.
+/// Prints the error to standard error and aborts: going on would be undefined.
 [[noreturn]] inline void FatalError(const std::string& what) {
   std::fprintf(stderr, "terramark: %s\n", what.c_str());
   std::abort();

@@ -1,5 +1,5 @@
-// The flood itself, whatever is flooded: it goes by one bit a pixel and leaves to its caller which
-// pixels are open and how they are painted.
+// The flood fill, for anything that has pixels. It uses one bit for each pixel; its caller knows
+// which pixels are open and paints them.
 #pragma once
 
 #include <algorithm>
@@ -14,19 +14,17 @@
 
 namespace terramark::forms {
 
-/// Open sets the bits of a row that a flood may enter, 64 pixels a word from the lowest bit on:
-/// void(int y, std::span<std::uint64_t> bits). Bits past the width do not matter. A row is asked
-/// for its bits once at most, before anything in it is painted, so painting may make open pixels of
-/// closed ones.
-///
-/// Painter paints the pixels left <= x < right of a row, void Run(int y, int left, int right), or
-/// those of the 32 from left on whose bits are set, from the lowest bit on,
-/// void PaintBits(int y, int left, std::uint32_t bits).
+/// Open sets the bits of a row that the flood may enter, 64 pixels a word from the lowest bit:
+/// void(int y, std::span<std::uint64_t> bits). Bits beyond the width do not matter. It is called at
+/// most once for each row, before anything in the row is painted, so painting may change which
+/// pixels would be open. Painter has two functions. void Run(int y, int left, int right) paints the
+/// pixels left <= x < right of a row. void PaintBits(int y, int left, std::uint32_t bits) paints
+/// those of the 32 pixels from `left` whose bits are set, from the lowest bit on.
 template <class Open, class Painter>
 class Flooder {
  public:
-  /// Takes all the memory that the flood will need, two bits a pixel and a few words a row, or
-  /// throws std::bad_alloc. Width and height are not below 0.
+  /// Allocates all the memory that the flood needs, two bits for each pixel and a few words for
+  /// each row, or throws std::bad_alloc. Width and height are not negative.
   Flooder(int width, int height, const Open& open, Painter& painter)
       : width_(width),
         height_(height),
@@ -39,8 +37,8 @@ class Flooder {
     waiting_.reserve(rows_.size());
   }
 
-  /// Paints all open pixels that are 4-connected with a seed, each once, whatever seeds reach it.
-  /// Seeds outside or on closed pixels paint nothing. Once at most.
+  /// Paints all open pixels that are 4-connected with a seed, each once, even if several seeds
+  /// reach it. Seeds outside or on closed pixels paint nothing. To be called at most once.
   void From(std::span<const PixelPoint> seeds) {
     for (const PixelPoint seed : seeds) {
       if (seed.X < 0 || seed.X >= width_ || !HasRow(seed.Y)) continue;
@@ -53,12 +51,14 @@ class Flooder {
       const int y = waiting_.back();
       waiting_.pop_back();
       const Range range = std::exchange(RowAt(y).Fresh, {});
-      // Beside what was taken earlier nothing is open any more: it does no harm in the range.
+      // The range may contain words that were taken earlier: none of their pixels are open any
+      // more.
       const Word* const taken = &taken_[Index(y)];
       SpreadTo(y - 1, taken, range);
       SpreadTo(y + 1, taken, range);
     }
-    // Short runs one by one would lie far apart in memory, where the flood goes up and down.
+    // Painted at the end, row by row: while the flood goes up and down they would be far apart in
+    // memory.
     for (int y = 0; y < height_; ++y) {
       if (RowAt(y).HasShortRuns) PaintShortRuns(y);
     }
@@ -70,23 +70,23 @@ class Flooder {
   static constexpr Word AllBits = ~Word{0};
   static constexpr int HalfBits = 32;
 
-  /// Words of a row, both ends included; empty when First lies behind Last.
+  /// Words of a row, both ends included; empty when First is after Last.
   struct Range {
     int First = 0;
     int Last = -1;
   };
   struct Row {
     bool Asked = false;
-    /// Whether runs within half a word each are taken, which are painted in the end.
+    /// Whether the row has taken runs that are within half a word; they are painted at the end.
     bool HasShortRuns = false;
-    /// What is taken and has neighbours above and below that are still to be seen.
+    /// The taken words whose neighbours above and below have not been visited yet.
     Range Fresh;
   };
 
-  /// The lowest bits of a word; less than all of them.
+  /// The lowest `count` bits of a word; fewer than all.
   static Word BitsBelow(int count) { return (Word{1} << count) - 1; }
 
-  /// Where the words of a row begin.
+  /// The index of a row's first word.
   std::size_t Index(int y) const {
     return static_cast<std::size_t>(y) * static_cast<std::size_t>(words_);
   }
@@ -106,20 +106,20 @@ class Flooder {
     return open;
   }
 
-  /// Goes from what is taken in a row to one beside it.
+  /// Continues from the taken pixels of a row into an adjacent row.
   void SpreadTo(int y, const Word* taken, Range range) {
     if (!HasRow(y)) return;
     Word* const open = OpenWords(y);
     for (int i = range.First; i <= range.Last; ++i) {
-      // A run that is taken is open no more, so each seed left begins another.
+      // Taking a run closes it, so each bit that is still set begins another run.
       while ((taken[i] & open[i]) != 0) TakeRun(y, open, i, std::countr_zero(taken[i] & open[i]));
     }
   }
 
-  /// Takes the whole run round an open pixel, and leaves its neighbours for later.
+  /// Takes the whole run around an open pixel; its neighbours are visited later.
   void TakeRun(int y, Word* open, int word, int bit) {
     Range run{word, word};
-    // How many bits of the first word lie before the run, and of the last before its end.
+    // The number of bits of the first word before the run, and of the last word before its end.
     int before = WordBits - std::countl_zero(~open[word] & BitsBelow(bit));
     int upTo = bit + std::countr_one(open[word] >> bit);
     while (before == 0 && run.First > 0 && open[run.First - 1] >> (WordBits - 1) != 0) {
@@ -156,7 +156,7 @@ class Flooder {
     }
   }
 
-  /// Paints the runs of a row that lie within half a word each; the others are painted.
+  /// Paints the runs of a row that are within half a word; the others are painted already.
   void PaintShortRuns(int y) {
     constexpr Word All = (Word{1} << HalfBits) - 1;
     const Word* const taken = &taken_[Index(y)];
@@ -166,7 +166,7 @@ class Flooder {
       Word spots = half(i);
       const bool joins =
           spots >> (HalfBits - 1) != 0 && i + 1 < 2 * words_ && (half(i + 1) & 1) != 0;
-      // The run at the end that hangs together with another half does not count.
+      // A run at the end that continues in the next half word does not count.
       if (joined) spots &= spots + 1;
       if (joins) spots &= All >> std::countl_one(static_cast<std::uint32_t>(spots));
       if (spots != 0) painter_.PaintBits(y, i * HalfBits, static_cast<std::uint32_t>(spots));
@@ -179,11 +179,11 @@ class Flooder {
   const int words_;
   const Open& askOpen_;
   Painter& painter_;
-  /// What the flood may still enter, as far as rows have been asked.
+  /// The pixels that the flood may still enter, in the rows that have been asked for.
   std::vector<Word> open_;
   std::vector<Word> taken_;
   std::vector<Row> rows_;
-  /// The rows with fresh pixels, each once.
+  /// The rows with fresh words, each once.
   std::vector<int> waiting_;
 };
 

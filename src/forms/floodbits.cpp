@@ -18,8 +18,8 @@ constexpr std::array<std::uint32_t, HalfBits> SingleBits = [] {
   return bits;
 }();
 
-/// The bits of 32 pixels that have the colour. Without a branch and with a known count, so that
-/// compilers turn the loop into vector code: a comparison, two ANDs and an OR.
+/// The bits of 32 pixels that have the colour. Without a branch and with a fixed count, so that
+/// compilers generate vector code: a comparison, two ANDs and an OR.
 std::uint32_t HalfWord(const std::uint32_t* pixels, std::uint32_t colour) {
   std::uint32_t bits = 0;
   for (std::size_t i = 0; i < HalfBits; ++i) {
@@ -28,7 +28,7 @@ std::uint32_t HalfWord(const std::uint32_t* pixels, std::uint32_t colour) {
   return bits;
 }
 
-/// Without a branch likewise.
+/// Also without a branch.
 void PaintHalf(std::uint32_t* pixels, std::uint32_t bits, std::uint32_t paint) {
   for (std::size_t i = 0; i < HalfBits; ++i) {
     const std::uint32_t mask = (bits & SingleBits[i]) != 0 ? ~0U : 0U;

@@ -24,7 +24,8 @@ Form::Form(Desktop& host, std::string name)
 }
 
 Form::~Form() {
-  // Controls are members of the derived form and gone by now, or outlive it without an owner.
+  // The controls are members of the derived form, which are destroyed by now, or outlive the form
+  // without an owner.
   for (Control* control : controls_) control->form_ = nullptr;
 }
 
@@ -72,7 +73,7 @@ void Form::Focus(Control* control) {
 
 void Form::NotifyObserver(Control& control, PropertyId id) {
   const bool movesKeys = id == PropertyId::Enabled || id == PropertyId::Visible;
-  // Before the screen knows, so that it has no need to find another place for the keyboard.
+  // Before the observer is notified, so that the screen need not move the focus itself.
   if (movesKeys && active_ != nullptr && !AcceptsFocus(*active_)) {
     Control* const lost = active_;
     Focus(nullptr);
@@ -86,7 +87,8 @@ bool Form::KeyPressed(KeyEvent key) {
   const HandledKey now{active_, Pointer.KeyDragNumber()};
   const auto down = taken_.find(key.KeyCode);
   const bool goesOn = key.Repeat && down != taken_.end();
-  // An arrow that carried does not begin to walk when the hold has ended under it.
+  // The repeats of an arrow that moved a dragged marker must not walk to other markers when the
+  // drag has ended.
   if (goesOn && !down->second.SameContextAs(now)) return true;
   if (key.KeyCode == KeyEscape && Pointer.CurrentDrag()) {
     Pointer.CancelDrag();
@@ -94,7 +96,8 @@ bool Form::KeyPressed(KeyEvent key) {
   }
   if (!key.Handled && KeyPreview) KeyDown.Raise(key);
   if (!key.Handled && now.Active != nullptr) now.Active->KeyDown.Raise(key);
-  // Also where it means nothing by now, as an arrow once the Shift key is down too.
+  // A repeat is handled even where the key has no meaning any more, as an arrow after Shift was
+  // pressed.
   if (goesOn) key.Handled = true;
   if (key.Handled) {
     taken_[key.KeyCode] = now;

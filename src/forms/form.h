@@ -1,5 +1,5 @@
-// A form: the outermost container, with the keyboard, the pointer and the one observer that shows
-// it on a screen.
+// A form: the outermost container, with the keyboard focus, the pointer and the observer that shows
+// it on the screen.
 #pragma once
 
 #include <cstdint>
@@ -13,20 +13,20 @@
 
 namespace terramark::forms {
 
-/// Sees every change of a form and its controls; the window draws from it. All calls come on the
-/// one thread, before the assignment that caused them returns.
+/// Notified of every change of a form and its controls; the window draws from that. All calls come
+/// on the one thread, before the assignment that caused them returns.
 class FormObserver {
  public:
   virtual void ControlAdded(Control& control) = 0;
-  /// The control is about to go; only its identity may be used.
+  /// The control is about to be destroyed; only its address may be used.
   virtual void ControlRemoved(Control& control) = 0;
   virtual void PropertyChanged(Control& control, PropertyId id) = 0;
   virtual void Restacked(Control& control) = 0;
-  /// The keyboard went to a control, or to the form itself when no control has it.
+  /// The focus has moved to a control, or to the form itself when no control has it.
   virtual void FocusMoved(Control& control) = 0;
-  /// The control asks to be shown as it is now.
+  /// The control is to be shown as it is now.
   virtual void Refreshed(Control& control) = 0;
-  /// The pointer moved, or what it or the keyboard drags moved, appeared or went.
+  /// The pointer moved, or the dragged control moved, appeared or disappeared.
   virtual void PointerMoved() = 0;
   virtual void Unloaded() = 0;
 
@@ -41,35 +41,36 @@ class Form : public Control {
 
   Desktop& Host;
   Property<std::string> Caption{*this, PropertyId::Caption};
-  /// Key events reach the form's slots before the control that has the focus.
+  /// Whether the form's slots receive key events before the control with the focus.
   bool KeyPreview = false;
   PointerRouter Pointer{*this};
 
-  /// Puts a control on the form inside a container, in front of what stands there already. The
-  /// order of adding is the tab order. A control that is on a form already ends the program.
+  /// Puts a control on the form, inside a container and in front of its other controls. The order
+  /// of adding is the tab order. Adding a control that is on a form already ends the program.
   void Add(Control& control, Control& container);
   /// All controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }
 
-  /// Gives the keyboard to a control of this form, or with null to none. One that is disabled or
-  /// invisible, or stands in something that is, does not take it: it stays where it was.
+  /// Moves the focus to a control of this form, or with null to none. A control that is disabled or
+  /// invisible, or in a container that is, does not receive it: the focus stays where it was.
   void Focus(Control* control);
-  /// The control that has the keyboard; null when none has. One that is disabled or hidden loses
-  /// it, and gets it back with its state unless another has taken it by then.
+  /// The control with the focus; null for none. A control that is disabled or hidden loses the
+  /// focus. It receives it back when it is enabled or shown again, unless another control has it by
+  /// then.
   Control* ActiveControl() const { return active_; }
 
-  /// Keys as the keyboard gives them; a repeat must not be fed as a release. Whether a press was
-  /// taken: then its character is not typed, its release is told to nobody, and its repeats reach
-  /// only the control that had the keyboard at the press.
+  /// The keys of the keyboard; a repeat must not be reported as a release. Returns whether the
+  /// press was handled: then its character is not typed, nobody receives its release, and its
+  /// repeats reach only the control that had the focus at the press.
   bool KeyPressed(KeyEvent key);
   void KeyReleased(const KeyEvent& key);
-  /// A pressed key that makes a character, before the text changes.
+  /// Reports a pressed key that makes a character, before the text changes.
   void CharacterTyped();
 
-  /// Takes a modal form off the screen; the ShowModal that shows it returns.
+  /// Closes a modal form; the ShowModal that shows it returns.
   void Unload();
 
-  /// One observer or none.
+  /// Sets the observer, or none.
   void Observe(FormObserver* observer) { observer_ = observer; }
 
  private:
@@ -83,10 +84,10 @@ class Form : public Control {
   FormObserver* observer_ = nullptr;
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
-  /// What lost the keyboard by its state, while no control has it.
+  /// The control that lost the focus when it was disabled or hidden, while no control has the
+  /// focus.
   Control* lost_ = nullptr;
-  /// Of a key that was taken: who had the keyboard at the press, and the hold that the keys had
-  /// then.
+  /// For a handled key: the control that had the focus at the press, and the key drag at that time.
   struct HandledKey {
     Control* Active = nullptr;
     unsigned DragNumber = 0;
@@ -96,8 +97,7 @@ class Form : public Control {
       return Active == now.Active && (DragNumber == 0 || DragNumber == now.DragNumber);
     }
   };
-  /// The keys that are down and were taken, by their codes; of their controls only the identity is
-  /// used.
+  /// The handled keys that are down, by their codes; only the addresses of their controls are used.
   std::map<std::int16_t, HandledKey> taken_;
 };
 

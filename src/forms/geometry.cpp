@@ -10,20 +10,21 @@ namespace terramark::forms {
 
 namespace {
 
-/// No screen reaches so far; places from a file are held to it, so that sums of them stay small.
+/// No screen is so large. Places from a file are limited to it, so that sums of them cannot
+/// overflow.
 constexpr float FarthestPixel = 1 << 24;
 
 int NearestPixel(float pixels) {
   return static_cast<int>(std::lround(std::clamp(pixels, -FarthestPixel, FarthestPixel)));
 }
 
-/// What a pixel of the form's screen measures in a scale.
+/// The size of a pixel of the form's screen in a scale.
 ScalePoint PixelIn(Scale scale, const Form* form) {
   if (scale == Scale::Pixels || form == nullptr) return {1.0F, 1.0F};
   return {form->Host.TwipsPerPixelX(), form->Host.TwipsPerPixelY()};
 }
 
-/// The scale in which a control is placed; a form stands on the screen in twips.
+/// The scale in which a control is placed; a form is placed on the screen in twips.
 Scale OuterScale(const Control& control) {
   return control.Container() == nullptr ? Scale::Twips : control.Container()->InnerScale;
 }

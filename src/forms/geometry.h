@@ -1,5 +1,5 @@
-// From the scales of the controls to the pixels of the screen and back, scrolling and zoom
-// included, in one place for all, so that each means the same pixel.
+// Converts between the scales of the controls and the pixels of the screen, including scrolling and
+// zoom. All conversions are here, so that all agree on the pixel.
 #pragma once
 
 namespace terramark::forms {
@@ -29,53 +29,53 @@ struct PixelRect {
   }
 };
 
-/// A place, or a width and height, in the scale of some control's inside.
+/// A place, or a width and height, in the scale of a control's inside.
 struct ScalePoint {
   float X = 0;
   float Y = 0;
 };
 
-/// Where a control stands inside its container, in pixels of that: of the screen, or of the picture
-/// in a picture box, which may be zoomed. Each number is rounded by itself, halves away from 0, and
-/// held to 2^24 either way. Of a form, its inside, from 0, 0. A control that is on no form yet
-/// counts as placed in pixels.
+/// The place of a control inside its container, in pixels of the screen or, in a picture box, of
+/// the picture, which may be zoomed. Each number is rounded by itself, halves away from 0, and
+/// limited to 2^24 each way. For a form, its inside, at 0, 0. A control that is on no form yet is
+/// taken as placed in pixels.
 PixelRect PixelBounds(const Control& control);
 
-/// A pixel of the form's inside as a pixel of a control's own inside, counted from its corner; in a
-/// picture box, the pixel of the picture that is seen there. Either may lie outside.
+/// Maps a pixel of the form's inside to a pixel of a control's inside, counted from its corner. For
+/// a picture box that is the pixel of the picture that is visible there. Either may be outside.
 PixelPoint MapFromForm(const Control& control, PixelPoint onForm);
-/// Where on the form a pixel of a control's inside begins.
+/// The place on the form where a pixel of a control's inside begins.
 PixelPoint MapToForm(const Control& control, PixelPoint inside);
 
-/// Where the origin of a control's inside stands, in pixels of the form's inside; 0, 0 for the
-/// form. Inside a picture box that is the picture's corner, wherever it is scrolled to, so it may
-/// lie outside the box.
+/// The place of the origin of a control's inside, in pixels of the form's inside; 0, 0 for the
+/// form. For a picture box it is the corner of the picture, which may be scrolled out of the box.
 PixelPoint InnerOrigin(const Control& control);
 
-/// The middle of a control, in pixels of the form's inside.
+/// The centre of a control, in pixels of the form's inside.
 PixelPoint CentreOnForm(const Control& control);
 
-/// A pixel of a control's inside in the scale of that inside. The control must be on a form.
+/// Converts a pixel of a control's inside to the scale of that inside. The control must be on a
+/// form.
 ScalePoint PixelsToScale(const Control& control, PixelPoint inside);
 
-/// A size in pixels in the scale of a control's container. The control must be on a form.
+/// Converts a size in pixels to the scale of a control's container. The control must be on a form.
 ScalePoint PixelsToContainerScale(const Control& control, int width, int height);
 
-/// A place or size that was designed in twips, in the scale of a container's inside on a form. The
-/// container need not be on the form yet.
+/// Converts a place or size in twips to the scale of a container's inside on a form. The container
+/// need not be on the form yet.
 ScalePoint TwipsToScale(ScalePoint twips, const Control& container, const Form& form);
 
-/// A length down the screen, from twips to pixels, rounded as in PixelBounds.
+/// Converts a vertical length from twips to pixels, rounded as in PixelBounds.
 int TwipsToPixelsY(Desktop& host, float twips);
 
-/// Where a form's corner stands on the screen, in pixels, rounded as in PixelBounds.
+/// The place of a form's corner on the screen, in pixels, rounded as in PixelBounds.
 PixelPoint PlaceOnScreen(const Form& form);
 
-/// From pixels of the picture in a box to pixels of the box, and back: where one begins, and which
-/// one is seen. Either may lie outside.
+/// Maps pixels of the picture in a box to pixels of the box, where they begin, and back, to the
+/// pixel that is visible. Either may be outside.
 PixelPoint MapToBox(const PictureBox& box, PixelPoint onPicture);
 PixelPoint MapToPicture(const PictureBox& box, PixelPoint inBox);
-/// What a part of the picture covers in the box; in either direction a pixel at least.
+/// The part of the box that a part of the picture covers; at least one pixel each way.
 PixelRect MapToBox(const PictureBox& box, const PixelRect& onPicture);
 
 }  // namespace terramark::forms

@@ -30,12 +30,12 @@ Raster PaddedCopy(const Raster& picture, int width, int height, std::uint32_t ba
   return image;
 }
 
-/// How far to scroll until a stretch is seen with ground around it; 0 where it is.
+/// How far to scroll until a range is visible with some margin; 0 where it is.
 int ScrollDelta(int from, int length, int view) {
   const int ground = std::clamp((view - length) / 2, 0, ScrollMargin);
   const int before = from - ground;
   const int behind = from + length + ground - view;
-  // Of what is too long, the beginning.
+  // Of a range that is too long the beginning is shown.
   return before < 0 ? before : std::clamp(behind, 0, before);
 }
 
@@ -49,7 +49,8 @@ int PictureBox::BoxHeight() const {
   return PixelBounds(*this).Height;
 }
 
-/// The image may have blank ground beside the picture, for which no bar is needed.
+/// The picture, or the blank image where there is none. The image may have blank space beside the
+/// picture, which needs no scroll bar.
 const Raster& PictureBox::DisplayedImage() const {
   return Picture.Get() && Picture.Get()->Width > 0 ? *Picture.Get() : Image();
 }
@@ -62,7 +63,7 @@ int PictureBox::ZoomedHeight() const {
   return ToScreen(Zoom, DisplayedImage().Height);
 }
 
-/// A bar for one way takes room from the other, which can call for the second bar.
+/// The scroll bar of one direction reduces the space in the other, which may then need a bar too.
 bool PictureBox::ScrollsAcross() const {
   return ZoomedWidth() > BoxWidth() - (ZoomedHeight() > BoxHeight() ? ScrollBarExtent : 0);
 }
@@ -87,7 +88,7 @@ void PictureBox::ScrollTo(int left, int top) {
 void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
   const Magnification old = Zoom;
   const auto scroll = [&](int out, int at) {
-    // From the middle of the pixel, in half pixels.
+    // In half pixels, so that the middle of a pixel is a whole number.
     const std::int64_t place = 2 * static_cast<std::int64_t>(out + at) + 1;
     const std::int64_t parts = 2 * static_cast<std::int64_t>(old.Screen) * zoom.Picture;
     return static_cast<int>(place * old.Picture * zoom.Screen / parts) - at;
