@@ -1,5 +1,5 @@
-// The card symbols: their codes in the document, their letters in the box and in a layout, their
-// words in the status line.
+// The card symbols: their codes in the document, their letters in the box and in a layout, and
+// their words in the status line.
 #pragma once
 
 #include <string>
@@ -13,8 +13,8 @@ struct CardSymbol {
   const char* Word;
 };
 
-/// The symbol whose code is the first character of an AreaSymbol, or null: for an empty one, and
-/// for code "9", which has no letter and no word.
+/// The symbol whose code is the first character of an AreaSymbol. Null for an empty AreaSymbol, and
+/// for the code "9", which has no letter and no word.
 const CardSymbol* SymbolOfCode(std::string_view areaSymbol);
 
 /// The symbol of a letter, upper case only, or null.

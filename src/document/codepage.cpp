@@ -46,7 +46,7 @@ std::string ToUtf8(std::string_view text) {
       utf8 += byte;
       continue;
     }
-    // Two bytes for what has eleven bits, three for the rest.
+    // Two bytes for a character of up to eleven bits, three for all others.
     if (character < 0x800) {
       utf8 += static_cast<char>(0xC0 | character >> 6);
     } else {

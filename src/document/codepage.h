@@ -6,8 +6,8 @@
 
 namespace terramark {
 
-/// The Unicode character of a byte. The five bytes that the code page leaves open give the control
-/// characters of the same number.
+/// The Unicode character of a byte. For the five bytes that the code page leaves open it is the
+/// control character with the same number.
 char16_t DecodeByte(char byte);
 
 /// The byte of a Unicode character; "?" for one that the code page lacks.

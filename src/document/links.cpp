@@ -19,7 +19,7 @@ bool IsDigit(char c) {
 std::int16_t FieldAt(std::string_view links, std::size_t position) {
   if (position >= links.size()) return 0;
   const std::string_view field = links.substr(position, PairSize);
-  // Nearly every field is two digits; the rest takes the long road.
+  // Nearly every field has two digits; only others need ReadNumber.
   if (field.size() == PairSize && IsDigit(field[0]) && IsDigit(field[1])) {
     return static_cast<std::int16_t>((field[0] - '0') * 10 + (field[1] - '0'));
   }

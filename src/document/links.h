@@ -12,8 +12,8 @@
 
 namespace terramark {
 
-/// The neighbours that a link string lists, read once: the count in front decides, never the
-/// length. A count or an entry outside 0 to 99 reads as 0, as does an entry behind the end.
+/// The neighbours in a link string, read once. Their number is the count at the beginning, whatever
+/// the length. A count or an entry outside 0 to 99 reads as 0, as does an entry beyond the end.
 class Neighbours {
  public:
   explicit Neighbours(std::string_view links);
@@ -28,22 +28,22 @@ class Neighbours {
   std::size_t count_ = 0;
 };
 
-/// The strings without neighbours that the commands leave: of an Area that was cleared, and of one
-/// that is new or has lost its last neighbour.
+/// The link strings without neighbours that the commands write: for an Area that was cleared, and
+/// for one that is new or has lost its last neighbour.
 inline constexpr char ClearedLinks[] = " ";
 inline constexpr char EmptyLinks[] = "  ";
 
 /// The string of these neighbours, in their order.
 std::string MakeLinks(const std::vector<std::int16_t>& areas);
-/// With an entry for an Area, 0 to 99, behind those it has; unchanged when it lists that Area.
+/// Appends an entry for an Area, 0 to 99; unchanged when the Area is listed already.
 std::string WithEntry(std::string links, std::int16_t area);
-/// Without the entries for an Area; unchanged when no pair spells that Area.
+/// Removes the entries for an Area; unchanged when there is none.
 std::string WithoutEntry(const std::string& links, std::int16_t area);
 
 /// The number of neighbours that a link string declares, 0 to 99.
 std::int16_t LinkCount(std::string_view links);
 
-/// 1 when Area b stands in AreaLinks(a), else 0. a is 0 to 99.
+/// 1 when Area b is in AreaLinks(a), else 0. a is 0 to 99.
 std::int16_t IsNeighbour(const Tables& tables, std::int16_t a, std::int16_t b);
 
 }  // namespace terramark

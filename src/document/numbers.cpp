@@ -43,7 +43,7 @@ double ReadNumber(std::string_view text) {
   const auto read = std::from_chars(number.data(), number.data() + number.size(), value,
                                     std::chars_format::fixed);
   if (read.ec == std::errc::result_out_of_range) {
-    // Too many digits before the point, or none but noughts for a long way behind it.
+    // Too many digits before the point, or only zeros for a long way after it.
     const bool tiny = number[number.find_first_not_of("-0")] == '.';
     value = tiny ? 0 : std::numeric_limits<double>::infinity() * (number[0] == '-' ? -1 : 1);
   }

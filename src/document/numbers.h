@@ -17,19 +17,19 @@ std::string PlainNumber(std::int32_t n);
 /// The two-digit form of 0 to 99; of any other number the last two digits of its text.
 std::string TwoDigit(std::int16_t n);
 
-/// Appends the two-digit form of 0 to 99; where they come by the hundred.
+/// Appends the two-digit form of 0 to 99; for places where there are hundreds of them.
 inline void AppendTwoDigits(std::string& text, std::int16_t n) {
   text += static_cast<char>('0' + n / 10);
   text += static_cast<char>('0' + n % 10);
 }
 
-/// The number that a text begins with. Blanks are skipped, also between digits; an optional sign
-/// may lead; digits with at most one point follow; the first other character ends the number. A
-/// text without digits reads as 0.
+/// The number at the beginning of a text. Blanks are skipped, also between digits. An optional sign
+/// is followed by digits with at most one point; any other character ends the number. A text
+/// without digits reads as 0.
 double ReadNumber(std::string_view text);
 
-/// Rounded to the nearest whole number, a tie to the even one; nothing when that does not fit 16
-/// bits.
+/// Rounded to the nearest whole number, a tie to the even one; nothing when the result has more
+/// than 16 bits.
 std::optional<std::int16_t> WholeNumber(double value);
 
 }  // namespace terramark

@@ -11,8 +11,8 @@ constexpr Components UnsetRGB{UnsetComponent, UnsetComponent, UnsetComponent};
 }  // namespace
 
 void ClearRows(Tables& tables) {
-  // Names all members, so that a new one does not compile until it is said here what becomes of it:
-  // counts, colours and picture are not of the rows.
+  // All members are named here, so that a new one does not compile until somebody decides whether
+  // it is cleared. Counts, colours and picture stay.
   [[maybe_unused]] auto& [areaCount, regionCount, areas, regions, playerRGB, pictureFile] = tables;
   regions(0).RGB = UnsetRGB;
   for (std::int16_t i = 1; i <= LastNumber; ++i) {

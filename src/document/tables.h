@@ -21,8 +21,8 @@ inline constexpr std::int16_t NewArmies = 5;
 /// The name of element 0 and of whatever lost its name.
 inline constexpr char UnknownName[] = "*UNKNOWN*";
 
-/// A fixed table. A number outside it is a mistake in the program and ends it: nobody catches what
-/// is thrown then.
+/// A fixed table. A number outside it is a mistake in the program and ends it: the exception is
+/// never caught.
 template <typename T>
 class Table {
  public:
@@ -44,14 +44,15 @@ inline constexpr std::int16_t PlayerColours = 4;
 
 struct Area {
   std::string Name;
-  /// Two digits of count, then two digits a neighbour, in the order in which they were linked.
+  /// Two digits for the count, then two digits for each neighbour, in the order in which they were
+  /// linked.
   std::string Links;
-  /// The card symbol's code is the first character; what follows has no meaning.
+  /// Its first character is the code of the card symbol; further characters have no meaning.
   std::string Symbol;
   /// 0 for an Area in no Region.
   std::int16_t Region = 0;
   /// The marker's corner that is the fill point, 0 to 3: 1 for the right edge plus 2 for the bottom
-  /// edge. Other codes from a layout name no corner.
+  /// edge. Other codes, from a layout, are no corner.
   std::int16_t Corner = 0;
 
   bool operator==(const Area&) const = default;
@@ -79,7 +80,7 @@ struct Tables {
 
   bool operator==(const Tables&) const = default;
 
-  // The fields of a row by names of their own, where only the one is meant.
+  // Access to single fields of a row.
   std::string& AreaName(std::int16_t i) { return Areas(i).Name; }
   std::string& AreaLinks(std::int16_t i) { return Areas(i).Links; }
   std::string& AreaSymbol(std::int16_t i) { return Areas(i).Symbol; }
@@ -98,11 +99,11 @@ struct Tables {
   const Components& RegionRGB(std::int16_t r) const { return Regions(r).RGB; }
 };
 
-/// Gives rows 1 to 99 what they hold on an empty map, but for the fill corners, which stay; and
-/// Region 0 the colour.
+/// Sets rows 1 to 99 to those of an empty map, except for the fill corners, which stay; and the
+/// colour of Region 0.
 void ClearRows(Tables& tables);
 
-/// The tables of a map without anything.
+/// The tables of an empty map.
 Tables EmptyMap();
 
 /// The number of a Region's Areas.

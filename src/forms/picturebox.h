@@ -30,62 +30,64 @@ class PictureBox : public Control {
   Property<forms::Picture, NotifyOn::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.
   Color FillColor = 0x000000FF;
-  /// Pixels of the screen that have gone out at the left and at the top; use ScrollTo.
+  /// How many pixels of the screen are scrolled out at the left and at the top; to change them use
+  /// ScrollTo.
   Property<int> ScrollLeft{*this, PropertyId::ScrollLeft, 0};
   Property<int> ScrollTop{*this, PropertyId::ScrollTop, 0};
-  /// How large the picture and all on it are shown; use ZoomTo. Places stay pixels of the picture.
+  /// The scale at which the picture and its labels are shown; to change it use ZoomTo. Places stay
+  /// in pixels of the picture.
   Property<Magnification> Zoom{*this, PropertyId::Zoom, ActualSize};
-  /// Whether the box takes the keyboard in the tab order.
+  /// Whether the box is in the tab order.
   bool TabStop = false;
   /// The control on the picture that the box's keys act on; null for none. It is marked while the
-  /// box has the keyboard.
+  /// box has the focus.
   Property<Control*> CursorItem{*this, PropertyId::CursorItem, nullptr};
 
-  /// The persistent image: as large as the picture and never smaller than the box. It is the
-  /// picture itself until it is painted on.
+  /// The persistent image: as large as the picture, and never smaller than the box. It is the
+  /// picture itself until something is painted on it.
   const Raster& Image() const { return own_ ? *own_ : *Picture.Get(); }
 
-  /// Inside of the box in whole pixels.
+  /// The inside of the box in whole pixels.
   int BoxWidth() const;
   int BoxHeight() const;
-  /// What the scroll bars leave of the box, in pixels.
+  /// The box without its scroll bars, in pixels.
   int ViewWidth() const;
   int ViewHeight() const;
-  /// The picture as it is magnified, in pixels of the screen; where there is none, the blank image.
+  /// The size of the zoomed picture in pixels of the screen; without a picture, of the blank image.
   int ZoomedWidth() const;
   int ZoomedHeight() const;
   bool ScrollsAcross() const;
   bool ScrollsDown() const;
   /// Scrolls as near to the place as the picture's edges allow.
   void ScrollTo(int left, int top);
-  /// Likewise, so many pixels further to the right and down.
+  /// Scrolls so many pixels to the right and down, as far as the picture's edges allow.
   void ScrollBy(int across, int down) { ScrollTo(ScrollLeft + across, ScrollTop + down); }
-  /// Magnifies about a pixel of the box: as far as the picture's edges allow, what is seen there
-  /// stays there.
+  /// Zooms about a pixel of the box: what is visible there stays there, as far as the picture's
+  /// edges allow.
   void ZoomTo(Magnification zoom, PixelPoint about);
-  /// The middle of what is seen, in pixels of the box.
+  /// The middle of the visible part, in pixels of the box.
   PixelPoint ViewCentre() const { return {ViewWidth() / 2, ViewHeight() / 2}; }
-  /// Scrolls, as far as the picture's edges allow, until a part of it is seen with some ground
-  /// around.
+  /// Scrolls, as far as the picture's edges allow, until a part of the picture is visible with some
+  /// margin.
   void ScrollIntoView(const PixelRect& onPicture);
 
-  /// Paints FillColor on the persistent image from points of it outward up to pixels of the border
-  /// colour. A point outside the image or on the border paints nothing. When the memory does not
-  /// reach, nothing is painted and it gives false. Refresh shows it.
+  /// Paints FillColor on the persistent image, from the seeds outward up to pixels of the border
+  /// colour. A seed outside the image or on the border paints nothing. When memory runs out nothing
+  /// is painted and the result is false. Refresh shows the result.
   bool FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
   void ChildRemoved(const Control& child) override;
 
  private:
-  /// What there is to see.
+  /// The picture, or the blank image where there is none.
   const Raster& DisplayedImage() const;
-  /// What the image is anew where it is not the picture itself.
+  /// A new image from the picture; nothing where the picture itself can be the image.
   std::optional<Raster> Padded() const;
 
   /// The image where it is not the picture itself: larger, or painted on.
   std::optional<Raster> own_ = Raster{};
-  /// What the image was made for: the values to restore when an assignment fails.
+  /// The values that the image was made from; they are restored when an assignment fails.
   forms::Picture imagePicture_;
   float imageWidth_ = 0;
   float imageHeight_ = 0;

@@ -10,14 +10,14 @@ namespace terramark::forms {
 
 namespace {
 
-/// Width of the strip along the edges of a box in which a drag scrolls, and the step, in pixels.
-/// Outside the box a step is the longer, by a part of the distance, and held to the longest.
+/// The width of the strip along the edges of a box in which a drag scrolls, and the scroll step, in
+/// pixels. Outside the box the step grows with the distance, up to MaxScrollStep.
 constexpr int AutoScrollMargin = 24;
 constexpr int ScrollStep = 8;
 constexpr int AutoScrollDivisor = 4;
 constexpr int MaxScrollStep = 96;
 
-/// A picture box's own scroll bars are no part of what a pointer can reach.
+/// The pointer does not reach the controls below a picture box's own scroll bars.
 bool OnScrollBar(const PictureBox& box, PixelPoint inBox) {
   return inBox.X >= box.ViewWidth() || inBox.Y >= box.ViewHeight();
 }
@@ -25,7 +25,7 @@ bool OnScrollBar(const PictureBox& box, PixelPoint inBox) {
 /// Whether a disabled control stops the pointer or lets it through.
 enum class Disabled { Stops, LetsThrough };
 
-/// Inside is in pixels of the container's inside.
+/// The place is in pixels of the container's inside.
 Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
   const auto& stack = container.Children();
   for (std::size_t left = stack.size(); left > 0; --left) {
@@ -121,7 +121,7 @@ void PointerRouter::ReleaseOn(Control& target, PixelPoint inside, std::int16_t b
     target.MouseUp.Raise(event);
     return;
   }
-  // A button lets a release outside itself be a change of mind.
+  // A release outside the button cancels the press.
   const PixelRect bounds = PixelBounds(target);
   if (!target.Enabled || !PixelRect{0, 0, bounds.Width, bounds.Height}.Contains(inside)) return;
   target.MouseUp.Raise(event);
@@ -132,7 +132,7 @@ void PointerRouter::SimulateClick(Control& control, std::int16_t shift, std::int
   if (!control.Enabled || !control.Container()->Enabled || buttonsDown_ != 0) return;
   CancelKeyDrag();
   const PixelPoint inside = CentreInside(control);
-  // Down for as long as the press lasts, so that it may begin a drag.
+  // Down during the press only, so that the press may begin a drag.
   buttonsDown_ = button;
   control.MouseDown.Raise(EventFor(control, inside, button, shift));
   buttonsDown_ = 0;
@@ -168,7 +168,7 @@ void PointerRouter::MoveKeyDrag(int across, int down) {
 void PointerRouter::DropKeyDrag() {
   if (!keyDrag_) return;
   const ScalePoint travel = PixelsToContainerScale(*dragged_, carried_.X, carried_.Y);
-  // Not in whole pixels: a place between two keeps its fraction.
+  // Not in whole pixels: a place keeps its fraction.
   DropOn(*dragged_->Container(), {dragged_->Left + travel.X, dragged_->Top + travel.Y});
 }
 
@@ -186,7 +186,7 @@ void PointerRouter::BeginDrag(Control& source) {
 
 void PointerRouter::CancelDrag() {
   if (dragged_ == nullptr) return;
-  // What is still down reaches nobody when it comes up.
+  // The release of a button that is still down reaches nobody.
   dragged_ = nullptr;
   captured_ = nullptr;
   keyDrag_ = false;

@@ -1,6 +1,5 @@
-// Routes the pointer over a form: which control a press, move or release reaches, who has it
-// captured, and what is dragged and dropped. What the keyboard does in the mouse's stead goes the
-// same way.
+// Routes the pointer over a form: which control a press, a move or a release reaches, which one has
+// captured it, and what is dragged and dropped. Keys that replace the mouse are routed here too.
 #pragma once
 
 #include <cstdint>
@@ -19,59 +18,59 @@ class PointerRouter {
  public:
   explicit PointerRouter(Form& form) : form_(form) {}
 
-  /// What the window feeds: the pointer in pixels of the form's inside, on it or not, one of the
-  /// buttons of MouseEvent, and the key mask. A release of a button that is not down is passed
-  /// over. The first button that goes down captures the pointer for the control under it until all
-  /// are up. A disabled control lets the pointer through to what lies under it.
+  /// Input from the window: the pointer in pixels of the form's inside, also outside the form, one
+  /// of the buttons of MouseEvent, and the key mask. The release of a button that is not down is
+  /// ignored. The first button that is pressed captures the pointer for the control under it until
+  /// all buttons are up. A disabled control lets the pointer through to the control below.
   void Press(int x, int y, std::int16_t button, std::int16_t shift);
   void Move(int x, int y, std::int16_t shift);
   void Release(int x, int y, std::int16_t button, std::int16_t shift);
-  /// A control pressed by other means than the mouse: a press and release in its middle, or in a
-  /// picture box in the middle of what is seen, whatever lies over it. Nothing happens while it or
-  /// its container is disabled, or a button of the mouse is down.
+  /// Presses and releases a control without the mouse: in its middle, or in a picture box in the
+  /// middle of the visible part, whatever is in front of it. Does nothing while the control or its
+  /// container is disabled, or a mouse button is down.
   void SimulateClick(Control& control, std::int16_t shift, std::int16_t button = LeftButton);
-  /// A move of the pointer to the middle of a control, likewise.
+  /// A move of the pointer to the middle of a control, under the same conditions.
   void SimulateHover(Control& control);
 
-  /// Takes hold of a control by other means than the mouse, with a left press on its corner; only
-  /// where that begins a drag. A press of the mouse, and another control that gets the keyboard,
-  /// put it back.
+  /// Begins a drag of a control without the mouse, with a left press on its corner, if that press
+  /// begins a drag. A press of the mouse cancels it, and so does a move of the focus to another
+  /// control.
   void BeginKeyDrag(Control& control);
-  /// Carries what is held so many pixels of its container.
+  /// Moves the dragged control by so many pixels of its container.
   void MoveKeyDrag(int across, int down);
-  /// Drops what is held on its container, whatever lies there.
+  /// Drops the dragged control on its container, whatever else is there.
   void DropKeyDrag();
-  /// Ends such a hold; the control stays where it was.
+  /// Cancels the key drag; the control stays where it was.
   void CancelKeyDrag();
-  /// Whether a control is in the air in that way, or by the mouse.
+  /// Whether a control is dragged by keys, or by the mouse.
   bool HasKeyDrag() const { return keyDrag_ && dragged_ != nullptr; }
-  /// A number of its own for each such hold; 0 while nothing is held.
+  /// A different number for each key drag; 0 while there is none.
   unsigned KeyDragNumber() const { return HasKeyDrag() ? keyDrags_ : 0; }
   bool HasMouseDrag() const { return dragged_ != nullptr && !keyDrag_; }
 
-  /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton; a drag that is
-  /// cancelled leaves them down.
+  /// The buttons that are down, a sum of LeftButton, RightButton and MiddleButton. Cancelling a
+  /// drag does not change them.
   std::int16_t ButtonsDown() const { return buttonsDown_; }
 
-  /// Where the pointer was last, as it was fed.
+  /// The last place of the pointer.
   PixelPoint Position() const { return at_; }
 
   /// The control that a press at this place would reach; the form itself where there is none.
   Control& ControlAt(int x, int y) const;
-  /// The control that a move at this place describes, enabled or not.
+  /// The control that a move at this place reaches, enabled or not.
   Control& HoveredControlAt(int x, int y) const;
 
-  /// From now on the release drops the control instead of reaching it as MouseUp. Without a button
-  /// down nothing begins.
+  /// From now on the release drops the control, instead of reaching it as MouseUp. Does nothing
+  /// without a button down.
   void BeginDrag(Control& source);
   /// Ends a drag; the source stays where it was and nothing is dropped.
   void CancelDrag();
-  /// Once every 20 ms or so while a drag lasts: scrolls the picture box when the pointer is near
-  /// the edge of what the box shows, or outside, and then the faster the farther.
+  /// To be called about every 20 ms during a drag. Scrolls the picture box when the pointer is near
+  /// the edge of its visible part, or outside; the farther outside, the faster.
   void AutoScroll();
 
-  /// The control in the air, where its top left corner is, and where it is held, both in its
-  /// container's pixels.
+  /// The dragged control, the place of its top left corner, and the point where it is held, both in
+  /// pixels of its container.
   struct ActiveDrag {
     const Control& Source;
     PixelPoint TopLeft;
@@ -79,7 +78,7 @@ class PointerRouter {
   };
   std::optional<ActiveDrag> CurrentDrag() const;
 
-  /// A control is about to go.
+  /// A control is about to be destroyed.
   void Forget(const Control& control);
 
  private:
@@ -90,14 +89,13 @@ class PointerRouter {
   Form& form_;
   Control* captured_ = nullptr;
   Control* dragged_ = nullptr;
-  /// Where in the dragged control the pointer took hold, in pixels.
+  /// The point of the dragged control where the drag began, in pixels.
   PixelPoint hotSpot_;
   PixelPoint at_;
   std::int16_t buttonsDown_ = 0;
   std::int16_t lastButton_ = 0;
   std::int16_t dragButton_ = 0;
-  /// Whether what is dragged is held without the mouse, how many such holds there have been, and
-  /// how far it has been carried.
+  /// Whether the drag is one by keys; the number of key drags so far; how far this one has moved.
   bool keyDrag_ = false;
   unsigned keyDrags_ = 0;
   PixelPoint carried_;

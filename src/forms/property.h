@@ -1,4 +1,5 @@
-// A property of a control: reads as its value and tells its owner when an assignment changes it.
+// A property of a control. It reads as its value, and notifies its owner when an assignment changes
+// it.
 #pragma once
 
 #include <utility>
@@ -27,7 +28,7 @@ enum class PropertyId {
   BorderStyle,
 };
 
-/// Whoever holds properties; PropertyChanged runs before the assignment returns.
+/// The owner of properties. PropertyChanged runs before the assignment returns.
 class PropertyOwner {
  public:
   virtual void PropertyChanged(PropertyId id) = 0;
@@ -36,7 +37,7 @@ class PropertyOwner {
   ~PropertyOwner() = default;
 };
 
-/// Which assignments count as a change.
+/// Which assignments notify the owner.
 enum class NotifyOn { Changes, EveryAssignment };
 
 template <typename T, NotifyOn When = NotifyOn::Changes>
@@ -47,8 +48,8 @@ class Property {
   Property(const Property&) = delete;
   ~Property() = default;
 
-  /// An assignment of the value that the property has already notifies nobody, unless every
-  /// assignment does.
+  /// Assigning the value that the property already has notifies nobody, unless every assignment
+  /// does.
   Property& operator=(T value) {
     if (When == NotifyOn::Changes && value == value_) return *this;
     value_ = std::move(value);
@@ -57,7 +58,7 @@ class Property {
   }
   Property& operator=(const Property& other) { return *this = T(other.value_); }
 
-  /// Puts a value back, and notifies nobody: for an owner that could not carry an assignment out.
+  /// Sets a value without a notification, for an owner that could not carry out an assignment.
   void Restore(T value) { value_ = std::move(value); }
 
   operator const T&() const { return value_; }

@@ -1,4 +1,4 @@
-// A picture in memory: what LoadPicture gives and what a picture box shows and is painted on.
+// A picture in memory: LoadPicture returns one, and a picture box shows one and is painted on.
 #pragma once
 
 #include <cstddef>
@@ -25,16 +25,16 @@ struct Raster {
   }
 };
 
-/// The pixel of a colour value; a colour of the theme that a picture cannot know is white.
+/// The pixel of a colour; white for a colour of the screen's theme, which a picture cannot know.
 inline std::uint32_t PixelOf(Color color) {
   if ((color & 0x80000000U) != 0) return 0xFFFFFFFF;
   return 0xFF000000U | (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU);
 }
 
-/// A loaded picture, shared and never written to; null stands for none.
+/// A loaded picture, shared and never changed; null for none.
 using Picture = std::shared_ptr<const Raster>;
 
-/// A picture, never null, or why it cannot be read: words that stand behind a colon.
+/// A picture, never null, or the reason why it cannot be read: a text to stand after a colon.
 using LoadedPicture = tl::expected<Picture, std::string>;
 
 }  // namespace terramark::forms
