@@ -36,7 +36,7 @@ void MoveDragBy(Form1& form, int across, int down) {
   form.Picture1.ScrollIntoView({flight->TopLeft.X, flight->TopLeft.Y, size.Width, size.Height});
 }
 
-/// However far outside the picture it was.
+/// Also when it is far outside the picture.
 void MoveDragIntoView(Form1& form) {
   const auto flight = form.Pointer.CurrentDrag();
   const forms::PixelPoint way =
@@ -89,7 +89,7 @@ bool HandleScrollKey(Form1& form, const forms::KeyEvent& event) {
   return true;
 }
 
-/// A press with the mouse on the marker or the backdrop that a key stands for.
+/// The control on which a key simulates a press of the mouse.
 enum class PressTarget { Marker, Backdrop };
 struct PressRow {
   std::int16_t Key;
@@ -112,7 +112,7 @@ bool HandlePressKey(Form1& form, const forms::KeyEvent& event) {
     const bool onMarker = row.Target == PressTarget::Marker;
     forms::Control* const target = onMarker ? MarkerAtCursor(form) : &form.Picture1;
     if (target == nullptr || event.Repeat) return true;
-    // The map may have been scrolled away from it.
+    // The map may have been scrolled since, so that the marker is not visible.
     if (onMarker) ScrollMarkerIntoView(form, *target);
     form.Pointer.SimulateClick(*target, row.Shift, row.Button);
     return true;
@@ -140,7 +140,8 @@ void Picture1_KeyDown(Form1& form, forms::KeyEvent& event) {
   if (HandleScrollKey(form, event)) {
     event.Handled = true;
   } else if (form.Pointer.HasKeyDrag()) {
-    // Escape has ended the hold by now; what else a key does, it does not do meanwhile.
+    // Escape has been handled before, by cancelling the drag. During a drag keys have no other
+    // meaning.
     HandleDragKeys(form, event);
     event.Handled = true;
   } else {

@@ -1,5 +1,5 @@
-// The keyboard on the map: walking over the markers, pressing them, carrying one, scrolling. All
-// but the walk and the scrolling goes by way of the pointer router to the mouse's handlers.
+// The keyboard on the map: walking over the markers, pressing them, dragging one, scrolling.
+// Presses and drags go through the pointer router to the handlers of the mouse.
 #pragma once
 
 #include "forms/events.h"
@@ -8,11 +8,12 @@ namespace terramark {
 
 struct Form1;
 
-/// The help bar describes the marker that has the ring, and stays as it is where none is seen.
+/// Describes the marker at the cursor in the help bar, which is unchanged where no marker is
+/// visible.
 void Picture1_GotFocus(Form1& form);
 
-/// Takes the keys that mean something on the map; all others, and the arrows up and down while no
-/// marker is held, go on to whom they were meant for.
+/// Handles the keys that have a meaning on the map. All other keys go on to the next handler, as do
+/// the up and down arrows while no marker is dragged.
 void Picture1_KeyDown(Form1& form, forms::KeyEvent& event);
 
 }  // namespace terramark

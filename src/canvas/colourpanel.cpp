@@ -11,7 +11,7 @@ namespace terramark {
 
 namespace {
 
-/// A component that a file brought from outside the range stands at the nearer end of its bar.
+/// A component from a file that is out of range sets its bar to the nearer end.
 void LoadBars(Form1& form, const Components& rgb) {
   form.SliderLock = Form1::LockOn;
   form.ColBar.ForEach([&](forms::VScrollBar& bar) {
@@ -42,7 +42,8 @@ void ColourRegion(Form1& form, std::int16_t region, const Components& rgb) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     if (form.AreaRegion(i) != region) continue;
     CopyRegionColour(form.ArmyAt(i), *marker);
-    // In here on purpose: the name of a Region without Areas keeps its colour.
+    // Inside the loop over the Areas on purpose: for a Region without Areas the name keeps its
+    // colour.
     form.EditText.ForeColor = form.SliderColour;
   }
 }

@@ -23,7 +23,8 @@ void LoadMpa_MouseUp(Form1& form) {
     return;
   }
   form.LayoutFile = name;
-  // The picture may be named by its bare name, and then lies where the layout does.
+  // The layout may have the picture's name without a folder: then the picture is in the layout's
+  // folder.
   form.Host.EnterFolderOf(name);
   ClearMap(form);
   ReadMapFile(form, *bytes);

@@ -5,9 +5,9 @@ namespace terramark {
 
 struct Form1;
 
-/// The button "Load A .WMF Picture". The picture's folder becomes the current one, so that the bare
-/// name, which is taken where a layout cannot hold the full one, finds it. A picture that cannot be
-/// read, or whose bare name does not fit either, changes nothing and is said in red.
+/// The button "Load A .WMF Picture". The picture's folder becomes the current one, so that its name
+/// without a folder finds it; that is used where a layout cannot hold the full path. A picture that
+/// cannot be read, or whose name does not fit either, changes nothing and is reported in red.
 void LoadMap_MouseUp(Form1& form);
 
 }  // namespace terramark

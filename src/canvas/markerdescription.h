@@ -1,4 +1,4 @@
-// What a marker is called: by the help bar, and by assistive tools.
+// The description of a marker, for the help bar and for assistive tools.
 #pragma once
 
 #include <cstdint>
@@ -8,9 +8,9 @@
 
 namespace terramark {
 
-/// As in " 7: Ash in Region North"; the Area's number must lie in the tables.
+/// For example " 7: Ash in Region North". The Area's number must be in the tables.
 std::string AreaDescription(const Tables& tables, std::int16_t area);
-/// As in " 2:  North"; likewise.
+/// For example " 2:  North". The Region's number must be in the tables.
 std::string RegionDescription(const Tables& tables, std::int16_t region);
 
 }  // namespace terramark

@@ -12,8 +12,8 @@ namespace terramark {
 
 namespace {
 
-/// Twips inside a marker to whole pixels, a tie to the even one, less pixels taken off before the
-/// rounding.
+/// Converts twips inside a marker to whole pixels, a tie to the even one. `less` pixels are
+/// subtracted before rounding.
 std::int16_t WholePixels(float twips, std::int16_t twipsPerPixel, std::int16_t less = 0) {
   return WholeNumber(twips / static_cast<float>(twipsPerPixel) - static_cast<float>(less))
       .value_or(0);
@@ -31,12 +31,12 @@ void TurnCorner(Form1& form, std::int16_t area) {
     SetCorner(form, area, NextCorner(old));
     return;
   }
-  // A code that names no corner shows none until the next turn.
+  // A code that is no corner has no effect until the next turn.
   form.AreaCorner(area) = NextCorner(old);
   form.ArmyAt(area).Caption = MarkerCaption(area, old);
 }
 
-/// Moves a marker that was dropped on itself by its travel; false when it has not travelled.
+/// Moves a marker that was dropped on itself by the distance of the drag; false when that is 0.
 bool MoveByTravel(Form1& form, forms::Label& marker, const forms::DropEvent& event) {
   const std::int16_t dx = WholePixels(event.X, form.TwipsX, form.DragOffX);
   const std::int16_t dy = WholePixels(event.Y, form.TwipsY, form.DragOffY);

@@ -1,4 +1,5 @@
-// The mouse on the markers: turning the fill corner, selecting, dragging, hover texts.
+// The mouse on the markers: turning the fill corner, selecting, dragging, and the descriptions in
+// the help bar.
 #pragma once
 
 #include "forms/events.h"
@@ -7,24 +8,25 @@ namespace terramark {
 
 struct Form1;
 
-/// The right button turns the fill corner clockwise; any other takes hold of the marker for a drag,
+/// The right button turns the fill corner clockwise. Any other button begins a drag of the marker,
 /// unless the Shift key alone is down.
 void ArmyAt_MouseDown(Form1& form, const forms::MouseEvent& event);
-/// The release of a press that began no drag: flips the mark, or selects when no key is
-/// down by then.
+/// The release of a press that began no drag: with Shift it toggles the mark; with no key down it
+/// selects the Area.
 void ArmyAt_MouseUp(Form1& form, const forms::MouseEvent& event);
 void ArmyAt_MouseMove(Form1& form, const forms::MouseEvent& event);
-/// A drop on the dragged marker itself moves it by the travel, and without travel selects it. A
-/// drop of another marker leaves that where it was.
+/// A drop on the dragged marker itself moves it by the distance of the drag, or selects it when
+/// that is 0. A drop of another marker leaves that where it was.
 void ArmyAt_DragDrop(Form1& form, const forms::DropEvent& event);
 
-/// The same for Region markers, which know no fill corner and no single marks.
+/// The same for Region markers, which have no fill corner and no marks of their own.
 void Continent_MouseDown(Form1& form, const forms::MouseEvent& event);
 void Continent_MouseUp(Form1& form, const forms::MouseEvent& event);
 void Continent_MouseMove(Form1& form, const forms::MouseEvent& event);
 void Continent_DragDrop(Form1& form, const forms::DropEvent& event);
 
-/// A drop on the backdrop lands the grabbed point under the pointer. No place is clamped.
+/// A drop on the backdrop moves the marker so that the point where it is held is under the pointer.
+/// The place is not limited.
 void Picture1_DragDrop(Form1& form, const forms::DropEvent& event);
 
 }  // namespace terramark

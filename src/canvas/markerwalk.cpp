@@ -9,7 +9,7 @@ namespace terramark {
 
 namespace {
 
-/// The templates, which are never seen, are none of them.
+/// Without the templates, which are never visible.
 std::vector<forms::Label*> VisibleMarkers(Form1& form) {
   std::vector<forms::Label*> markers;
   const auto add = [&markers](forms::Label& marker) {
@@ -27,7 +27,7 @@ forms::Label* MarkerFrom(Form1& form, const forms::Control* marker, int steps) {
   if (markers.empty()) return nullptr;
   const int count = static_cast<int>(markers.size());
   const auto found = std::ranges::find(markers, marker);
-  // Backwards from behind the last, forwards from before the first.
+  // Backwards from after the last marker, forwards from before the first.
   const int outside = steps < 0 ? count : -1;
   const int at = found != markers.end() ? static_cast<int>(found - markers.begin()) : outside;
   return markers[static_cast<std::size_t>(((at + steps) % count + count) % count)];

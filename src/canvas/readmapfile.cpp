@@ -14,8 +14,8 @@ namespace {
 constexpr char BoxTitle[] = "TMRK 1.1";
 constexpr int ExitFailed = 1;
 
-/// False when the file fails; a picture that is not there is no failure of the file. What has been
-/// read is shown step by step.
+/// False when the file has a fault; a missing picture is none. Shows what has been read step by
+/// step.
 bool ReadAndShow(Form1& form, LayoutReader& file) {
   const LayoutResult head = file.ReadHead();
   ShowHead(form, file.Layout());
@@ -43,7 +43,7 @@ bool ReadAndShow(Form1& form, LayoutReader& file) {
 void ReadMapFile(Form1& form, std::string_view bytes) {
   LayoutReader file(bytes, form);
   if (ReadAndShow(form, file)) return;
-  // The box names the file alone; terramark-check tells the line and what is wrong there.
+  // The box only names the file; terramark-check reports the line and the fault.
   form.Host.MsgBox("Error reading Map Layout File " + form.LayoutFile, forms::Buttons::Ok,
                    BoxTitle);
   form.Host.End(ExitFailed);

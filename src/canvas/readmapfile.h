@@ -7,10 +7,10 @@ namespace terramark {
 
 struct Form1;
 
-/// Fills the tables, makes and places the markers and shows the picture. A picture that is not
-/// there is told in a box, and the rest of the file is not read then. Any other failure is told in
-/// a box and ends the process. The document must be empty, as ClearMap leaves it, and LayoutFile
-/// name the file.
+/// Fills the tables, makes and places the markers and shows the picture. A missing picture is
+/// reported in a box, and the rest of the file is not read. Any other fault is reported in a box
+/// and ends the process. The document must be empty, as after ClearMap, and LayoutFile must be the
+/// file's name.
 void ReadMapFile(Form1& form, std::string_view bytes);
 
 }  // namespace terramark

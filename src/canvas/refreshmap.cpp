@@ -13,7 +13,7 @@ ShowResult RefreshMap(Form1& form) {
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     forms::Label& marker = form.Continent(r);
     marker.Visible = true;
-    // The background stays, so that the current Region is seen to be it.
+    // The background stays, so that the current Region remains visible as such.
     marker.ForeColor = OwnColour(marker);
   }
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {

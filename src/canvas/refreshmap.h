@@ -1,4 +1,4 @@
-// The canvas reset to the picture.
+// Resets the canvas to the picture.
 #pragma once
 
 #include "shell/backdrop.h"
@@ -7,10 +7,10 @@ namespace terramark {
 
 struct Form1;
 
-/// Reads the picture anew, which takes every flood with it, and makes the Area markers plain. The
-/// selection's numbers, the inspector and the colour panel stay. Where the picture cannot be
-/// read the box keeps what it shows and a red text says so, which is for the caller to say again
-/// should it blank the bar afterwards.
+/// Reads the picture again, which removes every flood, and makes the Area markers plain. The
+/// current numbers, the inspector and the colour panel stay. If the picture cannot be read the box
+/// keeps its content, and a red message says so; a caller that blanks the bar afterwards must
+/// report it again.
 ShowResult RefreshMap(Form1& form);
 
 /// The button "Refresh map".

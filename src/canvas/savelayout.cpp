@@ -19,7 +19,7 @@ void ShowWriteFault(Form1& form, const std::string& name, const files::SafeFile&
                     const files::Fault& why) {
   std::string rest = ": " + why.Description();
   if (file.Damaged()) rest += "; the old file is damaged";
-  // The name alone: it is plain in any encoding, which the folder's need not be.
+  // The file's name alone: it has only ASCII characters, which the folder may not.
   if (!file.Kept().empty()) {
     rest += ", and the map is kept beside it in " + file.Kept().filename().string();
   }
@@ -43,11 +43,12 @@ void SaveCFG_MouseUp(Form1& form) {
   }
   const std::string header = form.Text1.Text;
   const LayoutWritten written = WriteMapFile(form);
-  // Clearing the selection blanked the bar; what stopped the writing says so after that.
+  // Clearing the selection has blanked the bar. A message about a stopped writing came after that,
+  // and is kept.
   if (written.StoppedAtArea == 0 && !shown) {
     ShowPictureFault(form, form.PictureFile, shown.error());
   }
-  // A text that was stopped in mid-file takes its place like any other.
+  // A text that was stopped in the middle replaces the file like any other.
   if (const auto replaced = file.Replace(written.Text); !replaced) {
     form.Text1.Text = header;
     ShowWriteFault(form, name, file, replaced.error());

@@ -19,7 +19,7 @@ void MakeMarkers(Form1& form) {
   }
 }
 
-/// From pixels of the saving screen to pixels of this one.
+/// The ratio of the pixels of the screen where the layout was saved to those of this one.
 struct TwipRatio {
   float X;
   float Y;

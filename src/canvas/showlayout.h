@@ -1,4 +1,4 @@
-// A layout that has been read, on its way into the form.
+// Transfers a layout that has been read to the form.
 #pragma once
 
 #include "document/maplayout.h"
@@ -8,16 +8,16 @@ namespace terramark {
 
 struct Form1;
 
-/// Takes over the tables, and shows the header. Makes the markers, none of which can be seen yet.
-/// The document must be empty, as ClearMap leaves it.
+/// Copies the tables, shows the header, and makes the markers, which are still hidden. The document
+/// must be empty, as after ClearMap.
 void ShowHead(Form1& form, const MapLayout& layout);
 
-/// Takes over the tables, names and paints the markers that have a line in the layout, and places
-/// them, in the pixels of this screen. ShowHead has made the markers.
+/// Copies the tables. Names and colours the markers that have a line in the layout, and places
+/// them, in pixels of this screen. ShowHead has made the markers.
 void PlaceMarkers(Form1& form, const MapLayout& layout);
 
-/// Shows the picture and, over it, the Region markers and then the Area markers in rising order.
-/// Where the picture cannot be read, the markers stay hidden.
+/// Shows the picture and on it the Region markers and then the Area markers, by their numbers. If
+/// the picture cannot be read the markers stay hidden.
 ShowResult ShowMap(Form1& form);
 
 }  // namespace terramark

@@ -22,7 +22,7 @@ SavingTime SaveTime(Form1& form) {
           hh_mm_ss(hours(now.Hour) + minutes(now.Minute) + seconds(now.Second))};
 }
 
-/// In the order of the file, in which the lots have always been drawn.
+/// In the order of the file: the random numbers have always been drawn in this order.
 void PickMissingSymbols(Form1& form, MapLayout& map) {
   for (std::int16_t r = 1; r <= map.RegionCount; ++r) {
     for (std::int16_t i = 1; i <= map.AreaCount; ++i) {

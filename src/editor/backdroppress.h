@@ -7,8 +7,8 @@ namespace terramark {
 
 struct Form1;
 
-/// Acts at the release, with any button: Ctrl alone adds an Area whose fill point is the point
-/// pressed; without a key the canvas is refreshed and the selection cleared.
+/// Acts when any button is released. With Ctrl alone it adds an Area whose fill point is under the
+/// pointer. With no key it refreshes the canvas and clears the selection.
 void Picture1_MouseUp(Form1& form, const forms::MouseEvent& event);
 
 }  // namespace terramark

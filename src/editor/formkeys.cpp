@@ -7,7 +7,7 @@ namespace terramark {
 
 namespace {
 
-/// What has no topic of its own has that of the frame around it.
+/// A control without a topic has that of the frame that contains it.
 void ShowHelpOnActive(Form1& form) {
   const forms::Control* told = form.ActiveControl();
   while (told != nullptr && told->HelpTopic == 0) told = told->Container();
@@ -21,11 +21,11 @@ void ToggleMapFocus(Form1& form) {
     return;
   }
   if (form.FocusBeforeMap != nullptr) form.Focus(form.FocusBeforeMap);
-  // It may take no keys by now.
+  // That control may not accept the focus any more.
   if (form.ActiveControl() == &form.Picture1) form.Focus(&form.EditText);
 }
 
-/// Whether it was a key for the zoom.
+/// Returns whether the key was one for the zoom.
 bool Zoomed(Form1& form, std::int16_t key) {
   forms::PictureBox& box = form.Picture1;
   switch (key) {
@@ -46,7 +46,7 @@ bool Zoomed(Form1& form, std::int16_t key) {
 }  // namespace
 
 void Form_KeyDown(Form1& form, forms::KeyEvent& event) {
-  // On many keyboards plus takes the Shift key.
+  // On many keyboards plus needs the Shift key.
   if ((event.Shift & ~forms::ShiftKey) == forms::CtrlKey) {
     event.Handled = Zoomed(form, event.KeyCode);
     return;

@@ -1,4 +1,4 @@
-// The keys that the form hears before the control that has the keyboard.
+// The keys that the form receives before the control with the focus.
 #pragma once
 
 #include "forms/events.h"
@@ -7,7 +7,7 @@ namespace terramark {
 
 struct Form1;
 
-/// F1: the help on what has the keyboard. F6: to the map and back. With Ctrl, plus, minus and 0:
+/// F1: help about the control with the focus. F6: to the map and back. Ctrl with plus, minus and 0:
 /// the zoom.
 void Form_KeyDown(Form1& form, forms::KeyEvent& event);
 

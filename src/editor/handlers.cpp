@@ -25,7 +25,7 @@ void ConnectInspector(Form1& form) {
   form.Armypc.KeyPress = [&form](const auto&) { Armypc_KeyPress(form); };
 }
 
-/// On the templates; the markers loaded from them take the slots over.
+/// Set on the templates; the markers that are loaded from them copy the slots.
 void ConnectMarkers(Form1& form) {
   forms::Label& area = form.ArmyAt(0);
   area.MouseDown = [&form](const auto& event) { ArmyAt_MouseDown(form, event); };

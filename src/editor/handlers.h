@@ -1,4 +1,4 @@
-// Joins the handlers to the events of the controls.
+// Connects the handlers to the events of the controls.
 #pragma once
 
 namespace terramark {

@@ -8,7 +8,7 @@ namespace terramark {
 
 namespace {
 
-/// Of the labels the two bars alone: the others are words over what they name.
+/// Of the labels only the two bars: the others are captions of other controls.
 bool BlanksHelpbar(const Form1& form, const forms::Control& control) {
   switch (control.Kind()) {
     case forms::ControlKind::CommandButton:
@@ -25,7 +25,7 @@ bool BlanksHelpbar(const Form1& form, const forms::Control& control) {
   return false;
 }
 
-/// Blank is what their Tags say, since none has been given one.
+/// The text is their Tag, which is always empty.
 void ConnectBlank(Form1& form, forms::Control& control) {
   if (!BlanksHelpbar(form, control)) return;
   control.MouseMove = [&form](const forms::MouseEvent&) { ShowHelpbar(form, ""); };

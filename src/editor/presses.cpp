@@ -24,18 +24,18 @@ namespace {
 
 using Handler = void (*)(Form1&, const forms::MouseEvent&);
 
-/// A command that does not look at the event.
+/// Adapts a command that does not use the event.
 template <void (*Command)(Form1&)>
 void IgnoreEvent(Form1& form, const forms::MouseEvent&) {
   Command(form);
 }
 
-/// The button that opens help without the Shift key.
+/// This button opens help without the Shift key.
 void TMHelp_MouseUp(Form1& form) {
   ShowHelpTopic(form, form.TMHelp.HelpTopic);
 }
 
-/// Exit and the colours act on their clicks instead.
+/// Exit and the colours have handlers for Click instead.
 struct CommandRow {
   Finder<Form1, forms::CommandButton> Locate;
   Handler Command;

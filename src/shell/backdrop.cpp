@@ -11,7 +11,7 @@ namespace terramark {
 
 namespace {
 
-/// Takes what was said of an earlier picture off the bar.
+/// Clears the message bar if it still reports an earlier picture.
 void ClearPictureFault(Form1& form) {
   if (form.PictureFaultShown) ShowMessage(form, "", ClrGreen);
 }

@@ -21,12 +21,12 @@ void ShowMessage(Form1& form, const std::string& text, forms::Color colour) {
   if (form.Message.Alert) form.Message.ForeColor = ClrWhite;
   form.Message.Caption = text;
   form.PictureFaultShown = false;
-  // Where the same is said once more no property changes, and yet it is to be heard.
+  // A repeated message changes no property, but must be announced again.
   form.Message.Refresh();
 }
 
 void ShowHelpbar(Form1& form, const std::string& text) {
-  // Runs on every move of the mouse; the property tells nobody of a text that stands already.
+  // Called on every move of the mouse; assigning the same text notifies nobody.
   form.Helpbar.Caption = text;
 }
 

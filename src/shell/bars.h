@@ -14,17 +14,17 @@ struct Form1;
 /// The empty text on ClrGreen blanks the bar.
 void ShowMessage(Form1& form, const std::string& text, forms::Color colour);
 
-/// Describes in the help bar what lies under the pointer.
+/// Describes in the help bar what is under the pointer.
 void ShowHelpbar(Form1& form, const std::string& text);
 
-/// Brings the Countx labels into line with AreaCount and RegionCount. A label that reads as its
-/// count already is left alone, so an empty one stays empty at 0.
+/// Updates the Countx labels from AreaCount and RegionCount. A label whose text already reads as
+/// its count is unchanged, so an empty one stays empty at 0.
 void UpdateCounts(Form1& form);
-/// The same for one of them.
+/// Updates one of them.
 void UpdateAreaCount(Form1& form);
 void UpdateRegionCount(Form1& form);
 
-/// Opens the help viewer on a topic of the help file. A missing viewer or topic is not reported.
+/// Opens the help viewer on a topic of the help. A missing viewer or topic is not reported.
 void ShowHelpTopic(Form1& form, std::int16_t topic);
 
 }  // namespace terramark

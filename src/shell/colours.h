@@ -16,7 +16,7 @@ inline constexpr forms::Color ClrGrey = 0x00808080;   // background of a marked 
 inline constexpr forms::Color ClrBlack = 0x00000000;  // background of a plain marker
 inline constexpr forms::Color ClrWhite = 0x00FFFFFF;  // a marker without a Region's colour
 
-/// The colour of three components, each held to 0 to 255.
+/// The colour of three components, each limited to 0 to 255.
 inline forms::Color ColourOf(const Components& rgb) {
   const auto part = [](std::int16_t component) {
     return static_cast<forms::Color>(std::clamp<std::int16_t>(component, 0, 255));

@@ -1,5 +1,5 @@
 // The colour panel: the buttons of its colours, and what its scroll bars edit, which RGBFrame.Tag
-// holds as a text.
+// stores as a text.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@ namespace terramark {
 
 struct Form1;
 
-/// The PlColor button of the current Region; those before it are the rows of PlayerRGB.
+/// The PlColor button of the current Region; the buttons before it are the rows of PlayerRGB.
 inline constexpr std::int16_t RegionButton = PlayerColours;
 
 struct ColourTarget {
@@ -20,14 +20,14 @@ struct ColourTarget {
   std::int16_t Number = 0;  // a row of PlayerRGB, or a Region
 };
 
-/// The target as the Tag tells it: "-1" or nothing for none, "0" to "3" for a row of PlayerRGB, "R"
-/// and a number for a Region.
+/// The target in the Tag: "-1" or nothing for none, "0" to "3" for a row of PlayerRGB, "R" and a
+/// number for a Region.
 ColourTarget TargetOf(const Form1& form);
 
 /// Gives the buttons of PlayerRGB their colours.
 void ShowPlayerColours(Form1& form);
 
-/// Lets the bars move for a target, and holds them still for none.
+/// Enables the bars for a target, and disables them for none.
 void SetColourTarget(Form1& form, ColourTarget target);
 
 }  // namespace terramark

@@ -1,4 +1,4 @@
-// The control table: what stands on a form, where and with which words.
+// The control table: which controls a form has, where, and with which texts.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +15,8 @@ namespace terramark {
 template <typename FormType, typename Kind = forms::Control>
 using Finder = Kind& (*)(FormType&);
 
-/// A row of a form's control table; the rows stand in tab order. Left, Top, Width and Height are
-/// twips from the inside of the container.
+/// A row of a form's control table; the rows are in tab order. Left, Top, Width and Height are
+/// twips in the inside of the container.
 template <typename FormType>
 struct ControlRow {
   Finder<FormType> Locate;
@@ -28,24 +28,25 @@ struct ControlRow {
   float Width;
   float Height;
   const char* ToolTipText = "";
-  /// As in Control::AccessibleName; a button goes by its caption here, whatever that becomes later.
+  /// As Control::AccessibleName. For a button it is the caption in this row, even if the caption
+  /// changes later.
   const char* AccessibleName = "";
 };
 
-/// The control that a member of the form holds. In a row that takes one kind of control, a member
-/// of another kind does not compile.
+/// The control that is a member of the form. Where a row needs one kind of control, a member of
+/// another kind does not compile.
 template <auto Member, typename Kind, typename FormType>
 Kind& ControlOf(FormType& form) {
   return form.*Member;
 }
 
-/// The element of a control array, made here: for the control table alone.
+/// Creates and returns an element of a control array; for the control table only.
 template <auto Array, std::int16_t Index, typename Kind, typename FormType>
 Kind& Make(FormType& form) {
   return (form.*Array).Design(Index);
 }
 
-/// The element of a control array, which the control table has to make.
+/// The element of a control array that the control table has created.
 template <auto Array, std::int16_t Index, typename Kind, typename FormType>
 Kind& Element(FormType& form) {
   return (form.*Array)(Index);
@@ -73,7 +74,7 @@ void BuildControls(FormType& form, std::span<const ControlRow<FormType>> table) 
   for (const ControlRow<FormType>& row : table) {
     forms::Control& control = row.Locate(form);
     forms::Control& container = row.Container(form);
-    // On the form first: only there does a size in twips mean pixels.
+    // On the form first: the conversion from twips to pixels needs the form.
     form.Add(control, container);
     control.HelpTopic = row.HelpTopic;
     control.ToolTipText = row.ToolTipText;

@@ -14,24 +14,24 @@ namespace terramark {
 namespace {
 
 constexpr char Ellipsis[] = "...";
-/// Characters of a path that stand whatever else is said.
+/// So many characters of a path are always shown.
 constexpr std::size_t MinPathChars = 24;
-/// No bar shows more.
+/// The bar never shows more characters.
 constexpr std::size_t MaxPathChars = 500;
 
-/// So many characters of a path and the gap: those of the file's name first, and of the folders
-/// from both ends.
+/// Keeps so many characters of a path around an ellipsis: first those of the file's name, then
+/// those at both ends of the folders.
 std::string ElidePath(const std::string& path, std::size_t kept) {
   const std::size_t folders = path.rfind('/') + 1;  // 0 without any
   const std::size_t name = path.size() - folders;
-  // Beside a name that does not fit there is no place for them.
+  // If the name alone is too long, no folder is shown.
   const std::size_t from = kept < name ? folders : 0;
   const std::size_t slashAndName = std::min(kept, name + 1);
   const std::size_t tail = kept < name ? kept / 2 : std::max(kept / 2, slashAndName);
   return path.substr(from, kept - tail) + Ellipsis + path.substr(path.size() - tail);
 }
 
-/// As much of a path as has room in the message bar between the words around it.
+/// As much of a path as fits into the message bar between the texts around it.
 std::string ElideToFit(const Form1& form, const std::string& what, const std::string& path,
                        const std::string& rest) {
   constexpr int Borders = 2;

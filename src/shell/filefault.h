@@ -1,4 +1,4 @@
-// What cannot be done with a file, told in the message bar.
+// Reports in the message bar what cannot be done with a file.
 #pragma once
 
 #include <string>
@@ -7,9 +7,9 @@ namespace terramark {
 
 struct Form1;
 
-/// Says in red what cannot be done, the path of the file, and the rest, one behind the other. Where
-/// the bar has no room for all of it, the path is cut in its middle: the file's name and the rest
-/// stand.
+/// Shows in red what cannot be done, the path of the file, and the rest, in this order. If the bar
+/// is too narrow the path is shortened in its middle, so that the file's name and the rest stay
+/// visible.
 void ShowFileFault(Form1& form, const std::string& what, const std::string& path,
                    const std::string& rest);
 

@@ -1,4 +1,4 @@
-// Files by the names that the user and the layouts give: asking for one, and whether it is there.
+// Asking for a file's name, and whether a file exists.
 #pragma once
 
 #include <cstdint>
@@ -12,10 +12,10 @@ struct Form1;
 inline constexpr char LayoutFiles[] = "*.tml";
 inline constexpr char PictureFiles[] = "*.wmf;*.bmp";
 
-/// Asks for a file; CommonDialog1.Purpose says what for. filt is one of the patterns above. s gets
-/// the name as the dialog gave it, or the empty text when the user cancelled, which a name like
-/// filt counts as. It may show "?" for what 8-bit text lacks; CommonDialog1 then says so, and Host
-/// knows the file by it all the same.
+/// Asks for a file; CommonDialog1.Purpose says for what. `filt` is one of the patterns above. `s`
+/// receives the name from the dialog, or the empty text when the user cancelled; a name that equals
+/// `filt` counts as a cancel. The name may contain "?" for characters that 8-bit text lacks.
+/// CommonDialog1 then says so, and Host still finds the file.
 void SelectAFile(Form1& form, const std::string& filt, std::string& s);
 
 /// 1 when the path names a regular file that can be opened for reading, else 0.

@@ -50,7 +50,7 @@ constexpr LimitRow Limits[] = {
 
 }  // namespace
 
-/// The markers are numbered like the tables.
+/// The markers have the same numbers as the tables.
 static_assert(forms::ControlArray<forms::Label>::MaxElements == TableSize);
 
 Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
@@ -69,10 +69,10 @@ Form1::Form1(forms::Desktop& host) : Form(host, "Form1") {
     if (row.LabelFor != nullptr) label.LabelFor = &row.LabelFor(*this);
   }
   Message.Announcement = forms::Announcement::AtOnce;
-  // It changes with every move of the mouse.
+  // Its text changes with every move of the mouse.
   Helpbar.Announcement = forms::Announcement::OnRequest;
   Continent(0).AutoSize = true;
-  // Areas, then Regions, as the keyboard walks.
+  // Areas before Regions, as for the keyboard.
   ArmyAt(0).ListOrder = 1;
   Continent(0).ListOrder = 2;
   Picture1.TabStop = true;

@@ -16,36 +16,38 @@ struct Form1 : forms::Form, Tables {
   /// Builds the controls from the control table. Form_Load then brings the editor up.
   explicit Form1(forms::Desktop& host);
 
-  // What is current, 0 for none. A number may outlive its marker: look with Find before use.
+  // The current Area and Region, 0 for none. A number may remain after its marker is gone: use Find
+  // before the marker.
   std::int16_t CurArea = 0;
   std::int16_t CurRegion = 0;
-  // Running count of marks; raised and lowered by gestures, not derived from the markers.
+  // A running count of marks. Gestures change it; it is not derived from the markers.
   std::int16_t MarkCount = 0;
   // Path of the layout last opened or saved.
   std::string LayoutFile;
 
-  // Of the mouse on the markers (canvas/markermouse): twips per screen pixel in whole numbers, and
-  // where a drag took hold, in pixels from the marker's corner.
+  // For the mouse on the markers (canvas/markermouse): twips per screen pixel in whole numbers, and
+  // the point where a drag began, in pixels from the marker's corner.
   std::int16_t TwipsX = 0;
   std::int16_t TwipsY = 0;
   std::int16_t DragOffX = 0;
   std::int16_t DragOffY = 0;
-  // Of "Swap Territories" (commands/swapareas): the marked Areas it found, from element 1 on.
+  // For "Swap Territories" (commands/swapareas): the marked Areas that it found, from element 1.
   Table<std::int16_t> MarkedAreas;
-  // Of the armies (selection/inspector): the text of Armypc before the key now being pressed.
+  // For the armies (selection/inspector): the text of Armypc before the present key.
   std::string ArmypcLast;
-  // Of the message bar (shell/backdrop): whether it says that a picture cannot be read or named.
+  // For the message bar (shell/backdrop): whether it reports that a picture cannot be read or
+  // named.
   bool PictureFaultShown = false;
-  // Of the colour panel (canvas/colourpanel): the colour composed on the bars, and what holds them
-  // still while the panel moves them.
+  // For the colour panel (canvas/colourpanel): the colour composed by the bars, and the lock that
+  // stops them while the panel moves them.
   forms::Color SliderColour = 0;
   std::int16_t SliderLock = 0;
   static constexpr std::int16_t LockOn = 1;
   static constexpr std::int16_t LockOff = 0;
-  // Of the keys (editor/formkeys): what had the keyboard before F6 gave it to the map; null for
-  // none.
+  // For the keys (editor/formkeys): the control that had the focus before F6 moved it to the map;
+  // null for none.
   forms::Control* FocusBeforeMap = nullptr;
-  // Of the file dialog (shell/filenames).
+  // For the file dialog (shell/filenames).
   forms::CommonDialog CommonDialog1;
 
   // The controls. Their captions and accessible names are in the control table, form1controls.cpp.

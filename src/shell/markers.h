@@ -1,4 +1,4 @@
-// The markers: by number, how they look, and the colour of their own that a look covers.
+// The markers: by number, their states, and the colour that belongs to each.
 #pragma once
 
 #include <cstdint>
@@ -13,48 +13,48 @@ struct Form1;
 /// Pixels; the same for every Area's marker.
 inline constexpr float AreaMarkerWidth = 32;
 inline constexpr float AreaMarkerHeight = 16;
-/// The template's; a caption then sets its own.
+/// The height of the template; a caption sets the height of its marker.
 inline constexpr float RegionMarkerHeight = 16;
 
-/// The marker of an Area, or null when that number has none, as 0 and a number that has gone.
+/// The marker of an Area, or null for a number without a marker, such as 0.
 forms::Label* AreaMarker(Form1& form, std::int16_t area);
-/// The marker of a Region, likewise.
+/// The marker of a Region, or null likewise.
 forms::Label* RegionMarker(Form1& form, std::int16_t region);
 
-/// The marker that the keys on the map act on; null where none has the ring, or it is hidden.
+/// The marker that the keys on the map act on; null where there is none, or it is hidden.
 forms::Control* MarkerAtCursor(Form1& form);
 
-/// Scrolls a marker into view, with some ground around it; not to one that is hidden.
+/// Scrolls a marker into view, with a margin around it; a hidden marker is ignored.
 void ScrollMarkerIntoView(Form1& form, const forms::Control& marker);
 
-/// What is selected lives in the looks of the markers and nowhere else.
+/// The selection is stored in the colours of the markers, and nowhere else.
 enum class MarkerState {
   Plain,    // its own colour on ClrBlack
   Current,  // ClrBlack on ClrWhite
   Marked,   // ClrWhite on ClrGrey
 };
 
-/// By the background alone: a marker may keep that of a look under its own colour.
+/// From the background alone: a marker may have the background of a state and its own text colour.
 MarkerState MarkerStateOf(const forms::Label& marker);
 void Show(forms::Label& marker, MarkerState look);
 
-/// The marker's own colour, which its Tag keeps as decimal text; black for a Tag without a number.
+/// The marker's own colour, which its Tag stores as decimal text; black for a Tag without a number.
 forms::Color OwnColour(const forms::Label& marker);
 
-/// How a Tag's text begins. Both read as the same number.
+/// The first character of a Tag's text. Both forms read as the same number.
 enum class TagForm { WithBlank, WithoutBlank };
 
-/// Gives a marker a colour of its own, as text colour and in the Tag. The background stays.
+/// Gives a marker a colour of its own: its text colour and its Tag. The background stays.
 void SetOwnColour(forms::Label& marker, forms::Color colour, TagForm text);
 
-/// Gives a marker a colour of its own and the plain look.
+/// Gives a marker a colour of its own, and the plain state.
 void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagForm::WithBlank);
 
-/// Gives an Area's marker the own colour of its Region's, Tag and all. The background stays.
+/// Gives an Area's marker the colour and the Tag of its Region's marker. The background stays.
 void CopyRegionColour(forms::Label& area, const forms::Label& region);
 
-/// Makes a corner of an Area's marker its fill point, and shows it in the caption. The marker
-/// must exist.
+/// Makes a corner of an Area's marker the fill point, and shows it in the caption. The marker must
+/// exist.
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner);
 
 }  // namespace terramark

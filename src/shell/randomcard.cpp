@@ -9,7 +9,7 @@ namespace terramark {
 
 char RandomCardSymbol(Form1& form) {
   form.Host.Randomize(form.Host.Timer());
-  // 1 to 4, a tie going to the even number; a 4 counts as 3, hence the uneven odds.
+  // A number from 1 to 4, rounded to the even one in a tie. 4 counts as 3, hence the unequal odds.
   const long drawn = std::lrint(form.Host.Rnd() * 3.0F + 1.0F);
   return static_cast<char>('0' + std::min(drawn, 3L));
 }
