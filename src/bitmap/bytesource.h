@@ -1,5 +1,5 @@
-// Bytes that are taken piece by piece: of a record in memory, or of a file that is never held
-// whole.
+// Bytes that are read piece by piece: of a record in memory, or of a file that is never in memory
+// as a whole.
 #pragma once
 
 #include <QByteArray>
@@ -18,8 +18,8 @@ class ByteSource {
   virtual ~ByteSource() = default;
 
   virtual qint64 Size() const = 0;
-  /// So many bytes from the offset on, neither negative; good until the next call. None when they
-  /// are not all there, or when a read fails.
+  /// `count` bytes from an offset on, neither negative; valid until the next call. None when the
+  /// bytes do not all exist, or when a read fails.
   virtual std::optional<QByteArrayView> At(qint64 offset, qint64 count) = 0;
 };
 
@@ -34,9 +34,9 @@ class MemoryBytes final : public ByteSource {
   QByteArrayView bytes_;
 };
 
-/// An open file's bytes from its byte `start` on, which it has. Its memory is that of the longest
-/// piece taken. The file is not mapped: the process would die with it when another program cuts it
-/// short.
+/// The bytes of an open file from its byte `start` on, which exists. It uses as much memory as the
+/// longest piece. The file is not mapped: the process would crash when another program truncates
+/// it.
 class FileBytes final : public ByteSource {
  public:
   FileBytes(const files::RegularFile& file, qint64 start) : file_(file), start_(start) {}
@@ -44,7 +44,7 @@ class FileBytes final : public ByteSource {
   qint64 Size() const override;
   std::optional<QByteArrayView> At(qint64 offset, qint64 count) override;
 
-  /// Why a read has failed; nothing when none has.
+  /// Why a read failed; nothing when none has failed.
   const std::optional<files::Fault>& Fault() const { return fault_; }
 
  private:

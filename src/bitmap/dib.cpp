@@ -18,8 +18,8 @@ DibColours AllBlack() {
   return colours;
 }
 
-/// Some files keep fewer colours than they claim: their rows then start inside the table, at
-/// `bits`, and the rest of the colours is black.
+/// Some files have fewer colours than they claim: their rows begin inside the table, at `bits`, and
+/// the other colours are black.
 std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, qint64 bits) {
   const qint64 wanted = header.UsedColours() * header.EntryBytes();
   const auto table = dib.At(header.TableAt, std::min(wanted, bits - header.TableAt));
@@ -46,7 +46,7 @@ DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
   return colours;
 }
 
-/// The coded bytes or rows start at `bits`, which is not beyond the end.
+/// The coded bytes or rows begin at `bits`, which is not beyond the end.
 forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibColours& colours,
                             qint64 bits) {
   const qint64 present = dib.Size() - bits;
@@ -60,7 +60,7 @@ forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibC
     raster->Pixels.assign(static_cast<std::size_t>(header.Pixels()), colours[0]);
     return DecodeRunLengths(dib, header, colours, bits, *raster) ? raster : nullptr;
   }
-  // Row by row, so that no pass over the memory is lost on clearing it.
+  // Row by row, which avoids a pass over the memory to clear it.
   raster->Pixels.reserve(static_cast<std::size_t>(header.Pixels()));
   std::vector<std::uint32_t> pixels(static_cast<std::size_t>(header.Width));
   DibRows rows(dib, header, bits);

@@ -14,12 +14,12 @@ constexpr std::uint32_t InfoHeaderBytes = 40;
 // The usual header with three masks, and with four.
 constexpr std::uint32_t MasksHeaderBytes = 52;
 constexpr std::uint32_t AlphaHeaderBytes = 56;
-// Another system's header begins as the usual one and ends anywhere from its bit count on.
+// The header of another system begins like the usual one, and may end anywhere after its bit count.
 constexpr std::uint32_t MinHeaderBytes = 16;
 constexpr std::uint32_t MaxOtherHeaderBytes = 64;
 constexpr std::uint32_t Version4HeaderBytes = 108;
 constexpr std::uint32_t Version5HeaderBytes = 124;
-// Whether they belong to the header or come after it.
+// Where the masks are, whether they belong to the header or follow it.
 constexpr qsizetype MasksAt = 40;
 constexpr qint64 HeadBytes = MasksAt + 12;
 
@@ -34,7 +34,7 @@ bool IsKnownLength(std::uint32_t bytes) {
          bytes == Version4HeaderBytes || bytes == Version5HeaderBytes;
 }
 
-/// The other system's header gives another meaning to the number of the masks.
+/// In the other system's header the number for masks means something else.
 bool MayHaveMasks(std::uint32_t bytes) {
   return bytes == InfoHeaderBytes || bytes == MasksHeaderBytes || bytes == AlphaHeaderBytes ||
          bytes == Version4HeaderBytes || bytes == Version5HeaderBytes;
@@ -72,7 +72,7 @@ bool IsUncompressedDepth(int bits) {
   return bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
 }
 
-/// As many as the pixels can name; deep pixels name none.
+/// As many as the pixels can number; pixels of more than 8 bits number none.
 int AllColours(int bits) {
   return bits <= 8 ? 1 << bits : 0;
 }
@@ -128,7 +128,7 @@ std::optional<DibHeader> ReadDibHeader(ByteSource& dib) {
   if (!IsKnownLength(bytes) || dib.Size() < qint64{bytes}) return std::nullopt;
   if (bytes == CoreHeaderBytes) return ReadCore(Fields(*head));
 
-  // Masks may come after the usual header; of a shorter one nothing does.
+  // Masks may follow the usual header, but not a shorter one.
   const Fields fields(bytes < InfoHeaderBytes ? head->first(bytes) : *head);
   DibHeader header;
   header.BitCount = fields.Word(14);

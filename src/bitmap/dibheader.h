@@ -1,4 +1,4 @@
-// What a bitmap's info header says, and where the colour table and the rows are that follow it.
+// The contents of a bitmap's info header, and the places of the colour table and the rows after it.
 #pragma once
 
 #include <optional>
@@ -8,8 +8,8 @@
 
 namespace terramark::bitmap {
 
-/// Of a bitmap that is of a known kind and within the limits. Offsets and lengths are in bytes, and
-/// offsets count from the header's first byte.
+/// The header of a bitmap of a known kind and within the limits. Offsets and lengths are in bytes,
+/// and offsets are counted from the header's first byte.
 struct DibHeader {
   int Width = 0;  // pixels, 1 or more, as the height
   int Height = 0;
@@ -21,17 +21,17 @@ struct DibHeader {
   qint64 TableAt = 0;
   qint64 Colours = 0;  // in the table, which may hold more than the pixels can name
 
-  /// Those that the pixels can name, 256 at most.
+  /// The colours that pixels can number, at most 256.
   int UsedColours() const;
   qint64 EntryBytes() const { return Core ? 3 : 4; }
-  /// Where the table ends when its entries take so many bytes.
+  /// The end of the table when each entry has so many bytes.
   qint64 TableEnd(qint64 entryBytes) const { return TableAt + Colours * entryBytes; }
   qint64 RowBytes() const { return (qint64{Width} * BitCount + 31) / 32 * 4; }
   qint64 Pixels() const { return qint64{Width} * Height; }
 };
 
-/// The header at the first byte; none when it is broken, of a kind that is not known, or of a
-/// bitmap beyond the limits.
+/// Reads the header at the first byte. None when it is broken, of an unknown kind, or of a bitmap
+/// beyond the limits.
 std::optional<DibHeader> ReadDibHeader(ByteSource& dib);
 
 }  // namespace terramark::bitmap

@@ -1,4 +1,4 @@
-// The channels of a bitmap's deep pixels, of any width and place.
+// The colour channels of pixels of 16 bits or more: masks of any width and place.
 #pragma once
 
 #include <cstdint>
@@ -8,24 +8,24 @@ namespace terramark::bitmap {
 
 class ChannelMasks {
  public:
-  /// The usual ones of 16 bits, five a channel, or of 24 and 32 bits, eight a channel.
+  /// The usual masks: for 16 bits five bits a channel, for 24 and 32 bits eight.
   static ChannelMasks Usual(int bitCount);
-  /// None when a mask has holes, goes beyond the bits of a pixel or meets another one, or when all
+  /// None when a mask has holes, is beyond the bits of a pixel or overlaps another one, or when all
   /// are 0.
   static std::optional<ChannelMasks> Of(int bitCount, std::uint32_t red, std::uint32_t green,
                                         std::uint32_t blue);
 
   /// Whether a pixel's three low bytes are blue, green and red.
   bool PlainBytes() const;
-  /// The pixel of a raster: full is 0xFF in every channel, and what lies between goes to the
-  /// nearest. A channel without a mask is 0.
+  /// The pixel of a raster. A channel with all bits set is 0xFF, other values are rounded to the
+  /// nearest; a channel without a mask is 0.
   std::uint32_t Pixel(std::uint32_t stored) const {
     return 0xFF000000U | red_.Value(stored) << 16U | green_.Value(stored) << 8U |
            blue_.Value(stored);
   }
 
  private:
-  // A double holds 32 bits with room to spare, and no value lies half way between two others.
+  // A double holds 32 bits exactly, and no value is half way between two results.
   struct Channel {
     std::uint32_t Mask = 0;
     double Scale = 0;

@@ -7,7 +7,7 @@
 namespace terramark::bitmap {
 namespace {
 
-/// As much as stays in a processor's cache until it is turned into pixels.
+/// Stays in a processor's cache until it is converted to pixels.
 constexpr qint64 BandBytes = qint64{256} * 1024;
 constexpr std::uint32_t Opaque = 0xFF000000;
 
@@ -19,7 +19,7 @@ std::uint32_t ByteAt(const char* at) {
   return static_cast<unsigned char>(*at);
 }
 
-/// Of 1, 2 or 4 bits, the leftmost pixel in a byte's high bits.
+/// Pixels of 1, 2 or 4 bits; the leftmost is in a byte's high bits.
 void ConvertIndexedRow(int bits, int width, const DibColours& colours, const char* row,
                        std::uint32_t* to) {
   const std::uint32_t mask = (1U << bits) - 1;
@@ -32,7 +32,7 @@ void ConvertIndexedRow(int bits, int width, const DibColours& colours, const cha
 }
 
 void Convert24BitRow(int width, const char* row, std::uint32_t* to) {
-  // One byte of the next pixel is read too, so the last pixel goes by itself.
+  // Reads one byte of the next pixel too, so the last pixel is handled separately.
   for (int x = 0; x + 1 < width; ++x, row += 3) to[x] = Opaque | LongAt(row);
   to[width - 1] = Opaque | ByteAt(row + 2) << 16U | ByteAt(row + 1) << 8U | ByteAt(row);
 }

@@ -1,4 +1,4 @@
-// The rows of a bitmap that is not run-length coded, taken in bands and turned into pixels.
+// The rows of a bitmap that is not run-length coded, read in bands and converted to pixels.
 #pragma once
 
 #include <array>
@@ -9,22 +9,22 @@
 
 namespace terramark::bitmap {
 
-/// The pixel of each number; black beyond the colour table.
+/// The pixel for each number; black beyond the colour table.
 using DibColours = std::array<std::uint32_t, 256>;
 
-/// Reads the stored rows, the picture's top row first, and holds no more than a band of them.
+/// Reads the stored rows from the picture's top to its bottom, with one band of them in memory.
 class DibRows {
  public:
-  /// The first stored row begins at byte `at` of `dib`. What is missing at the end reads as 0.
+  /// The first stored row begins at byte `at` of `dib`. Missing bytes at the end read as 0.
   DibRows(ByteSource& dib, const DibHeader& header, qint64 at)
       : dib_(dib), header_(header), at_(at) {}
 
-  /// The next row's bytes, RowBytes of them, good until the next call; null when a read fails. To
-  /// be called Height times at most.
+  /// The bytes of the next row, RowBytes of them, valid until the next call; null when a read
+  /// fails. May be called Height times.
   const char* Next();
 
  private:
-  /// The stored rows from one up to another.
+  /// Reads the stored rows `from` up to `to`.
   bool ReadBand(qint64 from, qint64 to);
 
   ByteSource& dib_;
@@ -37,7 +37,7 @@ class DibRows {
   QByteArray padded_;
 };
 
-/// Turns a stored row into the first Width pixels of `to`.
+/// Converts a stored row to the first Width pixels of `to`.
 void ConvertRow(const DibHeader& header, const DibColours& colours, const char* row,
                 std::uint32_t* to);
 

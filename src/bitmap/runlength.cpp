@@ -9,7 +9,7 @@ namespace {
 
 constexpr qint64 PieceBytes = qint64{64} * 1024;
 
-/// The coded bytes one by one.
+/// Reads the coded bytes one by one.
 class CodeReader {
  public:
   CodeReader(ByteSource& dib, qint64 at)
@@ -20,7 +20,7 @@ class CodeReader {
     if (taken_ == piece_.size() && !ReadPiece()) return 0;
     return static_cast<unsigned char>(piece_[taken_++]);
   }
-  /// Whether they have ended, or failed.
+  /// Whether the codes have ended, or a read has failed.
   bool Ended() const { return ended_; }
   bool Failed() const { return failed_; }
 
@@ -67,7 +67,8 @@ class RunLengthDecoder {
   }
 
  private:
-  // The number of a pixel of a run, or of the pair that a byte holds, the left one high.
+  // The colour index of a pixel in a run. With 4 bits a byte has two of them, the left one in the
+  // high bits.
   int ColourIndexIn(int byte, int i) const {
     return bits_ == 8 ? byte : byte >> (i % 2 == 0 ? 4 : 0) & 0xF;
   }

@@ -6,9 +6,9 @@
 
 namespace terramark::bitmap {
 
-/// Paints what is coded from byte `at` of `dib` on into `raster`, which is as large as the header
-/// says, and leaves alone what the codes skip or do not reach. Runs end at the right edge, and
-/// codes that break off end the picture. False when a read fails.
+/// Paints the codes from byte `at` of `dib` into `raster`, which has the size in the header; pixels
+/// that the codes skip or do not reach are unchanged. Runs end at the right edge, and the picture
+/// ends where the codes end. False when a read fails.
 bool DecodeRunLengths(ByteSource& dib, const DibHeader& header, const DibColours& colours,
                       qint64 at, forms::Raster& raster);
 

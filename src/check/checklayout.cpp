@@ -15,7 +15,7 @@ namespace terramark::check {
 
 namespace {
 
-/// Without what could steer a terminal or begin a line of its own.
+/// Without characters that could control a terminal or begin a new line.
 std::string Printable(std::string text) {
   std::ranges::replace_if(
       text, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; }, '?');
@@ -23,7 +23,7 @@ std::string Printable(std::string text) {
 }
 
 void AddDiagnostic(Report& report, int line, std::string text) {
-  // The bytes that the code page leaves open would be control characters too.
+  // The bytes that the code page leaves open would become control characters too.
   constexpr std::string_view Open = "\x81\x8D\x8F\x90\x9D";
   std::ranges::replace_if(
       text, [&](char byte) { return Open.find(byte) != std::string_view::npos; }, '?');
@@ -35,14 +35,14 @@ void AddUnreadable(Report& report, int line, const std::string& why) {
   AddDiagnostic(report, line, "cannot be read: " + why);
 }
 
-/// Bare names begin in the folder of the layout, which the editor enters. Names of files are UTF-8,
-/// as they are to the editor.
+/// A name without a folder is in the folder of the layout, which the editor makes the current one.
+/// File names are UTF-8, as in the editor.
 bool PictureExists(const std::string& picture, const std::string& layout) {
   const auto folder = std::filesystem::path(layout).parent_path();
   return files::RegularFile::Open(folder / ToUtf8(picture)).has_value();
 }
 
-/// What is wrong with the picture's line, and where the reading goes on after it.
+/// Reports faults of the picture's line, and skips the line.
 void CheckPicture(Report& report, LayoutReader& reader, const std::string& layout) {
   const std::string& picture = reader.Layout().PictureFile;
   const int line = reader.LineOfPicture();
@@ -53,7 +53,7 @@ void CheckPicture(Report& report, LayoutReader& reader, const std::string& layou
   if (cut) reader.SkipPictureLine();
 }
 
-/// What is lost in reading although the reading goes on.
+/// Reports what is lost although the reading goes on.
 void CheckTruncations(Report& report, const LayoutReader& reader) {
   for (const int line : reader.TruncatedLines()) {
     AddDiagnostic(report, line,
@@ -61,7 +61,7 @@ void CheckTruncations(Report& report, const LayoutReader& reader) {
   }
 }
 
-/// A reading out of step: lines that are missing or too many show here, if anywhere.
+/// Reports signs of missing or extra lines.
 void CheckSteps(Report& report, const LayoutReader& reader) {
   if (reader.LineOfOddHeading() != 0) {
     AddDiagnostic(report, reader.LineOfOddHeading(),

@@ -1,4 +1,4 @@
-// What there is to say of one file that is to be a Map Layout.
+// Checks a file that should be a Map Layout, and reports what is wrong.
 #pragma once
 
 #include <cstdint>
@@ -8,11 +8,11 @@
 
 namespace terramark::check {
 
-/// From what is least to what is worst; also the statuses of the program.
+/// From the least to the worst; also the exit statuses of the program.
 enum class Severity { Good = 0, Faulty = 1, Unreadable = 2 };
 
 struct Diagnostic {
-  /// From 1; 0 where no line shows it.
+  /// From 1; 0 where no line is at fault.
   int Line = 0;
   /// UTF-8, ready to print.
   std::string Text;
@@ -20,21 +20,20 @@ struct Diagnostic {
 
 struct Report {
   Severity Worst = Severity::Good;
-  /// By line, warnings among them; empty for a map of which there is nothing to say.
+  /// By line, including warnings; empty for a map without any.
   std::vector<Diagnostic> Diagnostics;
   std::int16_t Areas = 0;
   std::int16_t Regions = 0;
 };
 
-/// Reads the file as the editor does, without its picture, and judges the map by the editor's
-/// rules. A file whose picture is not there, of which the editor reads no more than the head, is
-/// read on all the same, and then from the line behind the picture's, where a comma has ended the
-/// path.
+/// Reads the file as the editor does, but without its picture, and checks the map by the editor's
+/// rules. If the picture does not exist, the editor stops after the head; here the rest is read
+/// too. If a comma has ended the picture's path, reading goes on with the next line.
 Report CheckLayout(const std::string& path);
-/// The same of bytes that stand under this path, or would.
+/// The same for bytes that are, or would be, in a file with this path.
 Report CheckBytes(std::string_view bytes, const std::string& path);
 
-/// The lines that tell it, each with the file's name in front, control characters as "?".
+/// The lines of the report, each beginning with the file's name, with "?" for control characters.
 std::string FormatReport(const std::string& path, const Report& report);
 
 }  // namespace terramark::check

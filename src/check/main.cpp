@@ -1,4 +1,4 @@
-// Tells of Map Layouts whether they can be read and what is wrong with them.
+// Reports whether Map Layouts can be read, and what is wrong with them.
 #include <algorithm>
 #include <cstdio>
 #include <string>
@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     std::fwrite(lines.data(), 1, lines.size(), stdout);
     worst = std::max(worst, report.Worst);
   }
-  // A full disk must not look like good maps.
+  // A full disk must not look like a result without faults.
   const bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
   return static_cast<int>(written ? worst : Severity::Unreadable);
 }

@@ -18,8 +18,8 @@ struct AboutForm : forms::Form {
   forms::Label Label1{"Label1"};            // a bare coloured bar
 };
 
-/// Shows the about box until it is closed. The one command button without help: a press with the
-/// Shift key opens the box too.
+/// Shows the about box until it is closed. This is the one command button without a help topic: a
+/// press with the Shift key opens the box too.
 void DBPush1_MouseUp(Form1& form);
 
 void AboutOk_Click(AboutForm& about);

@@ -14,8 +14,8 @@ namespace terramark {
 
 namespace {
 
-/// The bottom left corner, so that the fill point of an Area added on the backdrop is where the
-/// user pressed.
+/// The bottom left corner: then the fill point of an Area added on the backdrop is where the user
+/// pressed.
 constexpr std::int16_t NewCorner = 2;
 
 void RaiseMarker(forms::Label& marker) {
@@ -44,7 +44,7 @@ void AddTer_MouseUp(Form1& form, const forms::MouseEvent& event) {
     const forms::Label& previous = form.ArmyAt(static_cast<std::int16_t>(i - 1));
     marker.Move(previous.Left, previous.Top);
   }
-  // The keys on the map go on from here.
+  // The keys on the map continue from the new marker.
   form.Picture1.CursorItem = &marker;
   ScrollMarkerIntoView(form, marker);
 }

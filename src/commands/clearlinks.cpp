@@ -27,7 +27,7 @@ void ClearArea(Form1& form) {
     ShowMessage(form, NothingToClear, ClrGreen);
     return;
   }
-  // All Areas, since one that a does not list may list a.
+  // All Areas, since an Area that `a` does not list may list `a`.
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     form.AreaLinks(i) = WithoutEntry(form.AreaLinks(i), a);
   }

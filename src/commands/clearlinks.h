@@ -1,4 +1,4 @@
-// Freeing an Area or a Region from what ties it into the map.
+// Removing the links of an Area or a Region.
 #pragma once
 
 namespace terramark {

@@ -14,7 +14,8 @@ namespace terramark {
 
 namespace {
 
-/// Nearest pixel, a tie to the even one; what no picture reaches stays out of reach.
+/// The nearest pixel, a tie to the even one. A place far outside the picture is limited to a pixel
+/// that is still outside.
 int NearestPixel(float place) {
   constexpr float OutOfReach = 1 << 24;
   return static_cast<int>(std::lrint(std::clamp(place, -OutOfReach, OutOfReach)));

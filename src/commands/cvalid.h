@@ -5,8 +5,9 @@ namespace terramark {
 
 struct Form1;
 
-/// Judges the map. A fault is shown in red; a good map is flooded from every Area's fill point, so
-/// that the user sees how far each fill spreads. That there is no memory for it is said in red.
+/// Checks the map. A fault is shown in red. A good map is flooded from the fill point of every
+/// Area, so that the user sees how far each fill spreads. Too little memory for that is reported in
+/// red.
 void Cvalid_MouseUp(Form1& form);
 
 }  // namespace terramark

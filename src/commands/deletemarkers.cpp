@@ -31,7 +31,7 @@ void DeleteArea(Form1& form) {
   }
   std::int16_t count = 0;
   HiliteAreaLinks(form, count);
-  // The Area may have lost the look of the current one, and a link may be one-sided.
+  // The Area may not be shown as current any more, and a link may exist on one side only.
   if (count != 0 || IsLinked(form, last)) {
     ShowMessage(form, "Must clear all links before deleting a Area", ClrRed);
     return;
@@ -44,7 +44,7 @@ void DeleteArea(Form1& form) {
   UpdateCounts(form);
 }
 
-/// Region k takes over all that Region k + 1 holds, but for the background that shows the mark.
+/// Region k gets everything of Region k + 1, except for the background, which shows the mark.
 void CopyFromNext(Form1& form, std::int16_t k) {
   const auto next = static_cast<std::int16_t>(k + 1);
   forms::Label& marker = form.Continent(k);
@@ -74,7 +74,7 @@ void DeleteRegion(Form1& form) {
   if (!Confirm(form, "delete Region#" + NumberText(form.CurRegion))) return;
   const std::string name = form.RegionName(form.CurRegion);
   if (form.CurRegion < form.RegionCount) CloseGap(form);
-  // Pressed again after a deletion, the current number stands above the count.
+  // After a deletion the current number may be above the count.
   if (form.CurRegion != form.RegionCount) return;
   form.Continent.Unload(form.RegionCount);
   ShowMessage(form, name + " deleted", ClrGreen);

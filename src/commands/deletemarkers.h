@@ -1,12 +1,13 @@
-// Taking the last Area, or a Region, off the map.
+// Deleting the last Area, or a Region.
 #pragma once
 
 namespace terramark {
 
 struct Form1;
 
-/// The button "Delete": asks, then removes the current Area when it is the last one, or the current
-/// Region, over which the Regions above it close up. Refuses what still has links. Needs a mark.
+/// The button "Delete": asks, then deletes the current Area if it is the last one, or the current
+/// Region, and the Regions above it move down by one number. Refuses an item that still has links.
+/// Needs a mark.
 void DelControl_MouseUp(Form1& form);
 
 }  // namespace terramark

@@ -1,4 +1,4 @@
-// The marked Areas as the commands that take marks read and name them.
+// The marked Areas, for the commands that use marks.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace terramark {
 
 struct Form1;
 
-/// The Areas that look marked, by rising number. The look of the current Area does not count.
+/// The Areas whose markers show a mark, by number. The current Area is not one of them.
 std::vector<std::int16_t> CollectMarkedAreas(Form1& form);
 
 /// Two-digit numbers with commas between them, as "03,07,12".

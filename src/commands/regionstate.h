@@ -1,4 +1,4 @@
-// What several commands do to a Region and to an Area of it. Their markers must exist.
+// What several commands do to a Region or to one of its Areas. Their markers must exist.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@ namespace terramark {
 
 struct Form1;
 
-/// Takes a Region's colour away: its marker is white and plain, its components unset.
+/// Removes a Region's colour: its marker is white and plain, its components unset.
 void ResetRegionColour(Form1& form, std::int16_t region);
-/// Gives a Region the name of a new one, on its marker too.
+/// Gives a Region the name of a new one, also on its marker.
 void ResetRegionName(Form1& form, std::int16_t region);
-/// Takes an Area out of its Region and makes its marker white and plain.
+/// Removes an Area from its Region, and makes its marker white and plain.
 void RemoveFromRegion(Form1& form, std::int16_t area);
 
 }  // namespace terramark

@@ -5,9 +5,10 @@ namespace terramark {
 
 struct Form1;
 
-/// The button "Set Neighbours": the marked Areas are the complete new list of the current Area, and
-/// each of them gets the current Area into its own list. Links on the far side are only ever added.
-/// Below two marks it does nothing; with no Area marked, or the current one gone, it says so.
+/// The button "Set Neighbours": the marked Areas become the complete list of the current Area's
+/// neighbours, and the current Area is added to the list of each. Entries in those lists are never
+/// removed. Below two marks it does nothing. If no Area is marked, or the current one does not
+/// exist, it reports that.
 void MakeNeibor_MouseUp(Form1& form);
 
 }  // namespace terramark

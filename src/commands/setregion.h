@@ -5,8 +5,8 @@ namespace terramark {
 
 struct Form1;
 
-/// The button "Set Region": marked Areas join the current Region, its Areas without a mark leave
-/// it, and its colour is white again. Without a current Region it does nothing.
+/// The button "Set Region": the marked Areas join the current Region, its other Areas leave it, and
+/// its colour becomes white. Without a current Region it does nothing.
 void SetCont_MouseUp(Form1& form);
 
 }  // namespace terramark

@@ -13,10 +13,12 @@ namespace terramark {
 
 namespace {
 
-/// Holds the place of one number while the other turns into it; no link string has such a pair.
+/// Stands for the first number while the second is replaced by it; no link string contains this
+/// pair.
 constexpr char PlaceHolder[] = "XX";
 
-/// Enters the Areas with either mark in MarkedAreas from 1 on; gives how many.
+/// Writes the current and the marked Areas to MarkedAreas, from element 1, and returns their
+/// number.
 int FindMarkedAreas(Form1& form) {
   form.MarkedAreas(1) = 0;
   form.MarkedAreas(2) = 0;
@@ -27,7 +29,7 @@ int FindMarkedAreas(Form1& form) {
   return found;
 }
 
-/// Overwrites in every link string the first pair that equals from.
+/// Replaces the first pair that equals `from` in every link string.
 void ReplacePair(Form1& form, const std::string& from, const std::string& to) {
   for (std::int16_t i = 1; i <= form.AreaCount; ++i) {
     std::string& links = form.AreaLinks(i);
@@ -46,10 +48,10 @@ void SwapPlaces(forms::Label& first, forms::Label& second) {
   second.Move(left, top);
 }
 
-/// Shows an Area by its new Region and corner.
+/// Updates an Area's marker to its new Region and corner.
 void Repaint(Form1& form, std::int16_t area) {
   forms::Label& marker = form.ArmyAt(area);
-  // The colour that the Region shows: while it is current that is black.
+  // The colour in which the Region's marker is shown: while it is current that is black.
   PaintMarker(marker, form.Continent(form.AreaRegion(area)).ForeColor, TagForm::WithoutBlank);
   SetCorner(form, area, form.AreaCorner(area));
   marker.Refresh();
@@ -69,7 +71,7 @@ void SwapTer_MouseUp(Form1& form) {
   ReplacePair(form, PlaceHolder, TwoDigit(b));
   SwapPlaces(form.ArmyAt(a), form.ArmyAt(b));
   std::swap(form.Areas(a), form.Areas(b));
-  // These belong to the number, all else to the place on the map.
+  // These stay with the number; all else was swapped with the place on the map.
   std::swap(form.AreaName(a), form.AreaName(b));
   std::swap(form.AreaSymbol(a), form.AreaSymbol(b));
   Repaint(form, a);

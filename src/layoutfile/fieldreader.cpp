@@ -10,7 +10,7 @@ namespace terramark {
 
 namespace {
 
-/// The number when the text is nothing but digits and fits the type, as nearly all are.
+/// The number when the text has only digits and fits the type, as nearly all do.
 template <typename Number>
 std::optional<Number> ReadDigits(std::string_view text) {
   const char* end = text.data() + text.size();
@@ -67,7 +67,8 @@ Components FieldReader::Next() {
   return numbers;
 }
 
-/// The text of a number field; blanks behind it belong to its separator and may be all of it.
+/// The text of a number field. Blanks after it belong to its separator, and may be the whole
+/// separator.
 std::string_view FieldReader::Number() {
   if (!BeginField()) return {};
   if (At() == '"') return Quoted();
@@ -77,8 +78,8 @@ std::string_view FieldReader::Number() {
   return number;
 }
 
-/// What stands in the quotes, over line ends too; the rest up to the separator is dropped. Fails
-/// when nothing closes them.
+/// The text in quotes, which may contain line ends. The rest up to the separator is dropped. Fails
+/// without a closing quote.
 std::string_view FieldReader::Quoted() {
   const std::size_t start = offset_ + 1;
   const std::size_t close = bytes_.find('"', start);
@@ -99,7 +100,7 @@ bool FieldReader::BeginField() {
 }
 
 bool FieldReader::FailAtEnd() {
-  // What fails after another failure does not tell why.
+  // A failure after another one does not change the reason.
   ended_ = ended_ || !failed_;
   failed_ = true;
   return false;

@@ -1,4 +1,4 @@
-// Reads a Map Layout by whole lines and by fields, over the bytes of the file in memory.
+// Reads a Map Layout by whole lines and by fields, from the bytes of the file in memory.
 #pragma once
 
 #include <cstddef>
@@ -12,14 +12,14 @@
 
 namespace terramark {
 
-/// A line end is CR LF, a lone CR or a lone LF, and separates fields as a comma does. Every read
-/// gives nothing when the file ends before it and for a number that its type cannot hold; after
-/// that nothing more can be read. Texts point into the bytes, which must outlive them.
+/// A line end is CR LF, a lone CR or a lone LF; it separates fields as a comma does. A read gives
+/// nothing when the file ends before it, or for a number that its type cannot hold; after that
+/// nothing more can be read. Texts refer to the bytes, which must outlive them.
 class FieldReader {
  public:
   explicit FieldReader(std::string_view bytes) : bytes_(bytes) {}
 
-  /// What is left of the present line, its line end used up.
+  /// The rest of the present line; its line end is skipped.
   std::optional<std::string_view> Line();
 
   /// The next fields, each by its type: a text; a whole number, rounded, a tie to the even one; a
@@ -27,7 +27,7 @@ class FieldReader {
   template <typename... Types>
   std::optional<std::tuple<Types...>> Fields() {
     startOffset_ = offset_;
-    // In braces they are read in this order.
+    // In braces they are evaluated in this order.
     std::optional<std::tuple<Types...>> fields(std::tuple<Types...>{Next<Types>()...});
     if (failed_) fields.reset();
     return fields;
@@ -41,31 +41,31 @@ class FieldReader {
     return failed_ ? std::nullopt : std::optional(field);
   }
 
-  // What can be told of the file; a place is the number of bytes before it.
+  // For reports about the file. An offset is the number of bytes before a place.
 
-  /// The place of the next field.
+  /// The offset of the next field.
   std::size_t Offset() const { return offset_; }
-  /// The place where the last call of Line, Fields or Field began.
+  /// The offset at which the last call of Line, Fields or Field began.
   std::size_t StartOffset() const { return startOffset_; }
   bool BehindComma() const { return offset_ > 0 && bytes_[offset_ - 1] == ','; }
   bool AtEnd() const { return offset_ == bytes_.size(); }
-  /// Whether a read has failed because the file ends.
+  /// Whether a read failed because the file ended.
   bool Ended() const { return ended_; }
-  /// The line, from 1, in which a place lies.
+  /// The line of an offset, counted from 1.
   int LineOf(std::size_t place) const { return LinesOf({place}).front(); }
-  /// The same for many places, which must rise.
+  /// The lines of several offsets, which must ascend.
   std::vector<int> LinesOf(const std::vector<std::size_t>& places) const;
-  /// The places of the quoted texts behind which something was dropped.
+  /// The offsets of the quoted texts after which something was dropped.
   const std::vector<std::size_t>& TruncatedTexts() const { return truncatedTexts_; }
 
  private:
-  /// Any value after a failure.
+  /// Returns any value after a failure.
   template <typename Type>
   Type Next();
 
   std::string_view Number();
   std::string_view Quoted();
-  /// What a field has in it up to its separator, or up to a blank where that ends it.
+  /// The rest of a field up to its separator, or up to a blank where a blank ends it.
   enum class Blank { Kept, Ends };
   std::string_view Until(Blank blank);
   bool BeginField();

@@ -1,4 +1,5 @@
-// The heads of a layout's sections, as the editor writes them. Reading, it takes any other too.
+// The headings of a layout's sections as the editor writes them. It reads any other line as a
+// heading too.
 #pragma once
 
 namespace terramark {

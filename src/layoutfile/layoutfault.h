@@ -1,4 +1,4 @@
-// Why the bytes of a file are no Map Layout.
+// The reason why the bytes of a file are no Map Layout.
 #pragma once
 
 #include <string>
@@ -6,14 +6,14 @@
 namespace terramark {
 
 struct LayoutFault {
-  /// The line, from 1, at which the reading stopped.
+  /// The line, counted from 1, at which the reading stopped.
   int Line = 0;
-  /// What should stand there.
+  /// What was expected there.
   std::string Expected;
-  /// Whether nothing stands there: the file ends too early.
+  /// Whether the file ended there too early.
   bool AtEnd = false;
 
-  /// For the user: the reason as words that stand behind a colon.
+  /// The reason for the user: a text to stand after a colon.
   std::string Description() const;
 };
 

@@ -14,7 +14,7 @@ namespace terramark {
 
 namespace {
 
-/// Pairs that are looked through for the end of the bridge lines.
+/// The end of the bridge lines is looked for within so many pairs.
 constexpr int MaxBridgeLines = 99;
 
 bool IsWithin(std::int16_t number, std::int16_t last) {
@@ -157,7 +157,7 @@ LayoutResult LayoutReader::ReadPlaces() {
   const auto twips = file_.Fields<std::int16_t, std::int16_t>();
   if (!twips) return Expected("the twips of a pixel, across and down");
   std::tie(layout_.TwipsX, layout_.TwipsY) = *twips;
-  // One more than there are Areas: the hidden marker has a place too.
+  // One more than the Areas: the hidden template has a place too.
   const std::int16_t areas = layout_.AreaCount;
   const auto lines = static_cast<std::int16_t>(areas + 1);
   const std::int16_t regions = layout_.RegionCount;

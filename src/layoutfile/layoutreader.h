@@ -14,59 +14,59 @@
 
 namespace terramark {
 
-/// A hundred times what the largest map needs; of a longer file no more than this is read.
+/// A hundred times what the largest map needs; the rest of a longer file is not read.
 inline constexpr std::size_t MaxLayoutBytes = 4U << 20U;
 
-/// Nothing, or where and why the reading has stopped.
+/// No value, or where and why the reading stopped.
 using LayoutResult = tl::expected<void, LayoutFault>;
 
-/// Reads in three steps, in this order, since the window shows what each has read. After one has
-/// failed there is no other. A number is never outside the tables or above the file's own count.
+/// Reads in three steps, in this order, since the window shows what each has read. After a failed
+/// step no other may follow. A number is never outside the tables or above the file's own count.
 class LayoutReader {
  public:
-  /// The bytes must outlive it. What the file has no line for stays as in `start`.
+  /// The bytes must outlive the reader. What has no line in the file stays as in `start`.
   LayoutReader(std::string_view bytes, const Tables& start);
 
-  /// The header, the counts and the picture's path, which a comma ends: what stands behind it is
-  /// the first of the colours.
+  /// The header, the counts and the picture's path. A comma ends the path, and what follows is read
+  /// as the first colour.
   LayoutResult ReadHead();
   LayoutResult ReadPlayerColours();
-  /// The Regions with their Areas, and the places. The sections that are computed afresh at each
-  /// save are passed over. The last line is not read.
+  /// The Regions with their Areas, and the places. The sections that each save computes anew are
+  /// skipped, and the last line is not read.
   LayoutResult ReadMap();
 
-  /// What has been read; after a fault what stood before it.
+  /// What has been read; after a fault, what came before it.
   const MapLayout& Layout() const { return layout_; }
 
-  /// Fails where a place that has been read, though a later line replace it, leaves the range of a
-  /// float on a screen of so many twips a pixel, above 0.
+  /// Fails if a place that was read, even if a later line replaces it, is out of a float's range on
+  /// a screen with so many twips per pixel, which are above 0.
   LayoutResult CheckRange(float twipsX, float twipsY) const;
 
-  // For those who judge the file.
+  // For programs that check the file.
 
-  /// Whether, after ReadHead, a comma has ended the picture's path.
+  /// After ReadHead: whether a comma has ended the picture's path.
   bool PictureIsCut() const { return file_.BehindComma(); }
-  /// Passes over what stands behind it, which the editor does not.
+  /// Skips the rest of the picture's line, which the editor does not.
   void SkipPictureLine() { file_.Line(); }
-  /// The lines, each once, on which a double quote has ended a text early and cost what stood
-  /// behind it.
+  /// The lines, each once, on which a double quote ended a text early, so that the rest of the text
+  /// was lost.
   std::vector<int> TruncatedLines() const;
   /// The line of the counts, of the picture, of an Area or a Region; 0 where there is none.
   int LineOfCounts() const { return LineOf(countsAt_); }
   int LineOfPicture() const { return LineOf(pictureAt_); }
   int LineOfArea(std::int16_t area) const { return LineOf(areaAt_(area)); }
   int LineOfRegion(std::int16_t region) const { return LineOf(regionAt_(region)); }
-  /// The line of the first head that is not as the editor writes it, 0 for none, and how it does.
-  /// The reading may be out of step then.
+  /// The line of the first heading that is not as the editor writes it, 0 for none, and the usual
+  /// text of that heading. The lines may be misread from there on.
   int LineOfOddHeading() const { return LineOf(oddHeadingAt_); }
   const char* UsualHeading() const { return usualHeading_; }
-  /// Whether the file ends where the reading stands.
+  /// Whether all bytes have been read.
   bool AtEnd() const { return file_.AtEnd(); }
-  /// The line at which the reading stands.
+  /// The line of the next byte.
   int Line() const { return file_.LineOf(file_.Offset()); }
 
  private:
-  /// The largest distance of all places, and where its line begins.
+  /// The largest distance of all places, and the offset of its line.
   struct Farthest {
     float Distance = 0;
     std::size_t At = 0;
@@ -85,13 +85,13 @@ class LayoutReader {
   LayoutResult ReadPlaces(Table<MarkerRecord>& markers, std::int16_t lines, std::int16_t last,
                           const char* what);
 
-  /// That this stands where the last read began is expected.
+  /// The fault that `what` was expected where the last read began.
   tl::unexpected<LayoutFault> Expected(std::string what) const;
   int LineOf(std::size_t place) const { return place == 0 ? 0 : file_.LineOf(place); }
 
   FieldReader file_;
   MapLayout layout_;
-  // Where their lines begin; 0, where the header is, for none.
+  // The offsets of their lines; 0, where the header is, for none.
   std::size_t countsAt_ = 0;
   std::size_t pictureAt_ = 0;
   Table<std::size_t> areaAt_;
@@ -102,7 +102,8 @@ class LayoutReader {
   Farthest farthestTop_;
 };
 
-/// All of a layout, the rows without a line as on an empty map. It can be shown on a usual screen.
+/// Reads a whole layout; rows without a line are as on an empty map. Its places can be shown on a
+/// usual screen.
 tl::expected<MapLayout, LayoutFault> ReadLayout(std::string_view bytes);
 
 }  // namespace terramark

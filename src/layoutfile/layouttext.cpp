@@ -9,7 +9,7 @@ namespace terramark {
 namespace {
 
 constexpr int SignificantDigits = 7;
-/// Whole numbers below this have no more than the significant digits.
+/// Whole numbers below this have only significant digits.
 constexpr float WholeLimit = 1e7F;
 
 void AppendWhole(std::string& text, int number) {
@@ -18,8 +18,8 @@ void AppendWhole(std::string& text, int number) {
   text.append(digits.data(), written.ptr);
 }
 
-/// The digits of a positive number, and how many of them stand before the point: fewer than none
-/// and more than all when zeros lie between.
+/// The digits of a positive number, and how many of them are before the point: negative, or more
+/// than all, when there are zeros in between.
 struct Decimal {
   std::string Digits;
   int Point = 0;

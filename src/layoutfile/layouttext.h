@@ -1,4 +1,4 @@
-// The text of a Map Layout as it is written, line by line.
+// The text of a Map Layout while it is written, line by line.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ class LayoutText {
  public:
   LayoutText() { text_.reserve(UsualBytes); }
 
-  /// A line of text with nothing added.
+  /// A line of text, as it is.
   void Raw(std::string_view text) {
     text_ += text;
     text_ += "\r\n";
@@ -32,7 +32,7 @@ class LayoutText {
   const std::string& Text() const { return text_; }
 
  private:
-  /// Room for most maps, so that the text seldom moves as it grows.
+  /// Enough for most maps, so that the text is seldom reallocated.
   static constexpr std::size_t UsualBytes = 16384;
 
   void Put(std::int16_t number);

@@ -51,7 +51,7 @@ void WriteRegionGroups(const MapLayout& map, LayoutText& file) {
   }
 }
 
-/// 0, or the Area without neighbours that has stopped it.
+/// 0, or the Area without neighbours that stopped the writing.
 std::int16_t WriteBridges(const MapLayout& map, LayoutText& file) {
   file.Raw(BridgesHeading);
   for (std::int16_t i = 1; i <= map.AreaCount; ++i) {

@@ -9,7 +9,7 @@
 
 namespace terramark {
 
-/// A moment by the clock and the calendar of where the user is.
+/// A time of the local clock and calendar.
 struct SavingTime {
   std::chrono::year_month_day Day;
   std::chrono::hh_mm_ss<std::chrono::seconds> Clock;
@@ -17,12 +17,12 @@ struct SavingTime {
 
 struct LayoutWritten {
   std::string Text;
-  /// The Area without neighbours at whose bridge line the text breaks off; 0 when it is whole.
+  /// The Area without neighbours at whose bridge line the text ends; 0 when it is complete.
   std::int16_t StoppedAtArea = 0;
 };
 
-/// A marker without a place gets 0, 0. A card symbol without a letter of its own is written as "G",
-/// and so is an Area without one.
+/// A marker without a place gets 0, 0. A card symbol without a letter, or a missing one, is written
+/// as "G".
 LayoutWritten WriteLayout(const MapLayout& map, const SavingTime& time);
 
 }  // namespace terramark

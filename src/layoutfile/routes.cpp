@@ -49,8 +49,8 @@ Route RouteFinder::WalkFrom(std::int16_t first, std::int16_t a) const {
   }
 }
 
-/// The first neighbour in link order that the walk may come to; 0 when it ends. It never leaves
-/// the Region, so the neighbours inside it are all that count.
+/// The first neighbour in link order that the walk may enter; 0 when it ends. A walk never leaves
+/// the Region, so only neighbours inside it count.
 std::int16_t RouteFinder::NextRouteStep(const Route& route, std::int16_t cur) const {
   for (const std::uint8_t nb : NeighboursInRegion(cur)) {
     if (!route.Excludes(nb)) return nb;

@@ -1,4 +1,4 @@
-// The walks that a layout carries for the game: for every Area one through its own Region.
+// The walks that a layout has for the game: for every Area one through its own Region.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@
 
 namespace terramark {
 
-/// A walk: its Areas in order, and which numbers it may not come to again.
+/// A walk: its Areas in order, and the numbers that it may not enter again.
 class Route {
  public:
   void Append(std::int16_t area);
@@ -30,14 +30,14 @@ class Route {
   std::int16_t length_ = 0;
 };
 
-/// Finds the routes of a map as it is now; its links are read once, for all of its Areas.
+/// Finds the routes of a map as it is now; its links are read once for all Areas.
 class RouteFinder {
  public:
   explicit RouteFinder(const Tables& tables);
 
   /// The route text of an Area, 1 to 99: the two-digit number of Areas on the longest of the walks
-  /// that begin at its neighbours, and these Areas, with commas between; one blank for no route. Of
-  /// walks of equal length the one through the earlier neighbour in link order stands.
+  /// that begin at its neighbours, and these Areas, with commas between them; one blank for no
+  /// route. Of walks of equal length the one through the earlier neighbour in link order is taken.
   std::string BlitzRoute(std::int16_t a) const;
 
  private:
@@ -45,7 +45,7 @@ class RouteFinder {
   std::int16_t NextRouteStep(const Route& route, std::int16_t cur) const;
   std::span<const std::uint8_t> NeighboursInRegion(std::int16_t area) const;
 
-  // Of Area i the entries from place starts_[i] to starts_[i + 1], in link order.
+  // The entries of Area i are from index starts_[i] to starts_[i + 1], in link order.
   std::vector<std::uint8_t> entries_;
   std::array<std::size_t, TableSize + 1> starts_{};
 };

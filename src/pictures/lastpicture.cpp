@@ -19,7 +19,7 @@ forms::LoadedPicture LastPicture::Load(const std::filesystem::path& path, int bo
   source_.reset();
   forms::LoadedPicture loaded = LoadPictureFile(*file, boxWidth, boxHeight);
   picture_ = loaded.value_or(nullptr);
-  // One that changes while it is read may give a picture of neither version.
+  // A file that changed while it was read may give a mix of both versions.
   if (version->SettledBy(now) && file->Version() == *version) source_ = source;
   return loaded;
 }

@@ -1,5 +1,5 @@
-// The picture loaded last, which is given again as long as somebody shows it and its file stays as
-// it is: loading the same file anew costs no decoding.
+// The last loaded picture. It is returned again as long as it is shown and its file is unchanged,
+// so that loading the same file again needs no decoding.
 #pragma once
 
 #include <filesystem>
@@ -13,12 +13,12 @@ namespace terramark::pictures {
 
 class LastPicture {
  public:
-  /// What LoadPictureFile gives, and the very object that it gave last when that is still held
-  /// elsewhere, the box is the same and the file, under whatever name, has not changed.
+  /// As LoadPictureFile. Returns the same object as the last time if that is still held elsewhere,
+  /// the box has the same size and the file, under whatever name, has not changed.
   forms::LoadedPicture Load(const std::filesystem::path& path, int boxWidth, int boxHeight);
 
  private:
-  /// What a picture is decoded from: a metafile is drawn for its box.
+  /// What the picture depends on: a metafile is drawn for its box.
   struct Source {
     files::FileVersion File;
     int BoxWidth = 0;

@@ -17,7 +17,7 @@
 namespace terramark::pictures {
 namespace {
 
-/// What a file puts before a bitmap's own header.
+/// The length of a bitmap file's header, before the bitmap's own.
 constexpr qint64 FileHeaderBytes = 14;
 constexpr qsizetype BitsOffsetAt = 10;
 
@@ -29,7 +29,7 @@ forms::Picture LoadBitmap(QByteArrayView fileHeader, bitmap::ByteSource& dib) {
   const std::optional<bitmap::DibHeader> header = bitmap::ReadDibHeader(dib);
   if (!header) return nullptr;
   const auto offset = qFromLittleEndian<std::uint32_t>(fileHeader.data() + BitsOffsetAt);
-  // Some writers leave the offset empty: the rows then follow the colour table.
+  // Some programs leave the offset empty: then the rows follow the colour table.
   std::optional<qint64> bitsAt;
   if (offset != 0) bitsAt = offset - FileHeaderBytes;
   return bitmap::DecodeDib(dib, *header, bitsAt);
@@ -40,7 +40,7 @@ forms::Picture DrawMetafile(const metafile::Metafile& read, int boxWidth, int bo
                                        std::min(boxHeight, metafile::MaxPictureBoxSide)});
 }
 
-/// The picture, or else what is wrong with the bytes that it was to come from.
+/// The picture or, if there is none, the fault of the bytes.
 forms::LoadedPicture PictureOr(const char* fault, forms::Picture picture) {
   if (!picture) return tl::unexpected<std::string>(fault);
   return picture;

@@ -9,14 +9,14 @@
 
 namespace terramark::pictures {
 
-/// The picture in the file, told by its content and never by its name. A bitmap has its own size
-/// and takes no notice of the box; its file is read in pieces. A metafile fills the box, in pixels.
-/// The limits are in bitmap/limits.h and metafile/limits.h. A fault when the file cannot be read,
-/// is cut short meanwhile, is too large or holds neither kind, or when the box of a metafile is
-/// empty; std::bad_alloc when the memory does not reach.
+/// Loads the picture in a file, whose kind is recognised by its content, never by its name. A
+/// bitmap has its own size whatever the box; its file is read in pieces. A metafile fills the box,
+/// in pixels. The limits are in bitmap/limits.h and metafile/limits.h. A fault when the file cannot
+/// be read, is truncated meanwhile, is too large or is of neither kind, or when the box of a
+/// metafile is empty; std::bad_alloc when memory runs out.
 forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidth, int boxHeight);
 
-/// The same from memory, and null without a word.
+/// The same from memory; null for any fault.
 forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight);
 
 }  // namespace terramark::pictures

@@ -21,7 +21,7 @@ void Form_KeyUp(Form1& form, const forms::KeyEvent& event) {
   const std::int16_t key = event.KeyCode;
   if (key != forms::KeyUpArrow && key != forms::KeyDownArrow) return;
   if (form.MarkCount == 0) return;
-  // An arrow that was down already when the marker was taken hold of.
+  // During a drag: the arrow was down already when the drag began.
   if (form.Pointer.HasKeyDrag()) return;
   if (AreaMarker(form, form.CurArea) != nullptr) {
     SelectArea(form, Step(form.CurArea, key, form.AreaCount), 0);

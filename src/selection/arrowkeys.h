@@ -7,8 +7,8 @@ namespace terramark {
 
 struct Form1;
 
-/// Up makes the next Area or Region current, down the previous one, round the ends. Needs a mark
-/// and something current whose marker stands; else the key does nothing here.
+/// Up makes the next Area or Region current, down the previous one, from the last on to the first.
+/// Does nothing without a mark, or without a current item whose marker exists.
 void Form_KeyUp(Form1& form, const forms::KeyEvent& event);
 
 }  // namespace terramark

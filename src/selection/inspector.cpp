@@ -18,7 +18,7 @@ char UpperCase(char letter) {
   return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
-/// The code of a letter in upper case; 0 when it has none.
+/// The code of an upper case letter; 0 for a letter without one.
 char CodeOfLetter(char letter) {
   if (letter == 'X') return NoSymbolCode;
   const CardSymbol* symbol = SymbolOfLetter(letter);
@@ -64,7 +64,7 @@ void Armypc_Change(Form1& form) {
     form.Armypc.Text = form.ArmypcLast;
     return;
   }
-  // With no current Region the number goes into slot 0, which nothing reads.
+  // Without a current Region the number is written to row 0, which nothing reads.
   if (form.CurRegion != 0 && RegionMarker(form, form.CurRegion) == nullptr) return;
   form.RegionArmies(form.CurRegion) = WholeNumber(armies).value_or(0);
 }

@@ -34,7 +34,7 @@ void ShowName(Form1& form, const std::string& name, forms::Color colour) {
   form.EditText.ForeColor = colour;
 }
 
-/// The armies as the box holds them: one digit below 10, else the last two.
+/// The armies as the box shows them: one digit below 10, otherwise the last two digits.
 std::string ArmiesText(std::int16_t armies) {
   const std::string text = NumberText(armies);
   return text.substr(text.size() - (armies < 10 ? 1 : 2));
@@ -45,7 +45,7 @@ void MakeAreaCurrent(Form1& form, std::int16_t area, forms::Label& marker) {
   Show(marker, MarkerState::Current);
   ++form.MarkCount;
   form.CurArea = area;
-  // The keys on the map go on from what is current.
+  // The keys on the map continue from the current item.
   form.Picture1.CursorItem = &marker;
   const CardSymbol* symbol = SymbolOfCode(form.AreaSymbol(area));
   ShowName(form, form.AreaName(area), OwnColour(form.Continent(0)));
@@ -74,7 +74,7 @@ void ClearSelection(Form1& form) {
   for (std::int16_t r = 1; r <= form.RegionCount; ++r) {
     Unmark(form.Continent(r));
   }
-  // Before the boxes go blank, so that their change events write nothing into the document.
+  // Before the boxes are emptied, so that their change events write nothing to the document.
   form.MarkCount = 0;
   form.CurArea = 0;
   form.CurRegion = 0;

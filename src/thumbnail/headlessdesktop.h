@@ -1,5 +1,5 @@
-// A desktop that nobody sits at, for a form that is filled and drawn and has no events. What a box
-// would tell ends the program.
+// A desktop without a user, for a form that is filled and drawn and has no events. A message box
+// ends the program.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ class HeadlessDesktop : public forms::Desktop {
   void ShowModal(forms::Form& /*form*/) override {}
   void ShowHelp(std::int32_t /*topic*/) override {}
 
-  // Nothing that depends on these is shown.
+  // Nothing that is shown depends on these.
   forms::DateTime Now() override { return {}; }
   float Timer() override { return 0; }
   void Randomize(float /*seed*/) override {}

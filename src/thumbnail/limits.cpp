@@ -16,16 +16,17 @@ namespace terramark::thumbnail {
 
 namespace {
 
-/// What a desktop may wait for is two seconds; ending takes some of them.
+/// A desktop waits for about two seconds; ending the program takes some of them.
 constexpr suseconds_t TimeLimit = 1'800'000;
-/// Bytes beyond what the program begins with: a picture of 8192 x 8192 takes 256 MiB, and all else
-/// under 64.
+/// In bytes, beyond what the program has at its start: a picture of 8192 x 8192 takes 256 MiB, and
+/// all else less than 64.
 constexpr rlim_t MaxMemoryBytes = rlim_t{360} << 20U;
-/// Bytes. Qt shrinks a picture with a thread for each processor, and the limit counts all of a
-/// thread's stack; the usual size would have a large machine refuse a large picture.
+/// In bytes. Qt scales a picture with a thread for each processor, and the limit counts the whole
+/// stack of a thread: with the usual size a machine with many processors would refuse a large
+/// picture.
 constexpr std::size_t ThreadStack = std::size_t{256} << 10U;
 
-/// Bytes that the limit counts as taken; a checking allocator has set aside most of them.
+/// The bytes that the limit counts as used; a checking allocator has reserved most of them.
 rlim_t PresentMemory() {
   std::ifstream sizes("/proc/self/statm");
   rlim_t pages = 0;
@@ -40,7 +41,7 @@ void LimitCost() {
   std::signal(SIGALRM, [](int) { Refuse("this takes too long"); });
   const itimerval once{{0, 0}, {TimeLimit / 1'000'000, TimeLimit % 1'000'000}};
   setitimer(ITIMER_REAL, &once, nullptr);
-  // Whoever calls may have held it up, and that is handed down.
+  // The caller may have blocked the signal, which a new process inherits.
   sigset_t alarm;
   sigemptyset(&alarm);
   sigaddset(&alarm, SIGALRM);
@@ -51,7 +52,7 @@ void LimitCost() {
   pthread_attr_setstacksize(&threads, ThreadStack);
   pthread_setattr_default_np(&threads);
   pthread_attr_destroy(&threads);
-  // But for a mistake in the program nothing else is thrown that nobody catches.
+  // Any other exception that is not caught is a mistake in the program.
   std::set_terminate([] { Refuse("the memory does not reach"); });
   const rlim_t most = PresentMemory() + MaxMemoryBytes;
   const rlimit limit{most, most};

@@ -40,7 +40,7 @@ std::optional<int> ParseSide(const char* text) {
   return side;
 }
 
-/// Reading a layout makes its folder the current one, so paths must not begin there.
+/// Reading a layout changes the current folder, so paths must not depend on it.
 std::filesystem::path Absolute(const char* path) {
   std::error_code failed;
   std::filesystem::path absolute = std::filesystem::absolute(path, failed);
@@ -48,8 +48,8 @@ std::filesystem::path Absolute(const char* path) {
   return absolute;
 }
 
-/// Writes the PNG, or ends the program. A map or picture that it was made from is not written over,
-/// whatever name leads there.
+/// Writes the PNG, or ends the program. The map and the picture that it was made from are never
+/// overwritten, whatever name leads to them.
 void Write(const std::filesystem::path& png, std::string_view bytes,
            std::initializer_list<std::filesystem::path> sources) {
   const std::string cannot = "cannot write " + png.string() + ": ";
@@ -61,7 +61,7 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
   }
   std::string why;
   {
-    // Gone before the program ends, and its temporary file with it.
+    // Destroyed before the program ends, which removes its temporary file.
     files::SafeFile file(png);
     const auto written = file.Open().and_then([&] { return file.Replace(bytes); });
     if (written) return;
@@ -71,7 +71,7 @@ void Write(const std::filesystem::path& png, std::string_view bytes,
   Refuse(cannot + why);
 }
 
-/// The map in a layout; ends the program where there is none.
+/// The map in a layout; ends the program if there is none.
 MapLayout Read(const std::filesystem::path& path) {
   const auto bytes = files::ReadRegularFile(path, MaxLayoutBytes);
   if (!bytes) Refuse("cannot open " + path.string() + ": " + bytes.error().Description());
@@ -85,7 +85,8 @@ MapLayout Read(const std::filesystem::path& path) {
 
 void Show(const std::filesystem::path& path, const std::filesystem::path& png, int side) {
   const MapLayout layout = Read(path);
-  // The picture may be named by its bare name, and then lies where the layout does.
+  // The layout may have the picture's name without a folder: then the picture is in the layout's
+  // folder.
   files::EnterFolderOf(path);
   const paint::Windowless windowless;
   HeadlessDesktop desktop;

@@ -21,12 +21,12 @@ struct Fault {
 using Finding = std::optional<Fault>;
 using FaultText = std::optional<std::string>;
 
-/// Whether the map has this fault as a whole.
+/// The finding for a fault of the map as a whole.
 Finding FaultIf(bool faulty, const char* text) {
   return faulty ? Finding(Fault{text}) : std::nullopt;
 }
 
-/// The first number from 1 to last for which faulty gives a text.
+/// The finding for the first number from 1 to `last` for which `faulty` returns a text.
 template <typename Faulty>
 Finding FirstFault(std::int16_t last, Faulty faulty) {
   for (std::int16_t number = 1; number <= last; ++number) {
@@ -43,7 +43,7 @@ std::string RegionAt(std::int16_t r) {
   return "Region#" + NumberText(r);
 }
 
-/// "Area# 7(Peru)", with what stands between the number and the bracket.
+/// For example "Area# 7(Peru)"; `gap` is between the number and the bracket.
 std::string AreaInBrackets(const Tables& t, std::int16_t i, const char* gap) {
   return AreaAt(i) + gap + "(" + t.AreaName(i) + ")";
 }
@@ -71,7 +71,7 @@ Finding AreasInRegions(const Tables& t) {
   });
 }
 
-/// Looks at the string and not at its count: "00" passes here, and stops a save.
+/// Tests the string and not its count: "00" passes here, and stops a save.
 Finding AreasLinked(const Tables& t) {
   return FirstFault(t.AreaCount, [&](std::int16_t i) -> FaultText {
     if (!t.AreaLinks(i).empty() && t.AreaLinks(i)[0] != ' ') return std::nullopt;
@@ -153,7 +153,7 @@ struct Rule {
   Finding (*Test)(const Tables&);
 };
 
-/// In the order of testing, which is not that of the numbers.
+/// In the order of the tests, which is not that of the numbers.
 // clang-format off
 constexpr Rule Rules[] = {
     // status  about  test

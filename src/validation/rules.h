@@ -1,4 +1,4 @@
-// The rules that a map must meet before it may be saved.
+// The rules that a map must meet before it can be saved.
 #pragma once
 
 #include <cstdint>
@@ -11,17 +11,17 @@ namespace terramark {
 /// What a fault is about.
 enum class Subject { Picture, Counts, Area, Region };
 
-/// The outcome of the rules: Status 0 with the text for a good map, else the number and the text of
-/// the first fault.
+/// The result of the rules: Status 0 and a text for a good map, otherwise the number and the text
+/// of the first fault.
 struct Verdict {
   std::int16_t Status = 0;
   std::string Message;
   Subject About{};
-  /// Of the Area or the Region; else 0.
+  /// The number of the Area or the Region; otherwise 0.
   std::int16_t Number = 0;
 };
 
-/// Tests the document rule by rule, in a fixed order, up to the first fault.
+/// Tests the rules one by one, in a fixed order, up to the first fault.
 Verdict CheckMap(const Tables& tables);
 
 }  // namespace terramark
