@@ -68,7 +68,7 @@ class Control : public PropertyOwner {
 
   ControlKind Kind() const { return kind_; }
   const std::string& Name() const { return name_; }
-  /// Number in the control array; 0 for a control that stands alone.
+  /// The number in its control array; 0 for a control outside one.
   std::int16_t Index() const { return index_; }
   /// The form that it is on; null until it is added to one.
   Form* ParentForm() const { return form_; }

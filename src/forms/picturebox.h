@@ -25,7 +25,7 @@ class PictureBox : public Control {
 
   /// Assigning replaces the persistent image, paint included, also by the picture that the box has
   /// already. The empty picture empties the box. A picture that covers the box is not copied; for a
-  /// smaller one it throws std::bad_alloc when the memory does not reach, as does a larger size of
+  /// smaller one it throws std::bad_alloc when memory runs out, as does a larger size of
   /// the box. Whatever is thrown, nothing has changed.
   Property<forms::Picture, NotifyOn::EveryAssignment> Picture{*this, PropertyId::Picture};
   /// Colour of the fill brush.

@@ -9,7 +9,7 @@ namespace terramark::forms {
 enum class PropertyId {
   Caption,
   Text,
-  Selection,  // told by TextBox::SelectAll; no control holds it
+  Selection,  // reported by TextBox::SelectAll; no control stores it
   Value,
   Picture,
   Left,

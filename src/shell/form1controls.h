@@ -1,4 +1,4 @@
-// What stands on the main window.
+// The controls of the main window.
 #pragma once
 
 #include <span>

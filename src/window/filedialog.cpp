@@ -109,7 +109,7 @@ void KeepCurrentItem(const QListView& bar) {
   QObject::connect(
       places, &QItemSelectionModel::selectionChanged, &bar, [places](const QItemSelection& opened) {
         if (opened.isEmpty()) return;
-        // The places without their own signals: the selection has been handled already.
+        // Blocked, since the place is open already and a signal would open it again.
         const QSignalBlocker still(places);
         places->setCurrentIndex(opened.indexes().front(), QItemSelectionModel::NoUpdate);
       });
