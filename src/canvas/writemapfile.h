@@ -8,8 +8,8 @@ namespace terramark {
 struct Form1;
 
 /// Clears the selection, gives an empty header its default, in the box too, and writes the map. An
-/// Area without a card symbol gets a random one in the file only. If an Area without neighbours has
-/// stopped the writing, a red message says so.
+/// Area of a Region without a card symbol gets a random one in the file only. If an Area without
+/// neighbours has stopped the writing, a red message says so.
 LayoutWritten WriteMapFile(Form1& form);
 
 }  // namespace terramark

@@ -42,7 +42,8 @@ bool PictureExists(const std::string& picture, const std::string& layout) {
   return files::RegularFile::Open(folder / ToUtf8(picture)).has_value();
 }
 
-/// Reports faults of the picture's line, and skips the line.
+/// Reports faults of the picture's line. Of a missing picture whose path a comma has ended the rest
+/// of the line is skipped.
 void CheckPicture(Report& report, LayoutReader& reader, const std::string& layout) {
   const std::string& picture = reader.Layout().PictureFile;
   const int line = reader.LineOfPicture();

@@ -37,7 +37,8 @@ inline constexpr char EmptyLinks[] = "  ";
 std::string MakeLinks(const std::vector<std::int16_t>& areas);
 /// Appends an entry for an Area, 0 to 99; unchanged when the Area is listed already.
 std::string WithEntry(std::string links, std::int16_t area);
-/// Removes the entries for an Area; unchanged when there is none.
+/// Removes the entries for an Area, and counts one entry less. Unchanged unless an entry has just
+/// the two digits of that Area.
 std::string WithoutEntry(const std::string& links, std::int16_t area);
 
 /// The number of neighbours that a link string declares, 0 to 99.

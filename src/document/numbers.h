@@ -14,7 +14,8 @@ std::string NumberText(std::int32_t n);
 /// Decimal text without a blank: "7", "-1".
 std::string PlainNumber(std::int32_t n);
 
-/// The two-digit form of 0 to 99; of any other number the last two digits of its text.
+/// The two-digit form of 0 to 99. Of a larger number it is the last two digits, of a negative one
+/// "0" and the last digit.
 std::string TwoDigit(std::int16_t n);
 
 /// Appends the two-digit form of 0 to 99; for places where there are hundreds of them.

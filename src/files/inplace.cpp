@@ -17,7 +17,7 @@ namespace {
 
 constexpr off_t MaxKept = off_t{64} << 20;
 
-/// Reads the whole file; one that is too large to keep in memory is refused.
+/// Reads the whole file. One that is not regular, or too large to keep in memory, is refused.
 Result<std::string> ReadAll(int file) {
   struct stat status {};
   const int error = ErrorOf([&] { return ::fstat(file, &status); });

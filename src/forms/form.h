@@ -61,7 +61,8 @@ class Form : public Control {
 
   /// The keys of the keyboard; a repeat must not be reported as a release. Returns whether the
   /// press was handled: then its character is not typed, nobody receives its release, and its
-  /// repeats reach only the control that had the focus at the press.
+  /// repeats reach only the control that had the focus at the press, and none once the key drag of
+  /// that time has ended.
   bool KeyPressed(KeyEvent key);
   void KeyReleased(const KeyEvent& key);
   /// Reports a pressed key that makes a character, before the text changes.

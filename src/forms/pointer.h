@@ -29,7 +29,8 @@ class PointerRouter {
   /// middle of the visible part, whatever is in front of it. Does nothing while the control or its
   /// container is disabled, or a mouse button is down.
   void SimulateClick(Control& control, std::int16_t shift, std::int16_t button = LeftButton);
-  /// A move of the pointer to the middle of a control, under the same conditions.
+  /// A move of the pointer to the middle of a control, enabled or not; nothing happens while a
+  /// mouse button is down.
   void SimulateHover(Control& control);
 
   /// Begins a drag of a control without the mouse, with a left press on its corner, if that press
@@ -42,7 +43,7 @@ class PointerRouter {
   void DropKeyDrag();
   /// Cancels the key drag; the control stays where it was.
   void CancelKeyDrag();
-  /// Whether a control is dragged by keys, or by the mouse.
+  /// Whether a control is dragged by keys.
   bool HasKeyDrag() const { return keyDrag_ && dragged_ != nullptr; }
   /// A different number for each key drag; 0 while there is none.
   unsigned KeyDragNumber() const { return HasKeyDrag() ? keyDrags_ : 0; }

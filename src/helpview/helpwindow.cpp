@@ -132,7 +132,8 @@ void HelpWindow::SetKeys() {
   on("Ctrl+0", [this] { page_.ActualSize(); });
 }
 
-/// Covers as little of the editor as possible: on its right, or else at the screen's right edge.
+/// Covers as little of the editor as possible: on its right, or on its left, or else at the
+/// screen's right edge.
 void HelpWindow::PlaceBeside(const QWidget& editor) {
   const QRect room = editor.screen()->availableGeometry();
   const QRect taken = editor.frameGeometry();

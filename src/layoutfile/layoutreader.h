@@ -21,7 +21,8 @@ inline constexpr std::size_t MaxLayoutBytes = 4U << 20U;
 using LayoutResult = tl::expected<void, LayoutFault>;
 
 /// Reads in three steps, in this order, since the window shows what each has read. After a failed
-/// step no other may follow. A number is never outside the tables or above the file's own count.
+/// step no other may follow. The number of an Area or a Region is never outside the tables or above
+/// the file's own count.
 class LayoutReader {
  public:
   /// The bytes must outlive the reader. What has no line in the file stays as in `start`.

@@ -39,7 +39,7 @@ std::optional<std::string> MapAsPng(const forms::PictureBox& box, int side) {
   const forms::Raster& picture = *box.Picture.Get();
   const int longer = std::max(picture.Width, picture.Height);
   if (longer < 1 || side < 1) return std::nullopt;
-  // The QImage uses the raster's memory: only a shrunk picture is a copy.
+  // The QImage begins with the raster's memory; shrinking or painting makes a copy.
   QImage map(reinterpret_cast<const uchar*>(picture.Pixels.data()), picture.Width, picture.Height,
              QImage::Format_RGB32);
   const double scale = std::min(1.0, static_cast<double>(side) / longer);

@@ -10,7 +10,7 @@ namespace terramark::window {
 /// An item without children. Derived classes give its place, name, role and state.
 class AccessibleItem : public QAccessibleInterface {
  public:
-  /// The widget must outlive its items.
+  /// The interface of the widget must outlive its items.
   explicit AccessibleItem(QAccessibleWidget& widget) : widget_(widget) {}
 
   bool isValid() const override { return true; }

@@ -19,7 +19,7 @@ class PointerFeed : public QObject {
   /// `inside` is the widget that shows the form's inside; all watched widgets are in it.
   PointerFeed(forms::Form& form, QWidget& inside) : form_(form), inside_(inside) {}
 
-  /// Watches the mouse over the widget and all that it contains by now. A widget that uses the
+  /// Watches the mouse over the widget, but not over its parts. A widget that uses the
   /// mouse itself receives it after the router.
   void Watch(QWidget& widget, MouseUse use);
 
