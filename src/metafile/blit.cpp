@@ -18,6 +18,8 @@ struct Axis {
   int Source = 0;  // the bitmap's first pixel, as the next
   int SourceLength = 0;
   bool Mirrored = false;
+
+  bool Shrinks() const { return SourceLength > Length; }
 };
 
 struct Axes {
@@ -25,9 +27,6 @@ struct Axes {
   Axis Down;
 
   QRect Box() const { return {Across.From, Down.From, Across.Length, Down.Length}; }
-  bool Shrinks() const {
-    return Across.SourceLength > Across.Length || Down.SourceLength > Down.Length;
-  }
 };
 
 Axis MakeAxis(int from, int to, int source, int sourceLength) {
@@ -57,18 +56,25 @@ struct SourceRange {
   int End = 0;
 };
 
+/// The pixel of the bitmap that covers the middle of the target's pixel `index`.
+std::int64_t NearestTo(const Axis& axis, std::int64_t index) {
+  return (2 * index + 1) * axis.SourceLength / (2 * axis.Length);
+}
+
+/// The first pixel of the bitmap whose middle is in the target's pixel `index` or beyond.
+std::int64_t FirstIn(const Axis& axis, std::int64_t index) {
+  return (2 * index * axis.SourceLength + axis.Length - 1) / (2 * axis.Length);
+}
+
 /// The ranges for the target's pixels `from` to `to`.
 std::vector<SourceRange> RangesOf(const Axis& axis, int from, int to, int bitmapSide,
                                   Shrinking shrinking) {
-  const std::int64_t length = axis.Length;
-  const std::int64_t count = axis.SourceLength;
+  const bool combined = shrinking == Shrinking::Combined && axis.Shrinks();
   std::vector<SourceRange> ranges;
   for (int at = from; at <= to; ++at) {
-    const std::int64_t index = axis.Mirrored ? axis.From + length - 1 - at : at - axis.From;
-    const bool joined = shrinking == Shrinking::Combined;
-    const std::int64_t first =
-        joined ? index * count / length : (2 * index + 1) * count / (2 * length);
-    const std::int64_t end = joined ? std::max(first + 1, (index + 1) * count / length) : first + 1;
+    const int index = axis.Mirrored ? axis.From + axis.Length - 1 - at : at - axis.From;
+    const std::int64_t first = combined ? FirstIn(axis, index) : NearestTo(axis, index);
+    const std::int64_t end = combined ? FirstIn(axis, index + 1) : first + 1;
     ranges.push_back({std::max(0, axis.Source + static_cast<int>(first)),
                       std::min(axis.Source + static_cast<int>(end), bitmapSide)});
   }
@@ -139,8 +145,8 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
   Surface& target = context.Target();
   const int mode = context.State.StretchMode;
   // The default mode combines them, so that no thin black line is lost.
-  const bool joins = axes.Shrinks() && (mode == StretchAnd || mode == StretchOr);
-  const Shrinking shrinking = joins ? Shrinking::Combined : Shrinking::Nearest;
+  const bool combines = mode == StretchAnd || mode == StretchOr;
+  const Shrinking shrinking = combines ? Shrinking::Combined : Shrinking::Nearest;
   const auto columns =
       RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
   const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);

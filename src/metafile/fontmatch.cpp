@@ -2,7 +2,9 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QRawFont>
 #include <QStringList>
+#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 
@@ -44,6 +46,30 @@ const char* SubstituteFor(const QByteArray& face) {
   return nullptr;
 }
 
+/// The mean widths of the letters of the faces that the families stand in for, for a size of one
+/// pixel. A metafile's width is a multiple of them: they are the xAvgCharWidth of Arial, Times New
+/// Roman, Courier New and Arial Narrow. Our families have the same letters but count other ones
+/// too, so their own mean is larger.
+struct WidthRow {
+  const char* Family;
+  double Regular;
+  double Bold;
+};
+
+constexpr WidthRow Widths[] = {
+    {"Liberation Sans", 0.441, 0.480},
+    {"Liberation Serif", 0.401, 0.427},
+    {"Liberation Mono", 0.600, 0.600},
+    {"Liberation Sans Narrow", 0.362, 0.392},
+};
+
+double MeanWidthOf(const QFont& face) {
+  for (const WidthRow& row : Widths) {
+    if (face.family() == QLatin1StringView(row.Family)) return face.bold() ? row.Bold : row.Regular;
+  }
+  return 0;
+}
+
 /// The metrics of the symbol font, for a size of one pixel.
 constexpr double SymbolAscent = 1.005;
 constexpr double SymbolDescent = 0.220;
@@ -74,7 +100,7 @@ QString FamilyOf(const Font& font) {
 std::optional<SymbolFont> SignsOf(const Font& wanted, QFont face) {
   const FontContents contents = ContentsOf(wanted);
   if (contents == FontContents::Letters) return std::nullopt;
-  face.setStyleStrategy(QFont::StyleStrategy(QFont::NoAntialias | QFont::NoFontMerging));
+  face.setStyleStrategy(QFont::StyleStrategy(face.styleStrategy() | QFont::NoFontMerging));
   const QString own = QString::fromLatin1(wanted.Face);
   if (IsInstalled(own)) {
     face.setFamily(own);
@@ -89,7 +115,7 @@ std::optional<SymbolFont> SignsOf(const Font& wanted, QFont face) {
   return std::nullopt;
 }
 
-/// The ascent, descent and mean width of letters of a size in pixels.
+/// The ascent, descent and mean width of the letters of a size in pixels.
 struct EmMetrics {
   int Ascent = 0;
   int Descent = 0;
@@ -106,7 +132,7 @@ EmMetrics EmMetricsOf(QFont face, FontContents contents, double size) {
   const QFontMetricsF metrics(face);
   return {.Ascent = static_cast<int>(std::lround(metrics.ascent())),
           .Descent = static_cast<int>(std::lround(metrics.descent())),
-          .Width = metrics.averageCharWidth()};
+          .Width = MeanWidthOf(face) * size};
 }
 
 /// The height of the font's cell for a size of one pixel.
@@ -122,6 +148,21 @@ double CellHeightPerEm(QFont face, FontContents contents) {
 double EmSizeFor(double height, double cell) {
   const double size = std::floor(height / cell + 0.5);
   return std::floor(size * cell + 0.5) > height ? size - 1 : size;
+}
+
+/// Whether the font's gasp table, whose rows have a largest size and what is done up to it, asks for
+/// smooth edges at the size of `face`.
+bool AsksForSmoothing(const QFont& face) {
+  constexpr int SmoothBit = 2;
+  constexpr qsizetype RowBytes = 4;
+  const QByteArray table = QRawFont::fromFont(face).fontTable("gasp");
+  const auto word = [&table](qsizetype at) {
+    return at + 2 <= table.size() ? qFromBigEndian<std::uint16_t>(table.constData() + at) : 0;
+  };
+  for (qsizetype row = RowBytes; row < table.size(); row += RowBytes) {
+    if (face.pixelSize() <= word(row)) return (word(row + 2) & SmoothBit) != 0;
+  }
+  return false;
 }
 
 }  // namespace
@@ -161,6 +202,7 @@ MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   if (wanted.Height == 0) size = DefaultPixelSize;
   size = ClampSize(size);
   face.setPixelSize(static_cast<int>(size));
+  if (AsksForSmoothing(face)) face.setStyleStrategy(QFont::PreferAntialias);
   matched.Signs = SignsOf(wanted, face);
 
   const EmMetrics measures = EmMetricsOf(face, contents, size);

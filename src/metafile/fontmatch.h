@@ -1,5 +1,5 @@
 // Finds the screen font for a metafile's font: a family with the same letter widths, in a size in
-// pixels and without antialiasing.
+// pixels, with smooth edges at the sizes at which the font asks for them.
 #pragma once
 
 #include <QFont>

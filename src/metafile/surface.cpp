@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "forms/flood.h"
+#include "metafile/textblend.h"
 
 namespace terramark::metafile {
 namespace {
@@ -116,6 +117,18 @@ void Surface::PaintMask(const PixelMask& mask, QPoint at, const Paint& paint) {
       from = x + 1;
     }
     if (from <= visible.right()) PaintSpan(y, from, visible.right() + 1, paint);
+  }
+}
+
+void Surface::PaintText(const PixelMask& coverage, QPoint at, QRgb colour) {
+  const QRect visible = QRect(at, coverage.Size()).intersected(Area());
+  if (!ChargeWork(std::int64_t{visible.width()} * visible.height())) return;
+  for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    const std::uint8_t* row = coverage.Row(y - at.y());
+    for (int x = visible.left(); x <= visible.right(); ++x) {
+      const std::uint8_t covered = row[x - at.x()];
+      if (covered != 0) WritePixel({x, y}, BlendText(colour, At({x, y}), covered));
+    }
   }
 }
 

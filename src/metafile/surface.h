@@ -66,6 +66,9 @@ class Surface {
   void PaintRectangle(const QRect& rect, const Paint& paint);
   /// Paints the marked pixels of `mask`, whose top left corner is at `at`.
   void PaintMask(const PixelMask& mask, QPoint at, const Paint& paint);
+  /// Paints text: the bytes of `coverage`, whose top left corner is at `at`, are 0 where it covers
+  /// nothing of a pixel and 255 where it covers all.
+  void PaintText(const PixelMask& coverage, QPoint at, QRgb colour);
   /// Paints the inside of the polygons, as ScanPolygons finds it.
   void PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint);
   /// Sets a pixel, for blits: within the clip, but without a raster operation. It must be inside

@@ -116,7 +116,8 @@ QImage NewImage(QSize size) {
   return image;
 }
 
-/// Letters outside the area are skipped at almost no cost.
+/// How much of each pixel of the area the text covers. Letters outside it are skipped at almost no
+/// cost.
 PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& font,
                       const QTransform& place, const QRect& area) {
   QImage image = NewImage(area.size());
@@ -141,13 +142,13 @@ PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& 
   painter.setTransform(turn * QTransform::fromTranslate(start.x(), start.y()));
   DrawRules(painter, line.Width, font.Face);
   painter.end();
-  PixelMask mask(area.size(), 0);
+  PixelMask coverage(area.size(), 0);
   for (int y = 0; y < area.height(); ++y) {
     const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    std::uint8_t* to = mask.Row(y);
-    for (int x = 0; x < area.width(); ++x) to[x] = qGreen(from[x]) < 128 ? 1 : 0;
+    std::uint8_t* to = coverage.Row(y);
+    for (int x = 0; x < area.width(); ++x) to[x] = static_cast<std::uint8_t>(255 - qGreen(from[x]));
   }
-  return mask;
+  return coverage;
 }
 
 /// Text replaces the destination, whatever the raster operation.
@@ -183,8 +184,8 @@ void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
   const QRect area = bounds.intersected(target.Area());
   if (target.BeginShape(context.Measured() ? inner : bounds) &&
       target.ChargeWork(std::int64_t{2} * area.width() * area.height())) {
-    target.PaintMask(DrawLetters(target, line, font, place, area), area.topLeft(),
-                     SolidPaint(context, state.TextColour));
+    target.PaintText(DrawLetters(target, line, font, place, area), area.topLeft(),
+                 context.Resolve(state.TextColour));
   }
   const double scale = std::abs(context.Scale().x());
   if (update && (state.TextAlign & AlignSideways) != AlignCentre && scale > 0) {
