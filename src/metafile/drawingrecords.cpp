@@ -94,9 +94,12 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
   if (!context.Target().BeginShape(box.adjusted(-pen, -pen, pen, pen))) return;
   const QRect outline = OutlineBox(context, box);
-  if (outline.isEmpty() || outline.width() > MaxRoundSide || outline.height() > MaxRoundSide)
-    return;
-  const QSize size = corner.boundedTo(outline.size()).expandedTo(QSize(1, 1));
+  if (outline.width() > MaxRoundSide || outline.height() > MaxRoundSide) return;
+  // Corners this small are square. A pen that is wider than the box leaves nothing to round either,
+  // and still paints.
+  constexpr int SquareCorner = 2;
+  const QSize size = corner.boundedTo(outline.size());
+  if (std::min(size.width(), size.height()) <= SquareCorner) return DrawRectangle(context, box);
   if (!context.Target().ChargeWork(std::int64_t{8} * (size.width() + size.height()))) return;
   const std::vector<QPoint> points = RoundOutline(outline, size);
   if (context.HasBrush()) FillShapes(context, {points}, FillRule::Winding);
