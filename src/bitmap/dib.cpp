@@ -18,8 +18,7 @@ DibColours AllBlack() {
   return colours;
 }
 
-/// Some files have fewer colours than they claim: their rows begin inside the table, at `bits`, and
-/// the other colours are black.
+/// The colours before the rows, which begin at `bits`; the others are black.
 std::optional<DibColours> ReadColours(ByteSource& dib, const DibHeader& header, qint64 bits) {
   const qint64 wanted = header.UsedColours() * header.EntryBytes();
   const auto table = dib.At(header.TableAt, std::min(wanted, bits - header.TableAt));
@@ -44,6 +43,16 @@ DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
     }
   }
   return colours;
+}
+
+/// Where the rows begin. A wrong offset counts for nothing when it points into the header or the
+/// colours. But some files have fewer colours than they claim, and rows that do not fit after those.
+qint64 FindRows(const ByteSource& dib, const DibHeader& header, qint64 offset) {
+  const qint64 afterTable = header.TableEnd(header.EntryBytes());
+  if (offset < header.TableAt) return afterTable;
+  if (offset >= afterTable) return offset;
+  const bool fit = header.RunLength || afterTable + header.RowBytes() * header.Height <= dib.Size();
+  return fit ? afterTable : offset;
 }
 
 /// The coded bytes or rows begin at `bits`, which is not beyond the end.
@@ -76,8 +85,8 @@ forms::Picture DecodePixels(ByteSource& dib, const DibHeader& header, const DibC
 }  // namespace
 
 forms::Picture DecodeDib(ByteSource& dib, const DibHeader& header, std::optional<qint64> bitsAt) {
-  const qint64 bits = bitsAt.value_or(header.TableEnd(header.EntryBytes()));
-  if (bits < header.TableAt || bits > dib.Size()) return nullptr;
+  const qint64 bits = FindRows(dib, header, bitsAt.value_or(0));
+  if (bits > dib.Size()) return nullptr;
   const std::optional<DibColours> colours = ReadColours(dib, header, bits);
   return colours ? DecodePixels(dib, header, *colours, bits) : nullptr;
 }

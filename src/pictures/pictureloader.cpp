@@ -17,22 +17,32 @@
 namespace terramark::pictures {
 namespace {
 
-/// The length of a bitmap file's header, before the bitmap's own.
+/// The length of a bitmap file's header, before the bitmap's own, and of the one that precedes it
+/// in a file with an array of bitmaps.
 constexpr qint64 FileHeaderBytes = 14;
 constexpr qsizetype BitsOffsetAt = 10;
 
-bool IsBitmap(QByteArrayView fileHeader) {
-  return fileHeader.size() == FileHeaderBytes && fileHeader.startsWith("BM");
+/// Where a bitmap file has its bitmap, and the bitmap its rows.
+struct BitmapPlaces {
+  qint64 Dib = 0;   // from the file's first byte
+  qint64 Bits = 0;  // from the bitmap's first byte; unusable when it points into its header
+};
+
+/// None when the file does not begin like a bitmap. Of an array the first bitmap is taken. `begin`
+/// has the first bytes of the file, two headers of them if it is long enough.
+std::optional<BitmapPlaces> FindBitmap(QByteArrayView begin) {
+  const qint64 array = begin.startsWith("BA") ? FileHeaderBytes : 0;
+  if (begin.size() < array + FileHeaderBytes) return std::nullopt;
+  const QByteArrayView fileHeader = begin.sliced(array, FileHeaderBytes);
+  if (!fileHeader.startsWith("BM")) return std::nullopt;
+  const auto offset = qFromLittleEndian<std::uint32_t>(fileHeader.data() + BitsOffsetAt);
+  const qint64 dib = array + FileHeaderBytes;
+  return BitmapPlaces{.Dib = dib, .Bits = offset - dib};
 }
 
-forms::Picture LoadBitmap(QByteArrayView fileHeader, bitmap::ByteSource& dib) {
+forms::Picture LoadBitmap(bitmap::ByteSource& dib, qint64 bitsAt) {
   const std::optional<bitmap::DibHeader> header = bitmap::ReadDibHeader(dib);
-  if (!header) return nullptr;
-  const auto offset = qFromLittleEndian<std::uint32_t>(fileHeader.data() + BitsOffsetAt);
-  // Some programs leave the offset empty: then the rows follow the colour table.
-  std::optional<qint64> bitsAt;
-  if (offset != 0) bitsAt = offset - FileHeaderBytes;
-  return bitmap::DecodeDib(dib, *header, bitsAt);
+  return header ? bitmap::DecodeDib(dib, *header, bitsAt) : nullptr;
 }
 
 forms::Picture DrawMetafile(const metafile::Metafile& read, int boxWidth, int boxHeight) {
@@ -54,22 +64,21 @@ forms::LoadedPicture Unreadable(const files::Fault& fault) {
 
 forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHeight) {
   const QByteArrayView all(bytes.data(), std::ssize(bytes));
-  const QByteArrayView fileHeader = all.first(std::min(all.size(), FileHeaderBytes));
-  if (!IsBitmap(fileHeader)) {
-    const auto read = metafile::ReadMetafile(all);
-    return read ? DrawMetafile(*read, boxWidth, boxHeight) : nullptr;
+  if (const auto places = FindBitmap(all)) {
+    bitmap::MemoryBytes dib(all.sliced(places->Dib));
+    return LoadBitmap(dib, places->Bits);
   }
-  bitmap::MemoryBytes dib(all.sliced(FileHeaderBytes));
-  return LoadBitmap(fileHeader, dib);
+  const auto read = metafile::ReadMetafile(all);
+  return read ? DrawMetafile(*read, boxWidth, boxHeight) : nullptr;
 }
 
 forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidth, int boxHeight) {
-  std::array<char, FileHeaderBytes> fileHeader{};
-  const auto begun = file.ReadAt(0, fileHeader);
+  std::array<char, 2 * FileHeaderBytes> begin{};
+  const auto begun = file.ReadAt(0, begin);
   if (!begun) return Unreadable(begun.error());
-  if (*begun == fileHeader.size() && IsBitmap(fileHeader)) {
-    bitmap::FileBytes dib(file, FileHeaderBytes);
-    forms::Picture picture = LoadBitmap(fileHeader, dib);
+  if (const auto places = FindBitmap(QByteArrayView(begin).first(static_cast<qsizetype>(*begun)))) {
+    bitmap::FileBytes dib(file, places->Dib);
+    forms::Picture picture = LoadBitmap(dib, places->Bits);
     if (!picture && dib.Fault()) return Unreadable(*dib.Fault());
     return PictureOr("the bitmap is damaged, too large or unusual", std::move(picture));
   }

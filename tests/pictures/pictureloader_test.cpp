@@ -54,13 +54,18 @@ const DibBytes Bitmaps[]{
 
 TEST(PictureLoader, ReadsEveryKindOfBitmapAtItsOwnSize) {
   for (const DibBytes& bitmap : Bitmaps) {
-    QByteArray file = bitmap.File();
-    for (const char* offset : {"", " left empty"}) {
-      const forms::Picture picture = Load(file);
-      ASSERT_TRUE(picture && picture->Width == 2 && picture->Height == 2) << bitmap.Bits << offset;
+    const QByteArray file = bitmap.File();
+    QByteArray inHeader = file;
+    QByteArray inColours = file;
+    inHeader.replace(10, 4, Long(20));
+    if (!bitmap.Colours.empty()) inColours.replace(10, 4, Long(14 + bitmap.HeaderBytes + 3));
+    QByteArray array = "BA" + QByteArray(12, 0) + file;
+    array.replace(24, 4, Long(array.size() - bitmap.Rows.size()));
+    for (const QByteArray& bytes : {file, inHeader, inColours, array}) {
+      const forms::Picture picture = Load(bytes);
+      ASSERT_TRUE(picture && picture->Width == 2 && picture->Height == 2) << bytes.toHex().data();
       const std::uint32_t last = bitmap.Bits > 1 ? White : Red;
-      EXPECT_EQ(picture->Pixels, (Pixels{Red, Blue, last, Red})) << bitmap.Bits << offset;
-      file.replace(10, 4, Long(0));
+      EXPECT_EQ(picture->Pixels, (Pixels{Red, Blue, last, Red})) << bytes.toHex().data();
     }
   }
 }
