@@ -46,7 +46,8 @@ DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
 }
 
 /// Where the rows begin. A wrong offset counts for nothing when it points into the header or the
-/// colours. But some files have fewer colours than they claim, and rows that do not fit after those.
+/// colours. But some files have fewer colours than they claim, and rows that do not fit after
+/// those.
 qint64 FindRows(const ByteSource& dib, const DibHeader& header, qint64 offset) {
   const qint64 afterTable = header.TableEnd(header.EntryBytes());
   if (offset < header.TableAt) return afterTable;

@@ -13,10 +13,11 @@ namespace terramark::bitmap {
 
 /// Decodes the bitmap whose header was read from the first byte of `dib`: with 1, 2, 4, 8, 16, 24
 /// or 32 bits a pixel, or run-length coded with 4 or 8. `bitsAt` is where its rows begin; without
-/// it, or when it cannot be right, they follow the colour table. Up to half of the bytes of uncoded rows may be missing, and
-/// read as 0. Pixels that run-length codes skip have the first colour, numbers beyond the table are
-/// black, and an alpha channel is ignored. Null for a broken bitmap, or when a read fails;
-/// std::bad_alloc when memory runs out. Uses only some hundred kilobytes besides the picture.
+/// it, or when it cannot be right, they follow the colour table. Up to half of the bytes of uncoded
+/// rows may be missing, and read as 0. Pixels that run-length codes skip have the first colour,
+/// numbers beyond the table are black, and an alpha channel is ignored. Null for a broken bitmap,
+/// or when a read fails; std::bad_alloc when memory runs out. Uses only some hundred kilobytes
+/// besides the picture.
 forms::Picture DecodeDib(ByteSource& dib, const DibHeader& header, std::optional<qint64> bitsAt);
 
 /// The same for a colour table of two-byte numbers of `palette`'s entries, which are pixels of a

@@ -13,15 +13,12 @@ namespace {
 
 constexpr qsizetype TwoColourHeadWords = 5;
 constexpr int TwoColourPlanes = 0x0101;  // one plane of one bit a pixel
-constexpr std::int64_t WorkPerBitmapPixel = 1;
-constexpr std::int64_t WorkPerKeptPixel = 12;
 
 /// The bitmap in a record. Its size is in pixels, at least 1 each way.
 struct RecordBitmap {
   int Width = 0;
   int Height = 0;
   bool BottomUp = false;
-  std::int64_t Words = 0;  // of the record
   /// Decodes it; null when it is broken.
   std::function<forms::Picture(const DeviceContext& context)> Decode;
 
@@ -61,7 +58,6 @@ std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizet
   }
   return RecordBitmap{.Width = size.width(),
                       .Height = size.height(),
-                      .Words = record.Words(),
                       .Decode = [=, bits = record.From(bitsAt)](const DeviceContext& context) {
                         return DecodeTwoColours(context, size, rowBytes, bits);
                       }};
@@ -85,19 +81,18 @@ std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype
   return RecordBitmap{.Width = header->Width,
                       .Height = header->Height,
                       .BottomUp = header->BottomUp,
-                      .Words = record.Words(),
                       .Decode = [=, header = *header](const DeviceContext& context) {
                         bitmap::MemoryBytes dib(bytes);
                         return table == TableOf::Colours
                                    ? bitmap::DecodeDib(dib, header, std::nullopt)
                                    : bitmap::DecodeDibByPalette(
-                                         dib, header, context.State.CurrentPalette.Entries);
+                                         dib, header, context.State.CurrentPalette.Entries());
                       }};
 }
 
-/// Null when the bitmap is broken, or when the work that is left is too little.
+/// Null when the bitmap is broken, or when the budget is used up.
 forms::Picture Decode(DeviceContext& context, const RecordBitmap& from) {
-  if (!context.Target().ChargeWork(WorkPerBitmapPixel * from.Pixels() + from.Words)) return nullptr;
+  if (!context.Target().Cost().Spend(from.Pixels())) return nullptr;
   return from.Decode(context);
 }
 
@@ -142,12 +137,12 @@ Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
 /// A brush that fails still takes its number: later records count on it.
 void AddPatternBrush(DeviceContext& context, const std::optional<RecordBitmap>& from) {
   GraphicsObject object = Unusable();
+  Budget& cost = context.Target().Cost();
+  if (from && !cost.Keep(from->Pixels() * std::int64_t{sizeof(QRgb)})) return;
   if (auto tile = from ? Decode(context, *from) : nullptr) {
-    // A brush may be kept, so its memory costs more than painted pixels.
-    context.Target().ChargeWork(WorkPerKeptPixel * static_cast<std::int64_t>(tile->Pixels.size()));
     object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};
   }
-  context.Target().ChargeWork(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
+  cost.Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
 }
 
 }  // namespace

@@ -8,8 +8,6 @@ namespace terramark::metafile {
 namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
-constexpr std::int64_t WorkPerBlit = 200;
-constexpr std::int64_t WorkPerBlitPixel = 8;
 
 /// One axis of a blit, in pixels.
 struct Axis {
@@ -150,7 +148,7 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
   const auto columns =
       RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
   const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);
-  if (!target.ChargeWork(PixelsIn(columns) * PixelsIn(rows))) return;
+  if (!target.Cost().Spend(PixelsIn(columns) * PixelsIn(rows))) return;
   const Paint paint = context.BrushPaint(context.State.CurrentBrush);
   QPoint at = visible.topLeft();
   for (const SourceRange& down : rows) {
@@ -170,7 +168,7 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
 void PaintBlit(DeviceContext& context, int rop, const Axes& axes, const forms::Picture& source) {
   const QRect visible = axes.Box().intersected(context.Target().Area());
   const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
-  if (!context.Target().ChargeWork(WorkPerBlit + WorkPerBlitPixel * pixels)) return;
+  if (!context.Target().Cost().Spend(pixels)) return;
   if (UsesSource(rop)) return PaintWith(context, rop, axes, visible, *source);
   PaintWithout(context, rop, visible);
 }

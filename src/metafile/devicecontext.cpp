@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <span>
 #include <utility>
 
 #include "metafile/limits.h"
@@ -61,9 +62,21 @@ DeviceContext::DeviceContext(Surface& surface, const LogicalFrame& frame, QSize 
 
 void DeviceContext::Save() {
   if (saved_.size() == MaxSaves) return;
+  if (SavedClipBytes() > MaxSavedClipBytes) return surface_.Cost().UseUp();
   State.SavedClip = surface_.CurrentClip();
   saved_.push_back(State);
   State.SavedClip = nullptr;
+}
+
+std::int64_t DeviceContext::SavedClipBytes() const {
+  const std::int64_t each = std::int64_t{surface_.Area().width()} * surface_.Area().height();
+  std::int64_t total = 0;
+  const Clip* last = nullptr;
+  for (const DeviceState& state : saved_) {
+    if (state.SavedClip && (last == nullptr || *last != state.SavedClip)) total += each;
+    last = &state.SavedClip;
+  }
+  return total;
 }
 
 void DeviceContext::Restore(int level) {
@@ -105,7 +118,7 @@ QRect DeviceContext::ToDevice(int left, int top, int right, int bottom) const {
 
 QRgb DeviceContext::Resolve(ColourRef colour) const {
   constexpr ColourRef IndexMark = 1;
-  const std::vector<QRgb>& entries = State.CurrentPalette.Entries;
+  const std::span<const QRgb> entries = State.CurrentPalette.Entries();
   if (colour >> 24 == IndexMark) {
     const std::size_t index = colour & 0xFFFF;
     return index < entries.size() ? entries[index] : qRgb(0, 0, 0);

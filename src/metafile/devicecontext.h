@@ -88,6 +88,9 @@ class DeviceContext {
   Paint BrushPaint(const Brush& brush) const;
 
  private:
+  /// The memory of the saved clips; one that was not changed in between counts once.
+  std::int64_t SavedClipBytes() const;
+
   Surface& surface_;
   FrameSource source_;
   QPointF baseScale_{1, 1};

@@ -10,14 +10,11 @@
 namespace terramark::metafile {
 namespace {
 
-constexpr std::int64_t WorkPerShape = 50;
-constexpr std::int64_t WorkPerPoint = 16;
-
 /// The points of a shape: `count` pairs of words from the word `at`.
 std::vector<QPoint> ReadPoints(DeviceContext& context, const MetafileRecord& record, qsizetype at,
                                int count) {
   const qsizetype present = std::clamp<qsizetype>((record.Words() - at) / 2, 0, count);
-  if (!context.Target().ChargeWork(WorkPerShape + WorkPerPoint * present)) return {};
+  if (!context.Target().Cost().Spend(present)) return {};
   std::vector<QPoint> points;
   points.reserve(static_cast<std::size_t>(present));
   for (qsizetype i = 0; i < present; ++i) {
@@ -100,7 +97,7 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   constexpr int SquareCorner = 2;
   const QSize size = corner.boundedTo(outline.size());
   if (std::min(size.width(), size.height()) <= SquareCorner) return DrawRectangle(context, box);
-  if (!context.Target().ChargeWork(std::int64_t{8} * (size.width() + size.height()))) return;
+  if (!context.Target().Cost().Spend(size.width() + size.height())) return;
   const std::vector<QPoint> points = RoundOutline(outline, size);
   if (context.HasBrush()) FillShapes(context, {points}, FillRule::Winding);
   Stroke(context, points, LineShape::Closed);
@@ -129,7 +126,7 @@ void DrawArc(DeviceContext& context, const MetafileRecord& record, ArcKind kind)
 
   const double length = sweep * std::max(radiusX, radiusY);
   const int steps = static_cast<int>(std::clamp(length, 8.0, double{MaxArcSteps}));
-  if (!context.Target().ChargeWork(std::int64_t{steps} * 8)) return;
+  if (!context.Target().Cost().Spend(steps)) return;
   std::vector<QPoint> points;
   for (int i = 0; i <= steps; ++i) {
     const double at = start + sweep * i / steps;

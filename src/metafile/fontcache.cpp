@@ -1,7 +1,6 @@
 #include "metafile/fontcache.h"
 
 #include <QFontMetrics>
-#include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -11,18 +10,6 @@
 
 namespace terramark::metafile {
 namespace {
-
-constexpr std::int64_t WorkPerFont = 100'000;
-// For the first letter that a font lacks the system searches all installed families.
-constexpr std::int64_t WorkPerOtherFamily = 10'000;
-constexpr std::int64_t WorkPerSearch = 500;
-constexpr std::int64_t WorkPerShape = 20'000;
-
-bool HasAll(const QFont& font, const QString& text) {
-  const QRawFont raw = QRawFont::fromFont(font);
-  return std::all_of(text.begin(), text.end(),
-                     [&raw](QChar letter) { return raw.supportsCharacter(letter); });
-}
 
 /// No runs where the font would draw its box for missing letters.
 QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
@@ -42,16 +29,16 @@ QList<QGlyphRun> RunsOf(const QFont& font, const QString& text) {
 
 }  // namespace
 
-const LetterShape& CachedFont::ShapeOf(QByteArrayView letter, Surface& target) {
+const LetterShape& CachedFont::ShapeOf(QByteArrayView letter, Budget& budget) {
   unsigned bytes = 0;
   for (const char byte : letter) bytes = bytes << 8 | static_cast<unsigned char>(byte);
   const auto known = letters_.find(bytes);
   if (known != letters_.end()) return known->second;
-  target.ChargeWork(WorkPerShape);
-  return letters_.emplace(bytes, NewShape(letter, target)).first->second;
+  budget.SpendCall();
+  return letters_.emplace(bytes, NewShape(letter)).first->second;
 }
 
-LetterShape CachedFont::NewShape(QByteArrayView letter, Surface& target) {
+LetterShape CachedFont::NewShape(QByteArrayView letter) {
   const QString text = DecodeLetter(letter, Wanted);
   LetterShape shape{.Runs = {}, .Advance = 0, .Blank = letter == QByteArrayView(" ")};
   const auto take = [&shape](const QFont& face, const QString& as) {
@@ -65,11 +52,6 @@ LetterShape CachedFont::NewShape(QByteArrayView letter, Surface& target) {
       const int sign = Match.Signs->From + static_cast<unsigned char>(letter[0]);
       if (take(Match.Signs->Face, QString(QChar(sign)))) return shape;
     }
-    const bool others = contents != FontContents::PrivateSymbols && !HasAll(Match.Face, text);
-    if (others && !searched_) {
-      target.ChargeWork(WorkPerOtherFamily * FamilyCount());
-      searched_ = true;
-    }
     if (contents != FontContents::PrivateSymbols && take(Match.Face, text)) return shape;
     if (contents == FontContents::Symbols) {
       const char16_t plainer = PlainerLetter(text[0].unicode());
@@ -82,14 +64,14 @@ LetterShape CachedFont::NewShape(QByteArrayView letter, Surface& target) {
   return shape;
 }
 
-CachedFont& FontCache::Find(Font wanted, QPointF scale, Surface& target) {
+CachedFont& FontCache::Find(Font wanted, QPointF scale, Budget& budget) {
   wanted.Escapement = 0;  // the letters are turned when they are drawn
-  target.ChargeWork(WorkPerSearch);
+  budget.Spend(std::ssize(fonts_));
   const auto kept = std::find_if(fonts_.begin(), fonts_.end(), [&](const CachedFont& font) {
     return font.Scale == scale && font.Wanted == wanted;
   });
   if (kept != fonts_.end()) return *kept;
-  target.ChargeWork(WorkPerFont);
+  budget.SpendCall();
   if (fonts_.size() == MaxCachedFonts) fonts_.clear();
   return fonts_.emplace_back(wanted, scale);
 }

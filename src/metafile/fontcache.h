@@ -9,8 +9,8 @@
 #include <list>
 #include <unordered_map>
 
+#include "metafile/budget.h"
 #include "metafile/fontmatch.h"
-#include "metafile/surface.h"
 
 namespace terramark::metafile {
 
@@ -31,21 +31,20 @@ class CachedFont {
   QPointF Scale;
   MatchedFont Match;
 
-  /// The letter of one or two bytes. `target` is charged for one that is not in the cache.
-  const LetterShape& ShapeOf(QByteArrayView letter, Surface& target);
+  /// The letter of one or two bytes. One that is not in the cache is paid for.
+  const LetterShape& ShapeOf(QByteArrayView letter, Budget& budget);
 
  private:
-  LetterShape NewShape(QByteArrayView letter, Surface& target);
+  LetterShape NewShape(QByteArrayView letter);
 
-  bool searched_ = false;  // whether other fonts were looked through
   std::unordered_map<unsigned, LetterShape> letters_;
 };
 
 class FontCache {
  public:
-  /// As MatchFont. `target` is charged for a font that is not in the cache. The result is valid
+  /// As MatchFont. A font that is not in the cache is paid for. The result is valid
   /// until the next call.
-  CachedFont& Find(Font wanted, QPointF scale, Surface& target);
+  CachedFont& Find(Font wanted, QPointF scale, Budget& budget);
 
  private:
   std::list<CachedFont> fonts_;

@@ -150,8 +150,8 @@ double EmSizeFor(double height, double cell) {
   return std::floor(size * cell + 0.5) > height ? size - 1 : size;
 }
 
-/// Whether the font's gasp table, whose rows have a largest size and what is done up to it, asks for
-/// smooth edges at the size of `face`.
+/// Whether the font's gasp table, whose rows have a largest size and what is done up to it, asks
+/// for smooth edges at the size of `face`.
 bool AsksForSmoothing(const QFont& face) {
   constexpr int SmoothBit = 2;
   constexpr qsizetype RowBytes = 4;
@@ -174,10 +174,6 @@ FontContents ContentsOf(const Font& font) {
   // A face that is known for letters has no symbols: the symbol font is used instead.
   const bool symbols = face.isEmpty() || face.contains("symbol") || SubstituteFor(face) != nullptr;
   return symbols ? FontContents::Symbols : FontContents::PrivateSymbols;
-}
-
-qsizetype FamilyCount() {
-  return FamilyNames().size();
 }
 
 MatchedFont MatchFont(const Font& wanted, QPointF scale) {

@@ -36,9 +36,6 @@ struct MatchedFont {
   double Slant = 0;
 };
 
-/// The number of font families of the system.
-qsizetype FamilyCount();
-
 /// The font for `wanted`, with the scale in pixels per logical unit. It may name a family that is
 /// not installed. Its size is 1 to MaxLetterSize pixels.
 MatchedFont MatchFont(const Font& wanted, QPointF scale);

@@ -6,6 +6,9 @@
 #include <QRect>
 #include <QRgb>
 #include <cstdint>
+#include <memory>
+#include <span>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -52,8 +55,26 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-struct Palette {
-  std::vector<QRgb> Entries;  // MaxPaletteEntries at most, opaque
+/// Its entries are copied before a change while they are shared, so that selecting and saving it
+/// costs nothing.
+class Palette {
+ public:
+  Palette() = default;
+  /// MaxPaletteEntries at most, opaque.
+  explicit Palette(std::vector<QRgb> entries)
+      : entries_(std::make_shared<std::vector<QRgb>>(std::move(entries))) {}
+
+  std::span<const QRgb> Entries() const {
+    return entries_ ? std::span<const QRgb>(*entries_) : std::span<const QRgb>();
+  }
+  /// The entries, to be changed in this palette alone.
+  std::span<QRgb> OwnEntries() {
+    if (entries_.use_count() > 1) entries_ = std::make_shared<std::vector<QRgb>>(*entries_);
+    return entries_ ? std::span<QRgb>(*entries_) : std::span<QRgb>();
+  }
+
+ private:
+  std::shared_ptr<std::vector<QRgb>> entries_;
 };
 
 struct RegionObject {

@@ -1,5 +1,5 @@
-// The limits of a metafile: its file, sizes, numbers and work. A file beyond them is refused, or
-// drawn up to the limit.
+// The limits of a metafile: its file, sizes and numbers. A file beyond them is refused, or drawn up
+// to the limit. What drawing may cost is in budget.h.
 #pragma once
 
 #include <cstddef>
@@ -18,6 +18,8 @@ constexpr std::size_t MaxMetafileRecords = 1'000'000;
 constexpr std::size_t MaxObjects = 65536;
 /// Levels of SaveDC; further saves are ignored.
 constexpr std::size_t MaxSaves = 256;
+/// The clips that are saved, a byte for each pixel of the picture.
+constexpr std::int64_t MaxSavedClipBytes = std::int64_t{256} * 1024 * 1024;
 /// Colours of a palette; further ones are left out.
 constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
 /// Letters of one text; further ones are not drawn.
@@ -32,10 +34,5 @@ constexpr int MaxLetterSize = 4096;  // pixels
 constexpr std::size_t MaxCachedFonts = 64;
 /// Mapped points are limited to so many pixels each way.
 constexpr double MaxDevice = 1 << 24;
-
-/// The work that one metafile may cost. A unit takes at most four nanoseconds on a processor of
-/// 2020, so that no file takes longer than about a second. Everything that is read, made, combined
-/// or painted is charged, visible or not.
-constexpr std::int64_t WorkLimit = 300'000'000;
 
 }  // namespace terramark::metafile

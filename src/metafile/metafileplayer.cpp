@@ -1,10 +1,9 @@
 #include "metafile/metafileplayer.h"
 
 #include <algorithm>
-#include <optional>
+#include <string>
 
 #include "metafile/devicecontext.h"
-#include "metafile/limits.h"
 #include "metafile/recordtable.h"
 
 namespace terramark::metafile {
@@ -12,12 +11,9 @@ namespace {
 
 using FrameSource = DeviceContext::FrameSource;
 
-/// Even a record that draws nothing takes some time.
-constexpr std::int64_t WorkPerRecord = 50;
-
 void PlayRecords(DeviceContext& context, const Metafile& metafile) {
   for (const MetafileRecord& record : metafile.Records) {
-    if (!context.Target().ChargeWork(WorkPerRecord + record.Words())) return;
+    if (!context.Target().Cost().Spend(1 + record.Words())) return;
     if (const RecordRow* const row = RowOf(record.Kind)) row->Player(context, record);
   }
 }
@@ -28,35 +24,37 @@ bool SetsWindow(const Metafile& metafile) {
   });
 }
 
-/// Subtracts its cost from `work`.
-QRect MeasureDrawing(const Metafile& metafile, std::int64_t& work) {
-  Surface surface(QSize(1, 1), Surface::Use::Measure, work);
+QRect MeasureDrawing(const Metafile& metafile, Budget& budget) {
+  Surface surface(QSize(1, 1), Surface::Use::Measure, budget);
   DeviceContext context(surface, LogicalFrame{}, QSize(1, 1), FrameSource::Measured);
   PlayRecords(context, metafile);
-  work = surface.WorkLeft();
   return surface.MeasuredBounds();
 }
 
 }  // namespace
 
-forms::Picture PlayMetafile(const Metafile& metafile, QSize size) {
-  if (size.isEmpty()) return {};
+forms::LoadedPicture PlayMetafile(const Metafile& metafile, QSize size,
+                                  std::chrono::nanoseconds time) {
+  constexpr const char* Nothing = "nothing is drawn in it";
+  if (size.isEmpty()) return tl::unexpected<std::string>(Nothing);
   LogicalFrame frame;
   FrameSource source = FrameSource::File;
-  std::int64_t work = WorkLimit;
+  Budget budget(time);
   if (metafile.Bounds) {
     frame = {metafile.Bounds->topLeft(), metafile.Bounds->size()};
   } else if (SetsWindow(metafile)) {
     frame = {QPoint(0, 0), size};
   } else {
-    const QRect drawn = MeasureDrawing(metafile, work);
-    if (drawn.isEmpty()) return {};
+    const QRect drawn = MeasureDrawing(metafile, budget);
+    if (drawn.isEmpty() && !budget.IsUsedUp()) return tl::unexpected<std::string>(Nothing);
     frame = {drawn.topLeft(), drawn.size()};
     source = FrameSource::Measured;
   }
-  Surface surface(size, Surface::Use::Draw, work);
+  Surface surface(size, Surface::Use::Draw, budget);
   DeviceContext context(surface, frame, size, source);
   PlayRecords(context, metafile);
+  if (budget.IsUsedUp())
+    return tl::unexpected<std::string>("it takes too much time or memory to draw");
   return surface.TakeImage();
 }
 

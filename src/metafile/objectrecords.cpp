@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "metafile/limits.h"
@@ -48,13 +49,11 @@ QRgb EntryOf(const MetafileRecord& record, qsizetype entry) {
 }
 
 Palette ReadPalette(const MetafileRecord& record) {
-  Palette palette;
+  std::vector<QRgb> entries;
   const qsizetype count =
       std::min<qsizetype>({record.Word(1), (record.Words() - 2) / 2, MaxPaletteEntries});
-  for (qsizetype i = 0; i < count; ++i) {
-    palette.Entries.push_back(EntryOf(record, i));
-  }
-  return palette;
+  for (qsizetype i = 0; i < count; ++i) entries.push_back(EntryOf(record, i));
+  return Palette(std::move(entries));
 }
 
 /// Reads rows of rectangles. A row has the number of its edges, its top and bottom, the left and
@@ -76,9 +75,9 @@ GraphicsObject ReadRegion(const MetafileRecord& record) {
 }
 
 void AddObject(DeviceContext& context, const MetafileRecord& record, GraphicsObject object) {
-  const std::size_t searched = context.Objects.Add(std::move(object));
-  // Memory that stays in use costs more than painted pixels.
-  context.Target().ChargeWork(static_cast<std::int64_t>(searched) + record.Words() * 32);
+  // What is made of a record has at most four times its size.
+  if (!context.Target().Cost().Keep(std::int64_t{8} * record.Words())) return;
+  context.Target().Cost().Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
 }
 
 }  // namespace
@@ -127,7 +126,8 @@ void PlaySelectPalette(DeviceContext& context, const MetafileRecord& record) {
 }
 
 void PlaySetPaletteEntries(DeviceContext& context, const MetafileRecord& record) {
-  std::vector<QRgb>& entries = context.State.CurrentPalette.Entries;
+  const std::span<QRgb> entries = context.State.CurrentPalette.OwnEntries();
+  if (!context.Target().Cost().Spend(std::ssize(entries))) return;
   for (qsizetype i = 0; i < record.Word(1) && 3 + 2 * i < record.Words(); ++i) {
     const std::size_t index =
         static_cast<std::size_t>(record.Word(0)) + static_cast<std::size_t>(i);

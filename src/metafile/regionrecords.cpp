@@ -7,15 +7,12 @@
 namespace terramark::metafile {
 namespace {
 
-constexpr std::int64_t WorkPerRect = 16;
-constexpr std::int64_t WorkPerFramePixel = 5;
-
 /// The rectangles of a region in pixels. A region is painted in logical units, unlike the clip that
 /// is made from it. None for a number that is not a region's.
 std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   std::vector<QRect> rects;
   const auto* region = std::get_if<RegionObject>(&context.Objects.At(number));
-  if (region == nullptr || !context.Target().ChargeWork(WorkPerRect * std::ssize(region->Rects))) {
+  if (region == nullptr || !context.Target().Cost().Spend(std::ssize(region->Rects))) {
     return rects;
   }
   for (const QRect& rect : region->Rects) {
@@ -43,7 +40,7 @@ PixelMask RegionMask(Surface& target, const std::vector<QRect>& rects, QPoint by
   PixelMask mask(target.Area().size(), 0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.translated(by).intersected(target.Area());
-    if (!target.ChargeWork(std::int64_t{visible.height()} * (2 + visible.width() / 8))) break;
+    if (!target.Cost().Spend(std::int64_t{visible.height()} * visible.width())) break;
     for (int y = visible.top(); y <= visible.bottom(); ++y) {
       std::fill_n(mask.Row(y) + visible.left(), visible.width(), std::uint8_t{1});
     }
@@ -95,8 +92,7 @@ void PlayFrameRegion(DeviceContext& context, const MetafileRecord& record) {
   QRect bounds;
   for (const QRect& rect : rects) bounds = bounds.united(rect);
   if (bounds.isEmpty() || !target.BeginShape(bounds)) return;
-  if (!target.ChargeWork(WorkPerFramePixel * target.Area().width() * target.Area().height()))
-    return;
+  if (!target.Cost().Spend(std::int64_t{target.Area().width()} * target.Area().height())) return;
   const QPointF scale = context.Scale();
   const int width =
       static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, MaxDevice));

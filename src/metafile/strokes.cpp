@@ -9,13 +9,6 @@
 namespace terramark::metafile {
 namespace {
 
-/// The work of finding the pixels; the surface charges for painting them.
-constexpr std::int64_t WorkPerLine = 8;
-constexpr std::int64_t WorkPerLinePixel = 6;
-constexpr std::int64_t WorkPerDiscRow = 8;
-constexpr std::int64_t WorkPerPoint = 8;
-constexpr std::int64_t WorkPerBand = 100;
-
 /// Pixels drawn and left out alternately; empty for a solid line.
 std::span<const int> DashesOf(PenStyle style) {
   static constexpr int Dash[] = {18, 6};
@@ -69,10 +62,10 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
     const QPoint from = points[i];
     const QPoint to = points[i + 1];
     const QRect bounds = BoundingRect(from, to);
-    if (!target.ChargeWork(WorkPerLine)) return;
+    if (!target.Cost().Spend(1)) return;
     if (!target.BeginShape(bounds)) continue;
     const QRect visible = bounds.intersected(target.Area());
-    if (!target.ChargeWork(WorkPerLinePixel * std::max(visible.width(), visible.height()))) return;
+    if (!target.Cost().Spend(std::max(visible.width(), visible.height()))) return;
     ScanLine(from, to, target.Area(), [&](QPoint pixel, std::int64_t step) {
       if (InDash(dashes, drawn + step)) {
         target.PaintPixel(pixel, paint);
@@ -141,7 +134,7 @@ class Disc {
 void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int width) {
   Surface& target = context.Target();
   const QRect bounds = BoundingRect(points).adjusted(-width, -width, width, width);
-  if (!target.BeginShape(bounds) || !target.ChargeWork(WorkPerDiscRow * width)) return;
+  if (!target.BeginShape(bounds) || !target.Cost().Spend(width)) return;
   const Disc disc(width);
   const QRect area = bounds.intersected(target.Area());
   PixelMask mask(area.size(), 0);
@@ -149,16 +142,16 @@ void WideStroke(DeviceContext& context, const std::vector<QPoint>& points, int w
     std::fill_n(mask.Row(y - area.top()) + (x0 - area.left()), x1 - x0, std::uint8_t{1});
   };
   for (std::size_t i = 0; i < points.size(); ++i) {
-    const QRect seen = disc.BoxAt(points[i]).intersected(area);
-    if (!target.ChargeWork(WorkPerPoint + std::int64_t{seen.height()} * (2 + seen.width() / 8)))
-      return;
-    disc.Scan(points[i], area, mark);
-    if (i + 1 == points.size() || points[i] == points[i + 1]) continue;
-    const std::vector<QPolygonF> band{LineQuad(points[i], points[i + 1], width)};
+    const QPoint from = points[i];
+    const QPoint to = points[std::min(i + 1, points.size() - 1)];
+    const QRect reached = BoundingRect(from, to).adjusted(-width, -width, width, width);
+    const QRect visible = reached.intersected(area);
+    if (!target.Cost().Spend(1 + std::int64_t{visible.width()} * visible.height())) return;
+    if (visible.isEmpty()) continue;
+    disc.Scan(from, area, mark);
+    if (from == to) continue;
+    const std::vector<QPolygonF> band{LineQuad(from, to, width)};
     const QRect around = band.front().boundingRect().toAlignedRect().intersected(area);
-    if (around.isEmpty()) continue;
-    if (!target.ChargeWork(WorkPerBand + std::int64_t{around.height()} * (8 + around.width() / 8)))
-      return;
     ScanPolygons(band, FillRule::Winding, around, mark);
   }
   target.PaintMask(mask, area.topLeft(), context.PenPaint());

@@ -12,14 +12,8 @@ namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
-constexpr std::int64_t WorkPerPolygon = 40;
-constexpr std::int64_t WorkPerEdge = 6;
-constexpr std::int64_t WorkPerCrossing = 16;
-constexpr std::int64_t WorkPerFloodRun = 10;
-constexpr std::int64_t PixelsPerFloodWork = 32;  // two bits each, cleared by words
-// Copies of the clip that SaveDC keeps use memory, so they cost more than painted pixels.
-constexpr std::int64_t WorkPerClipPixel = 4;
-constexpr std::int64_t WorkPerClipRect = 10;
+// Where edges of polygons cross a row; 64 MiB of memory.
+constexpr std::int64_t MaxCrossings = 8'000'000;
 
 /// The result is bit (pattern * 2 + destination) of the operation's number minus 1.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
@@ -32,11 +26,13 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
   return result | OpaqueBlack;
 }
 
+std::int64_t PixelCount(const QRect& rect) {
+  return std::int64_t{rect.width()} * rect.height();
+}
+
 /// Paints the pixels of a flood, in runs.
 struct FloodPainter {
-  void Run(int y, int x0, int x1) {
-    if (Target.ChargeWork(WorkPerFloodRun)) Target.PaintSpan(y, x0, x1, FillPaint);
-  }
+  void Run(int y, int x0, int x1) { Target.PaintSpan(y, x0, x1, FillPaint); }
   void PaintBits(int y, int x, std::uint32_t bits) {
     while (bits != 0) {
       const int first = std::countr_zero(bits);
@@ -52,15 +48,10 @@ struct FloodPainter {
 
 }  // namespace
 
-Surface::Surface(QSize size, Use use, std::int64_t work) : use_(use), workLeft_(work) {
+Surface::Surface(QSize size, Use use, Budget& budget) : use_(use), budget_(budget) {
   image_.Width = use == Use::Measure ? 1 : size.width();
   image_.Height = use == Use::Measure ? 1 : size.height();
   image_.Pixels.assign(image_.IndexOf(0, image_.Height), White);
-}
-
-bool Surface::ChargeWork(std::int64_t work) {
-  workLeft_ -= std::min(work, workLeft_);
-  return workLeft_ > 0;
 }
 
 bool Surface::BeginShape(const QRect& bounds) {
@@ -70,11 +61,11 @@ bool Surface::BeginShape(const QRect& bounds) {
   }
   const QRect visible = bounds.intersected(Area());
   if (visible.isEmpty()) return false;
-  return ChargeWork(std::int64_t{visible.width()} + visible.height());
+  return budget_.Spend(1);
 }
 
 void Surface::PaintSpan(int y, int x0, int x1, const Paint& paint) {
-  if (!ChargeWork(x1 - x0)) return;
+  if (!budget_.Spend(x1 - x0)) return;
   QRgb* row = Row(y);
   if (paint.Operation == CopyOperation && !paint.Pattern && !clip_) {
     std::fill(row + x0, row + x1, paint.Colour);
@@ -107,7 +98,7 @@ void Surface::PaintRectangle(const QRect& rect, const Paint& paint) {
 
 void Surface::PaintMask(const PixelMask& mask, QPoint at, const Paint& paint) {
   const QRect visible = QRect(at, mask.Size()).intersected(Area());
-  if (!ChargeWork(std::int64_t{visible.width()} * visible.height())) return;
+  if (!budget_.Spend(PixelCount(visible))) return;
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     const std::uint8_t* row = mask.Row(y - at.y());
     int from = visible.left();
@@ -122,7 +113,7 @@ void Surface::PaintMask(const PixelMask& mask, QPoint at, const Paint& paint) {
 
 void Surface::PaintText(const PixelMask& coverage, QPoint at, QRgb colour) {
   const QRect visible = QRect(at, coverage.Size()).intersected(Area());
-  if (!ChargeWork(std::int64_t{visible.width()} * visible.height())) return;
+  if (!budget_.Spend(PixelCount(visible))) return;
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
     const std::uint8_t* row = coverage.Row(y - at.y());
     for (int x = visible.left(); x <= visible.right(); ++x) {
@@ -136,12 +127,14 @@ void Surface::PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rul
                             const Paint& paint) {
   QRectF bounds;
   for (const QPolygonF& polygon : polygons) {
-    if (!ChargeWork(WorkPerPolygon + WorkPerEdge * polygon.size())) return;
+    if (!budget_.Spend(polygon.size())) return;
     bounds = bounds.united(polygon.boundingRect());
   }
   if (!BeginShape(bounds.toAlignedRect())) return;
   const QRect area = bounds.toAlignedRect().intersected(Area());
-  if (!ChargeWork(PolygonCrossings(polygons, area) * WorkPerCrossing)) return;
+  const std::int64_t crossings = PolygonCrossings(polygons, area);
+  if (crossings > MaxCrossings) return budget_.UseUp();
+  if (!budget_.Spend(crossings)) return;
   ScanPolygons(polygons, rule, area, [&](int y, int x0, int x1) { PaintSpan(y, x0, x1, paint); });
 }
 
@@ -151,12 +144,11 @@ void Surface::WritePixel(QPoint at, QRgb colour) {
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint) {
-  const std::int64_t pixels = std::int64_t{Area().width()} * Area().height();
-  if (!Area().contains(seed) || !ChargeWork(pixels / PixelsPerFloodWork)) return;
+  if (!Area().contains(seed) || !budget_.Spend(PixelCount(Area()) / 32)) return;
   const auto width = static_cast<std::size_t>(Area().width());
-  // When the work is used up, all further rows are closed, which ends the flood.
+  // When the budget is used up, all further rows are closed, which ends the flood.
   const auto open = [&](int y, std::span<std::uint64_t> row) {
-    if (!ChargeWork(Area().width())) return;
+    if (!budget_.Spend(Area().width())) return;
     forms::SetOpenBits({Row(y), width}, colour, stops, row);
     if (clip_) ClearClippedBits(y, row);
   };
@@ -186,12 +178,11 @@ void Surface::FillClip(const QRect& rect, std::uint8_t value) {
 }
 
 void Surface::ClipTo(const std::vector<QRect>& rects) {
-  if (!ChargeWork(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  if (!budget_.Spend(PixelCount(Area()))) return;
   clip_ = NewClip(0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.intersected(Area());
-    const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
-    if (!ChargeWork(WorkPerClipRect + pixels)) return;
+    if (!budget_.Spend(1 + PixelCount(visible))) return;
     FillClip(visible, 1);
   }
 }
@@ -211,15 +202,14 @@ void Surface::ExcludeClip(const QRect& rect) {
   const QRect visible = rect.intersected(Area());
   if (visible.isEmpty()) return;
   const bool copies = clip_.use_count() != 1;
-  const std::int64_t whole = std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel;
-  if (!ChargeWork((copies ? whole : 0) + std::int64_t{visible.width()} * visible.height())) return;
+  if (!budget_.Spend(PixelCount(copies ? Area() : visible))) return;
   if (!clip_) clip_ = NewClip(1);
   FillClip(visible, 0);
 }
 
 void Surface::OffsetClip(QPoint by) {
   if (!clip_) return;
-  if (!ChargeWork(std::int64_t{Area().width()} * Area().height() * WorkPerClipPixel)) return;
+  if (!budget_.Spend(PixelCount(Area()))) return;
   const Clip old = clip_;
   clip_ = NewClip(0);
   for (int y = 0; y < Area().height(); ++y) {

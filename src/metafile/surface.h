@@ -1,5 +1,5 @@
-// The raster that a metafile is drawn on. Every pixel passes the clip, the raster operation and the
-// limit on the work that one picture may cost.
+// The raster that a metafile is drawn on. Every pixel passes the clip and the raster operation, and
+// is paid for from the budget of the picture.
 #pragma once
 
 #include <QPolygonF>
@@ -13,6 +13,7 @@
 
 #include "forms/floodbits.h"
 #include "forms/raster.h"
+#include "metafile/budget.h"
 #include "metafile/metafilerecords.h"
 #include "metafile/pixelmask.h"
 #include "metafile/scanconvert.h"
@@ -39,21 +40,19 @@ class Surface {
  public:
   enum class Use { Draw, Measure };
 
-  /// `size` is in pixels and not empty; `work` is the limit. std::bad_alloc when memory runs out,
-  /// here and in every function that makes a clip or a mask.
-  Surface(QSize size, Use use, std::int64_t work);
+  /// `size` is in pixels and not empty. std::bad_alloc when memory runs out, here and in every
+  /// function that makes a clip or a mask. Once the budget is used up nothing more is painted.
+  Surface(QSize size, Use use, Budget& budget);
 
   /// What has been drawn; the surface must not be used afterwards.
   forms::Picture TakeImage() { return std::make_shared<forms::Raster>(std::move(image_)); }
   /// All coordinates are pixels in this area, counted from its top left corner.
   QRect Area() const { return {0, 0, image_.Width, image_.Height}; }
 
-  /// Subtracts `work`, 0 or more, from what is left. False when it is used up: draw nothing more.
-  bool ChargeWork(std::int64_t work);
-  std::int64_t WorkLeft() const { return workLeft_; }
+  Budget& Cost() const { return budget_; }
 
   /// To be called before a shape is drawn, with the bounds of what it may paint. False when there
-  /// is nothing to draw: the shape is outside, the work is used up, or the surface only measures.
+  /// is nothing to draw: the shape is outside, the budget is used up, or the surface only measures.
   bool BeginShape(const QRect& bounds);
   /// The union of the bounds passed to BeginShape while measuring.
   QRect MeasuredBounds() const { return measuredBounds_; }
@@ -101,7 +100,7 @@ class Surface {
   Clip clip_;
   Use use_;
   QRect measuredBounds_;
-  std::int64_t workLeft_;
+  Budget& budget_;
 };
 
 }  // namespace terramark::metafile

@@ -14,16 +14,6 @@
 namespace terramark::metafile {
 namespace {
 
-constexpr std::int64_t WorkPerLetter = 40;  // to lay it out
-// To draw one: from the glyphs that the font caches, which is slower for rotated or stretched
-// letters, or as an outline, which costs more for each column.
-constexpr std::int64_t WorkPerImage = 300;
-constexpr std::int64_t WorkPerTurnedImage = 5000;
-constexpr std::int64_t WorkPerImageRow = 5;
-constexpr std::int64_t WorkPerOutline = 5000;
-constexpr std::int64_t WorkPerOutlineColumn = 100;
-constexpr double MaxImageSize = 64;
-
 struct TextRun {
   QByteArrayView Bytes;
   QPoint At;                 // logical
@@ -37,7 +27,7 @@ struct TextLine {
   int Width = 0;
 };
 
-/// Stops when the work is used up.
+/// Stops when the budget is used up.
 TextLine LayOut(DeviceContext& context, const TextRun& run, CachedFont& font) {
   const DeviceState& state = context.State;
   const double scale = std::abs(context.Scale().x());
@@ -47,9 +37,9 @@ TextLine LayOut(DeviceContext& context, const TextRun& run, CachedFont& font) {
   TextLine line;
   std::int64_t logical = 0;
   double own = 0;
-  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().ChargeWork(WorkPerLetter);) {
+  for (qsizetype at = 0; at < run.Bytes.size() && context.Target().Cost().Spend(1);) {
     const int bytes = FirstLetterBytes(run.Bytes.sliced(at), state.CurrentFont);
-    const LetterShape& shape = font.ShapeOf(run.Bytes.sliced(at, bytes), context.Target());
+    const LetterShape& shape = font.ShapeOf(run.Bytes.sliced(at, bytes), context.Target().Cost());
     line.Letters.push_back(&shape);
     line.Offsets.push_back(line.Width);
     if (run.Advance.empty()) {
@@ -89,14 +79,6 @@ QRectF InkRect(const QRectF& cell, const MatchedFont& font) {
   return cell.adjusted(-overhang, -overhang, overhang, overhang);
 }
 
-std::int64_t WorkOfLetter(const MatchedFont& font, const QTransform& shape, const QRect& seen) {
-  const int size = font.Face.pixelSize();
-  if (size * size * font.Stretch >= MaxImageSize * MaxImageSize) {
-    return WorkPerOutline + WorkPerOutlineColumn * seen.width();
-  }
-  return (shape.isIdentity() ? WorkPerImage : WorkPerTurnedImage) + WorkPerImageRow * size;
-}
-
 /// The lines under and through the whole text, its blanks included.
 void DrawRules(QPainter& painter, double width, const QFont& font) {
   if (!font.underline() && !font.strikeOut()) return;
@@ -134,7 +116,7 @@ PixelMask DrawLetters(Surface& target, const TextLine& line, const MatchedFont& 
     const QRectF ink = turn.mapRect(InkRect(cell, font)).translated(whole);
     const QRect seen = ink.toAlignedRect().intersected(image.rect());
     if (letter.Runs.isEmpty() || seen.isEmpty()) continue;
-    if (!target.ChargeWork(WorkOfLetter(font, shape, seen))) break;
+    if (!target.Cost().Spend(std::int64_t{seen.width()} * seen.height())) break;
     painter.setTransform(shape * QTransform::fromTranslate(whole.x(), whole.y()));
     for (const QGlyphRun& run : letter.Runs) painter.drawGlyphRun(QPointF(0, 0), run);
   }
@@ -164,7 +146,7 @@ void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
   if (run.Bytes.isEmpty()) return;
   const bool update = (state.TextAlign & AlignUpdate) != 0;
   const QPoint reference = update ? state.Position : run.At;
-  CachedFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target);
+  CachedFont& lettered = context.Fonts.Find(state.CurrentFont, context.Scale(), target.Cost());
   const MatchedFont& font = lettered.Match;
   const TextLine line = LayOut(context, run, lettered);
 
@@ -183,9 +165,9 @@ void DrawRun(DeviceContext& context, const TextRun& run, Ground ground) {
   const QRect inner = place.mapRect(cell).toAlignedRect();
   const QRect area = bounds.intersected(target.Area());
   if (target.BeginShape(context.Measured() ? inner : bounds) &&
-      target.ChargeWork(std::int64_t{2} * area.width() * area.height())) {
+      target.Cost().Spend(std::int64_t{area.width()} * area.height())) {
     target.PaintText(DrawLetters(target, line, font, place, area), area.topLeft(),
-                 context.Resolve(state.TextColour));
+                     context.Resolve(state.TextColour));
   }
   const double scale = std::abs(context.Scale().x());
   if (update && (state.TextAlign & AlignSideways) != AlignCentre && scale > 0) {

@@ -45,15 +45,9 @@ forms::Picture LoadBitmap(bitmap::ByteSource& dib, qint64 bitsAt) {
   return header ? bitmap::DecodeDib(dib, *header, bitsAt) : nullptr;
 }
 
-forms::Picture DrawMetafile(const metafile::Metafile& read, int boxWidth, int boxHeight) {
+forms::LoadedPicture DrawMetafile(const metafile::Metafile& read, int boxWidth, int boxHeight) {
   return metafile::PlayMetafile(read, {std::min(boxWidth, metafile::MaxPictureBoxSide),
                                        std::min(boxHeight, metafile::MaxPictureBoxSide)});
-}
-
-/// The picture or, if there is none, the fault of the bytes.
-forms::LoadedPicture PictureOr(const char* fault, forms::Picture picture) {
-  if (!picture) return tl::unexpected<std::string>(fault);
-  return picture;
 }
 
 forms::LoadedPicture Unreadable(const files::Fault& fault) {
@@ -69,7 +63,7 @@ forms::Picture LoadPictureBytes(std::string_view bytes, int boxWidth, int boxHei
     return LoadBitmap(dib, places->Bits);
   }
   const auto read = metafile::ReadMetafile(all);
-  return read ? DrawMetafile(*read, boxWidth, boxHeight) : nullptr;
+  return read ? DrawMetafile(*read, boxWidth, boxHeight).value_or(nullptr) : nullptr;
 }
 
 forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidth, int boxHeight) {
@@ -79,8 +73,9 @@ forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidt
   if (const auto places = FindBitmap(QByteArrayView(begin).first(static_cast<qsizetype>(*begun)))) {
     bitmap::FileBytes dib(file, places->Dib);
     forms::Picture picture = LoadBitmap(dib, places->Bits);
-    if (!picture && dib.Fault()) return Unreadable(*dib.Fault());
-    return PictureOr("the bitmap is damaged, too large or unusual", std::move(picture));
+    if (picture) return picture;
+    if (dib.Fault()) return Unreadable(*dib.Fault());
+    return tl::unexpected<std::string>("the bitmap is damaged, too large or unusual");
   }
   if (file.Size() > metafile::MaxMetafileBytes)
     return tl::unexpected<std::string>("it is too large for a metafile");
@@ -88,7 +83,7 @@ forms::LoadedPicture LoadPictureFile(const files::RegularFile& file, int boxWidt
   if (!bytes) return Unreadable(bytes.error());
   const auto read = metafile::ReadMetafile(*bytes);
   if (!read) return tl::unexpected<std::string>("it is no bitmap or metafile");
-  return PictureOr("nothing is drawn in it", DrawMetafile(*read, boxWidth, boxHeight));
+  return DrawMetafile(*read, boxWidth, boxHeight);
 }
 
 }  // namespace terramark::pictures

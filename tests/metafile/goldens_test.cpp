@@ -27,7 +27,7 @@ void ExpectGolden(const QString& folder, const QString& name, const QList<QByteA
   const auto read = ReadMetafile(bytes);
   ASSERT_TRUE(read) << name.toStdString();
   const forms::Picture picture =
-      PlayMetafile(*read, {columns * cell.width(), rows * cell.height()});
+      PlayMetafile(*read, {columns * cell.width(), rows * cell.height()}).value_or(nullptr);
   ASSERT_TRUE(picture) << name.toStdString();
   const QImage drawn(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,
                      picture->Height, QImage::Format_RGB32);

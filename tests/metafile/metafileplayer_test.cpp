@@ -25,7 +25,7 @@ struct Patch {
 
 QImage Played(const QByteArray& file, QSize size) {
   const auto read = ReadMetafile(file);
-  const forms::Picture picture = read ? PlayMetafile(*read, size) : nullptr;
+  const forms::Picture picture = read ? PlayMetafile(*read, size).value_or(nullptr) : nullptr;
   EXPECT_TRUE(picture);
   if (!picture) return {};
   return QImage(reinterpret_cast<const uchar*>(picture->Pixels.data()), picture->Width,

@@ -1,0 +1,44 @@
+// What drawing one metafile may cost. A metafile of a few bytes may ask for hours; one that goes
+// beyond a limit here is refused as a whole, so that no map is shown in part.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+
+namespace terramark::metafile {
+
+/// The processor time, a hundred times what the dearest of many real metafiles takes. It is
+/// measured: costs that are assumed for each record have to be right for every kind.
+constexpr std::chrono::milliseconds MaxDrawingTime{1000};
+
+class Budget {
+ public:
+  /// The time counts from now on, on the thread that is calling.
+  explicit Budget(std::chrono::nanoseconds time);
+
+  /// To be called by every loop whose length the file decides, with the number of its steps: bytes,
+  /// points or pixels, anything that takes nanoseconds. False once a limit is reached: draw nothing
+  /// more. Asks the clock once in thousands of steps.
+  bool Spend(std::int64_t steps);
+  /// The same for a call that takes microseconds at once: asks the clock.
+  bool SpendCall() { return Spend(StepsPerQuestion); }
+  /// To be called before memory of a size in bytes is taken that stays in use while the metafile is
+  /// drawn.
+  bool Keep(std::int64_t bytes);
+
+  /// Of something that would take too much.
+  void UseUp() { usedUp_ = true; }
+  bool IsUsedUp() const { return usedUp_; }
+
+ private:
+  static constexpr std::int64_t StepsPerQuestion = 50'000;
+  /// Far beyond what real metafiles keep.
+  static constexpr std::int64_t MaxKeptBytes = std::int64_t{128} * 1024 * 1024;
+
+  std::chrono::nanoseconds end_;
+  std::int64_t stepsLeft_ = StepsPerQuestion;
+  std::int64_t keptBytes_ = 0;
+  bool usedUp_ = false;
+};
+
+}  // namespace terramark::metafile
