@@ -28,14 +28,6 @@ std::uint32_t HalfWord(const std::uint32_t* pixels, std::uint32_t colour) {
   return bits;
 }
 
-/// Also without a branch.
-void PaintHalf(std::uint32_t* pixels, std::uint32_t bits, std::uint32_t paint) {
-  for (std::size_t i = 0; i < HalfBits; ++i) {
-    const std::uint32_t mask = (bits & SingleBits[i]) != 0 ? ~0U : 0U;
-    pixels[i] = (pixels[i] & ~mask) | (paint & mask);
-  }
-}
-
 std::uint64_t WholeWord(const std::uint32_t* pixels, std::uint32_t colour) {
   return HalfWord(pixels, colour) | std::uint64_t{HalfWord(pixels + HalfBits, colour)} << HalfBits;
 }
@@ -56,14 +48,6 @@ void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, Fl
       word = WholeWord(last.data(), colour) ^ flip;
     }
   }
-}
-
-void PaintPixels(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint) {
-  if (pixels.size() >= HalfBits) return PaintHalf(pixels.data(), bits, paint);
-  std::array<std::uint32_t, HalfBits> last{};
-  std::ranges::copy(pixels, last.begin());
-  PaintHalf(last.data(), bits, paint);
-  std::copy_n(last.begin(), pixels.size(), pixels.begin());
 }
 
 }  // namespace terramark::forms

@@ -1,4 +1,4 @@
-// Converts between the pixels of a row and the bits of a flood.
+// The pixels that a flood may enter.
 #pragma once
 
 #include <cstdint>
@@ -14,9 +14,5 @@ enum class FloodStops { AtColour, AtOtherColours };
 /// pixels have no meaning.
 void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, FloodStops stops,
                  std::span<std::uint64_t> bits);
-
-/// Paints those of the first 32 pixels whose bits are set, from the lowest bit on. Bits of pixels
-/// that do not exist are ignored.
-void PaintPixels(std::span<std::uint32_t> pixels, std::uint32_t bits, std::uint32_t paint);
 
 }  // namespace terramark::forms

@@ -52,7 +52,7 @@ int PictureBox::BoxHeight() const {
 /// The picture, or the blank image where there is none. The image may have blank space beside the
 /// picture, which needs no scroll bar.
 const Raster& PictureBox::DisplayedImage() const {
-  return Picture.Get() && Picture.Get()->Width > 0 ? *Picture.Get() : Image();
+  return Picture.Get() && Picture.Get()->Width > 0 ? *Picture.Get() : Backdrop();
 }
 
 int PictureBox::ZoomedWidth() const {
@@ -104,21 +104,29 @@ void PictureBox::ScrollIntoView(const PixelRect& onPicture) {
            ScrollDelta(part.Top, part.Height, ViewHeight()));
 }
 
+Raster PictureBox::Image() const {
+  Raster image = Backdrop();
+  if (fill_.Pixels.IsEmpty()) return image;
+  for (int y = 0; y < image.Height; ++y) {
+    std::uint32_t* const row = image.Pixels.data() + image.IndexOf(0, y);
+    fill_.Pixels.ForEachRun(y, 0, image.Width, [&](int begin, int end) {
+      std::fill(row + begin, row + end, fill_.Paint);
+    });
+  }
+  return image;
+}
+
 bool PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
-  const Raster& image = Image();
-  const auto opens = [&](PixelPoint at) {
-    return PixelRect{0, 0, image.Width, image.Height}.Contains(at) &&
-           image.Pixels[image.IndexOf(at.X, at.Y)] != PixelOf(border);
-  };
-  if (std::ranges::none_of(seeds, opens)) return true;
+  const std::uint32_t paint = PixelOf(FillColor);
   try {
-    if (own_) {
-      BorderFill(*own_, seeds, FillColor, border);
-    } else {
-      Raster painted = *Picture.Get();
-      BorderFill(painted, seeds, FillColor, border);
-      own_ = std::move(painted);
+    if (!fill_.Pixels.IsEmpty() && (fill_.Paint != paint || fill_.Border != border)) {
+      own_ = Image();
+      fill_ = {};
     }
+    // The layer covers whole regions of the backdrop, so it neither opens nor closes a way.
+    PixelBits reached = BorderFill(Backdrop(), seeds, border);
+    if (!fill_.Pixels.IsEmpty()) reached.Add(fill_.Pixels);
+    fill_ = {.Pixels = std::move(reached), .Paint = paint, .Border = border};
     return true;
   } catch (const std::bad_alloc&) {
     return false;
@@ -129,15 +137,20 @@ void PictureBox::PropertyChanged(PropertyId id) {
   if (id != PropertyId::Picture && id != PropertyId::Width && id != PropertyId::Height) {
     return Control::PropertyChanged(id);
   }
-  std::optional<Raster> oldImage;
+  std::optional<Raster> oldBackdrop;
+  FillLayer oldFill;
   bool replaced = false;
   try {
-    oldImage = std::exchange(own_, Padded());
+    oldBackdrop = std::exchange(own_, Padded());
+    oldFill = std::exchange(fill_, {});
     replaced = true;
     ScrollTo(ScrollLeft, ScrollTop);
     Control::PropertyChanged(id);
   } catch (...) {
-    if (replaced) own_ = std::move(oldImage);
+    if (replaced) {
+      own_ = std::move(oldBackdrop);
+      fill_ = std::move(oldFill);
+    }
     Picture.Restore(imagePicture_);
     Width.Restore(imageWidth_);
     Height.Restore(imageHeight_);

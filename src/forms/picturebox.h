@@ -2,6 +2,7 @@
 // painted on. A picture larger than the box is reached by scrolling, and it can be magnified.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -9,6 +10,7 @@
 
 #include "forms/control.h"
 #include "forms/geometry.h"
+#include "forms/pixelbits.h"
 #include "forms/raster.h"
 #include "forms/zoom.h"
 
@@ -43,9 +45,19 @@ class PictureBox : public Control {
   /// box has the focus.
   Property<Control*> CursorItem{*this, PropertyId::CursorItem, nullptr};
 
-  /// The persistent image: as large as the picture, and never smaller than the box. It is the
-  /// picture itself until something is painted on it.
-  const Raster& Image() const { return own_ ? *own_ : *Picture.Get(); }
+  /// What the persistent image has below its fill: as large as the picture, and never smaller than
+  /// the box. It is the picture itself wherever that is large enough.
+  const Raster& Backdrop() const { return own_ ? *own_ : *Picture.Get(); }
+  /// The paint on the backdrop. It is a bit for each pixel instead of a painted copy, which would
+  /// take most of the time of a fill.
+  struct FillLayer {
+    PixelBits Pixels;         // empty until something is painted
+    std::uint32_t Paint = 0;  // a pixel
+    Color Border = 0;
+  };
+  const FillLayer& Fill() const { return fill_; }
+  /// A copy of the persistent image. std::bad_alloc when memory runs out.
+  Raster Image() const;
 
   /// The inside of the box in whole pixels.
   int BoxWidth() const;
@@ -73,7 +85,9 @@ class PictureBox : public Control {
 
   /// Paints FillColor on the persistent image, from the seeds outward up to pixels of the border
   /// colour. A seed outside the image or on the border paints nothing. When memory runs out nothing
-  /// is painted and the result is false. Refresh shows the result.
+  /// is painted and the result is false. Refresh shows the result. Costs little more than reading
+  /// each pixel once; a fill in another colour or up to another border than the last copies the
+  /// image.
   bool FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;
@@ -85,8 +99,9 @@ class PictureBox : public Control {
   /// A new image from the picture; nothing where the picture itself can be the image.
   std::optional<Raster> Padded() const;
 
-  /// The image where it is not the picture itself: larger, or painted on.
+  /// The backdrop where it is not the picture itself: larger, or with the paint of another colour.
   std::optional<Raster> own_ = Raster{};
+  FillLayer fill_;
   /// The values that the image was made from; they are restored when an assignment fails.
   forms::Picture imagePicture_;
   float imageWidth_ = 0;

@@ -1,7 +1,6 @@
 #include "metafile/surface.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 
 #include "forms/flood.h"
@@ -29,22 +28,6 @@ QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
 std::int64_t PixelCount(const QRect& rect) {
   return std::int64_t{rect.width()} * rect.height();
 }
-
-/// Paints the pixels of a flood, in runs.
-struct FloodPainter {
-  void Run(int y, int x0, int x1) { Target.PaintSpan(y, x0, x1, FillPaint); }
-  void PaintBits(int y, int x, std::uint32_t bits) {
-    while (bits != 0) {
-      const int first = std::countr_zero(bits);
-      const int count = std::countr_one(bits >> first);
-      Run(y, x + first, x + first + count);
-      bits &= bits + (1U << first);
-    }
-  }
-
-  Surface& Target;
-  const Paint& FillPaint;
-};
 
 }  // namespace
 
@@ -152,9 +135,12 @@ void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Pai
     forms::SetOpenBits({Row(y), width}, colour, stops, row);
     if (clip_) ClearClippedBits(y, row);
   };
-  FloodPainter painter{*this, paint};
   const forms::PixelPoint from{seed.x(), seed.y()};
-  forms::Flooder(Area().width(), Area().height(), open, painter).From({&from, 1});
+  const forms::PixelBits reached =
+      forms::Flooder(Area().width(), Area().height(), open).From({&from, 1});
+  for (int y = 0; y < Area().height(); ++y) {
+    reached.ForEachRun(y, 0, Area().width(), [&](int x0, int x1) { PaintSpan(y, x0, x1, paint); });
+  }
 }
 
 void Surface::ClearClippedBits(int y, std::span<std::uint64_t> row) const {

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -19,7 +20,8 @@ namespace {
 
 /// What a part of the device shows of the image; the part must lie on the image.
 QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
-  const forms::Raster& image = box.Image();
+  const forms::Raster& image = box.Backdrop();
+  const auto& [filled, paint, border] = box.Fill();
   std::vector<int> columns;
   for (int x = part.left(); x <= part.right(); ++x) {
     columns.push_back(MapToPicture(box, {MapFromDevice(x, toDevice.m11(), toDevice.dx()), 0}).X);
@@ -36,15 +38,32 @@ QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const
     }
     const std::uint32_t* const from = image.Pixels.data() + image.IndexOf(0, row);
     for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x]];
+    if (!filled.IsEmpty()) {
+      for (std::size_t x = 0; x < columns.size(); ++x) {
+        if (filled.At(columns[x], row)) to[x] = paint;
+      }
+    }
     shown = row;
   }
   return seen;
 }
 
+/// A part of the image with the paint on it; the part begins at `corner`.
+QImage WithFill(QImage part, const forms::PictureBox::FillLayer& fill, QPoint corner) {
+  for (int y = 0; y < part.height(); ++y) {
+    auto* const row = reinterpret_cast<std::uint32_t*>(part.scanLine(y));
+    fill.Pixels.ForEachRun(
+        corner.y() + y, corner.x(), corner.x() + part.width(), [&](int begin, int end) {
+          std::fill(row + begin - corner.x(), row + end - corner.x(), fill.Paint);
+        });
+  }
+  return part;
+}
+
 }  // namespace
 
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part) {
-  const forms::Raster& raster = box.Image();
+  const forms::Raster& raster = box.Backdrop();
   const forms::Magnification zoom = box.Zoom;
   const QRect sheet(-box.ScrollLeft, -box.ScrollTop, ToScreen(zoom, raster.Width),
                     ToScreen(zoom, raster.Height));
@@ -61,7 +80,9 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
   // The QImage uses the raster's memory; only what is shown is copied.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
                      raster.Height, QImage::Format_RGB32);
-  painter.drawImage(seen.topLeft(), image, seen.translated(-sheet.topLeft()));
+  const QRect shown = seen.translated(-sheet.topLeft());
+  if (box.Fill().Pixels.IsEmpty()) return painter.drawImage(seen.topLeft(), image, shown);
+  painter.drawImage(seen.topLeft(), WithFill(image.copy(shown), box.Fill(), shown.topLeft()));
 }
 
 void PaintLabel(QPainter& painter, const QRect& area, double scale, const forms::Label& label) {

@@ -251,8 +251,8 @@ TEST_F(DesktopTest, WhatTheMemoryDoesNotHoldChangesNothing) {
     return -1;
   };
   EXPECT_GE(blocks(load), 1);
-  EXPECT_EQ(&box.Image(), box.Picture.Get().get()) << "the image takes none";
-  EXPECT_EQ(blocks(fill), 3) << "the image, and two bits a pixel";
+  EXPECT_EQ(&box.Backdrop(), box.Picture.Get().get()) << "the image takes none";
+  EXPECT_EQ(blocks(fill), 2) << "two bits a pixel";
   EXPECT_EQ(blocks(grow), 1);
 }
 
