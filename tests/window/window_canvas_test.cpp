@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <algorithm>
 #include <vector>
 
 #include "paint/mapimage.h"
@@ -192,9 +193,13 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
   forms::PictureBox& box = Form.Picture1;
   auto picture = std::make_shared<forms::Raster>(*BlankPicture(1203, 801));
   for (std::size_t i = 0; i < picture->Pixels.size(); ++i) {
-    picture->Pixels[i] = 0xFF000000U | static_cast<std::uint32_t>(i * 2654435761U >> 8U);
+    const auto colour = static_cast<std::uint32_t>(i * 2654435761U >> 8U);
+    picture->Pixels[i] = 0xFF000000U | (colour % 10 < 3 ? 0 : colour);
   }
   box.Picture = picture;
+  box.FillToBorder(std::vector<forms::PixelPoint>{{1, 0}, {600, 400}, {601, 400}}, 0);
+  const forms::Raster image = box.Image();
+  EXPECT_GT(std::ranges::count(image.Pixels, forms::PixelOf(box.FillColor)), 1203 * 801 / 2);
   Marker().BorderStyle = forms::Border::None;
   Form.ArmyAt(0).Visible = Form.Continent(0).Visible = false;
   for (const forms::Magnification zoom : forms::ZoomSteps) {
@@ -213,7 +218,7 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
         const int left = nearest(x + box.ScrollLeft);
         const int top = nearest(y + box.ScrollTop);
         const bool blank = left >= 1203 || top >= 801;
-        const QRgb pixel = blank ? White.rgb() : picture->Pixels[picture->IndexOf(left, top)];
+        const QRgb pixel = blank ? White.rgb() : image.Pixels[image.IndexOf(left, top)];
         wrong += seen.pixel(x, y) != (marker.Contains({x, y}) ? Blue.rgb() : pixel);
       }
     }
