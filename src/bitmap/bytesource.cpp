@@ -1,5 +1,7 @@
 #include "bitmap/bytesource.h"
 
+#include <span>
+
 namespace terramark::bitmap {
 
 std::optional<QByteArrayView> MemoryBytes::At(qint64 offset, qint64 count) {

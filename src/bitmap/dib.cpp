@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 #include <algorithm>
+#include <vector>
 
 #include "bitmap/dibrows.h"
 #include "bitmap/limits.h"

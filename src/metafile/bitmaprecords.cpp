@@ -108,8 +108,9 @@ int RopOf(const MetafileRecord& record) {
   return record.Word(1) & 0xFF;
 }
 
-/// A record without a bitmap is no longer than this; it fills with the brush.
+/// A record without one fills with the brush.
 bool HasBitmap(const MetafileRecord& record) {
+  // A record without a bitmap is no longer than this.
   constexpr qsizetype WordsWithout = 9;
   return record.Words() > WordsWithout;
 }
@@ -194,9 +195,9 @@ void PlayDibCreatePatternBrush(DeviceContext& context, const MetafileRecord& rec
   AddPatternBrush(context, PackedBitmap(record, 2, TableIn(record.Word(1))));
 }
 
-/// This record has 20 unused words between the bitmap's head and its bits.
+/// This record has an unused address and 18 unused bytes between the bitmap's head and its bits.
 void PlayCreatePatternBrush(DeviceContext& context, const MetafileRecord& record) {
-  constexpr qsizetype UnusedWords = 20;
+  constexpr qsizetype UnusedWords = 11;
   AddPatternBrush(context, TwoColourBitmap(record, 0, TwoColourHeadWords + UnusedWords));
 }
 

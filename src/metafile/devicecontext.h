@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QPointF>
-#include <QRectF>
 #include <vector>
 
 #include "metafile/fontcache.h"

@@ -4,7 +4,6 @@
 #include <QByteArrayView>
 #include <QPoint>
 #include <QRect>
-#include <QRgb>
 #include <cstdint>
 #include <optional>
 #include <vector>

@@ -110,16 +110,6 @@ void PlaySelectObject(DeviceContext& context, const MetafileRecord& record) {
   context.Select(context.Objects.At(record.Word(0)));
 }
 
-/// Without a region the clip is removed.
-void PlaySelectClipRegion(DeviceContext& context, const MetafileRecord& record) {
-  const GraphicsObject& object = context.Objects.At(record.Word(0));
-  if (std::holds_alternative<RegionObject>(object)) {
-    context.Select(object);
-  } else {
-    context.Target().SetClip(nullptr);
-  }
-}
-
 void PlaySelectPalette(DeviceContext& context, const MetafileRecord& record) {
   const auto* palette = std::get_if<Palette>(&context.Objects.At(record.Word(0)));
   if (palette != nullptr) context.State.CurrentPalette = *palette;

@@ -18,13 +18,13 @@ RecordPlayer PlaySetBkColor, PlaySetTextColor;
 RecordPlayer PlaySetMapMode, PlaySetWindowOrg, PlaySetWindowExt, PlaySetViewportOrg;
 RecordPlayer PlaySetViewportExt, PlayOffsetWindowOrg, PlayOffsetViewportOrg;
 RecordPlayer PlayScaleWindowExt, PlayScaleViewportExt;
-RecordPlayer PlayExcludeClipRect, PlayIntersectClipRect, PlayOffsetClipRgn;
+RecordPlayer PlaySelectClipRegion, PlayExcludeClipRect, PlayIntersectClipRect;
+RecordPlayer PlayOffsetClipRgn;
 
 // Objects.
 RecordPlayer PlayCreatePalette, PlayCreatePenIndirect, PlayCreateFontIndirect;
 RecordPlayer PlayCreateBrushIndirect, PlayCreateRegion, PlayDeleteObject;
-RecordPlayer PlaySelectObject, PlaySelectClipRegion, PlaySelectPalette;
-RecordPlayer PlaySetPaletteEntries;
+RecordPlayer PlaySelectObject, PlaySelectPalette, PlaySetPaletteEntries;
 
 // Lines, shapes and floods.
 RecordPlayer PlayLineTo, PlayMoveTo, PlayPolygon, PlayPolyline, PlayPolyPolygon;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <variant>
 
 #include "metafile/recordplayers.h"
 
@@ -114,6 +115,16 @@ void PlayScaleWindowExt(DeviceContext& context, const MetafileRecord& record) {
 
 void PlayScaleViewportExt(DeviceContext& context, const MetafileRecord& record) {
   context.State.ViewportExtent = Scaled(context.State.ViewportExtent, record);
+}
+
+/// Without a region the clip is removed.
+void PlaySelectClipRegion(DeviceContext& context, const MetafileRecord& record) {
+  const GraphicsObject& object = context.Objects.At(record.Word(0));
+  if (std::holds_alternative<RegionObject>(object)) {
+    context.Select(object);
+  } else {
+    context.Target().SetClip(nullptr);
+  }
 }
 
 void PlayExcludeClipRect(DeviceContext& context, const MetafileRecord& record) {

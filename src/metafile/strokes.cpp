@@ -77,8 +77,8 @@ void ThinStroke(DeviceContext& context, const std::vector<QPoint>& points) {
   }
 }
 
-/// The rectangle of a wide line. Its corners are on whole pixels; where the width is odd the extra
-/// pixel is at the right and above. It is never thinner than the pen, so that no border has a hole.
+/// The rectangle of a wide line. Its corners are on whole pixels, and it is never thinner than the
+/// pen, so that no border has a hole.
 QPolygonF LineQuad(QPoint from, QPoint to, int width) {
   const double dx = to.x() - from.x();
   const double dy = to.y() - from.y();

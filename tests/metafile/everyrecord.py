@@ -61,7 +61,7 @@ TWO = bytes.fromhex("00000000 ffffff00")
 LINES = dib(1, "7f7f0202" * 12 + "00ff00ff" * 12, TWO, width=32, height=24)
 # A bitmap without colours of its own: its head, and rows of two bytes.
 HEAD, BITS = words(0, 8, 4, 2, 0x101), bytes.fromhex("f000 0f00 aa00 5500")
-TWO_COLOURED = "CreatePatternBrush", HEAD, bytes(40), BITS
+TWO_COLOURED = "CreatePatternBrush", HEAD, bytes(22), BITS
 RED_ON_YELLOW = ("SetTextColor", RED), ("SetBkColor", YELLOW)
 
 NO_PEN, HOLLOW, FONT, ON_YELLOW = pen(5), brush(BLACK, 1), font(), ("SetBkColor", YELLOW)
@@ -201,6 +201,8 @@ OLD_KINDS = [
      *[record for charset, face in ((128, b"Arial\0"), (2, b"Symbol\0\0"), (2, b"Signs\0"))
        for record in (font(charset=charset, italic=1, face=face),
                       ("ExtTextOut", 0, 0, 4, 4, 0, 0, 0, 0, b"a\xB1\x93\xFA"))]),
+    *[(f"shrunk by a quarter, mode {mode}", ("SetStretchBltMode", mode),
+       ("StretchDib", 0, 0xCC, 0, at(8, 8, 24, 18, 0, 0, 32, 24), LINES)) for mode in (1, 2)],
 ]
 
 
