@@ -46,9 +46,9 @@ DibColours ColoursOf(QByteArrayView numbers, const DibHeader& header,
   return colours;
 }
 
-/// Where the rows begin. A wrong offset counts for nothing when it points into the header or the
-/// colours. But some files have fewer colours than they claim, and rows that do not fit after
-/// those.
+/// Where the rows begin. An offset that points into the header or the colours counts for nothing.
+/// But some files have fewer colours than they claim: uncoded rows that would not fit after the
+/// claimed ones begin at the offset.
 qint64 FindRows(const ByteSource& dib, const DibHeader& header, qint64 offset) {
   const qint64 afterTable = header.TableEnd(header.EntryBytes());
   if (offset < header.TableAt) return afterTable;

@@ -123,8 +123,14 @@ bool PictureBox::FillToBorder(std::span<const PixelPoint> seeds, Color border) {
       own_ = Image();
       fill_ = {};
     }
+    const Raster& backdrop = Backdrop();
+    const auto opens = [&](PixelPoint at) {
+      return PixelRect{0, 0, backdrop.Width, backdrop.Height}.Contains(at) &&
+             backdrop.Pixels[backdrop.IndexOf(at.X, at.Y)] != PixelOf(border);
+    };
+    if (std::ranges::none_of(seeds, opens)) return true;
     // The layer covers whole regions of the backdrop, so it neither opens nor closes a way.
-    PixelBits reached = BorderFill(Backdrop(), seeds, border);
+    PixelBits reached = BorderFill(backdrop, seeds, border);
     if (!fill_.Pixels.IsEmpty()) reached.Add(fill_.Pixels);
     fill_ = {.Pixels = std::move(reached), .Paint = paint, .Border = border};
     return true;

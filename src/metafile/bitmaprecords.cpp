@@ -14,13 +14,29 @@ namespace {
 constexpr qsizetype TwoColourHeadWords = 5;
 constexpr int TwoColourPlanes = 0x0101;  // one plane of one bit a pixel
 
+/// The bytes of a bitmap, each of which is paid for when it is read; a read fails when the budget
+/// is used up.
+class PaidBytes final : public bitmap::ByteSource {
+ public:
+  PaidBytes(QByteArrayView bytes, Budget& budget) : bytes_(bytes), budget_(budget) {}
+
+  qint64 Size() const override { return bytes_.Size(); }
+  std::optional<QByteArrayView> At(qint64 offset, qint64 count) override {
+    return budget_.Spend(count) ? bytes_.At(offset, count) : std::nullopt;
+  }
+
+ private:
+  bitmap::MemoryBytes bytes_;
+  Budget& budget_;
+};
+
 /// The bitmap in a record. Its size is in pixels, at least 1 each way.
 struct RecordBitmap {
   int Width = 0;
   int Height = 0;
   bool BottomUp = false;
-  /// Decodes it; null when it is broken.
-  std::function<forms::Picture(const DeviceContext& context)> Decode;
+  /// Decodes it; null when it is broken, or when the budget is used up.
+  std::function<forms::Picture(DeviceContext& context)> Decode;
 
   std::int64_t Pixels() const { return std::int64_t{Width} * Height; }
 };
@@ -58,7 +74,7 @@ std::optional<RecordBitmap> TwoColourBitmap(const MetafileRecord& record, qsizet
   }
   return RecordBitmap{.Width = size.width(),
                       .Height = size.height(),
-                      .Decode = [=, bits = record.From(bitsAt)](const DeviceContext& context) {
+                      .Decode = [=, bits = record.From(bitsAt)](DeviceContext& context) {
                         return DecodeTwoColours(context, size, rowBytes, bits);
                       }};
 }
@@ -81,8 +97,8 @@ std::optional<RecordBitmap> PackedBitmap(const MetafileRecord& record, qsizetype
   return RecordBitmap{.Width = header->Width,
                       .Height = header->Height,
                       .BottomUp = header->BottomUp,
-                      .Decode = [=, header = *header](const DeviceContext& context) {
-                        bitmap::MemoryBytes dib(bytes);
+                      .Decode = [=, header = *header](DeviceContext& context) {
+                        PaidBytes dib(bytes, context.Target().Cost());
                         return table == TableOf::Colours
                                    ? bitmap::DecodeDib(dib, header, std::nullopt)
                                    : bitmap::DecodeDibByPalette(
@@ -139,8 +155,8 @@ Blit ReadStretch(const MetafileRecord& record, qsizetype at) {
 void AddPatternBrush(DeviceContext& context, const std::optional<RecordBitmap>& from) {
   GraphicsObject object = Unusable();
   Budget& cost = context.Target().Cost();
-  if (from && !cost.Keep(from->Pixels() * std::int64_t{sizeof(QRgb)})) return;
   if (auto tile = from ? Decode(context, *from) : nullptr) {
+    if (!cost.Keep(from->Pixels() * std::int64_t{sizeof(QRgb)})) return;
     object = Brush{.Style = BrushStyle::Pattern, .Tile = std::move(tile)};
   }
   cost.Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));

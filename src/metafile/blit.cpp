@@ -85,16 +85,22 @@ std::int64_t PixelsIn(const std::vector<SourceRange>& ranges) {
   return total;
 }
 
-QRgb CombinePixels(const forms::Raster& source, const SourceRange& across, const SourceRange& down,
-                   int mode) {
-  QRgb result = source.Pixels[source.IndexOf(across.First, down.First)];
-  for (int y = down.First; y < down.End; ++y) {
+/// Combines rows of the bitmap to a row with a pixel for each range of columns; ranges must not be
+/// empty to be combined. False when the budget is used up.
+bool CombineRows(const forms::Raster& source, const std::vector<SourceRange>& columns,
+                 const SourceRange& rows, int mode, Budget& budget, std::vector<QRgb>& combined) {
+  const bool joins = mode == StretchOr;
+  combined.assign(columns.size(), joins ? 0 : ~QRgb{0});
+  for (int y = rows.First; y < rows.End; ++y) {
+    if (!budget.Spend(PixelsIn(columns))) return false;
     const QRgb* row = source.Pixels.data() + source.IndexOf(0, y);
-    for (int x = across.First; x < across.End; ++x) {
-      result = mode == StretchOr ? result | row[x] : result & row[x];
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      for (int x = columns[i].First; x < columns[i].End; ++x) {
+        combined[i] = joins ? combined[i] | row[x] : combined[i] & row[x];
+      }
     }
   }
-  return result;
+  return true;
 }
 
 bool UsesPattern(int rop) {
@@ -131,6 +137,7 @@ void PaintWithout(DeviceContext& context, int rop, const QRect& visible) {
   Surface& target = context.Target();
   const Paint paint = context.BrushPaint(context.State.CurrentBrush);
   for (int y = visible.top(); y <= visible.bottom(); ++y) {
+    if (!target.Cost().Spend(visible.width())) return;
     for (int x = visible.left(); x <= visible.right(); ++x) {
       const QRgb pattern = PatternAt(context, paint, {x, y});
       target.WritePixel({x, y}, CombineTernary(rop, pattern, 0, target.At({x, y})));
@@ -148,16 +155,16 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
   const auto columns =
       RangesOf(axes.Across, visible.left(), visible.right(), source.Width, shrinking);
   const auto rows = RangesOf(axes.Down, visible.top(), visible.bottom(), source.Height, shrinking);
-  if (!target.Cost().Spend(PixelsIn(columns) * PixelsIn(rows))) return;
   const Paint paint = context.BrushPaint(context.State.CurrentBrush);
+  std::vector<QRgb> combined;
   QPoint at = visible.topLeft();
   for (const SourceRange& down : rows) {
+    if (!CombineRows(source, columns, down, mode, target.Cost(), combined)) return;
     at.setX(visible.left());
-    for (const SourceRange& across : columns) {
-      if (across.First < across.End && down.First < down.End) {
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      if (columns[i].First < columns[i].End && down.First < down.End) {
         const QRgb pattern = PatternAt(context, paint, at);
-        const QRgb pixel = CombinePixels(source, across, down, mode);
-        target.WritePixel(at, CombineTernary(rop, pattern, pixel, target.At(at)));
+        target.WritePixel(at, CombineTernary(rop, pattern, combined[i], target.At(at)));
       }
       ++at.rx();
     }
@@ -167,8 +174,6 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
 
 void PaintBlit(DeviceContext& context, int rop, const Axes& axes, const forms::Picture& source) {
   const QRect visible = axes.Box().intersected(context.Target().Area());
-  const std::int64_t pixels = std::int64_t{visible.width()} * visible.height();
-  if (!context.Target().Cost().Spend(pixels)) return;
   if (UsesSource(rop)) return PaintWith(context, rop, axes, visible, *source);
   PaintWithout(context, rop, visible);
 }

@@ -18,12 +18,13 @@ class Budget {
 
   /// To be called by every loop whose length the file decides, with the number of its steps: bytes,
   /// points or pixels, anything that takes nanoseconds. False once a limit is reached: draw nothing
-  /// more. Asks the clock once in thousands of steps.
+  /// more. Asks the clock when thousands of steps have been reported; a loop of millions reports
+  /// them in pieces, and stops.
   bool Spend(std::int64_t steps);
   /// The same for a call that takes microseconds at once: asks the clock.
   bool SpendCall() { return Spend(StepsPerQuestion); }
-  /// To be called before memory of a size in bytes is taken that stays in use while the metafile is
-  /// drawn.
+  /// To be called for an object that may stay in use while the metafile is drawn, with its size in
+  /// bytes. One that is deleted counts too.
   bool Keep(std::int64_t bytes);
 
   /// Of something that would take too much.

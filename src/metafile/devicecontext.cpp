@@ -62,7 +62,7 @@ DeviceContext::DeviceContext(Surface& surface, const LogicalFrame& frame, QSize 
 
 void DeviceContext::Save() {
   if (saved_.size() == MaxSaves) return;
-  if (SavedClipBytes() > MaxSavedClipBytes) return surface_.Cost().UseUp();
+  if (SavedClipBytes() >= MaxSavedClipBytes) return surface_.Cost().UseUp();
   State.SavedClip = surface_.CurrentClip();
   saved_.push_back(State);
   State.SavedClip = nullptr;

@@ -35,7 +35,10 @@ void FillShapes(DeviceContext& context, const std::vector<std::vector<QPoint>>& 
   if (!context.HasBrush()) return;
   std::vector<QPolygonF> polygons;
   polygons.reserve(shapes.size());
-  for (const auto& shape : shapes) polygons.push_back(PolygonOf(shape));
+  for (const auto& shape : shapes) {
+    if (!context.Target().Cost().Spend(std::ssize(shape))) return;
+    polygons.push_back(PolygonOf(shape));
+  }
   context.Target().PaintPolygons(polygons, rule, context.BrushPaint(context.State.CurrentBrush));
 }
 
@@ -91,12 +94,12 @@ void DrawRound(DeviceContext& context, const QRect& box, QSize corner) {
   const int pen = context.HasPen() ? context.PenWidth() / 2 : 0;
   if (!context.Target().BeginShape(box.adjusted(-pen, -pen, pen, pen))) return;
   const QRect outline = OutlineBox(context, box);
-  if (outline.width() > MaxRoundSide || outline.height() > MaxRoundSide) return;
   // Corners this small are square. A pen that is wider than the box leaves nothing to round either,
   // and still paints.
   constexpr int SquareCorner = 2;
   const QSize size = corner.boundedTo(outline.size());
   if (std::min(size.width(), size.height()) <= SquareCorner) return DrawRectangle(context, box);
+  if (size.width() > MaxRoundSide || size.height() > MaxRoundSide) return;
   if (!context.Target().Cost().Spend(size.width() + size.height())) return;
   const std::vector<QPoint> points = RoundOutline(outline, size);
   if (context.HasBrush()) FillShapes(context, {points}, FillRule::Winding);

@@ -7,6 +7,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "metafile/limits.h"
 
@@ -198,7 +199,11 @@ MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   if (wanted.Height == 0) size = DefaultPixelSize;
   size = ClampSize(size);
   face.setPixelSize(static_cast<int>(size));
-  if (AsksForSmoothing(face)) face.setStyleStrategy(QFont::PreferAntialias);
+  if (AsksForSmoothing(face)) {
+    // In shades of one colour, whatever the desktop's setting for its own text.
+    face.setStyleStrategy(
+        QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+  }
   matched.Signs = SignsOf(wanted, face);
 
   const EmMetrics measures = EmMetricsOf(face, contents, size);

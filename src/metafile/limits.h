@@ -12,20 +12,21 @@ constexpr std::size_t MaxMetafileBytes = std::size_t{64} * 1024 * 1024;
 /// Pixels each way; the box that a metafile is drawn for is reduced to this.
 constexpr int MaxPictureBoxSide = 4096;
 
-/// Further records are not played.
+/// A metafile with so many records is not drawn.
 constexpr std::size_t MaxMetafileRecords = 1'000'000;
 /// Objects at the same time; further ones are dropped.
 constexpr std::size_t MaxObjects = 65536;
 /// Levels of SaveDC; further saves are ignored.
 constexpr std::size_t MaxSaves = 256;
-/// The clips that are saved, a byte for each pixel of the picture.
+/// The clips that are saved, a byte for each pixel of the picture. A metafile that saves more is
+/// not drawn.
 constexpr std::int64_t MaxSavedClipBytes = std::int64_t{256} * 1024 * 1024;
 /// Colours of a palette; further ones are left out.
 constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
 /// Letters of one text; further ones are not drawn.
 constexpr std::ptrdiff_t MaxLetters = 4096;
 constexpr int MaxPenWidth = 65536;  // pixels
-/// Pixels each way; larger ellipses and round rectangles are not drawn.
+/// Pixels each way; ellipses and round corners that are larger are not drawn.
 constexpr int MaxRoundSide = 65536;
 /// The straight lines that approximate an arc.
 constexpr int MaxArcSteps = 20000;

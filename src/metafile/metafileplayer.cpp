@@ -4,6 +4,7 @@
 #include <string>
 
 #include "metafile/devicecontext.h"
+#include "metafile/limits.h"
 #include "metafile/recordtable.h"
 
 namespace terramark::metafile {
@@ -36,7 +37,9 @@ QRect MeasureDrawing(const Metafile& metafile, Budget& budget) {
 forms::LoadedPicture PlayMetafile(const Metafile& metafile, QSize size,
                                   std::chrono::nanoseconds time) {
   constexpr const char* Nothing = "nothing is drawn in it";
+  constexpr const char* TooMuch = "it takes too much time or memory to draw";
   if (size.isEmpty()) return tl::unexpected<std::string>(Nothing);
+  if (metafile.Records.size() >= MaxMetafileRecords) return tl::unexpected<std::string>(TooMuch);
   LogicalFrame frame;
   FrameSource source = FrameSource::File;
   Budget budget(time);
@@ -46,15 +49,15 @@ forms::LoadedPicture PlayMetafile(const Metafile& metafile, QSize size,
     frame = {QPoint(0, 0), size};
   } else {
     const QRect drawn = MeasureDrawing(metafile, budget);
-    if (drawn.isEmpty() && !budget.IsUsedUp()) return tl::unexpected<std::string>(Nothing);
+    if (budget.IsUsedUp()) return tl::unexpected<std::string>(TooMuch);
+    if (drawn.isEmpty()) return tl::unexpected<std::string>(Nothing);
     frame = {drawn.topLeft(), drawn.size()};
     source = FrameSource::Measured;
   }
   Surface surface(size, Surface::Use::Draw, budget);
   DeviceContext context(surface, frame, size, source);
   PlayRecords(context, metafile);
-  if (budget.IsUsedUp())
-    return tl::unexpected<std::string>("it takes too much time or memory to draw");
+  if (budget.IsUsedUp()) return tl::unexpected<std::string>(TooMuch);
   return surface.TakeImage();
 }
 

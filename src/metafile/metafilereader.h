@@ -37,8 +37,8 @@ struct Metafile {
   /// height may be negative. None without such a header, or when it encloses nothing.
   std::optional<QRect> Bounds;
   /// The records up to the end record, the end of the bytes, a record that is shorter than its own
-  /// head, or MaxMetafileRecords. A record that claims more bytes than are left has those that are
-  /// left.
+  /// head, or MaxMetafileRecords of them. A record that claims more bytes than are left has those
+  /// that are left.
   std::vector<MetafileRecord> Records;
 };
 

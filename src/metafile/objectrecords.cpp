@@ -71,35 +71,38 @@ GraphicsObject ReadRegion(const MetafileRecord& record) {
     }
     at += edges + 4;
   }
+  region.Rects.shrink_to_fit();
   return region;
 }
 
-void AddObject(DeviceContext& context, const MetafileRecord& record, GraphicsObject object) {
-  // What is made of a record has at most four times its size.
-  if (!context.Target().Cost().Keep(std::int64_t{8} * record.Words())) return;
-  context.Target().Cost().Spend(static_cast<std::int64_t>(context.Objects.Add(std::move(object))));
+template <typename Read>
+void AddObject(DeviceContext& context, const MetafileRecord& record, Read read) {
+  Budget& cost = context.Target().Cost();
+  // A region, the largest kind of object, has a rectangle for two words.
+  if (!cost.Keep(record.Words() / 2 * std::int64_t{sizeof(QRect)})) return;
+  cost.Spend(static_cast<std::int64_t>(context.Objects.Add(read(record))));
 }
 
 }  // namespace
 
 void PlayCreatePalette(DeviceContext& context, const MetafileRecord& record) {
-  AddObject(context, record, ReadPalette(record));
+  AddObject(context, record, ReadPalette);
 }
 
 void PlayCreatePenIndirect(DeviceContext& context, const MetafileRecord& record) {
-  AddObject(context, record, ReadPen(record));
+  AddObject(context, record, ReadPen);
 }
 
 void PlayCreateFontIndirect(DeviceContext& context, const MetafileRecord& record) {
-  AddObject(context, record, ReadFont(record));
+  AddObject(context, record, ReadFont);
 }
 
 void PlayCreateBrushIndirect(DeviceContext& context, const MetafileRecord& record) {
-  AddObject(context, record, ReadBrush(record));
+  AddObject(context, record, ReadBrush);
 }
 
 void PlayCreateRegion(DeviceContext& context, const MetafileRecord& record) {
-  AddObject(context, record, ReadRegion(record));
+  AddObject(context, record, ReadRegion);
 }
 
 void PlayDeleteObject(DeviceContext& context, const MetafileRecord& record) {

@@ -12,10 +12,9 @@ namespace {
 std::vector<QRect> RegionRects(DeviceContext& context, std::size_t number) {
   std::vector<QRect> rects;
   const auto* region = std::get_if<RegionObject>(&context.Objects.At(number));
-  if (region == nullptr || !context.Target().Cost().Spend(std::ssize(region->Rects))) {
-    return rects;
-  }
+  if (region == nullptr) return rects;
   for (const QRect& rect : region->Rects) {
+    if (!context.Target().Cost().Spend(1)) return {};
     rects.push_back(context.ToDevice(rect.left(), rect.top(), rect.right() + 1, rect.bottom() + 1));
   }
   return rects;
@@ -40,7 +39,7 @@ PixelMask RegionMask(Surface& target, const std::vector<QRect>& rects, QPoint by
   PixelMask mask(target.Area().size(), 0);
   for (const QRect& rect : rects) {
     const QRect visible = rect.translated(by).intersected(target.Area());
-    if (!target.Cost().Spend(std::int64_t{visible.height()} * visible.width())) break;
+    if (!target.Cost().Spend(1 + std::int64_t{visible.height()} * visible.width())) break;
     for (int y = visible.top(); y <= visible.bottom(); ++y) {
       std::fill_n(mask.Row(y) + visible.left(), visible.width(), std::uint8_t{1});
     }

@@ -18,7 +18,8 @@ enum class FillRule { Alternate, Winding };
 
 // All coordinates are pixels.
 
-/// The number of rows of `area` that the polygons' edges cross, summed: the work of ScanPolygons.
+/// The number of rows of `area` that the polygons' edges cross, summed: most of the work of
+/// ScanPolygons, which takes eight bytes for each.
 std::int64_t PolygonCrossings(const std::vector<QPolygonF>& polygons, const QRect& area);
 
 /// The inside of the polygons, each of which is closed. Only pixels inside `area` are reported, and

@@ -11,8 +11,10 @@ namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
-// Where edges of polygons cross a row; 64 MiB of memory.
-constexpr std::int64_t MaxCrossings = 8'000'000;
+// Where edges of polygons cross rows; each takes eight bytes, and sorting them takes time. Polygons
+// with more are painted in bands of rows.
+constexpr std::int64_t CrossingsPerBand = 500'000;
+constexpr std::int64_t MaxCrossingsPerBand = 4 * CrossingsPerBand;
 
 /// The result is bit (pattern * 2 + destination) of the operation's number minus 1.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
@@ -115,10 +117,17 @@ void Surface::PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rul
   }
   if (!BeginShape(bounds.toAlignedRect())) return;
   const QRect area = bounds.toAlignedRect().intersected(Area());
-  const std::int64_t crossings = PolygonCrossings(polygons, area);
-  if (crossings > MaxCrossings) return budget_.UseUp();
-  if (!budget_.Spend(crossings)) return;
-  ScanPolygons(polygons, rule, area, [&](int y, int x0, int x1) { PaintSpan(y, x0, x1, paint); });
+  const std::int64_t bands = 1 + PolygonCrossings(polygons, area) / CrossingsPerBand;
+  const int rows = 1 + static_cast<int>(area.height() / bands);
+  for (QRect band(area.topLeft(), QSize(area.width(), rows)); band.top() <= area.bottom();
+       band.translate(0, rows)) {
+    const QRect visible = band.intersected(area);
+    const std::int64_t crossings = PolygonCrossings(polygons, visible);
+    if (crossings > MaxCrossingsPerBand) return budget_.UseUp();
+    if (!budget_.Spend(crossings)) return;
+    ScanPolygons(polygons, rule, visible,
+                 [&](int y, int x0, int x1) { PaintSpan(y, x0, x1, paint); });
+  }
 }
 
 void Surface::WritePixel(QPoint at, QRgb colour) {

@@ -1,5 +1,5 @@
-// The raster that a metafile is drawn on. Every pixel passes the clip and the raster operation, and
-// is paid for from the budget of the picture.
+// The raster that a metafile is drawn on. Every pixel passes the clip, and all but those of texts
+// and blits the raster operation.
 #pragma once
 
 #include <QPolygonF>

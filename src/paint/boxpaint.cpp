@@ -21,7 +21,7 @@ namespace {
 /// What a part of the device shows of the image; the part must lie on the image.
 QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
   const forms::Raster& image = box.Backdrop();
-  const auto& [filled, paint, border] = box.Fill();
+  const forms::PictureBox::FillLayer& fill = box.Fill();
   std::vector<int> columns;
   for (int x = part.left(); x <= part.right(); ++x) {
     columns.push_back(MapToPicture(box, {MapFromDevice(x, toDevice.m11(), toDevice.dx()), 0}).X);
@@ -38,9 +38,9 @@ QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const
     }
     const std::uint32_t* const from = image.Pixels.data() + image.IndexOf(0, row);
     for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x]];
-    if (!filled.IsEmpty()) {
+    if (!fill.Pixels.IsEmpty()) {
       for (std::size_t x = 0; x < columns.size(); ++x) {
-        if (filled.At(columns[x], row)) to[x] = paint;
+        if (fill.Pixels.At(columns[x], row)) to[x] = fill.Paint;
       }
     }
     shown = row;
@@ -69,6 +69,7 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
                     ToScreen(zoom, raster.Height));
   const QRect seen = part & sheet;
   if (seen != part) painter.fillRect(part, ScreenColour(box.BackColor));
+  if (seen.isEmpty()) return;
   const QTransform toDevice = painter.deviceTransform();
   if (zoom != forms::ActualSize || toDevice.isScaling()) {
     // Not left to the painter, which rounds at the edges of each area that it paints.

@@ -179,6 +179,18 @@ TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
   EXPECT_EQ(bars[1]->value(), 80);
   EXPECT_EQ(Pixel(538, 300), QColor(0xC0, 0xC0, 0xC0)) << "the corner between the bars";
 
+  // A marker in that corner changes nothing of the map beside it, flooded or not.
+  box.FillToBorder(std::vector<forms::PixelPoint>{{0, 0}}, 0);
+  box.ScrollTo(90, 80);
+  Marker().Move(90 + 540, 80 + 302);
+  QTest::qWait(20);
+  PaintWatch watch;
+  Of(box).installEventFilter(&watch);
+  Marker().ForeColor = 0x00FF00FF;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !watch.Painted.isEmpty(); }));
+  EXPECT_FALSE(watch.Painted.intersects(QRect(0, 0, 530, 292)));
+  Marker().Move(100, 50);
+
   box.ScrollTo(0, 0);
   Press(Canvas + QPoint(105, 55));
   Move(Canvas + QPoint(520, 100));
