@@ -25,7 +25,7 @@ bool BlanksHelpbar(const Form1& form, const forms::Control& control) {
   return false;
 }
 
-/// The text is their Tag, which is always empty.
+/// The help bar shows the Tag of a control, and that of these is always empty.
 void ConnectBlank(Form1& form, forms::Control& control) {
   if (!BlanksHelpbar(form, control)) return;
   control.MouseMove = [&form](const forms::MouseEvent&) { ShowHelpbar(form, ""); };

@@ -56,12 +56,12 @@ struct SourceRange {
 
 /// The pixel of the bitmap that covers the middle of the target's pixel `index`.
 std::int64_t NearestTo(const Axis& axis, std::int64_t index) {
-  return (2 * index + 1) * axis.SourceLength / (2 * axis.Length);
+  return (2 * index + 1) * axis.SourceLength / (std::int64_t{2} * axis.Length);
 }
 
 /// The first pixel of the bitmap whose middle is in the target's pixel `index` or beyond.
 std::int64_t FirstIn(const Axis& axis, std::int64_t index) {
-  return (2 * index * axis.SourceLength + axis.Length - 1) / (2 * axis.Length);
+  return (2 * index * axis.SourceLength + axis.Length - 1) / (std::int64_t{2} * axis.Length);
 }
 
 /// The ranges for the target's pixels `from` to `to`.

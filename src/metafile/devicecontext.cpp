@@ -32,10 +32,9 @@ forms::Picture HatchTile(int hatch, QRgb line, QRgb ground) {
   auto tile = std::make_shared<forms::Raster>();
   tile->Width = HatchSide;
   tile->Height = HatchSide;
-  const auto& rows = Hatches[hatch];
-  for (int y = 0; y < HatchSide; ++y) {
+  for (const std::uint8_t row : Hatches[hatch]) {
     for (int x = 0; x < HatchSide; ++x) {
-      const bool on = (rows[y] >> (HatchSide - 1 - x) & 1) != 0;
+      const bool on = (row >> (HatchSide - 1 - x) & 1) != 0;
       tile->Pixels.push_back(on ? line : ground);
     }
   }

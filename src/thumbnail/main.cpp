@@ -40,7 +40,7 @@ std::optional<int> ParseSide(const char* text) {
   return side;
 }
 
-/// Reading a layout changes the current folder, so paths must not depend on it.
+/// Show makes the folder of the layout the current one, so paths must not depend on it.
 std::filesystem::path Absolute(const char* path) {
   std::error_code failed;
   std::filesystem::path absolute = std::filesystem::absolute(path, failed);

@@ -89,7 +89,7 @@ void ShowWholeColumns(QFileDialog& chooser) {
       [list, &chooser] { WidenFor(*list, chooser); }, Qt::QueuedConnection);
 }
 
-/// Gives accessible names to the parts that have none.
+/// Gives accessible names to the widgets that have none.
 void SetAccessibleNames(const QFileDialog& chooser) {
   for (auto* box : chooser.findChildren<QComboBox*>()) {
     const bool ofTypes = box->findText(chooser.nameFilters().value(0)) >= 0;
