@@ -85,8 +85,8 @@ std::int64_t PixelsIn(const std::vector<SourceRange>& ranges) {
   return total;
 }
 
-/// Combines rows of the bitmap to a row with a pixel for each range of columns; ranges must not be
-/// empty to be combined. False when the budget is used up.
+/// Combines rows of the bitmap to one, with a pixel for each range of columns; that of an empty
+/// range means nothing. False when the budget is used up.
 bool CombineRows(const forms::Raster& source, const std::vector<SourceRange>& columns,
                  const SourceRange& rows, int mode, Budget& budget, std::vector<QRgb>& combined) {
   const bool joins = mode == StretchOr;

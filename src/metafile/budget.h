@@ -7,8 +7,8 @@
 
 namespace terramark::metafile {
 
-/// The processor time, a hundred times what the dearest of many real metafiles takes. It is
-/// measured: costs that are assumed for each record have to be right for every kind.
+/// The processor time, thirty times what the dearest of many real metafiles takes. The clock
+/// decides: a price for each kind of record would have to be right for every kind.
 constexpr std::chrono::milliseconds MaxDrawingTime{1000};
 
 class Budget {

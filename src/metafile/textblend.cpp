@@ -7,7 +7,7 @@
 namespace terramark::metafile {
 namespace {
 
-/// Measured from text that GDI drew.
+/// Measured in pictures of metafiles as the system that they were made for draws them.
 constexpr double Gamma = 2.33;
 
 /// The weight of the brighter colour for each coverage by it, both 0 to 255.
