@@ -1,5 +1,5 @@
-// What the dearest metafiles cost that we could think of: the processor time until each is drawn or
-// refused, as a multiple of the time that drawing may take.
+// What the most costly metafiles take that we could think of: the processor time until each is
+// drawn or refused, as a multiple of the time that drawing may take.
 #include <QGuiApplication>
 #include <algorithm>
 #include <chrono>
@@ -23,6 +23,6 @@ int main(int argc, char** argv) {
     worst = std::max(worst, took / limit);
     std::printf("%-52s %5.2f  %s\n", what, took / limit, drawn ? "drawn" : drawn.error().c_str());
   }
-  std::printf("%-52s %5.2f\n", "the dearest", worst);
+  std::printf("%-52s %5.2f\n", "the most costly", worst);
   return 0;
 }

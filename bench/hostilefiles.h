@@ -1,4 +1,4 @@
-// Metafiles that ask for as much as their format allows, a kind for each way of being dear.
+// Metafiles that each ask for as much work as the format allows, in different ways.
 #pragma once
 
 #include <QByteArray>
@@ -11,7 +11,7 @@ struct HostileFile {
   QByteArray Bytes;
 };
 
-/// Each is drawn for a box of 546 x 308 pixels, its 1000 units each way.
+/// They cover 1000 x 1000 units, and are meant for a box of 546 x 308 pixels.
 std::vector<HostileFile> HostileFiles();
 
 }  // namespace terramark

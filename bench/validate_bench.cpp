@@ -22,7 +22,7 @@ namespace {
 constexpr int Side = 4096;
 constexpr int Rounds = 25;
 
-/// 96 lands, in a bitmap file of a folder that goes with it.
+/// A picture of 96 lands and its bitmap file, in a temporary folder that is deleted with it.
 struct LandsBitmap {
   LandsBitmap() {
     const QImage image(reinterpret_cast<const uchar*>(Map.Picture.Pixels.data()), Side, Side,
@@ -72,6 +72,7 @@ void Run(int argc, char** argv) {
   Samples validate;
   Samples pass;
   for (int i = 0; i < Rounds; ++i) {
+    // A press on the bare picture removes the paint of the round before.
     Picture1_MouseUp(form, {0, forms::LeftButton, 0, 5, 5});
     Repaint(editor.Window);
     pass.Add(CpuOf([&] { Pass(raster); }));

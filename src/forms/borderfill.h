@@ -10,9 +10,9 @@
 
 namespace terramark::forms {
 
-/// The 4-connected regions around the seeds that pixels of the border colour bound; no other colour
-/// stops it. Seeds outside the raster or on the border add nothing. Throws std::bad_alloc when
-/// memory runs out.
+/// The pixels that are 4-connected with a seed without crossing a pixel of the border colour; no
+/// other colour stops the fill. Seeds outside the raster or on the border add nothing. Throws
+/// std::bad_alloc when memory runs out.
 PixelBits BorderFill(const Raster& raster, std::span<const PixelPoint> seeds, Color border);
 
 }  // namespace terramark::forms

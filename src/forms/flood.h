@@ -15,9 +15,10 @@
 
 namespace terramark::forms {
 
-/// Open sets the bits of a row that the flood may enter: void(int y, std::span<std::uint64_t>
-/// bits), 64 pixels a word from the lowest bit. Bits beyond the width do not matter. It is called
-/// at most once for each row.
+/// Open sets the bits of the pixels of a row that the flood may enter: void(int y,
+/// std::span<std::uint64_t> bits), 64 pixels a word from the lowest bit. All bits are clear when it
+/// is called; those beyond the width do not matter. It is called at most once for each row, and
+/// must outlive the Flooder.
 template <class Open>
 class Flooder {
  public:

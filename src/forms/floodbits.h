@@ -9,9 +9,9 @@ namespace terramark::forms {
 /// What stops a flood: pixels of a colour, or all others.
 enum class FloodStops { AtColour, AtOtherColours };
 
-/// Sets the bits of the pixels that a flood may enter, 64 a word from the lowest bit. The top byte
-/// of the pixels and of the colour is ignored. There are as many words as needed; bits beyond the
-/// pixels have no meaning.
+/// Overwrites `bits`: set for each pixel that a flood may enter, else clear, 64 pixels a word from
+/// the lowest bit. The top byte of the pixels and of the colour is ignored. `bits` has one word for
+/// every 64 pixels begun; bits beyond the last pixel have no meaning.
 void SetOpenBits(std::span<const std::uint32_t> pixels, std::uint32_t colour, FloodStops stops,
                  std::span<std::uint64_t> bits);
 

@@ -45,15 +45,16 @@ class PictureBox : public Control {
   /// box has the focus.
   Property<Control*> CursorItem{*this, PropertyId::CursorItem, nullptr};
 
-  /// What the persistent image has below its fill: as large as the picture, and never smaller than
-  /// the box. It is the picture itself wherever that is large enough.
+  /// What lies below the fill: the picture, with a margin where the box is larger, and with the
+  /// paint of earlier fills in other colours. It is the picture's own raster where that covers the
+  /// box and has no such paint.
   const Raster& Backdrop() const { return own_ ? *own_ : *Picture.Get(); }
-  /// The paint on the backdrop. It is a bit for each pixel instead of a painted copy, which would
-  /// take most of the time of a fill.
+  /// The paint of the last fills. It is a bit for each pixel of the backdrop instead of a painted
+  /// copy, which would take most of the time of a fill.
   struct FillLayer {
-    PixelBits Pixels;         // empty until something is painted
-    std::uint32_t Paint = 0;  // a pixel
-    Color Border = 0;
+    PixelBits Pixels;         // IsEmpty until something is painted
+    std::uint32_t Paint = 0;  // what their pixels show, as in a raster
+    Color Border = 0;         // what stopped them
   };
   const FillLayer& Fill() const { return fill_; }
   /// A copy of the persistent image. std::bad_alloc when memory runs out.
@@ -85,9 +86,9 @@ class PictureBox : public Control {
 
   /// Paints FillColor on the persistent image, from the seeds outward up to pixels of the border
   /// colour. A seed outside the image or on the border paints nothing. When memory runs out nothing
-  /// is painted and the result is false. Refresh shows the result. Costs little more than reading
-  /// each pixel once; a fill in another colour or up to another border than the last copies the
-  /// image.
+  /// is painted and the result is false. Refresh shows the result. On a map it takes
+  /// about two passes over the pixels; a fill in another colour or up to another border than the
+  /// last also copies the image.
   bool FillToBorder(std::span<const PixelPoint> seeds, Color border);
 
   void PropertyChanged(PropertyId id) override;

@@ -21,10 +21,11 @@ class PixelBits {
   PixelBits(int width, int height)
       : wordsInRow_((width + WordBits - 1) / WordBits), words_(IndexOf(height)) {}
 
+  /// Whether there are no pixels at all.
   bool IsEmpty() const { return words_.empty(); }
 
-  /// A row that exists, 64 pixels a word from the lowest bit. Bits beyond the width are clear
-  /// unless they are set.
+  /// The words of row y, which exists: 64 pixels a word from the lowest bit. Bits beyond the width
+  /// belong to no pixel.
   std::span<Word> Row(int y) { return {words_.data() + IndexOf(y), RowSize()}; }
   std::span<const Word> Row(int y) const { return {words_.data() + IndexOf(y), RowSize()}; }
 
@@ -39,7 +40,7 @@ class PixelBits {
   }
 
   /// Calls visit(int begin, int end) for each run of set bits in the pixels left <= x < right of a
-  /// row. A run that goes on in the next word may come in pieces.
+  /// row that exists; they exist too. A run that goes on in the next word comes in pieces.
   template <class Visit>
   void ForEachRun(int y, int left, int right, const Visit& visit) const {
     const std::span<const Word> row = Row(y);

@@ -124,7 +124,7 @@ int RopOf(const MetafileRecord& record) {
   return record.Word(1) & 0xFF;
 }
 
-/// A record without one fills with the brush.
+/// Without one a record fills with the brush.
 bool HasBitmap(const MetafileRecord& record) {
   // A record without a bitmap is no longer than this.
   constexpr qsizetype WordsWithout = 9;

@@ -149,7 +149,7 @@ void PaintWith(DeviceContext& context, int rop, const Axes& axes, const QRect& v
                const forms::Raster& source) {
   Surface& target = context.Target();
   const int mode = context.State.StretchMode;
-  // The default mode combines them, so that no thin black line is lost.
+  // The default mode combines the pixels that become one, so that no thin black line is lost.
   const bool combines = mode == StretchAnd || mode == StretchOr;
   const Shrinking shrinking = combines ? Shrinking::Combined : Shrinking::Nearest;
   const auto columns =

@@ -7,13 +7,18 @@
 
 namespace terramark::metafile {
 
-/// The processor time, thirty times what the dearest of many real metafiles takes. The clock
-/// decides: a price for each kind of record would have to be right for every kind.
+/// The processor time for one metafile, many times what a real map takes (bench/README.md). The
+/// clock decides: a price for each kind of record would have to be right for every kind.
 constexpr std::chrono::milliseconds MaxDrawingTime{1000};
+/// Bytes of the clips that SaveDC has saved, one for each pixel of the picture. A metafile that
+/// saves more is refused.
+constexpr std::int64_t MaxSavedClipBytes = std::int64_t{256} * 1024 * 1024;
 
+/// The time and the memory that are left for one metafile. Once a limit is reached it stays used
+/// up.
 class Budget {
  public:
-  /// The time counts from now on, on the thread that is calling.
+  /// `time` is processor time of the calling thread, from now on.
   explicit Budget(std::chrono::nanoseconds time);
 
   /// To be called by every loop whose length the file decides, with the number of its steps: bytes,
@@ -23,17 +28,16 @@ class Budget {
   bool Spend(std::int64_t steps);
   /// The same for a call that takes microseconds at once: asks the clock.
   bool SpendCall() { return Spend(StepsPerQuestion); }
-  /// To be called for an object that may stay in use while the metafile is drawn, with its size in
-  /// bytes. One that is deleted counts too.
+  /// To be called for an object that may stay in use, with its size in bytes. It counts until the
+  /// metafile is drawn, even when the object is deleted earlier. False when it is too much.
   bool Keep(std::int64_t bytes);
-
-  /// Of something that would take too much.
+  /// To be called in place of something that would take too much.
   void UseUp() { usedUp_ = true; }
   bool IsUsedUp() const { return usedUp_; }
 
  private:
   static constexpr std::int64_t StepsPerQuestion = 50'000;
-  /// Far beyond what real metafiles keep.
+  /// Far more than the objects of real metafiles take.
   static constexpr std::int64_t MaxKeptBytes = std::int64_t{128} * 1024 * 1024;
 
   std::chrono::nanoseconds end_;

@@ -61,6 +61,7 @@ DeviceContext::DeviceContext(Surface& surface, const LogicalFrame& frame, QSize 
 
 void DeviceContext::Save() {
   if (saved_.size() == MaxSaves) return;
+  if (!surface_.Cost().Spend(std::ssize(saved_))) return;
   if (SavedClipBytes() >= MaxSavedClipBytes) return surface_.Cost().UseUp();
   State.SavedClip = surface_.CurrentClip();
   saved_.push_back(State);

@@ -60,7 +60,7 @@ class DeviceContext {
 
   bool Measured() const { return source_ == FrameSource::Measured; }
 
-  /// SaveDC; beyond MaxSaves levels a save is ignored.
+  /// SaveDC. Beyond MaxSaves levels it is ignored; beyond MaxSavedClipBytes the budget is used up.
   void Save();
   /// RestoreDC: a negative level counts back from the last save, a positive one from the first. A
   /// level that was never saved changes nothing.

@@ -31,7 +31,7 @@ class CachedFont {
   QPointF Scale;
   MatchedFont Match;
 
-  /// The letter of one or two bytes. One that is not in the cache is paid for.
+  /// The letter of one or two bytes. The clock is asked for one that is not in the cache.
   const LetterShape& ShapeOf(QByteArrayView letter, Budget& budget);
 
  private:
@@ -42,7 +42,7 @@ class CachedFont {
 
 class FontCache {
  public:
-  /// As MatchFont. A font that is not in the cache is paid for. The result is valid
+  /// As MatchFont. The clock is asked for one that is not in the cache. The result is valid
   /// until the next call.
   CachedFont& Find(Font wanted, QPointF scale, Budget& budget);
 

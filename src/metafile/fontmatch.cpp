@@ -48,9 +48,9 @@ const char* SubstituteFor(const QByteArray& face) {
 }
 
 /// The mean widths of the letters of the faces that the families stand in for, for a size of one
-/// pixel. A metafile's width is a multiple of them: they are the xAvgCharWidth of Arial, Times New
-/// Roman, Courier New and Arial Narrow. Our families have the same letters but count other ones
-/// too, so their own mean is larger.
+/// pixel. A metafile's width is a multiple of them: they are the mean widths that Arial, Times New
+/// Roman, Courier New and Arial Narrow state. Our families have the same letters but count other
+/// ones too, so their own mean is larger.
 struct WidthRow {
   const char* Family;
   double Regular;

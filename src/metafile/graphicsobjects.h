@@ -55,8 +55,8 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-/// Its entries are copied before a change while they are shared, so that selecting and saving it
-/// costs nothing.
+/// A palette. Its entries are copied before a change while other palettes share them, so that
+/// selecting and saving one costs nothing.
 class Palette {
  public:
   Palette() = default;

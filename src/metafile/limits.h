@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 namespace terramark::metafile {
 
@@ -18,19 +17,18 @@ constexpr std::size_t MaxMetafileRecords = 1'000'000;
 constexpr std::size_t MaxObjects = 65536;
 /// Levels of SaveDC; further saves are ignored.
 constexpr std::size_t MaxSaves = 256;
-/// The clips that are saved, a byte for each pixel of the picture. A metafile that saves more is
-/// not drawn.
-constexpr std::int64_t MaxSavedClipBytes = std::int64_t{256} * 1024 * 1024;
 /// Colours of a palette; further ones are left out.
 constexpr std::ptrdiff_t MaxPaletteEntries = 1024;
-/// Letters of one text; further ones are not drawn.
+/// Bytes of one text; further ones are not drawn.
 constexpr std::ptrdiff_t MaxLetters = 4096;
-constexpr int MaxPenWidth = 65536;  // pixels
+/// Pixels; a wider pen draws as this one.
+constexpr int MaxPenWidth = 65536;
 /// Pixels each way; ellipses and round corners that are larger are not drawn.
 constexpr int MaxRoundSide = 65536;
-/// The straight lines that approximate an arc.
+/// At most so many straight lines approximate an arc.
 constexpr int MaxArcSteps = 20000;
-constexpr int MaxLetterSize = 4096;  // pixels
+/// Pixels; a larger font draws in this size.
+constexpr int MaxLetterSize = 4096;
 /// Fonts in the cache, with their letters; one more empties it.
 constexpr std::size_t MaxCachedFonts = 64;
 /// Mapped points are limited to so many pixels each way.

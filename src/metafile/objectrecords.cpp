@@ -78,7 +78,7 @@ GraphicsObject ReadRegion(const MetafileRecord& record) {
 template <typename Read>
 void AddObject(DeviceContext& context, const MetafileRecord& record, Read read) {
   Budget& cost = context.Target().Cost();
-  // A region, the largest kind of object, has a rectangle for two words.
+  // A region has a rectangle for two words; the other kinds take less.
   if (!cost.Keep(record.Words() / 2 * std::int64_t{sizeof(QRect)})) return;
   cost.Spend(static_cast<std::int64_t>(context.Objects.Add(read(record))));
 }

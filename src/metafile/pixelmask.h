@@ -1,5 +1,5 @@
-// A mask: which pixels of an area are marked. It has a byte for each pixel, 0 for those that are
-// not.
+// A byte for each pixel of an area: in a mask 0 where it is not marked, in text how much of the
+// pixel is covered.
 #pragma once
 
 #include <QSize>

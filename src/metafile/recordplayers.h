@@ -10,7 +10,7 @@ namespace terramark::metafile {
 /// Plays one record onto the context.
 using RecordPlayer = void(DeviceContext& context, const MetafileRecord& record);
 
-// Modes, mapping and clip.
+// staterecords.cpp: modes, mapping and clip.
 RecordPlayer PlaySaveDC, PlayRestoreDC;
 RecordPlayer PlaySetBkMode, PlaySetRop2, PlaySetPolyFillMode, PlaySetStretchBltMode;
 RecordPlayer PlaySetTextCharExtra, PlaySetTextAlign, PlaySetTextJustification;
@@ -21,23 +21,23 @@ RecordPlayer PlayScaleWindowExt, PlayScaleViewportExt;
 RecordPlayer PlaySelectClipRegion, PlayExcludeClipRect, PlayIntersectClipRect;
 RecordPlayer PlayOffsetClipRgn;
 
-// Objects.
+// objectrecords.cpp: objects.
 RecordPlayer PlayCreatePalette, PlayCreatePenIndirect, PlayCreateFontIndirect;
 RecordPlayer PlayCreateBrushIndirect, PlayCreateRegion, PlayDeleteObject;
 RecordPlayer PlaySelectObject, PlaySelectPalette, PlaySetPaletteEntries;
 
-// Lines, shapes and floods.
+// drawingrecords.cpp: lines, shapes and floods.
 RecordPlayer PlayLineTo, PlayMoveTo, PlayPolygon, PlayPolyline, PlayPolyPolygon;
 RecordPlayer PlayRectangle, PlayEllipse, PlayRoundRect, PlayArc, PlayChord, PlayPie;
 RecordPlayer PlayFloodFill, PlayExtFloodFill, PlaySetPixel;
 
-// Regions.
+// regionrecords.cpp: regions.
 RecordPlayer PlayFillRegion, PlayFrameRegion, PlayPaintRegion, PlayInvertRegion;
 
-// Text.
+// textrecords.cpp: text.
 RecordPlayer PlayTextOut, PlayExtTextOut;
 
-// Blits and bitmap brushes.
+// bitmaprecords.cpp: blits and bitmap brushes.
 RecordPlayer PlayPatBlt, PlayBitBlt, PlayDibBitBlt, PlayStretchBlt, PlayDibStretchBlt;
 RecordPlayer PlayStretchDib, PlaySetDibToDevice;
 RecordPlayer PlayCreatePatternBrush, PlayDibCreatePatternBrush;

@@ -91,7 +91,8 @@ void PlayFrameRegion(DeviceContext& context, const MetafileRecord& record) {
   QRect bounds;
   for (const QRect& rect : rects) bounds = bounds.united(rect);
   if (bounds.isEmpty() || !target.BeginShape(bounds)) return;
-  if (!target.Cost().Spend(std::int64_t{target.Area().width()} * target.Area().height())) return;
+  constexpr std::int64_t Passes = 8;  // the masks, and how they are combined
+  if (!target.Cost().Spend(Passes * target.Area().width() * target.Area().height())) return;
   const QPointF scale = context.Scale();
   const int width =
       static_cast<int>(std::clamp(std::abs(record.Int(3) * scale.x()), 1.0, MaxDevice));

@@ -11,10 +11,13 @@ namespace {
 
 constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
-// Where edges of polygons cross rows; each takes eight bytes, and sorting them takes time. Polygons
-// with more are painted in bands of rows.
+/// Places where edges of polygons cross rows. Each takes eight bytes and has to be sorted, so
+/// polygons with more of them are painted in bands of rows.
 constexpr std::int64_t CrossingsPerBand = 500'000;
+/// A band with more is too much for the budget.
 constexpr std::int64_t MaxCrossingsPerBand = 4 * CrossingsPerBand;
+/// Pixels in a step of clearing the two bits that a flood has for each.
+constexpr std::int64_t PixelsPerClearedWord = 32;
 
 /// The result is bit (pattern * 2 + destination) of the operation's number minus 1.
 QRgb CombineBinary(int operation, QRgb pattern, QRgb destination) {
@@ -136,7 +139,7 @@ void Surface::WritePixel(QPoint at, QRgb colour) {
 }
 
 void Surface::Flood(QPoint seed, QRgb colour, forms::FloodStops stops, const Paint& paint) {
-  if (!Area().contains(seed) || !budget_.Spend(PixelCount(Area()) / 32)) return;
+  if (!Area().contains(seed) || !budget_.Spend(PixelCount(Area()) / PixelsPerClearedWord)) return;
   const auto width = static_cast<std::size_t>(Area().width());
   // When the budget is used up, all further rows are closed, which ends the flood.
   const auto open = [&](int y, std::span<std::uint64_t> row) {

@@ -1,5 +1,5 @@
-// The raster that a metafile is drawn on. Every pixel passes the clip, and all but those of texts
-// and blits the raster operation.
+// The raster that a metafile is drawn on. Every pixel passes the clip. The functions that paint
+// spend from the budget of the metafile; for WritePixel the caller does.
 #pragma once
 
 #include <QPolygonF>
@@ -49,6 +49,7 @@ class Surface {
   /// All coordinates are pixels in this area, counted from its top left corner.
   QRect Area() const { return {0, 0, image_.Width, image_.Height}; }
 
+  /// The budget of the metafile.
   Budget& Cost() const { return budget_; }
 
   /// To be called before a shape is drawn, with the bounds of what it may paint. False when there
@@ -65,13 +66,13 @@ class Surface {
   void PaintRectangle(const QRect& rect, const Paint& paint);
   /// Paints the marked pixels of `mask`, whose top left corner is at `at`.
   void PaintMask(const PixelMask& mask, QPoint at, const Paint& paint);
-  /// Paints text: the bytes of `coverage`, whose top left corner is at `at`, are 0 where it covers
-  /// nothing of a pixel and 255 where it covers all.
+  /// Paints text, without a raster operation: the bytes of `coverage`, whose top left corner is at
+  /// `at`, are 0 where it covers nothing of a pixel and 255 where it covers all.
   void PaintText(const PixelMask& coverage, QPoint at, QRgb colour);
   /// Paints the inside of the polygons, as ScanPolygons finds it.
   void PaintPolygons(const std::vector<QPolygonF>& polygons, FillRule rule, const Paint& paint);
-  /// Sets a pixel, for blits: within the clip, but without a raster operation. It must be inside
-  /// Area(), as the pixel of At.
+  /// Sets a pixel within the clip, without a raster operation, for blits, text and SetPixel. It
+  /// must be inside Area(), as the pixel of At.
   void WritePixel(QPoint at, QRgb colour);
   QRgb At(QPoint at) const { return image_.Pixels[image_.IndexOf(at.x(), at.y())]; }
   /// Fills from `seed` up to the pixels of `colour`, or only over pixels of `colour`. A seed

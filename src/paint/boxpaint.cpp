@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTransform>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -73,9 +74,9 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
   const QTransform toDevice = painter.deviceTransform();
   if (zoom != forms::ActualSize || toDevice.isScaling()) {
     // Not left to the painter, which rounds at the edges of each area that it paints.
-    const QRect part = MapToDevice(toDevice, seen);
+    const QRect onDevice = MapToDevice(toDevice, seen);
     painter.setTransform(toDevice.inverted(), true);
-    painter.drawImage(part.topLeft(), Magnified(box, toDevice, part));
+    painter.drawImage(onDevice.topLeft(), Magnified(box, toDevice, onDevice));
     return painter.resetTransform();
   }
   // The QImage uses the raster's memory; only what is shown is copied.

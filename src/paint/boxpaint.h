@@ -14,7 +14,7 @@ namespace terramark::paint {
 inline constexpr int RingWidth = 3;
 
 /// Paints a part of the box, in pixels of the box. Each pixel shows the nearest pixel of the box's
-/// image; beyond the image the box's own colour.
+/// image, with its paint; beyond the image the box's own colour. May reset the painter's transform.
 void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
 
 /// Calls the visitor with each visible label on the box, from the back to the front.

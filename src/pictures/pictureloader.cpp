@@ -17,8 +17,8 @@
 namespace terramark::pictures {
 namespace {
 
-/// The length of a bitmap file's header, before the bitmap's own, and of the one that precedes it
-/// in a file with an array of bitmaps.
+/// The length of a bitmap file's header, before the bitmap's own. In a file with an array of
+/// bitmaps another one of the same length precedes it.
 constexpr qint64 FileHeaderBytes = 14;
 constexpr qsizetype BitsOffsetAt = 10;
 

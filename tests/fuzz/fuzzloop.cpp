@@ -70,7 +70,7 @@ class Mutator {
     // clang-format on
   }
 
-  // Many times over, since what is cheap once may be dear a thousand times.
+  // Many times over, since what costs little once may cost much a thousand times over.
   void Repeat(std::string& bytes, std::size_t at, std::size_t length) {
     const std::string piece = bytes.substr(at, length);
     std::string many;

@@ -36,7 +36,7 @@ std::string Play(const MetafileBytes& file, std::chrono::nanoseconds time,
   return picture ? "drawn" : picture.error();
 }
 
-// One record each, so that it is the record's own loop that has to ask for the time.
+// One small record each, so that it is the record and not the number of records that is refused.
 TEST(HostileFiles, AreRefusedAsAWholeByTheLoopsOfEachRecord) {
   MetafileBytes line = MetafileBytes().Pen(0, 9, 0);
   MetafileBytes pixels = MetafileBytes().Record(SetStretchBltMode, {3});

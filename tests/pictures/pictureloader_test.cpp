@@ -35,8 +35,8 @@ Pixels Padded(Pixels colours, std::size_t size) {
 const QByteArray RowsOf8 = Bytes({2, 0, 0, 0, 0, 1, 0, 0});
 const QByteArray RowsOf24 = Bytes({255, 255, 255, 0, 0, 255, 0, 0, 0, 0, 255, 255, 0, 0, 0, 0});
 
-// Each shows two rows of two pixels: red and blue above, white and red below. Of one bit there is
-// no white to be had.
+// Each shows two rows of two pixels: red and blue above, white and red below. With one bit
+// there are two colours only: the white one is red.
 const DibBytes Bitmaps[]{
     {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0})},
     {2, 2, 1, 0, {0xFF0000, 0x0000FF}, Bytes({0, 0, 0, 0, 0x40, 0, 0, 0}), 12},
