@@ -104,14 +104,17 @@ void PictureBox::ScrollIntoView(const PixelRect& onPicture) {
            ScrollDelta(part.Top, part.Height, ViewHeight()));
 }
 
+void PictureBox::FillLayer::PaintRow(int y, int left, int right, std::uint32_t* row) const {
+  Pixels.ForEachRun(y, left, right, [&](int begin, int end) {
+    std::fill(row + (begin - left), row + (end - left), Paint);
+  });
+}
+
 Raster PictureBox::Image() const {
   Raster image = Backdrop();
   if (fill_.Pixels.IsEmpty()) return image;
   for (int y = 0; y < image.Height; ++y) {
-    std::uint32_t* const row = image.Pixels.data() + image.IndexOf(0, y);
-    fill_.Pixels.ForEachRun(y, 0, image.Width, [&](int begin, int end) {
-      std::fill(row + begin, row + end, fill_.Paint);
-    });
+    fill_.PaintRow(y, 0, image.Width, image.Pixels.data() + image.IndexOf(0, y));
   }
   return image;
 }

@@ -55,6 +55,9 @@ class PictureBox : public Control {
     PixelBits Pixels;         // IsEmpty until something is painted
     std::uint32_t Paint = 0;  // what their pixels show, as in a raster
     Color Border = 0;         // what stopped them
+
+    /// Paints its part of the pixels left <= x < right of row y, which are at `row`.
+    void PaintRow(int y, int left, int right, std::uint32_t* row) const;
   };
   const FillLayer& Fill() const { return fill_; }
   /// A copy of the persistent image. std::bad_alloc when memory runs out.

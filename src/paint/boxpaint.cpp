@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QTransform>
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,6 +27,7 @@ QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const
     columns.push_back(MapToPicture(box, {MapFromDevice(x, toDevice.m11(), toDevice.dx()), 0}).X);
   }
   QImage seen(part.size(), QImage::Format_RGB32);
+  if (seen.isNull()) return seen;  // no memory
   int shown = -1;
   for (int y = 0; y < part.height(); ++y) {
     const int below = MapFromDevice(part.top() + y, toDevice.m22(), toDevice.dy());
@@ -52,11 +52,8 @@ QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const
 /// A part of the image with the paint on it; the part begins at `corner`.
 QImage WithFill(QImage part, const forms::PictureBox::FillLayer& fill, QPoint corner) {
   for (int y = 0; y < part.height(); ++y) {
-    auto* const row = reinterpret_cast<std::uint32_t*>(part.scanLine(y));
-    fill.Pixels.ForEachRun(
-        corner.y() + y, corner.x(), corner.x() + part.width(), [&](int begin, int end) {
-          std::fill(row + begin - corner.x(), row + end - corner.x(), fill.Paint);
-        });
+    fill.PaintRow(corner.y() + y, corner.x(), corner.x() + part.width(),
+                  reinterpret_cast<std::uint32_t*>(part.scanLine(y)));
   }
   return part;
 }
