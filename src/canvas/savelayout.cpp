@@ -1,11 +1,15 @@
 #include "canvas/savelayout.h"
 
+#include <filesystem>
 #include <string>
 
 #include "canvas/refreshmap.h"
 #include "canvas/writemapfile.h"
+#include "files/regularfile.h"
 #include "files/safefile.h"
+#include "layoutfile/layoutreader.h"
 #include "shell/backdrop.h"
+#include "shell/bars.h"
 #include "shell/filefault.h"
 #include "shell/filenames.h"
 #include "shell/form1.h"
@@ -24,6 +28,18 @@ void ShowWriteFault(Form1& form, const std::string& name, const files::SafeFile&
     rest += ", and the map is kept beside it in " + file.Kept().filename().string();
   }
   ShowFileFault(form, "Cannot write Map Layout File ", name, rest);
+}
+
+/// A layout's picture is found where the layout lies, unless its path begins at the root.
+void WarnOfLostPicture(Form1& form, const std::string& layout, const std::string& text) {
+  LayoutReader saved(text, form);
+  if (!saved.ReadHead()) return;
+  const std::string& picture = saved.Layout().PictureFile;
+  const std::filesystem::path folder =
+      std::filesystem::path(form.Host.NativePath(layout)).parent_path();
+  if (files::RegularFile::Open(folder / form.Host.NativePath(picture))) return;
+  const std::string title = picture.substr(picture.find_last_of('/') + 1);
+  ShowHelpbar(form, "The picture " + title + " does not lie beside this layout");
 }
 
 }  // namespace
@@ -56,6 +72,7 @@ void SaveCFG_MouseUp(Form1& form) {
   }
   form.LayoutFile = name;
   form.LoadMpa.Caption = name;
+  if (shown) WarnOfLostPicture(form, name, written.Text);
 }
 
 }  // namespace terramark

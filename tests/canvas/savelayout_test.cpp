@@ -47,5 +47,32 @@ TEST_F(SaveLayout, ALostPictureIsSaidUnlessTheWritingStops) {
   ExpectRed("Area Fir has no neighbours");
 }
 
+/// Where a picture without a folder is named as it is.
+class BareNames : public SaveLayout {
+  std::string NativePath(const std::string& path) override {
+    return path.starts_with("land") ? path : SaveLayout::NativePath(path);
+  }
+};
+
+TEST_F(BareNames, APictureThatTheLayoutWillNotFindIsSaid) {
+  const struct {
+    std::string Picture, File, Said;
+  } cases[]{{"land.bmp", "x", "The picture land.bmp does not lie beside this layout"},
+            {"land.bmp", "land.bmp", ""},
+            {"land/land.bmp", "x", "The picture land.bmp does not lie beside this layout"},
+            {"land,2.bmp", "land,2.bmp", "The picture land does not lie beside this layout"},
+            {TinyPicture, "x", ""}};
+  for (const auto& [picture, file, said] : cases) {
+    std::filesystem::remove(Folder / "land.bmp");
+    Put(file, "a picture");
+    Pictures[picture] = BlankPicture(4, 3);
+    Form.PictureFile = picture;
+    Form.Helpbar.Caption = "";
+    EXPECT_NE(Saved("new.tml"), "");
+    EXPECT_EQ(Form.Helpbar.Caption.Get(), said) << picture << " " << file;
+    EXPECT_EQ(Form.Message.Caption.Get(), "");
+  }
+}
+
 }  // namespace
 }  // namespace terramark
