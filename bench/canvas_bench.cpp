@@ -1,6 +1,7 @@
-// What the map costs on the screen at each zoom: a move of a dragged marker, and a step of the
-// wheel, each with its repaint, and in multiples of painting an image of the box's size. A large
-// picture, and 192 markers of which as many are seen as the view has room for.
+// What the map costs on the screen at each zoom: a move of a dragged marker, a notch of the wheel
+// that scrolls and one that zooms, each with its repaint, and in multiples of painting an image of
+// the box's size. A large picture, and 192 markers of which as many are seen as the view has room
+// for.
 #include <QApplication>
 #include <QPainter>
 #include <QWheelEvent>
@@ -83,13 +84,13 @@ class CanvasBench {
     return took;
   }
 
-  /// CPU seconds of a notch of the wheel, down and up by turns.
-  double Wheel() {
+  /// CPU seconds of a notch of the wheel with these keys, so many down and then as many up.
+  double Wheel(Qt::KeyboardModifiers keys, int notches) {
     QWidget& canvas = *window_.View().WidgetOf(form_.Picture1);
     return Took(Steps, [&](int i) {
-      const QPoint turn(0, i % 6 < 3 ? -120 : 120);
+      const QPoint turn(0, i % (2 * notches) < notches ? -120 : 120);
       QWheelEvent event({100, 100}, canvas.mapToGlobal(QPointF(100, 100)), {}, turn, Qt::NoButton,
-                        Qt::NoModifier, Qt::NoScrollPhase, false);
+                        keys, Qt::NoScrollPhase, false);
       QCoreApplication::sendEvent(&canvas, &event);
       Repaint(window_);
     });
@@ -115,10 +116,13 @@ void Run(int argc, char** argv) {
   for (const forms::Magnification zoom : forms::ZoomSteps) {
     editor.Form.Picture1.ZoomTo(zoom, {});
     const double move = bench.Move();
-    const double wheel = bench.Wheel();
+    const double wheel = bench.Wheel(Qt::NoModifier, 3);
+    const double step = bench.Wheel(Qt::ControlModifier, 1);
     const double image = plain.Paint();
-    std::printf("zoom %d : %-33d a move %.2f ms, %.2f   a step of the wheel %.2f ms, %.2f\n",
-                zoom.Screen, zoom.Picture, 1000 * move, move / image, 1000 * wheel, wheel / image);
+    std::printf(
+        "zoom %d : %-8d a move %.2f ms, %.2f   the wheel %.2f ms, %.2f   a zoom %.2f ms, %.2f\n",
+        zoom.Screen, zoom.Picture, 1000 * move, move / image, 1000 * wheel, wheel / image,
+        1000 * step, step / image);
   }
 }
 

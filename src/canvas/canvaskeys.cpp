@@ -31,9 +31,7 @@ void MoveCursorTo(Form1& form, forms::Label* marker) {
 
 void MoveDragBy(Form1& form, int across, int down) {
   form.Pointer.MoveKeyDrag(across, down);
-  const auto flight = form.Pointer.CurrentDrag();
-  const forms::PixelRect size = PixelBounds(flight->Source);
-  form.Picture1.ScrollIntoView({flight->TopLeft.X, flight->TopLeft.Y, size.Width, size.Height});
+  form.Picture1.ScrollIntoView(form.Pointer.CurrentDrag()->Seen());
 }
 
 /// Also when it is far outside the picture.

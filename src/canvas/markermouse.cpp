@@ -34,6 +34,8 @@ void TurnCorner(Form1& form, std::int16_t area) {
   // A code that is no corner has no effect until the next turn.
   form.AreaCorner(area) = NextCorner(old);
   form.ArmyAt(area).Caption = MarkerCaption(area, old);
+  // The same caption, but below actual size another corner stays.
+  form.ArmyAt(area).Refresh();
 }
 
 /// Moves a marker that was dropped on itself by the distance of the drag; false when that is 0.

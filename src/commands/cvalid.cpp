@@ -4,10 +4,10 @@
 #include <cmath>
 #include <vector>
 
-#include "document/corner.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
 #include "shell/form1.h"
+#include "shell/markers.h"
 #include "shell/validatemap.h"
 
 namespace terramark {
@@ -23,9 +23,9 @@ int NearestPixel(float place) {
 
 forms::PixelPoint FillPoint(Form1& form, std::int16_t area) {
   const forms::Label& marker = form.ArmyAt(area);
-  const std::int16_t corner = form.AreaCorner(area);
-  return {NearestPixel(marker.Left + (AtRight(corner) ? marker.Width : 0.0F)),
-          NearestPixel(marker.Top + (AtBottom(corner) ? marker.Height : 0.0F))};
+  const forms::Corner corner = FillCorner(form, area);
+  return {NearestPixel(marker.Left + (corner.Right ? marker.Width : 0.0F)),
+          NearestPixel(marker.Top + (corner.Bottom ? marker.Height : 0.0F))};
 }
 
 }  // namespace

@@ -38,6 +38,9 @@ bool Zoomed(Form1& form, std::int16_t key) {
     case forms::Key0:
       box.ZoomTo(forms::ActualSize, box.ViewCentre());
       return true;
+    case forms::Key9:
+      box.ZoomTo(box.FittingZoom(), box.ViewCentre());
+      return true;
     default:
       return false;
   }

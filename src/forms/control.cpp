@@ -49,6 +49,8 @@ void Control::CopyCommon(const Control& from) {
   ToolTipText = from.ToolTipText;
   AccessibleName = from.AccessibleName;
   AccessibleNameOf = from.AccessibleNameOf;
+  AccessibleNoteOf = from.AccessibleNoteOf;
+  FixedCornerOf = from.FixedCornerOf;
   ListOrder = from.ListOrder;
   HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;

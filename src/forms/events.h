@@ -38,6 +38,7 @@ enum KeyCode : std::int16_t {
   KeyRightArrow = 39,
   KeyDownArrow = 40,
   Key0 = 48,
+  Key9 = 57,
   KeyC = 67,
   KeyMenu = 93,
   KeyF1 = 112,

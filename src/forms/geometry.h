@@ -24,6 +24,7 @@ struct PixelRect {
   int Height = 0;
 
   PixelPoint TopLeft() const { return {Left, Top}; }
+  PixelRect MovedBy(PixelPoint way) const { return {Left + way.X, Top + way.Y, Width, Height}; }
   bool Contains(PixelPoint at) const {
     return at.X >= Left && at.Y >= Top && at.X < Left + Width && at.Y < Top + Height;
   }
@@ -41,6 +42,12 @@ struct ScalePoint {
 /// taken as placed in pixels.
 PixelRect PixelBounds(const Control& control);
 
+/// The part of its container that a control covers on the screen, in the same pixels as
+/// PixelBounds, from which it differs only for a label on a picture that is shown below its actual
+/// size. Such a label is shown at its actual size, so that it can be read and hit, and covers more
+/// of the picture; its fixed corner stays.
+PixelRect SeenBounds(const Control& control);
+
 /// Maps a pixel of the form's inside to a pixel of a control's inside, counted from its corner. For
 /// a picture box that is the pixel of the picture that is visible there. Either may be outside.
 PixelPoint MapFromForm(const Control& control, PixelPoint onForm);
@@ -51,7 +58,7 @@ PixelPoint MapToForm(const Control& control, PixelPoint inside);
 /// form. For a picture box it is the corner of the picture, which may be scrolled out of the box.
 PixelPoint InnerOrigin(const Control& control);
 
-/// The centre of a control, in pixels of the form's inside.
+/// The centre of what is seen of a control, in pixels of the form's inside.
 PixelPoint CentreOnForm(const Control& control);
 
 /// Converts a pixel of a control's inside to the scale of that inside. The control must be on a

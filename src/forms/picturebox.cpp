@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <ranges>
 #include <utility>
 
 #include "forms/borderfill.h"
@@ -96,6 +97,16 @@ void PictureBox::ZoomTo(Magnification zoom, PixelPoint about) {
   const PixelPoint to{scroll(ScrollLeft, about.X), scroll(ScrollTop, about.Y)};
   Zoom = zoom;
   ScrollTo(to.X, to.Y);
+}
+
+Magnification PictureBox::FittingZoom() const {
+  const Raster& image = DisplayedImage();
+  const auto fits = [&](Magnification zoom) {
+    return ToScreen(zoom, image.Width) <= BoxWidth() && ToScreen(zoom, image.Height) <= BoxHeight();
+  };
+  const auto steps = std::views::reverse(ZoomSteps);
+  const auto largest = std::ranges::find_if(steps, fits);
+  return largest != steps.end() ? *largest : ZoomSteps[0];
 }
 
 void PictureBox::ScrollIntoView(const PixelRect& onPicture) {

@@ -32,7 +32,7 @@ Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
     Control* child = stack[left - 1];
     if (!child->Visible) continue;
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
-    const PixelRect bounds = PixelBounds(*child);
+    const PixelRect bounds = SeenBounds(*child);
     if (!bounds.Contains(inside)) continue;
     PixelPoint deep = inside - bounds.TopLeft();
     if (child->Kind() == ControlKind::PictureBox) {
@@ -211,6 +211,10 @@ void PointerRouter::NotifyPointerMoved() const {
   if (form_.observer_ != nullptr) form_.observer_->PointerMoved();
 }
 
+PixelRect PointerRouter::ActiveDrag::Seen() const {
+  return SeenBounds(Source).MovedBy(TopLeft - PixelBounds(Source).TopLeft());
+}
+
 std::optional<PointerRouter::ActiveDrag> PointerRouter::CurrentDrag() const {
   if (dragged_ == nullptr) return std::nullopt;
   if (keyDrag_) {
@@ -219,6 +223,10 @@ std::optional<PointerRouter::ActiveDrag> PointerRouter::CurrentDrag() const {
   }
   const PixelPoint grip = MapFromForm(*dragged_->Container(), at_);
   return ActiveDrag{*dragged_, grip - hotSpot_, grip};
+}
+
+std::optional<PointerRouter::ActiveDrag> PointerRouter::KeyDragOf(const Control& control) const {
+  return keyDrag_ && dragged_ == &control ? CurrentDrag() : std::nullopt;
 }
 
 void PointerRouter::Forget(const Control& control) {

@@ -76,8 +76,13 @@ class PointerRouter {
     const Control& Source;
     PixelPoint TopLeft;
     PixelPoint HotSpot;
+
+    /// The part of the container that the control covers on the screen at that place.
+    PixelRect Seen() const;
   };
   std::optional<ActiveDrag> CurrentDrag() const;
+  /// The same if keys drag this control.
+  std::optional<ActiveDrag> KeyDragOf(const Control& control) const;
 
   /// A control is about to be destroyed.
   void Forget(const Control& control);

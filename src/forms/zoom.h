@@ -12,8 +12,8 @@ struct Magnification {
 };
 
 /// The steps of a picture box, from the smallest.
-inline constexpr Magnification ZoomSteps[] = {{1, 4}, {1, 2}, {1, 1}, {2, 1},
-                                              {3, 1}, {4, 1}, {6, 1}, {8, 1}};
+inline constexpr Magnification ZoomSteps[] = {{1, 32}, {1, 16}, {1, 8}, {1, 4}, {1, 2}, {1, 1},
+                                              {2, 1},  {3, 1},  {4, 1}, {6, 1}, {8, 1}};
 inline constexpr Magnification ActualSize{1, 1};
 
 /// The next larger or smaller step; at the ends, the same. The argument must be a step.

@@ -18,30 +18,49 @@ namespace terramark::paint {
 
 namespace {
 
+constexpr std::uint32_t Black = 0xFF000000;
+
+/// A pixel of the zoomed image, counted from its corner, and the pixel of the image that it shows.
+struct Sample {
+  int Zoomed;
+  int OnImage;
+};
+
 /// What a part of the device shows of the image; the part must lie on the image.
-QImage Magnified(const forms::PictureBox& box, const QTransform& toDevice, const QRect& part) {
+QImage Zoomed(const forms::PictureBox& box, const BlackBlocks& black, const QTransform& toDevice,
+              const QRect& part) {
   const forms::Raster& image = box.Backdrop();
   const forms::PictureBox::FillLayer& fill = box.Fill();
-  std::vector<int> columns;
+  const forms::PixelBits* const blocks = black.At(box.Zoom);
+  // Beside a picture that is smaller than the box there are no blocks.
+  const int blocksAcross = blocks == nullptr ? 0 : ToScreen(box.Zoom, box.Picture.Get()->Width);
+  const int blocksDown = blocks == nullptr ? 0 : ToScreen(box.Zoom, box.Picture.Get()->Height);
+  std::vector<Sample> columns;
   for (int x = part.left(); x <= part.right(); ++x) {
-    columns.push_back(MapToPicture(box, {MapFromDevice(x, toDevice.m11(), toDevice.dx()), 0}).X);
+    const int zoomed = MapFromDevice(x, toDevice.m11(), toDevice.dx()) + box.ScrollLeft;
+    columns.push_back({zoomed, ToPicture(box.Zoom, zoomed)});
   }
   QImage seen(part.size(), QImage::Format_RGB32);
   if (seen.isNull()) return seen;  // no memory
   int shown = -1;
   for (int y = 0; y < part.height(); ++y) {
-    const int below = MapFromDevice(part.top() + y, toDevice.m22(), toDevice.dy());
-    const int row = MapToPicture(box, {0, below}).Y;
+    const int zoomed = MapFromDevice(part.top() + y, toDevice.m22(), toDevice.dy()) + box.ScrollTop;
+    const int row = ToPicture(box.Zoom, zoomed);
     auto* const to = reinterpret_cast<std::uint32_t*>(seen.scanLine(y));
     if (row == shown) {
       std::memcpy(to, seen.constScanLine(y - 1), columns.size() * sizeof *to);
       continue;
     }
     const std::uint32_t* const from = image.Pixels.data() + image.IndexOf(0, row);
-    for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x]];
+    for (std::size_t x = 0; x < columns.size(); ++x) to[x] = from[columns[x].OnImage];
     if (!fill.Pixels.IsEmpty()) {
       for (std::size_t x = 0; x < columns.size(); ++x) {
-        if (fill.Pixels.At(columns[x], row)) to[x] = fill.Paint;
+        if (fill.Pixels.At(columns[x].OnImage, row)) to[x] = fill.Paint;
+      }
+    }
+    if (zoomed < blocksDown) {
+      for (std::size_t x = 0; x < columns.size() && columns[x].Zoomed < blocksAcross; ++x) {
+        if (blocks->At(columns[x].Zoomed, zoomed)) to[x] = Black;
       }
     }
     shown = row;
@@ -60,7 +79,8 @@ QImage WithFill(QImage part, const forms::PictureBox::FillLayer& fill, QPoint co
 
 }  // namespace
 
-void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part) {
+void PaintImage(QPainter& painter, const forms::PictureBox& box, const BlackBlocks& black,
+                const QRect& part) {
   const forms::Raster& raster = box.Backdrop();
   const forms::Magnification zoom = box.Zoom;
   const QRect sheet(-box.ScrollLeft, -box.ScrollTop, ToScreen(zoom, raster.Width),
@@ -73,7 +93,7 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& pa
     // Not left to the painter, which rounds at the edges of each area that it paints.
     const QRect onDevice = MapToDevice(toDevice, seen);
     painter.setTransform(toDevice.inverted(), true);
-    painter.drawImage(onDevice.topLeft(), Magnified(box, toDevice, onDevice));
+    painter.drawImage(onDevice.topLeft(), Zoomed(box, black, toDevice, onDevice));
     return painter.resetTransform();
   }
   // The QImage uses the raster's memory; only what is shown is copied.

@@ -5,6 +5,7 @@
 
 #include "forms/controls.h"
 #include "forms/picturebox.h"
+#include "paint/blackblocks.h"
 
 class QPainter;
 
@@ -14,8 +15,11 @@ namespace terramark::paint {
 inline constexpr int RingWidth = 3;
 
 /// Paints a part of the box, in pixels of the box. Each pixel shows the nearest pixel of the box's
-/// image, with its paint; beyond the image the box's own colour. May reset the painter's transform.
-void PaintImage(QPainter& painter, const forms::PictureBox& box, const QRect& part);
+/// image, with its paint; beyond the image the box's own colour. Below actual size it is black
+/// where any pixel of its block is, by `black`, which belongs to the box's picture. May reset the
+/// painter's transform.
+void PaintImage(QPainter& painter, const forms::PictureBox& box, const BlackBlocks& black,
+                const QRect& part);
 
 /// Calls the visitor with each visible label on the box, from the back to the front.
 template <typename Visitor>

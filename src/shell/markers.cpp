@@ -22,7 +22,7 @@ forms::Control* MarkerAtCursor(Form1& form) {
 }
 
 void ScrollMarkerIntoView(Form1& form, const forms::Control& marker) {
-  if (marker.IsVisible()) form.Picture1.ScrollIntoView(PixelBounds(marker));
+  if (marker.IsVisible()) form.Picture1.ScrollIntoView(SeenBounds(marker));
 }
 
 MarkerState MarkerStateOf(const forms::Label& marker) {
@@ -65,6 +65,11 @@ void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text) {
 void CopyRegionColour(forms::Label& area, const forms::Label& region) {
   area.ForeColor = OwnColour(region);
   area.Tag = region.Tag;
+}
+
+forms::Corner FillCorner(const Tables& tables, std::int16_t area) {
+  const std::int16_t corner = tables.AreaCorner(area);
+  return {.Right = AtRight(corner), .Bottom = AtBottom(corner)};
 }
 
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner) {

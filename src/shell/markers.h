@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "document/tables.h"
 #include "forms/color.h"
 #include "forms/controls.h"
 
@@ -52,6 +53,9 @@ void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagFo
 
 /// Gives an Area's marker the colour and the Tag of its Region's marker. The background stays.
 void CopyRegionColour(forms::Label& area, const forms::Label& region);
+
+/// The corner of an Area's marker that is the Area's fill point.
+forms::Corner FillCorner(const Tables& tables, std::int16_t area);
 
 /// Makes a corner of an Area's marker the fill point, and shows it in the caption. The marker must
 /// exist.

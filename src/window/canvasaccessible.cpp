@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "paint/cp1252.h"
 #include "paint/elidedtext.h"
 #include "shell/markers.h"
 #include "window/accessibleitem.h"
@@ -104,10 +105,17 @@ QString CanvasAccessible::MarkerName(const forms::Label& label) const {
 }
 
 QString CanvasAccessible::PositionTextOf(const forms::Label& label) const {
-  const forms::PointerRouter& pointer = label.ParentForm()->Pointer;
-  const QPoint corner = canvas_.PictureRectOf(label).topLeft();
-  const bool held = pointer.HasKeyDrag() && &pointer.CurrentDrag()->Source == &label;
-  return QString(held ? "held at %1, %2" : "at %1, %2").arg(corner.x()).arg(corner.y());
+  const auto place = [](const char* words, forms::PixelPoint corner) {
+    return QString(words).arg(corner.X).arg(corner.Y);
+  };
+  // What is read at each step of a drag is the place alone.
+  if (const auto drag = label.ParentForm()->Pointer.KeyDragOf(label)) {
+    return place("held at %1, %2", drag->TopLeft);
+  }
+  const QString note = paint::FromCp1252(
+      label.AccessibleNoteOf ? label.AccessibleNoteOf(label.Index()) : std::string());
+  const QString at = place("at %1, %2", PixelBounds(label).TopLeft());
+  return note.isEmpty() ? at : at + ", " + note;
 }
 
 QRect CanvasAccessible::ScreenRectOf(const forms::Label& label) const {

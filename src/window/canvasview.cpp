@@ -63,6 +63,7 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
   zoom_.setBackgroundRole(QPalette::ToolTipBase);
   zoom_.setForegroundRole(QPalette::ToolTipText);
   zoom_.setMargin(2);
+  FindBlack();
   PlaceScrollBars();
   PlaceZoomLabel();
 }
@@ -79,7 +80,8 @@ void CanvasView::PlaceScrollBars() {
 
 void CanvasView::PlaceZoomLabel() {
   const forms::Magnification zoom = box_.Zoom;
-  const QString text = QString("%1 %").arg(100 * zoom.Screen / zoom.Picture);
+  // The smallest has three digits behind the point.
+  const QString text = QString("%1 %").arg(100.0 * zoom.Screen / zoom.Picture, 0, 'g', 4);
   if (text != zoom_.text()) {
     zoom_.setText(text);
     zoom_.setAccessibleName("Zoom " + text);
@@ -92,10 +94,19 @@ void CanvasView::PlaceZoomLabel() {
 
 void CanvasView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::CursorItem) return MoveRing();
+  if (id == forms::PropertyId::Picture) FindBlack();
   PlaceScrollBars();
   PlaceZoomLabel();
+  for (auto& [label, seen] : seen_) seen = label->Visible ? RestingRectOf(*label) : QRect();
   shownDragRect_ = DragRect();
   update();
+}
+
+/// A refreshed picture is the same object, whose pixels have been read.
+void CanvasView::FindBlack() {
+  if (blackOf_ == box_.Picture.Get()) return;
+  black_ = paint::BlackBlocks(box_.Picture);
+  blackOf_ = box_.Picture;
 }
 
 const forms::Control* CanvasView::VisibleCursorItem() const {
@@ -108,50 +119,40 @@ void CanvasView::MoveRing() {
   for (const forms::Control* label : {std::exchange(cursorItem_, now), now}) {
     const auto seen = seen_.find(label);
     // The ring is visible only while the box has the focus.
-    if (hasFocus() && seen != seen_.end()) update(DirtyRect(seen->second));
+    if (hasFocus() && seen != seen_.end()) update(Widened(seen->second));
   }
 }
 
 void CanvasView::LabelChanged(const forms::Control& label) {
   QRect& seen = seen_[&label];
-  const QRect now = label.Visible ? BoundsOf(label) : QRect();
-  if (!seen.isEmpty()) update(DirtyRect(seen));
-  if (!now.isEmpty()) update(DirtyRect(now));
+  const QRect now = label.Visible ? RestingRectOf(label) : QRect();
+  if (!seen.isEmpty()) update(Widened(seen));
+  if (!now.isEmpty()) update(Widened(now));
   seen = now;
 }
 
 void CanvasView::ForgetLabel(const forms::Control& label) {
   const auto seen = seen_.find(&label);
   if (seen == seen_.end()) return;
-  if (!seen->second.isEmpty()) update(DirtyRect(seen->second));
+  if (!seen->second.isEmpty()) update(Widened(seen->second));
   seen_.erase(seen);
 }
 
-QRect CanvasView::MapToBox(const QRect& onPicture) const {
-  const forms::PixelRect area = forms::MapToBox(
-      box_, forms::PixelRect{onPicture.x(), onPicture.y(), onPicture.width(), onPicture.height()});
+QRect CanvasView::MapToBox(const forms::PixelRect& onPicture) const {
+  const forms::PixelRect area = forms::MapToBox(box_, onPicture);
   return {area.Left, area.Top, area.Width, area.Height};
 }
 
-QRect CanvasView::DirtyRect(const QRect& onPicture) const {
-  return Widened(MapToBox(onPicture));
-}
-
-QRect CanvasView::PictureRectOf(const forms::Control& label) const {
-  const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
-  QRect area = BoundsOf(label);
-  if (!pointer.HasKeyDrag()) return area;
-  const auto flight = *pointer.CurrentDrag();
-  if (&flight.Source == &label) area.moveTo(flight.TopLeft.X, flight.TopLeft.Y);
-  return area;
+QRect CanvasView::WidgetRectOf(const forms::Control& label) const {
+  const auto drag = box_.ParentForm()->Pointer.KeyDragOf(label);
+  return drag ? MapToBox(drag->Seen()) : RestingRectOf(label);
 }
 
 QRect CanvasView::DragRect() const {
   const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
   const auto flight = pointer.CurrentDrag();
   if (!flight || flight->Source.Container() != &box_) return {};
-  QRect area =
-      MapToBox({QPoint(flight->TopLeft.X, flight->TopLeft.Y), BoundsOf(flight->Source).size()});
+  QRect area = MapToBox(flight->Seen());
   const forms::PixelPoint grip = forms::MapToBox(box_, flight->HotSpot);
   const QRect view = Viewport();
   // In a key drag no pointer shows the place, so the label is shown as far as it is in view.
@@ -169,7 +170,7 @@ void CanvasView::PointerMoved() {
     update(Widened(shownDragRect_));
     // A cancelled key drag leaves the marker where it was, and the ring there.
     if (flight.isEmpty() && box_.CursorItem != nullptr)
-      update(DirtyRect(BoundsOf(*box_.CursorItem)));
+      update(Widened(RestingRectOf(*box_.CursorItem)));
   }
   UpdateCursorShape();
 }
@@ -193,9 +194,9 @@ void CanvasView::paintEvent(QPaintEvent* event) {
   }
   painter.setClipRect(view, Qt::IntersectClip);
   // Where the scale is no whole number, painting may reach one line beyond the area.
-  paint::PaintImage(painter, box_, event->rect().adjusted(-1, -1, 1, 1) & view);
+  paint::PaintImage(painter, box_, black_, event->rect().adjusted(-1, -1, 1, 1) & view);
   paint::ForEachLabel(box_, [&](const forms::Label& label) {
-    const QRect area = MapToBox(BoundsOf(label));
+    const QRect area = RestingRectOf(label);
     if (!event->rect().intersects(area)) return;
     painter.setClipRect(area & view);
     PaintMarker(painter, area, label);
@@ -207,8 +208,8 @@ void CanvasView::paintEvent(QPaintEvent* event) {
 
 void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
                              const forms::Label& label) const {
-  const forms::Magnification zoom = box_.Zoom;
-  paint::PaintLabel(painter, area, static_cast<double>(zoom.Screen) / zoom.Picture, label);
+  // Below actual size a label keeps its own.
+  paint::PaintLabel(painter, area, box_.Zoom.Get().Screen, label);
 }
 
 void CanvasView::PaintDrag(QPainter& painter) const {
@@ -227,7 +228,7 @@ void CanvasView::PaintDrag(QPainter& painter) const {
 void CanvasView::PaintFocus(QPainter& painter) const {
   if (const forms::Control* const item = VisibleCursorItem()) {
     const bool held = box_.ParentForm()->Pointer.HasKeyDrag();
-    paint::PaintRing(painter, held ? DragRect() : MapToBox(BoundsOf(*item)));
+    paint::PaintRing(painter, held ? DragRect() : RestingRectOf(*item));
   }
   paint::DrawFocusRing(painter, Viewport());
 }

@@ -7,7 +7,9 @@
 #include <unordered_map>
 
 #include "forms/controls.h"
+#include "forms/geometry.h"
 #include "forms/picturebox.h"
+#include "paint/blackblocks.h"
 #include "window/controlview.h"
 
 namespace terramark::window {
@@ -27,10 +29,9 @@ class CanvasView : public QWidget, public ControlView {
   void LabelChanged(const forms::Control& label);
   /// A label is about to be destroyed; only its address is used.
   void ForgetLabel(const forms::Control& label);
-  /// The place of a label in pixels of the picture, also during a key drag.
-  QRect PictureRectOf(const forms::Control& label) const;
-  /// The same in pixels of the widget; it may be scrolled out of view.
-  QRect WidgetRectOf(const forms::Control& label) const { return MapToBox(PictureRectOf(label)); }
+  /// The pixels of the widget that show a label, also during a key drag; they may be scrolled out
+  /// of view.
+  QRect WidgetRectOf(const forms::Control& label) const;
   /// The pointer moved, or the dragged label moved, appeared or disappeared.
   void PointerMoved();
 
@@ -42,16 +43,18 @@ class CanvasView : public QWidget, public ControlView {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  void FindBlack();
   void PlaceScrollBars();
   void PlaceZoomLabel();
   void MoveRing();
   void UpdateCursorShape();
   void ZoomByWheel(int angle, QPoint about);
 
-  QRect MapToBox(const QRect& onPicture) const;
-  /// The pixels of the widget to repaint for something at a place of the picture, including its
-  /// ring.
-  QRect DirtyRect(const QRect& onPicture) const;
+  /// A part of the picture in pixels of the widget.
+  QRect MapToBox(const forms::PixelRect& onPicture) const;
+  QRect RestingRectOf(const forms::Control& label) const {
+    return MapToBox(forms::SeenBounds(label));
+  }
   /// Where the dragged label is shown, in pixels of the widget; empty without a drag.
   QRect DragRect() const;
 
@@ -70,8 +73,11 @@ class CanvasView : public QWidget, public ControlView {
   QPoint scrollRest_;
   /// The item that had the ring last; only its address is used.
   const forms::Control* cursorItem_;
-  /// Where each visible label was shown last, in pixels of the picture.
+  /// Where each visible label was shown last, in pixels of the widget.
   std::unordered_map<const forms::Control*, QRect> seen_;
+  /// Of the picture that is shown.
+  paint::BlackBlocks black_;
+  forms::Picture blackOf_;
   QRect shownDragRect_;
 };
 

@@ -32,6 +32,8 @@ constexpr Qt::Key KeyOf(forms::KeyCode code) {
       return Qt::Key_Down;
     case forms::Key0:
       return Qt::Key_0;
+    case forms::Key9:
+      return Qt::Key_9;
     case forms::KeyC:
       return Qt::Key_C;
     case forms::KeyMenu:

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "document/corner.h"
 #include "selection/selection.h"
 #include "support/editortest.h"
 
@@ -51,14 +52,52 @@ TEST_F(ZoomTest, KeepsThePixelUnderThePointer) {
     EXPECT_EQ(MapToPicture(Box, about).Y, pixel.Y) << Box.Zoom.Get().Screen;
   }
   EXPECT_EQ(Box.ZoomedWidth(), 16000);
-  for (int i = 0; i < 9; ++i) Key(KeyMinus, CtrlKey);
-  EXPECT_EQ(Box.ZoomedWidth(), 500);
+  for (int i = 0; i < 11; ++i) Key(KeyMinus, CtrlKey);
+  EXPECT_EQ(Box.ZoomedWidth(), 62);
   EXPECT_EQ(Box.ScrollLeft.Get(), 0);
   EXPECT_FALSE(Box.ScrollsAcross() || Box.ScrollsDown());
   Key(KeyPlus, CtrlKey | ShiftKey);
-  EXPECT_EQ(Box.ZoomedWidth(), 1000);
+  EXPECT_EQ(Box.ZoomedWidth(), 125);
   Key(Key0, CtrlKey);
   EXPECT_EQ(Box.Zoom.Get(), ActualSize);
+}
+
+TEST_F(ZoomTest, OneKeyShowsTheWholePicture) {
+  const struct {
+    int Width, Height;
+    Magnification Fits;
+  } cases[]{{2000, 1000, {1, 4}}, {546, 308, {1, 1}}, {547, 308, {1, 2}},    {273, 154, {2, 1}},
+            {10, 9, {8, 1}},      {0, 0, {1, 1}},     {4096, 4096, {1, 16}}, {100, 12000, {1, 32}}};
+  for (const auto& [width, height, fits] : cases) {
+    Box.Picture = BlankPicture(width, height);
+    Key(Key9, CtrlKey);
+    EXPECT_EQ(Box.Zoom.Get(), fits) << width << " x " << height;
+  }
+}
+
+TEST_F(ZoomTest, BelowActualSizeAMarkerKeepsItsSizeAndItsFillPointItsPlace) {
+  for (int turns = 0; turns < 4; ++turns) {
+    const std::int16_t corner = Form.AreaCorner(1);
+    Area().Move(600, 304);
+    const PixelPoint fill{AtRight(corner) ? 632 : 600, AtBottom(corner) ? 320 : 304};
+    Show({1, 8});
+    const PixelRect seen = MapToBox(Box, SeenBounds(Area()));
+    EXPECT_EQ(seen.Width, 32);
+    EXPECT_EQ(seen.Height, 16);
+    EXPECT_EQ(seen.Left + (AtRight(corner) ? 32 : 0), MapToBox(Box, fill).X) << corner;
+    EXPECT_EQ(seen.Top + (AtBottom(corner) ? 16 : 0), MapToBox(Box, fill).Y) << corner;
+    // A press on its far edge, which is beside its part of the picture, carries it.
+    const PixelPoint onForm = MapToForm(Form, PixelBounds(Box).TopLeft() + seen.TopLeft());
+    DragFrom(onForm + PixelPoint{AtRight(corner) ? 0 : 31, AtBottom(corner) ? 0 : 15}, 40, 20);
+    EXPECT_EQ(Area().Left.Get(), 920) << corner;
+    EXPECT_EQ(Area().Top.Get(), 464) << corner;
+    Click(Area(), 0, RightButton);
+  }
+  Form.Continent.Load(1);
+  Form.Continent(1).Visible = true;
+  Form.Continent(1).Move(800, 80);
+  EXPECT_EQ(SeenBounds(Form.Continent(1)).TopLeft().X, 800);
+  EXPECT_EQ(SeenBounds(Form.Continent(1)).TopLeft().Y, 80);
 }
 
 TEST_F(ZoomTest, EveryGestureMeansThePixelThatIsSeen) {
@@ -73,7 +112,7 @@ TEST_F(ZoomTest, EveryGestureMeansThePixelThatIsSeen) {
     SCOPED_TRACE(testing::Message() << zoom.Screen << " : " << zoom.Picture << " " << travel);
     Area().Move(603, 301);
     Show(zoom);
-    const PixelRect seen = MapToBox(Box, PixelBounds(Area()));
+    const PixelRect seen = MapToBox(Box, SeenBounds(Area()));
     const PixelPoint corner = MapToForm(Form, PixelBounds(Box).TopLeft() + seen.TopLeft());
     const int end = corner.X + seen.Width;
     EXPECT_EQ(&Form.Pointer.ControlAt(corner.X, corner.Y), &Area());

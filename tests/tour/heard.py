@@ -164,10 +164,12 @@ class Reader(Editor):
                              (["Return", "Left", "Return"], -1, "at")):
             self.hears(lambda: self.key(*keys), (MOVED, 0, *scotland))
             left, top = self.areas[2]
-            self.wait(f"Scotland {way} {left + x}", lambda: items[1].get_description() ==
-                      f"{way} {left + x}, {top}")
+            where = f"{way} {left + x}, {top}" + ", fill point top left" * (way == "at")
+            self.wait(f"Scotland {where}", lambda: items[1].get_description() == where)
             check("it stands there", extents(items[1])[:2] == (
                 self.map.left + left + x, self.map.top + top))
+        self.hears(lambda: self.key("c"), (MOVED, 0, *scotland))
+        check("the corner turned", items[1].get_description().endswith("fill point top right"))
         self.key("F6", "ctrl+a")
         self.hears(lambda: self.key("x"), (NAMED, 0, "list item", " 2: x in Region The Isles"))
         self.hears(lambda: self.key("Up"),

@@ -201,12 +201,14 @@ TEST_F(MarkerTest, ALargerPictureIsReachedByItsScrollBars) {
   EXPECT_FALSE(bars[0]->isVisible() || bars[1]->isVisible());
 }
 
-TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
+TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePictureOrBlack) {
   forms::PictureBox& box = Form.Picture1;
   auto picture = std::make_shared<forms::Raster>(*BlankPicture(1203, 801));
   for (std::size_t i = 0; i < picture->Pixels.size(); ++i) {
     const auto colour = static_cast<std::uint32_t>(i * 2654435761U >> 8U);
-    picture->Pixels[i] = 0xFF000000U | (colour % 10 < 3 ? 0 : colour);
+    // Less black below, where the smallest steps show more than black.
+    const bool black = i < 1203 * 500 ? colour % 10 < 3 : colour % 997 == 0;
+    picture->Pixels[i] = 0xFF000000U | (black ? 0 : colour | 1U);
   }
   box.Picture = picture;
   box.FillToBorder(std::vector<forms::PixelPoint>{{1, 0}, {600, 400}, {601, 400}}, 0);
@@ -218,8 +220,17 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
     box.ZoomTo(zoom, {9, 9});
     box.ScrollIntoView(PixelBounds(Marker()));
     const QImage seen = Of(box).grab(QRect(0, 0, box.ViewWidth(), box.ViewHeight())).toImage();
-    const forms::PixelRect marker = MapToBox(box, PixelBounds(Marker()));
+    const forms::PixelRect marker = MapToBox(box, SeenBounds(Marker()));
+    EXPECT_EQ(marker.Width, 32 * zoom.Screen);
     int wrong = 0;
+    const auto hasBlack = [&](int left, int top) {
+      for (int y = top; y < std::min(801, top + zoom.Picture); ++y) {
+        for (int x = left; x < std::min(1203, left + zoom.Picture); ++x) {
+          if (picture->Pixels[picture->IndexOf(x, y)] == 0xFF000000U) return true;
+        }
+      }
+      return false;
+    };
     // But for the corner in which the zoom is told.
     for (int y = 0; y < seen.height() - 40; ++y) {
       for (int x = 0; x < seen.width() - 60; ++x) {
@@ -230,7 +241,10 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePicture) {
         const int left = nearest(x + box.ScrollLeft);
         const int top = nearest(y + box.ScrollTop);
         const bool blank = left >= 1203 || top >= 801;
-        const QRgb pixel = blank ? White.rgb() : image.Pixels[image.IndexOf(left, top)];
+        QRgb pixel = blank ? White.rgb() : image.Pixels[image.IndexOf(left, top)];
+        if (!blank && hasBlack(left - zoom.Picture / 2, top - zoom.Picture / 2)) {
+          pixel = 0xFF000000U;
+        }
         wrong += seen.pixel(x, y) != (marker.Contains({x, y}) ? Blue.rgb() : pixel);
       }
     }

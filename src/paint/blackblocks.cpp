@@ -1,0 +1,82 @@
+#include "paint/blackblocks.h"
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "forms/floodbits.h"
+
+namespace terramark::paint {
+
+namespace {
+
+using forms::PixelBits;
+using Word = PixelBits::Word;
+
+/// A bit for each two of the word's, set where one of them is; in the lower half.
+Word PairsIn(Word bits) {
+  bits = (bits | bits >> 1U) & 0x5555555555555555U;
+  bits = (bits | bits >> 1U) & 0x3333333333333333U;
+  bits = (bits | bits >> 2U) & 0x0F0F0F0F0F0F0F0FU;
+  bits = (bits | bits >> 4U) & 0x00FF00FF00FF00FFU;
+  bits = (bits | bits >> 8U) & 0x0000FFFF0000FFFFU;
+  return (bits | bits >> 16U) & 0x00000000FFFFFFFFU;
+}
+
+/// Adds a row of twice as many bits.
+void AddHalved(std::span<const Word> row, std::span<Word> to) {
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    to[i / 2] |= PairsIn(row[i]) << (i % 2 * PixelBits::WordBits / 2);
+  }
+}
+
+PixelBits FirstLevel(const forms::Raster& picture) {
+  PixelBits level((picture.Width + 1) / 2, (picture.Height + 1) / 2);
+  PixelBits black(picture.Width, 1);
+  const std::span<Word> row = black.Row(0);
+  const auto width = static_cast<std::size_t>(picture.Width);
+  const std::span<const std::uint32_t> pixels(picture.Pixels);
+  for (int y = 0; y < picture.Height; ++y) {
+    SetOpenBits(pixels.subspan(picture.IndexOf(0, y), width), 0, forms::FloodStops::AtOtherColours,
+                row);
+    // The bits beyond the last pixel have no meaning.
+    if (const auto rest = width % PixelBits::WordBits; rest != 0) {
+      row.back() &= (Word{1} << rest) - 1;
+    }
+    AddHalved(row, level.Row(y / 2));
+  }
+  return level;
+}
+
+PixelBits NextLevel(const PixelBits& from, int width, int height) {
+  PixelBits level((width + 1) / 2, (height + 1) / 2);
+  for (int y = 0; y < height; ++y) AddHalved(from.Row(y), level.Row(y / 2));
+  return level;
+}
+
+/// For a zoom below actual size, how many steps of halving it is.
+std::size_t LevelOf(forms::Magnification zoom) {
+  return static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(zoom.Picture)));
+}
+
+}  // namespace
+
+BlackBlocks::BlackBlocks(const forms::Picture& picture) {
+  if (!picture || picture->Width == 0) return;
+  levels_.push_back(FirstLevel(*picture));
+  int width = picture->Width;
+  int height = picture->Height;
+  while (levels_.size() < LevelOf(forms::ZoomSteps[0])) {
+    width = (width + 1) / 2;
+    height = (height + 1) / 2;
+    levels_.push_back(NextLevel(levels_.back(), width, height));
+  }
+}
+
+const PixelBits* BlackBlocks::At(forms::Magnification zoom) const {
+  const std::size_t level = LevelOf(zoom);
+  return level == 0 || levels_.empty() ? nullptr : &levels_[level - 1];
+}
+
+}  // namespace terramark::paint
