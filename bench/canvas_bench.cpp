@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cstdio>
 
 #include "commands/addmarkers.h"
@@ -71,7 +72,12 @@ class CanvasBench {
   /// CPU seconds of a move of a marker that is carried to and fro over the view.
   double Move() {
     form_.Picture1.ScrollTo(0, 0);
-    const forms::PixelPoint grip = CentreOnForm(form_.ArmyAt(1));
+    // Near the corner that stays where the picture is shrunk, and in view where it is magnified.
+    const forms::PixelRect marker = MapToBox(form_.Picture1, SeenBounds(form_.ArmyAt(1)));
+    const forms::PixelPoint grip =
+        box_.TopLeft() +
+        forms::PixelPoint{marker.Left + 1,
+                          std::min(marker.Top + marker.Height, form_.Picture1.ViewHeight()) - 1};
     form_.Pointer.Press(grip.X, grip.Y, forms::LeftButton, 0);
     if (!form_.Pointer.CurrentDrag()) qFatal("no marker is in the air");
     const auto move = [&](int i) {
