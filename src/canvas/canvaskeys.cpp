@@ -36,9 +36,9 @@ void MoveDragBy(Form1& form, int across, int down) {
 
 /// Also when it is far outside the picture.
 void MoveDragIntoView(Form1& form) {
-  const auto flight = form.Pointer.CurrentDrag();
+  const auto drag = form.Pointer.CurrentDrag();
   const forms::PixelPoint way =
-      MapToPicture(form.Picture1, form.Picture1.ViewCentre()) - flight->TopLeft;
+      MapToPicture(form.Picture1, form.Picture1.ViewCentre()) - drag->TopLeft;
   MoveDragBy(form, way.X, way.Y);
 }
 

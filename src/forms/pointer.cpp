@@ -153,7 +153,7 @@ void PointerRouter::BeginKeyDrag(Control& control) {
   buttonsDown_ = LeftButton;
   keyDrag_ = true;
   ++keyDrags_;
-  carried_ = {};
+  keyTravel_ = {};
   control.MouseDown.Raise(EventFor(control, {}, LeftButton, 0));
   buttonsDown_ = 0;
   keyDrag_ = dragged_ != nullptr;
@@ -161,13 +161,13 @@ void PointerRouter::BeginKeyDrag(Control& control) {
 
 void PointerRouter::MoveKeyDrag(int across, int down) {
   if (!keyDrag_) return;
-  carried_ = carried_ + PixelPoint{across, down};
+  keyTravel_ = keyTravel_ + PixelPoint{across, down};
   NotifyPointerMoved();
 }
 
 void PointerRouter::DropKeyDrag() {
   if (!keyDrag_) return;
-  const ScalePoint travel = PixelsToContainerScale(*dragged_, carried_.X, carried_.Y);
+  const ScalePoint travel = PixelsToContainerScale(*dragged_, keyTravel_.X, keyTravel_.Y);
   // Not in whole pixels: a place keeps its fraction.
   DropOn(*dragged_->Container(), {dragged_->Left + travel.X, dragged_->Top + travel.Y});
 }
@@ -218,11 +218,11 @@ PixelRect PointerRouter::ActiveDrag::Seen() const {
 std::optional<PointerRouter::ActiveDrag> PointerRouter::CurrentDrag() const {
   if (dragged_ == nullptr) return std::nullopt;
   if (keyDrag_) {
-    const PixelPoint corner = PixelBounds(*dragged_).TopLeft() + carried_;
+    const PixelPoint corner = PixelBounds(*dragged_).TopLeft() + keyTravel_;
     return ActiveDrag{*dragged_, corner, corner};
   }
-  const PixelPoint grip = MapFromForm(*dragged_->Container(), at_);
-  return ActiveDrag{*dragged_, grip - hotSpot_, grip};
+  const PixelPoint held = MapFromForm(*dragged_->Container(), at_);
+  return ActiveDrag{*dragged_, held - hotSpot_, held};
 }
 
 std::optional<PointerRouter::ActiveDrag> PointerRouter::KeyDragOf(const Control& control) const {

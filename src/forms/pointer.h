@@ -104,7 +104,7 @@ class PointerRouter {
   /// Whether the drag is one by keys; the number of key drags so far; how far this one has moved.
   bool keyDrag_ = false;
   unsigned keyDrags_ = 0;
-  PixelPoint carried_;
+  PixelPoint keyTravel_;
 };
 
 }  // namespace terramark::forms

@@ -83,9 +83,9 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const BlackBloc
                 const QRect& part) {
   const forms::Raster& raster = box.Backdrop();
   const forms::Magnification zoom = box.Zoom;
-  const QRect sheet(-box.ScrollLeft, -box.ScrollTop, ToScreen(zoom, raster.Width),
+  const QRect whole(-box.ScrollLeft, -box.ScrollTop, ToScreen(zoom, raster.Width),
                     ToScreen(zoom, raster.Height));
-  const QRect seen = part & sheet;
+  const QRect seen = part & whole;
   if (seen != part) painter.fillRect(part, ScreenColour(box.BackColor));
   if (seen.isEmpty()) return;
   const QTransform toDevice = painter.deviceTransform();
@@ -99,7 +99,7 @@ void PaintImage(QPainter& painter, const forms::PictureBox& box, const BlackBloc
   // The QImage uses the raster's memory; only what is shown is copied.
   const QImage image(reinterpret_cast<const uchar*>(raster.Pixels.data()), raster.Width,
                      raster.Height, QImage::Format_RGB32);
-  const QRect shown = seen.translated(-sheet.topLeft());
+  const QRect shown = seen.translated(-whole.topLeft());
   if (box.Fill().Pixels.IsEmpty()) return painter.drawImage(seen.topLeft(), image, shown);
   painter.drawImage(seen.topLeft(), WithFill(image.copy(shown), box.Fill(), shown.topLeft()));
 }

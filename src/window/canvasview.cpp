@@ -19,7 +19,6 @@ namespace {
 constexpr int WheelStep = 48;  // pixels a notch
 constexpr int NotchAngle = 120;
 constexpr double DragOpacity = 0.75;
-constexpr int ZoomLabelGap = 4;
 
 void PlaceScrollBar(QScrollBar& bar, const QRect& place, int extent, int view, int value,
                     bool shown) {
@@ -47,7 +46,7 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
       box_(box),
       horizontalBar_(Qt::Horizontal, this),
       verticalBar_(Qt::Vertical, this),
-      zoom_(this),
+      zoom_(*this),
       cursorItem_(box.CursorItem) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   if (box.TabStop) setFocusPolicy(Qt::TabFocus);
@@ -57,15 +56,9 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
     bar->setCursor(Qt::ArrowCursor);
     connect(bar, &QScrollBar::valueChanged, this, scroll);
   }
-  zoom_.setObjectName("Zoom");
-  zoom_.setAttribute(Qt::WA_TransparentForMouseEvents);
-  zoom_.setAutoFillBackground(true);
-  zoom_.setBackgroundRole(QPalette::ToolTipBase);
-  zoom_.setForegroundRole(QPalette::ToolTipText);
-  zoom_.setMargin(2);
   FindBlack();
   PlaceScrollBars();
-  PlaceZoomLabel();
+  zoom_.Tell(box_.Zoom, Viewport());
 }
 
 void CanvasView::PlaceScrollBars() {
@@ -78,28 +71,15 @@ void CanvasView::PlaceScrollBars() {
                  box_.ScrollTop, box_.ScrollsDown());
 }
 
-void CanvasView::PlaceZoomLabel() {
-  const forms::Magnification zoom = box_.Zoom;
-  // The smallest has three digits behind the point.
-  const QString text = QString("%1 %").arg(100.0 * zoom.Screen / zoom.Picture, 0, 'g', 4);
-  if (text != zoom_.text()) {
-    zoom_.setText(text);
-    zoom_.setAccessibleName("Zoom " + text);
-    zoom_.adjustSize();
-  }
-  zoom_.move(box_.ViewWidth() - zoom_.width() - ZoomLabelGap,
-             box_.ViewHeight() - zoom_.height() - ZoomLabelGap);
-  zoom_.setVisible(zoom != forms::ActualSize);
-}
-
 void CanvasView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::CursorItem) return MoveRing();
-  if (id == forms::PropertyId::Picture) FindBlack();
   PlaceScrollBars();
-  PlaceZoomLabel();
+  zoom_.Tell(box_.Zoom, Viewport());
   for (auto& [label, seen] : seen_) seen = label->Visible ? RestingRectOf(*label) : QRect();
   shownDragRect_ = DragRect();
   update();
+  // Last: when memory runs out the box keeps its old picture, and what is known of that.
+  if (id == forms::PropertyId::Picture) FindBlack();
 }
 
 /// A refreshed picture is the same object, whose pixels have been read.
@@ -150,13 +130,13 @@ QRect CanvasView::WidgetRectOf(const forms::Control& label) const {
 
 QRect CanvasView::DragRect() const {
   const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
-  const auto flight = pointer.CurrentDrag();
-  if (!flight || flight->Source.Container() != &box_) return {};
-  QRect area = MapToBox(flight->Seen());
-  const forms::PixelPoint grip = forms::MapToBox(box_, flight->HotSpot);
+  const auto drag = pointer.CurrentDrag();
+  if (!drag || drag->Source.Container() != &box_) return {};
+  QRect area = MapToBox(drag->Seen());
+  const forms::PixelPoint held = forms::MapToBox(box_, drag->HotSpot);
   const QRect view = Viewport();
   // In a key drag no pointer shows the place, so the label is shown as far as it is in view.
-  if (pointer.HasKeyDrag() ? view.intersects(area) : view.contains(grip.X, grip.Y)) return area;
+  if (pointer.HasKeyDrag() ? view.intersects(area) : view.contains(held.X, held.Y)) return area;
   // A label that is dragged out of view is shown at the edge.
   area.moveLeft(std::clamp(area.left(), 0, std::max(0, view.width() - area.width())));
   area.moveTop(std::clamp(area.top(), 0, std::max(0, view.height() - area.height())));
@@ -164,12 +144,12 @@ QRect CanvasView::DragRect() const {
 }
 
 void CanvasView::PointerMoved() {
-  if (const QRect flight = DragRect(); flight != shownDragRect_) {
+  if (const QRect dragged = DragRect(); dragged != shownDragRect_) {
     update(Widened(shownDragRect_));
-    shownDragRect_ = flight;
+    shownDragRect_ = dragged;
     update(Widened(shownDragRect_));
     // A cancelled key drag leaves the marker where it was, and the ring there.
-    if (flight.isEmpty() && box_.CursorItem != nullptr)
+    if (dragged.isEmpty() && box_.CursorItem != nullptr)
       update(Widened(RestingRectOf(*box_.CursorItem)));
   }
   UpdateCursorShape();

@@ -2,7 +2,6 @@
 // when the picture is larger than the box. Only what has changed is repainted.
 #pragma once
 
-#include <QLabel>
 #include <QScrollBar>
 #include <unordered_map>
 
@@ -11,6 +10,7 @@
 #include "forms/picturebox.h"
 #include "paint/blackblocks.h"
 #include "window/controlview.h"
+#include "window/zoomlabel.h"
 
 namespace terramark::window {
 
@@ -45,7 +45,6 @@ class CanvasView : public QWidget, public ControlView {
  private:
   void FindBlack();
   void PlaceScrollBars();
-  void PlaceZoomLabel();
   void MoveRing();
   void UpdateCursorShape();
   void ZoomByWheel(int angle, QPoint about);
@@ -65,7 +64,7 @@ class CanvasView : public QWidget, public ControlView {
   forms::PictureBox& box_;
   QScrollBar horizontalBar_;
   QScrollBar verticalBar_;
-  QLabel zoom_;
+  ZoomLabel zoom_;
   /// How far the wheel has been turned towards the next zoom step, in eighths of a degree.
   int zoomTurn_ = 0;
   /// How far it has been turned towards the next pixel, in parts of a pixel: NotchAngle parts are
