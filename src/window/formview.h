@@ -2,7 +2,9 @@
 // form. The window or dialog that contains it gets the form's caption and place.
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -32,9 +34,15 @@ class FormView final : public QWidget, private forms::FormObserver {
 
   /// Called when the form is unloaded.
   std::function<void()> OnUnload;
+  /// Called with the place, in pixels of the view, of a control that has got the keyboard: at once,
+  /// or when the mouse button that did it has been released.
+  std::function<void(const QRect& place)> OnFocus;
+  /// Called when the wheel turns over the form or a control that has no use for it.
+  std::function<void(const QWheelEvent& turn)> OnWheel;
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ControlAdded(forms::Control& control) override;
@@ -50,6 +58,8 @@ class FormView final : public QWidget, private forms::FormObserver {
   void ShowOnCanvas(const forms::Control& label);
   ControlView* ViewOf(const forms::Control& control) const;
   void WatchInput(ControlView& view);
+  void FocusGot(QWidget& widget, Qt::FocusReason reason);
+  void TellFocus();
   void InitTabOrder();
   void SetLabelBuddies();
 
@@ -58,6 +68,8 @@ class FormView final : public QWidget, private forms::FormObserver {
   KeyFeed keys_;
   AccessibilityFeed accessibility_;
   QTimer dragScroll_;
+  /// Has the keyboard, which OnFocus has not been told.
+  QPointer<QWidget> untold_;
   /// A container is before the views in it.
   std::vector<std::unique_ptr<ControlView>> views_;
 };

@@ -8,8 +8,10 @@
 
 namespace terramark::window {
 
-MainWindow::MainWindow(Form1& form) : form_(form), inside_(form, *this) {
-  setCentralWidget(&inside_);
+MainWindow::MainWindow(Form1& form) : form_(form), area_(*this), inside_(form, *area_.viewport()) {
+  setCentralWidget(&area_);
+  inside_.OnFocus = [this](const QRect& place) { area_.Reveal(place); };
+  inside_.OnWheel = [this](const QWheelEvent& turn) { area_.TurnWheel(turn); };
   inside_.ApplyWindowProperties();
   resize(inside_.DesignSize());
   FitScreen();
@@ -19,7 +21,9 @@ void MainWindow::FitScreen() {
   const QSize frame = frameGeometry().size() - size();
   const QSize room = screen()->availableGeometry().size() - frame;
   const QRect standing = inside_.childrenRect();
-  setMinimumSize(QSize(standing.right() + 1, standing.bottom() + 1).boundedTo(room));
+  const QSize needed(standing.right() + 1, standing.bottom() + 1);
+  area_.Show(inside_, needed);
+  setMinimumSize(needed.boundedTo(room));
   resize(size().boundedTo(room));
 }
 

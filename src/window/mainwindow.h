@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 
+#include "window/formarea.h"
 #include "window/formview.h"
 
 namespace terramark {
@@ -13,8 +14,8 @@ namespace terramark::window {
 
 class MainWindow : public QMainWindow {
  public:
-  /// Shows the form at its design size, or at the screen's where that is smaller. In a larger
-  /// window all controls keep their places.
+  /// Shows the form at its design size, or at the screen's where that is smaller; then the form
+  /// scrolls. In a larger window all controls keep their places.
   explicit MainWindow(Form1& form);
 
   FormView& View() { return inside_; }
@@ -28,6 +29,7 @@ class MainWindow : public QMainWindow {
   void FitScreen();
 
   Form1& form_;
+  FormArea area_;
   FormView inside_;
   bool framed_ = false;
 };

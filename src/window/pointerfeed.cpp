@@ -87,6 +87,7 @@ bool PointerFeed::IsOverWidget(const QWidget& widget, const QMouseEvent& event) 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (ButtonMask(event.button()) == 0) return;
   ReleaseLost(widget, event);
+  holdsButton_ = true;
   const QPoint at = MapFromWidget(widget, event);
   if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
@@ -109,17 +110,21 @@ void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifie
   if (code == 0) return;
   if (held_) held_->setDown(false);
   if ((form_.Pointer.ButtonsDown() & ~code) == 0) {
+    holdsButton_ = false;
     held_.clear();
     asksHelp_ = false;
   }
   if (form_.Pointer.CurrentDrag() && !IsUncovered(at)) at = Nowhere;
   form_.Pointer.Release(at.x(), at.y(), code, KeyMask(keys));
+  if (OnRelease) OnRelease();
 }
 
-/// Whether a place of the form is visible: the window is large enough, and no other window covers
-/// it. Only X11 knows of the windows of other programs, and then reports no widget of ours there.
+/// Whether a place of the form is visible: the window is large enough, the form is scrolled there,
+/// and no other window covers it. Only X11 knows of the windows of other programs, and then reports
+/// no widget of ours there.
 bool PointerFeed::IsUncovered(QPoint at) const {
-  if (!inside_.rect().contains(at)) return false;
+  const bool inView = inside_.parentWidget()->rect().contains(inside_.mapToParent(at));
+  if (!inView || !inside_.rect().contains(at)) return false;
   const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
   if (over == nullptr) return QGuiApplication::platformName() != "xcb";
   return over == inside_.window()->windowHandle();

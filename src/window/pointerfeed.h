@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QPushButton>
+#include <functional>
 
 #include "forms/form.h"
 #include "window/controlview.h"
@@ -22,6 +23,12 @@ class PointerFeed : public QObject {
   /// Watches the mouse over the widget, but not over its parts. A widget that uses the
   /// mouse itself receives it after the router.
   void Watch(QWidget& widget, MouseUse use);
+
+  /// Whether a button of the mouse is down that was pressed on the form.
+  bool HoldsButton() const { return holdsButton_; }
+
+  /// Called when a button has been released and the form has handled that.
+  std::function<void()> OnRelease;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +47,7 @@ class PointerFeed : public QObject {
   forms::Form& form_;
   QWidget& inside_;
   QPointer<QPushButton> held_;
+  bool holdsButton_ = false;
   /// Of the current press: whether the control under it handles its release, and whether it asks
   /// for help.
   bool reachesMouseUp_ = false;

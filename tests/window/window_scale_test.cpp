@@ -4,6 +4,8 @@
 
 #include <QBackingStore>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <cmath>
 #include <functional>
@@ -184,6 +186,88 @@ TEST_F(ScaleTest, AMarkerIsTakenCarriedAndDroppedByThePixelThatIsSeen) {
     }
     EXPECT_EQ(off, 0) << zoom.Screen << " : " << zoom.Picture;
   }
+}
+
+TEST_F(ScaleTest, ASmallWindowScrollsToWhatHasTheKeyboardAndNeverUnderAPress) {
+  auto& area = *dynamic_cast<QScrollArea*>(Window.centralWidget());
+  EXPECT_FALSE(area.verticalScrollBar()->isVisible() || area.horizontalScrollBar()->isVisible());
+  Window.setMinimumSize(0, 0);
+  Window.resize(253, 201);
+  Look();
+  const QRect view = area.viewport()->rect();
+  const auto place = [&](const forms::Control& control) {
+    return QRect(Of(control).mapTo(&Window, QPoint()), Of(control).size());
+  };
+  for (int i = 0; i < 30; ++i) {
+    Key(Qt::Key_Tab);
+    const forms::Control& now = *Form.ActiveControl();
+    // What is larger than the window begins where the window does.
+    const QRect seen(place(now).topLeft(), place(now).size().boundedTo(view.size()));
+    EXPECT_TRUE(view.contains(seen)) << now.Name();
+  }
+  const auto wheelOver = [&](const forms::Control& control) {
+    const QPointF at = place(control).center();
+    QWheelEvent event(at, at, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Window.windowHandle(), &event);
+  };
+  for (int n = 0; n < 2; ++n) {
+    n == 0 ? Form.Quit.SetFocus() : Form.SetCont.SetFocus();
+    const QPoint home = place(Form.Quit).topLeft();
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Right, Qt::Key_PageUp,
+                              Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
+      Key(key);
+    }
+    EXPECT_EQ(place(Form.Quit).topLeft(), home) << "the keys are the form's";
+    Look();
+    const QRectF map = QRect(place(Box).topLeft(), QSize(Box.ViewWidth(), Box.ViewHeight())) & view;
+    int off = 0;
+    for (int i = 0; i < 500; ++i) {
+      const QPoint at(Any(Scale * map.left(), Scale * map.right() - 1),
+                      Any(Scale * map.top(), Scale * map.bottom() - 1));
+      PressAt(at);
+      ReleaseAt(at);
+      off += Seen(at) != Meant;
+    }
+    EXPECT_EQ(off, 0);
+    const QImage scrolled = Screen;
+    Window.update();
+    Window.View().update();
+    for (QWidget* part : Window.View().findChildren<QWidget*>()) part->update();
+    Look();
+    EXPECT_TRUE(Screen == scrolled) << "nothing stays where it was";
+  }
+  Form.Quit.SetFocus();
+  const QPoint home = place(Form.Quit).topLeft();
+  wheelOver(Box);
+  EXPECT_EQ(place(Form.Quit).topLeft(), home) << "the map's own wheel";
+  wheelOver(Form.Quit);
+  EXPECT_LT(place(Form.Quit).top(), home.y());
+
+  // A marker is let go beside the map's visible part.
+  Form.EditText.SetFocus();
+  forms::Label& marker = Form.ArmyAt(1);
+  marker.MouseDown = [&](const forms::MouseEvent&) { marker.Drag(); };
+  Box.ScrollTo(Marker.x(), Marker.y());
+  bool dropped = false;
+  Box.DragDrop = [&](const auto&) { dropped = true; };
+  for (const bool inside : {false, true}) {
+    Press(place(Box).topLeft() + QPoint(5, 5));
+    Move({100, 100});
+    Release({inside ? view.right() - 4 : view.right() + 4, 100});
+    EXPECT_EQ(dropped, inside);
+  }
+  // A button in half is scrolled to when it has been pressed, and acts.
+  int clicks = 0;
+  Form.LoadMpa.Click = [&](const auto&) { ++clicks; };
+  QScrollBar& bar = *area.verticalScrollBar();
+  bar.setValue(bar.value() + place(Form.LoadMpa).center().y() - view.bottom());
+  const QRect half = place(Form.LoadMpa);
+  const QPoint at(half.center().x(), view.bottom() - 2);
+  Press(at);
+  EXPECT_EQ(place(Form.LoadMpa), half);
+  Release(at);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(view.contains(place(Form.LoadMpa)));
 }
 
 TEST_F(ScaleTest, NothingStaysWhereAMarkerOrARingHasBeen) {
