@@ -11,6 +11,7 @@
 #include <memory>
 #include <set>
 
+#include "helpview/besidewindow.h"
 #include "helpview/pagestyle.h"
 #include "widgets/scrollbarnames.h"
 #include "widgets/windowsize.h"
@@ -40,7 +41,7 @@ QString Counted(std::size_t count, const char* what) {
 
 }  // namespace
 
-HelpWindow::HelpWindow(const QWidget* editor) {
+HelpWindow::HelpWindow(const QWidget* editor) : editor_(editor) {
   setWindowTitle("Terramark Help");
   setObjectName("Help");
   for (const HelpTopic& topic : topics_) contents_.addItem(topic.Title);
@@ -60,7 +61,6 @@ HelpWindow::HelpWindow(const QWidget* editor) {
   const QSize room = widgets::MaxWindowSizeFor(*this);
   setMinimumSize(MinViewerSize.boundedTo(room));
   resize(DefaultSize.boundedTo(room));
-  if (editor != nullptr) PlaceBeside(*editor);
 }
 
 void HelpWindow::LayOut() {
@@ -132,24 +132,33 @@ void HelpWindow::SetKeys() {
   on("Ctrl+0", [this] { page_.ActualSize(); });
 }
 
-/// Covers as little of the editor as possible: on its right, or on its left, or else at the
-/// screen's right edge.
 void HelpWindow::PlaceBeside(const QWidget& editor) {
+  // Before the first time the window manager has not told how wide its frame is.
+  QMargins frame(widgets::FrameMargin, widgets::TitleBarMargin, widgets::FrameMargin,
+                 widgets::FrameMargin);
+  if (testAttribute(Qt::WA_WState_Created) && frameGeometry() != geometry()) {
+    const QRect in = geometry();
+    const QRect out = frameGeometry();
+    frame = {in.left() - out.left(), in.top() - out.top(), out.right() - in.right(),
+             out.bottom() - in.bottom()};
+  }
   const QRect room = editor.screen()->availableGeometry();
-  const QRect taken = editor.frameGeometry();
-  const int last = std::max(room.left(), room.right() + 1 - width() - widgets::FrameMargin);
-  const bool onTheLeft =
-      taken.right() + widgets::FrameMargin > last && taken.left() - room.left() >= width();
-  const int left = onTheLeft ? taken.left() - width() - widgets::FrameMargin
-                             : taken.right() + widgets::FrameMargin;
-  const int lowest = std::max(room.top(), room.bottom() + 1 - height() - widgets::TitleBarMargin);
-  move(std::clamp(left, room.left(), last), std::clamp(taken.top(), room.top(), lowest));
+  const auto framed = [&](QSize inside) { return QRect({}, inside).marginsAdded(frame).size(); };
+  if (size() != placed_) wanted_ = size();
+  const QRect place =
+      PlaceBesideWindow(room, editor.frameGeometry(), framed(wanted_), framed(minimumSize()));
+  placed_ = place.marginsRemoved(frame).size();
+  resize(placed_);
+  // A place is that of the frame.
+  move(place.topLeft());
 }
 
 void HelpWindow::Open(std::int32_t topic) {
   search_.clear();
   Show(TopicIndex(topics_, topic));
   setWindowState(windowState() & ~Qt::WindowMinimized);
+  const bool fillsScreen = isMaximized() || isFullScreen();
+  if (editor_ && !isVisible() && !fillsScreen) PlaceBeside(*editor_);
   page_.setFocus();
   show();
   raise();

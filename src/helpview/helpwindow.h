@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QWidget>
 #include <cstdint>
@@ -17,7 +18,8 @@ namespace terramark::helpview {
 
 class HelpWindow : public QWidget {
  public:
-  /// Opens beside the editor's window where the screen has room; null for no editor's window.
+  /// Opens beside the editor's window, whenever it was not open, where the screen has room; null
+  /// for no editor's window.
   explicit HelpWindow(const QWidget* editor);
 
   /// Shows a topic and raises the window; for a number that is no topic, the contents.
@@ -50,6 +52,10 @@ class HelpWindow : public QWidget {
   QStringList texts_;
   std::vector<HelpMatch> matches_;
 
+  const QPointer<const QWidget> editor_;
+  /// The size that was wanted, and the one for which there was room, at the last placing.
+  QSize wanted_;
+  QSize placed_;
   QPushButton back_{"&Back"};
   QPushButton forward_{"&Forward"};
   QLineEdit search_;

@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "helpview/besidewindow.h"
 #include "helpview/helppage.h"
 #include "helpview/helptopics.h"
 #include "shell/form1controls.h"
@@ -115,6 +116,38 @@ TEST_F(HelpTest, OneWindowShowsTheTopicsAskedForAndGoesBack) {
   EXPECT_FALSE(Window->isVisible());
   Open(16);
   EXPECT_EQ(Shown(), "Armies");
+}
+
+TEST(HelpPlace, CoversNothingOfTheEditorWhereThereIsRoomBesideIt) {
+  const QRect room(0, 20, 1600, 1000);
+  const auto place = [&](QRect editor) {
+    return helpview::PlaceBesideWindow(room, editor, {700, 500}, {500, 300});
+  };
+  EXPECT_EQ(place({100, 100, 800, 600}), QRect(900, 100, 700, 500)) << "on its right";
+  EXPECT_EQ(place({800, 700, 800, 320}), QRect(100, 520, 700, 500)) << "on its left";
+  EXPECT_EQ(place({100, 20, 1300, 450}), QRect(100, 470, 700, 500)) << "below";
+  EXPECT_EQ(place({100, 540, 1300, 480}), QRect(100, 40, 700, 500)) << "above";
+  EXPECT_EQ(place({520, 100, 900, 700}), QRect(0, 100, 520, 500)) << "smaller";
+  EXPECT_EQ(place({0, 20, 1300, 900}), QRect(900, 20, 700, 500)) << "covers least";
+}
+
+TEST_F(HelpTest, OpensBesideTheEditorEachTimeAndStaysWhereItWasPutWhileOpen) {
+  QWidget editor;
+  editor.setGeometry(720, 0, 80, 700);
+  editor.show();
+  Desktop.SetDialogParent(&editor);
+  Open(13);
+  Window->resize(640, 400);
+  Window->move(30, 90);
+  Open(12);
+  EXPECT_EQ(Window->pos(), QPoint(30, 90));
+  Window->close();
+  Open(13);
+  EXPECT_FALSE(Window->frameGeometry().intersects(editor.frameGeometry()));
+  editor.move(0, 0);
+  Window->close();
+  Open(13);
+  EXPECT_FALSE(Window->frameGeometry().intersects(editor.frameGeometry()));
 }
 
 TEST_F(HelpTest, TabGoesFromLinkToLinkAndBackOutOfThePage) {
