@@ -1,5 +1,6 @@
 #include "window/barview.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -49,6 +50,18 @@ void BarView::ShowValueTip() {
   const QPoint beside(parentWidget()->width() - x(), Thumb().top() - TipDrop);
   const QString tip = QString("%1: %2").arg(toolTip()).arg(sliderPosition());
   QToolTip::showText(mapToGlobal(beside), tip, this, {}, TipMilliseconds);
+}
+
+/// Qt takes Left for more and Right for less on a vertical bar.
+void BarView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Right:
+      return triggerAction(SliderSingleStepAdd);
+    case Qt::Key_Left:
+      return triggerAction(SliderSingleStepSub);
+    default:
+      QScrollBar::keyPressEvent(event);
+  }
 }
 
 void BarView::paintEvent(QPaintEvent* event) {

@@ -17,6 +17,7 @@ class BarView : public QScrollBar, public ControlView {
 
  protected:
   void ShowOwn(forms::PropertyId id) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

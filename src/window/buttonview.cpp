@@ -18,6 +18,20 @@ namespace {
 
 constexpr int EdgeWidth = 2;
 
+/// Of the focus ring and what is left free inside it.
+constexpr int RingWidth = 2;
+
+/// How far the face of a disabled button fades into the form's, and its text into the face. The
+/// text keeps a contrast of 3 : 1 on every colour.
+constexpr double FaceFading = 2 / 3.0;
+constexpr double TextFading = 0.4;
+
+QColor Faded(const QColor& colour, const QColor& into, double share) {
+  const auto mixed = [share](int from, int to) { return qRound(from + share * (to - from)); };
+  return {mixed(colour.red(), into.red()), mixed(colour.green(), into.green()),
+          mixed(colour.blue(), into.blue())};
+}
+
 bool Pushes(const QKeyEvent& key) {
   return key.key() == Qt::Key_Space || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
@@ -67,14 +81,17 @@ void ButtonView::keyReleaseEvent(QKeyEvent* event) {
 
 void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor face = paint::ScreenColour(button_.BackColor);
+  const QColor own = paint::ScreenColour(button_.BackColor);
+  const QColor face = isEnabled() ? own : Faded(own, palette().color(QPalette::Button), FaceFading);
   painter.fillRect(rect(), face);
   DrawEdge(painter);
   QRect inside = rect().adjusted(EdgeWidth, EdgeWidth, -EdgeWidth, -EdgeWidth);
   if (isDown()) inside.translate(1, 1);
-  painter.setPen(TextColourOn(face));
-  // Of a file's path both ends are worth seeing.
-  paint::DrawCaption(painter, inside, paint::ElidedText(button_.Caption, Qt::ElideMiddle),
+  const QColor ink = TextColourOn(face);
+  painter.setPen(isEnabled() ? ink : Faded(ink, face, TextFading));
+  // Of a file's path both ends are worth seeing, also in the ring.
+  const QRect words = inside.adjusted(RingWidth, 0, -RingWidth, 0);
+  paint::DrawCaption(painter, words, paint::ElidedText(button_.Caption, Qt::ElideMiddle),
                      Qt::ElideMiddle);
   if (hasFocus()) paint::DrawFocusRing(painter, inside);
 }

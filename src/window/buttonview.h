@@ -1,6 +1,6 @@
-// A command button: a raised face in its BackColor, flat while disabled. The mouse reaches it
-// through the pointer router only. Space and Enter, when released, do what a left click on its
-// middle does.
+// A command button: a raised face in its BackColor, flat and faded while disabled. The mouse
+// reaches it through the pointer router only. Space and Enter, when released, do what a left click
+// on its middle does.
 #pragma once
 
 #include <QPushButton>

@@ -55,14 +55,32 @@ TEST_F(LookTest, WordsAndFocusShowOnEveryFaceAndADisabledBoxIsGrey) {
                                     {0x808080U, false}}) {
     const QRgb ink = white ? 0xFFFFFFFF : 0xFF000000;
     Form.AddTer.BackColor = face;
+    Form.Quit.SetFocus();
     Form.AddTer.Enabled = false;
+    EXPECT_EQ(count(ink), 0) << face << ", disabled";
+    const QImage dull = Of(Form.AddTer).grab().toImage().copy(2, 2, 149, 13);
+    int darkest = 255;
+    for (int x = 0; x < 149; ++x) darkest = std::min(darkest, qGray(dull.pixel(x, 6)));
+    EXPECT_GT(qGray(dull.pixel(1, 1)) - darkest, 60) << face << ", disabled";
+    Form.AddTer.Enabled = true;
     const auto words = count(ink);
     EXPECT_GT(words, 20) << face;
-    Form.AddTer.Enabled = true;
-    Form.Quit.SetFocus();
-    EXPECT_EQ(count(ink), words) << face;
     Form.AddTer.SetFocus();
     EXPECT_GT(count(ink), words + 100) << face;
+  }
+  // The ring hides nothing of a caption that is cut.
+  Form.LoadMpa.Caption = std::string(99, 'W');
+  QImage looks[2];
+  for (const bool focused : {false, true}) {
+    focused ? Form.LoadMpa.SetFocus() : Form.Quit.SetFocus();
+    looks[focused ? 1 : 0] = Of(Form.LoadMpa).grab().toImage();
+  }
+  const QRect inRing = looks[0].rect().adjusted(3, 3, -3, -3);
+  EXPECT_EQ(looks[0].copy(inRing), looks[1].copy(inRing));
+  for (int y = 2; y < looks[0].height() - 2; ++y) {
+    for (const int x : {2, looks[0].width() - 3}) {
+      EXPECT_EQ(looks[0].pixel(x, y), looks[0].pixel(2, 2)) << "no letter where the ring is";
+    }
   }
   for (const bool focused : {false, true}) {
     focused ? Form.Picture1.SetFocus() : Form.Quit.SetFocus();
