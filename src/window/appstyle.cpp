@@ -7,8 +7,11 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <QToolTip>
 #include <cmath>
+#include <iterator>
 #include <memory>
+#include <utility>
 
 #include "paint/lettering.h"
 #include "paint/screencolour.h"
@@ -24,6 +27,9 @@ constexpr int MinThumbLength = 12;
 const QColor Shadow(0x80, 0x80, 0x80);
 const QColor Greyed(0x58, 0x58, 0x58);
 const QColor Marked(0x00, 0x00, 0x80);
+const QColor Pale(0xDF, 0xDF, 0xDF);
+const QColor Linked(0x00, 0x00, 0x99);
+const QColor Visited(0x66, 0x00, 0x66);
 const QColor Hint(0xFF, 0xFF, 0xE1);
 
 /// The luminance L at which black and white have the same contrast: 1.05 / (L + 0.05) = (L + 0.05)
@@ -58,20 +64,45 @@ class Style : public QProxyStyle {
   }
 };
 
+/// Every role of every group: what is left out, a dark desktop would fill in.
 QPalette LightPalette() {
   const QColor face = paint::ScreenColour(forms::SysButtonFace);
-  QPalette palette(Qt::black, face, Qt::white, Shadow, Greyed, Qt::black, Qt::white, Qt::white,
-                   face);
-  palette.setColor(QPalette::Shadow, Qt::black);
-  palette.setColor(QPalette::Highlight, Marked);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::ToolTipBase, Hint);
-  palette.setColor(QPalette::ToolTipText, Qt::black);
-  palette.setColor(QPalette::PlaceholderText, Greyed);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+  const std::pair<QPalette::ColorRole, QColor> colours[] = {
+      {QPalette::WindowText, Qt::black},  {QPalette::Button, face},
+      {QPalette::Light, Qt::white},       {QPalette::Midlight, Pale},
+      {QPalette::Dark, Shadow},           {QPalette::Mid, Greyed},
+      {QPalette::Text, Qt::black},        {QPalette::BrightText, Qt::white},
+      {QPalette::ButtonText, Qt::black},  {QPalette::Base, Qt::white},
+      {QPalette::Window, face},           {QPalette::Shadow, Qt::black},
+      {QPalette::Highlight, Marked},      {QPalette::HighlightedText, Qt::white},
+      {QPalette::Link, Linked},           {QPalette::LinkVisited, Visited},
+      {QPalette::AlternateBase, Pale},    {QPalette::ToolTipBase, Hint},
+      {QPalette::ToolTipText, Qt::black}, {QPalette::PlaceholderText, Greyed},
+      {QPalette::NoRole, face},
+  };
+  static_assert(std::size(colours) == QPalette::NColorRoles, "a colour for each role");
+  QPalette palette;
+  for (const auto& [role, colour] : colours) palette.setColor(QPalette::All, role, colour);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                          QPalette::Link, QPalette::LinkVisited, QPalette::Highlight}) {
     palette.setColor(QPalette::Disabled, role, Greyed);
   }
   return palette;
+}
+
+/// The kinds of widget that some desktops give colours of their own.
+constexpr const char* KindsWithColours[] = {"QAbstractButton", "QAbstractItemView", "QCheckBox",
+                                            "QComboBox",       "QGroupBox",         "QHeaderView",
+                                            "QLabel",          "QLineEdit",         "QMenu",
+                                            "QMenuBar",        "QMessageBoxLabel",  "QRadioButton",
+                                            "QTabBar",         "QTextControl",      "QTextEdit",
+                                            "QTipLabel",       "QToolButton"};
+
+void InstallPalette() {
+  const QPalette light = LightPalette();
+  QApplication::setPalette(light);
+  for (const char* kind : KindsWithColours) QApplication::setPalette(light, kind);
+  QToolTip::setPalette(light);
 }
 
 }  // namespace
@@ -80,7 +111,10 @@ void InstallStyle(QApplication& application) {
   auto style = std::make_unique<Style>();
   style->setParent(&application);
   QApplication::setStyle(style.release());
-  QApplication::setPalette(LightPalette());
+  InstallPalette();
+  // This theme has icons of programs only, so that all others are the style's own, for a light
+  // palette. The icons of a dark desktop would vanish on it.
+  QIcon::setThemeName("hicolor");
   QFont font;
   font.setFamilies(paint::TextFamilies());
   font.setPointSizeF(DialogPoints);

@@ -42,6 +42,19 @@ TEST_F(LookTest, FramesAreEvenAtEveryScale) {
   }
 }
 
+TEST(Palette, TakesNoColourFromTheDesktopAndItsLinksStandOutOnWhite) {
+  const QPalette palette = QApplication::palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+      EXPECT_TRUE(palette.isBrushSet(group, QPalette::ColorRole(role))) << group << " " << role;
+    }
+    for (const auto role : {QPalette::Link, QPalette::LinkVisited}) {
+      // The luminance below which the contrast with white is 7 : 1, as a grey.
+      EXPECT_LT(qGray(palette.color(group, role).rgb()), 0x59) << group << " " << role;
+    }
+  }
+}
+
 TEST_F(LookTest, WordsAndFocusShowOnEveryFaceAndADisabledBoxIsGrey) {
   const auto count = [this](QRgb ink) {
     const QImage inside = Of(Form.AddTer).grab().toImage().copy(2, 2, 149, 13);
