@@ -217,6 +217,7 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) {
     FocusGot(widget, static_cast<QFocusEvent*>(event)->reason());
   }
+  if (event->type() == QEvent::KeyRelease) TellCursorItem(widget);
   if (event->type() != QEvent::Wheel || !OnWheel) return false;
   const auto view = std::ranges::find_if(
       views_, [&](const auto& candidate) { return &candidate->Widget() == &widget; });
@@ -238,6 +239,17 @@ void FormView::TellFocus() {
   const QWidget& widget = *untold_;
   untold_.clear();
   if (OnFocus && widget.hasFocus()) OnFocus({widget.mapTo(this, QPoint()), widget.size()});
+}
+
+void FormView::TellCursorItem(const QWidget& widget) {
+  const auto* canvas = dynamic_cast<const CanvasView*>(&widget);
+  if (canvas == nullptr || !OnFocus || pointer_.HoldsButton()) return;
+  const auto& box = static_cast<const forms::PictureBox&>(canvas->Shown());
+  const forms::Control* const item = box.CursorItem;
+  if (item == nullptr) return;
+  const forms::PixelRect at = forms::MapToBox(box, forms::PixelBounds(*item));
+  const QRect inView = QRect(at.Left, at.Top, at.Width, at.Height) & widget.rect();
+  if (!inView.isEmpty()) OnFocus(inView.translated(widget.mapTo(this, QPoint())));
 }
 
 }  // namespace terramark::window

@@ -35,7 +35,8 @@ class FormView final : public QWidget, private forms::FormObserver {
   /// Called when the form is unloaded.
   std::function<void()> OnUnload;
   /// Called with the place, in pixels of the view, of a control that has got the keyboard: at once,
-  /// or when the mouse button that did it has been released.
+  /// or when the mouse button that did it has been released. On the map, each key tells the place
+  /// of the marker that the keys act on.
   std::function<void(const QRect& place)> OnFocus;
   /// Called when the wheel turns over the form or a control that has no use for it.
   std::function<void(const QWheelEvent& turn)> OnWheel;
@@ -60,6 +61,7 @@ class FormView final : public QWidget, private forms::FormObserver {
   void WatchInput(ControlView& view);
   void FocusGot(QWidget& widget, Qt::FocusReason reason);
   void TellFocus();
+  void TellCursorItem(const QWidget& widget);
   void InitTabOrder();
   void SetLabelBuddies();
 

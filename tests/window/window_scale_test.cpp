@@ -205,6 +205,14 @@ TEST_F(ScaleTest, ASmallWindowScrollsToWhatHasTheKeyboardAndNeverUnderAPress) {
     const QRect seen(place(now).topLeft(), place(now).size().boundedTo(view.size()));
     EXPECT_TRUE(view.contains(seen)) << now.Name();
   }
+  // On the map, to the marker that its keys act on.
+  Box.SetFocus();
+  Box.CursorItem = &Form.ArmyAt(1);
+  for (const QPoint by : {QPoint(0, 0), QPoint(Box.ViewWidth() - 32, Box.ViewHeight() - 16)}) {
+    Box.ScrollTo(Marker.x() - by.x(), Marker.y() - by.y());
+    Key(Qt::Key_Right);
+    EXPECT_TRUE(view.contains(QRect(place(Box).topLeft() + by, QSize(32, 16))));
+  }
   const auto wheelOver = [&](const forms::Control& control) {
     const QPointF at = place(control).center();
     QWheelEvent event(at, at, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
