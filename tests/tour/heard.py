@@ -57,14 +57,7 @@ def check(what, right):
 
 class Reader(Editor):
     def __init__(self, screen, program):
-        told, address = os.pipe()
-        screen.start(["dbus-daemon", "--session", "--nofork", f"--print-address={address}"],
-                     pass_fds=[address])
-        os.close(address)
-        screen.environment.pop("AT_SPI_BUS_ADDRESS", None)
-        with os.fdopen(told) as line:
-            screen.environment.update(DBUS_SESSION_BUS_ADDRESS=line.readline().strip(),
-                                      QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        screen.start_buses()
         os.environ.clear()
         os.environ.update(screen.environment)
         Atspi.init()

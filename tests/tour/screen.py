@@ -98,6 +98,17 @@ class Screen:
         self.started.append(subprocess.Popen(command, **usual | self.rights | options))
         return self.started[-1]
 
+    def start_buses(self):
+        """Starts a session bus of its own, on which what windows tell their readers goes about."""
+        told, address = os.pipe()
+        self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={address}"],
+                   pass_fds=[address])
+        os.close(address)
+        self.environment.pop("AT_SPI_BUS_ADDRESS", None)
+        with os.fdopen(told) as line:
+            self.environment.update(DBUS_SESSION_BUS_ADDRESS=line.readline().strip(),
+                                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+
     def close(self):
         for process in reversed(self.started):
             process.terminate()
