@@ -9,7 +9,6 @@
 #include <QProxyStyle>
 #include <QToolTip>
 #include <cmath>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -45,25 +44,6 @@ double Luminance(const QColor& colour) {
          0.0722 * light(colour.blueF());
 }
 
-/// The first button of a box is the agreeing one, on every desktop. A thumb may be short: a colour
-/// bar has only a few dozen pixels of travel for 257 values.
-class Style : public QProxyStyle {
- public:
-  Style() : QProxyStyle("Fusion") {}
-
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* data) const override {
-    if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
-    return QProxyStyle::styleHint(hint, option, widget, data);
-  }
-
-  int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                  const QWidget* widget) const override {
-    if (metric == PM_ScrollBarSliderMin) return MinThumbLength;
-    return QProxyStyle::pixelMetric(metric, option, widget);
-  }
-};
-
 /// Every role of every group: what is left out, a dark desktop would fill in.
 QPalette LightPalette() {
   const QColor face = paint::ScreenColour(forms::SysButtonFace);
@@ -78,10 +58,12 @@ QPalette LightPalette() {
       {QPalette::Link, Linked},           {QPalette::LinkVisited, Visited},
       {QPalette::AlternateBase, Pale},    {QPalette::ToolTipBase, Hint},
       {QPalette::ToolTipText, Qt::black}, {QPalette::PlaceholderText, Greyed},
-      {QPalette::NoRole, face},
   };
-  static_assert(std::size(colours) == QPalette::NColorRoles, "a colour for each role");
   QPalette palette;
+  // Later versions of Qt have more roles, which mark something.
+  for (int role = 0; role < QPalette::NColorRoles; ++role) {
+    palette.setColor(QPalette::All, static_cast<QPalette::ColorRole>(role), Marked);
+  }
   for (const auto& [role, colour] : colours) palette.setColor(QPalette::All, role, colour);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                           QPalette::Link, QPalette::LinkVisited, QPalette::Highlight}) {
@@ -90,20 +72,32 @@ QPalette LightPalette() {
   return palette;
 }
 
-/// The kinds of widget that some desktops give colours of their own.
-constexpr const char* KindsWithColours[] = {"QAbstractButton", "QAbstractItemView", "QCheckBox",
-                                            "QComboBox",       "QGroupBox",         "QHeaderView",
-                                            "QLabel",          "QLineEdit",         "QMenu",
-                                            "QMenuBar",        "QMessageBoxLabel",  "QRadioButton",
-                                            "QTabBar",         "QTextControl",      "QTextEdit",
-                                            "QTipLabel",       "QToolButton"};
+/// The first button of a box is the agreeing one, on every desktop. A thumb may be short: a colour
+/// bar has only a few dozen pixels of travel for 257 values.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle("Fusion") {}
 
-void InstallPalette() {
-  const QPalette light = LightPalette();
-  QApplication::setPalette(light);
-  for (const char* kind : KindsWithColours) QApplication::setPalette(light, kind);
-  QToolTip::setPalette(light);
-}
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override {
+    QProxyStyle::polish(widget);
+    // Some desktops give kinds of widget colours of their own, which count for more than the
+    // application's, but for less than those of the window.
+    if (widget->isWindow()) widget->setPalette(LightPalette());
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_ScrollBarSliderMin) return MinThumbLength;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
 
 }  // namespace
 
@@ -111,7 +105,8 @@ void InstallStyle(QApplication& application) {
   auto style = std::make_unique<Style>();
   style->setParent(&application);
   QApplication::setStyle(style.release());
-  InstallPalette();
+  QApplication::setPalette(LightPalette());
+  QToolTip::setPalette(LightPalette());
   // This theme has icons of programs only, so that all others are the style's own, for a light
   // palette. The icons of a dark desktop would vanish on it.
   QIcon::setThemeName("hicolor");
