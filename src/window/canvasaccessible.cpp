@@ -7,13 +7,30 @@
 #include "forms/form.h"
 #include "paint/cp1252.h"
 #include "paint/elidedtext.h"
-#include "shell/markers.h"
 #include "window/accessibleitem.h"
 #include "window/canvasview.h"
 
 namespace terramark::window {
 
 namespace {
+
+QString WordFor(MarkerState look) {
+  switch (look) {
+    case MarkerState::Current:
+      return "current";
+    case MarkerState::Marked:
+      return "marked";
+    case MarkerState::Plain:
+      break;
+  }
+  return {};
+}
+
+/// Those that are not empty, with commas.
+QString Joined(QStringList texts) {
+  texts.removeAll(QString());
+  return texts.join(", ");
+}
 
 bool IsLabel(const forms::Control* control) {
   return control->Kind() == forms::ControlKind::Label;
@@ -31,7 +48,7 @@ class MarkerAccessible final : public AccessibleItem {
       : AccessibleItem(canvas), canvas_(canvas), label_(label) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Description) return canvas_.PositionTextOf(label_);
+    if (kind == QAccessible::Description) return canvas_.DescriptionOf(label_);
     return kind == QAccessible::Name ? canvas_.MarkerName(label_) : QString();
   }
   QRect rect() const override { return canvas_.ScreenRectOf(label_); }
@@ -46,10 +63,14 @@ class MarkerAccessible final : public AccessibleItem {
 }  // namespace
 
 CanvasAccessible::CanvasAccessible(CanvasView& canvas)
-    : QAccessibleWidget(&canvas, RoleOf(canvas)), canvas_(canvas) {
+    : QAccessibleWidget(&canvas, RoleOf(canvas)),
+      canvas_(canvas),
+      notice_(*std::make_unique<NoticeAccessible>(*this).release()) {
+  QAccessible::registerAccessibleInterface(&notice_);
 }
 
 CanvasAccessible::~CanvasAccessible() {
+  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(&notice_));
   for (const auto& [label, id] : ids_) QAccessible::deleteAccessibleInterface(id);
 }
 
@@ -64,6 +85,7 @@ void CanvasAccessible::NotifyChanges() {
   const forms::Label* const now = Focused();
   if (now == focused_) return;
   focused_ = now;
+  notice_.Say({});
   if (now != nullptr) {
     Send(*MarkerOf(*now), QAccessible::Focus);
   } else if (canvas_.hasFocus()) {
@@ -73,16 +95,21 @@ void CanvasAccessible::NotifyChanges() {
 
 void CanvasAccessible::NotifyLabel(const forms::Label& label) {
   QAccessibleInterface& marker = *MarkerOf(label);
-  const NotifiedState now{MarkerName(label), PositionTextOf(label), ScreenRectOf(label),
-                          MarkerStateOf(label) != MarkerState::Plain};
+  const NotifiedState now = StateNow(label);
   const auto [entry, isNew] = notified_.try_emplace(&label, now);
   if (isNew) return Send(marker, QAccessible::ObjectCreated);
   const NotifiedState before = std::exchange(entry->second, now);
   if (now.Name != before.Name) Send(marker, QAccessible::NameChanged);
   if (now.Place != before.Place) Send(marker, QAccessible::LocationChanged);
-  if (now.PositionText != before.PositionText) Send(marker, QAccessible::DescriptionChanged);
-  if (now.Selected == before.Selected) return;
-  Send(marker, now.Selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+  const bool moved = now.PlaceText != before.PlaceText;
+  const bool changed = moved || now.Note != before.Note;
+  if (changed || now.Look != before.Look) Send(marker, QAccessible::DescriptionChanged);
+  if (changed && focused_ == &label) {
+    notice_.Say(moved ? Joined({now.PlaceText, now.Note}) : now.Note);
+  }
+  const bool selected = now.Look != MarkerState::Plain;
+  if (selected == (before.Look != MarkerState::Plain)) return;
+  Send(marker, selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
 }
 
 void CanvasAccessible::NotifyRemoved(const forms::Control& label) {
@@ -104,18 +131,27 @@ QString CanvasAccessible::MarkerName(const forms::Label& label) const {
                                                   : label.Caption.Get());
 }
 
-QString CanvasAccessible::PositionTextOf(const forms::Label& label) const {
+CanvasAccessible::NotifiedState CanvasAccessible::StateNow(const forms::Label& label) const {
   const auto place = [](const char* words, forms::PixelPoint corner) {
     return QString(words).arg(corner.X).arg(corner.Y);
   };
-  // What is read at each step of a drag is the place alone.
+  NotifiedState now;
+  now.Name = MarkerName(label);
+  now.Look = MarkerStateOf(label);
+  now.Place = ScreenRectOf(label);
   if (const auto drag = label.ParentForm()->Pointer.KeyDragOf(label)) {
-    return place("held at %1, %2", drag->TopLeft);
+    // What is said at each step of a drag is the place alone.
+    now.PlaceText = place("held at %1, %2", drag->TopLeft);
+    return now;
   }
-  const QString note = paint::FromCp1252(
-      label.AccessibleNoteOf ? label.AccessibleNoteOf(label.Index()) : std::string());
-  const QString at = place("at %1, %2", PixelBounds(label).TopLeft());
-  return note.isEmpty() ? at : at + ", " + note;
+  now.PlaceText = place("at %1, %2", PixelBounds(label).TopLeft());
+  if (label.AccessibleNoteOf) now.Note = paint::FromCp1252(label.AccessibleNoteOf(label.Index()));
+  return now;
+}
+
+QString CanvasAccessible::DescriptionOf(const forms::Label& label) const {
+  const NotifiedState now = StateNow(label);
+  return Joined({now.PlaceText, now.Note, WordFor(now.Look)});
 }
 
 QRect CanvasAccessible::ScreenRectOf(const forms::Label& label) const {
@@ -165,17 +201,19 @@ const forms::Label* CanvasAccessible::Focused() const {
 }
 
 int CanvasAccessible::childCount() const {
-  return static_cast<int>(Markers().size()) + QAccessibleWidget::childCount();
+  return static_cast<int>(Markers().size()) + QAccessibleWidget::childCount() + 1;
 }
 
 QAccessibleInterface* CanvasAccessible::child(int index) const {
   const std::vector<const forms::Label*> markers = Markers();
   const auto count = static_cast<int>(markers.size());
+  if (index == childCount() - 1) return &notice_;
   if (index < 0 || index >= count) return QAccessibleWidget::child(index - count);
   return MarkerOf(*markers[static_cast<std::size_t>(index)]);
 }
 
 int CanvasAccessible::indexOfChild(const QAccessibleInterface* child) const {
+  if (child == &notice_) return childCount() - 1;
   const std::vector<const forms::Label*> markers = Markers();
   const auto at = std::ranges::find_if(
       markers, [&](const forms::Label* label) { return MarkerOf(*label) == child; });

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "forms/controls.h"
+#include "shell/markers.h"
+#include "window/noticeaccessible.h"
 
 namespace terramark::window {
 
@@ -28,9 +30,10 @@ class CanvasAccessible final : public QAccessibleWidget {
   void Refocused() { focused_ = nullptr; }
 
   QString MarkerName(const forms::Label& label) const;
-  /// The corner of a label in pixels of the picture, also during a key drag. Readers learn of a
-  /// move by this text alone: Qt 6.4 does not pass on LocationChanged.
-  QString PositionTextOf(const forms::Label& label) const;
+  /// The corner of a label in pixels of the picture, also during a key drag, its note, and whether
+  /// it is current or marked. Readers learn of a move by this text alone: Qt 6.4 does not pass on
+  /// LocationChanged.
+  QString DescriptionOf(const forms::Label& label) const;
   /// In pixels of the screen.
   QRect ScreenRectOf(const forms::Label& label) const;
   QAccessible::State StateOf(const forms::Label& label) const;
@@ -45,14 +48,16 @@ class CanvasAccessible final : public QAccessibleWidget {
  private:
   struct NotifiedState {
     QString Name;
-    QString PositionText;
+    QString PlaceText;
+    QString Note;
+    MarkerState Look = MarkerState::Plain;
     QRect Place;
-    bool Selected = false;
   };
 
   /// The visible labels on the picture, in the order of the list.
   std::vector<const forms::Label*> Markers() const;
   QAccessibleInterface* MarkerOf(const forms::Label& label) const;
+  NotifiedState StateNow(const forms::Label& label) const;
   void NotifyLabel(const forms::Label& label);
   void NotifyRemoved(const forms::Control& label);
   /// The label that the keys on the map act on; null for none.
@@ -63,6 +68,8 @@ class CanvasAccessible final : public QAccessibleWidget {
   mutable std::unordered_map<const forms::Control*, QAccessible::Id> ids_;
   std::unordered_map<const forms::Control*, NotifiedState> notified_;
   const forms::Label* focused_ = nullptr;
+  /// The last child: says what changed of the label that has the focus. Qt keeps it likewise.
+  NoticeAccessible& notice_;
 };
 
 }  // namespace terramark::window

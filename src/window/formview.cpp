@@ -22,18 +22,6 @@ bool OnCanvas(const forms::Control& control) {
   return control.Container()->Kind() == forms::ControlKind::PictureBox;
 }
 
-bool UsesWheel(const forms::Control& control) {
-  switch (control.Kind()) {
-    case forms::ControlKind::PictureBox:
-    case forms::ControlKind::VScrollBar:
-      return true;
-    case forms::ControlKind::TextBox:
-      return static_cast<const forms::TextBox&>(control).MultiLine;
-    default:
-      return false;
-  }
-}
-
 }  // namespace
 
 FormView::FormView(forms::Form& form, QWidget& parent)
@@ -42,7 +30,6 @@ FormView::FormView(forms::Form& form, QWidget& parent)
   pointer_.Watch(*this, MouseUse::RouterOnly);
   keys_.Watch(*this, nullptr);
   keys_.Watch(*parent.window(), nullptr);
-  pointer_.OnRelease = [this] { TellFocus(); };
   FormChanged(forms::PropertyId::BackColor);
   for (forms::Control* control : form.Controls()) ControlAdded(*control);
   InitTabOrder();
@@ -81,7 +68,7 @@ void FormView::WatchInput(ControlView& view) {
   // A container without focus gets only the keys that the widgets in it have ignored, and they have
   // been handled there.
   if (widget.focusPolicy() != Qt::NoFocus) keys_.Watch(widget, &view.Shown());
-  widget.installEventFilter(this);
+  scrolling_.Watch(view);
 }
 
 void FormView::InitTabOrder() {
@@ -208,48 +195,7 @@ void FormView::Unloaded() {
 
 bool FormView::event(QEvent* event) {
   if (event->type() == QEvent::WindowDeactivate) form_.Pointer.CancelDrag();
-  if (event->type() == QEvent::Wheel && OnWheel) OnWheel(*static_cast<QWheelEvent*>(event));
   return QWidget::event(event);
-}
-
-bool FormView::eventFilter(QObject* watched, QEvent* event) {
-  auto& widget = *static_cast<QWidget*>(watched);
-  if (event->type() == QEvent::FocusIn) {
-    FocusGot(widget, static_cast<QFocusEvent*>(event)->reason());
-  }
-  if (event->type() == QEvent::KeyRelease) TellCursorItem(widget);
-  if (event->type() != QEvent::Wheel || !OnWheel) return false;
-  const auto view = std::ranges::find_if(
-      views_, [&](const auto& candidate) { return &candidate->Widget() == &widget; });
-  if (view == views_.end() || UsesWheel((*view)->Shown())) return false;
-  OnWheel(*static_cast<QWheelEvent*>(event));
-  return true;
-}
-
-/// What is under a pressed button must stay there until it is released.
-void FormView::FocusGot(QWidget& widget, Qt::FocusReason reason) {
-  // The keyboard only comes back to where it was.
-  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
-  untold_ = &widget;
-  if (reason != Qt::MouseFocusReason) TellFocus();
-}
-
-void FormView::TellFocus() {
-  if (!untold_ || pointer_.HoldsButton()) return;
-  const QWidget& widget = *untold_;
-  untold_.clear();
-  if (OnFocus && widget.hasFocus()) OnFocus({widget.mapTo(this, QPoint()), widget.size()});
-}
-
-void FormView::TellCursorItem(const QWidget& widget) {
-  const auto* canvas = dynamic_cast<const CanvasView*>(&widget);
-  if (canvas == nullptr || !OnFocus || pointer_.HoldsButton()) return;
-  const auto& box = static_cast<const forms::PictureBox&>(canvas->Shown());
-  const forms::Control* const item = box.CursorItem;
-  if (item == nullptr) return;
-  const forms::PixelRect at = forms::MapToBox(box, forms::PixelBounds(*item));
-  const QRect inView = QRect(at.Left, at.Top, at.Width, at.Height) & widget.rect();
-  if (!inView.isEmpty()) OnFocus(inView.translated(widget.mapTo(this, QPoint())));
 }
 
 }  // namespace terramark::window

@@ -2,9 +2,7 @@
 // form. The window or dialog that contains it gets the form's caption and place.
 #pragma once
 
-#include <QPointer>
 #include <QTimer>
-#include <QWheelEvent>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -14,6 +12,7 @@
 #include "window/accessibilityfeed.h"
 #include "window/keyfeed.h"
 #include "window/pointerfeed.h"
+#include "window/scrollfeed.h"
 
 namespace terramark::window {
 
@@ -31,19 +30,14 @@ class FormView final : public QWidget, private forms::FormObserver {
   void ApplyWindowProperties();
   /// The widget of a control; null for a label on a picture.
   QWidget* WidgetOf(const forms::Control& control) const;
+  /// For a window in which the form scrolls.
+  ScrollFeed& Scrolling() { return scrolling_; }
 
   /// Called when the form is unloaded.
   std::function<void()> OnUnload;
-  /// Called with the place, in pixels of the view, of a control that has got the keyboard: at once,
-  /// or when the mouse button that did it has been released. On the map, each key tells the place
-  /// of the marker that the keys act on.
-  std::function<void(const QRect& place)> OnFocus;
-  /// Called when the wheel turns over the form or a control that has no use for it.
-  std::function<void(const QWheelEvent& turn)> OnWheel;
 
  protected:
   bool event(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ControlAdded(forms::Control& control) override;
@@ -59,19 +53,15 @@ class FormView final : public QWidget, private forms::FormObserver {
   void ShowOnCanvas(const forms::Control& label);
   ControlView* ViewOf(const forms::Control& control) const;
   void WatchInput(ControlView& view);
-  void FocusGot(QWidget& widget, Qt::FocusReason reason);
-  void TellFocus();
-  void TellCursorItem(const QWidget& widget);
   void InitTabOrder();
   void SetLabelBuddies();
 
   forms::Form& form_;
   PointerFeed pointer_;
+  ScrollFeed scrolling_{*this, pointer_};
   KeyFeed keys_;
   AccessibilityFeed accessibility_;
   QTimer dragScroll_;
-  /// Has the keyboard, which OnFocus has not been told.
-  QPointer<QWidget> untold_;
   /// A container is before the views in it.
   std::vector<std::unique_ptr<ControlView>> views_;
 };

@@ -10,8 +10,8 @@ namespace terramark::window {
 
 MainWindow::MainWindow(Form1& form) : form_(form), area_(*this), inside_(form, *area_.viewport()) {
   setCentralWidget(&area_);
-  inside_.OnFocus = [this](const QRect& place) { area_.Reveal(place); };
-  inside_.OnWheel = [this](const QWheelEvent& turn) { area_.TurnWheel(turn); };
+  inside_.Scrolling().OnFocus = [this](const QRect& place) { area_.Reveal(place); };
+  inside_.Scrolling().OnWheel = [this](const QWheelEvent& turn) { area_.TurnWheel(turn); };
   inside_.ApplyWindowProperties();
   resize(inside_.DesignSize());
   FitScreen();

@@ -6,6 +6,7 @@
 #include "paint/elidedtext.h"
 #include "window/accessibleitem.h"
 #include "window/accessiblenames.h"
+#include "window/noticeaccessible.h"
 
 namespace terramark::window {
 
@@ -43,7 +44,8 @@ MessageAccessible::MessageAccessible(LabelView& view)
   const auto make = [this](QAccessible::Role role) {
     return Register(std::make_unique<MessageTextAccessible>(*this, role));
   };
-  children_ = {make(QAccessible::AlertMessage), make(QAccessible::StatusBar)};
+  children_ = {make(QAccessible::AlertMessage), make(QAccessible::StatusBar),
+               Register(std::make_unique<NoticeAccessible>(*this))};
   // An earlier text may have been read by a tool without having been announced.
   shown_ = Showing();
 }
@@ -55,11 +57,12 @@ MessageAccessible::~MessageAccessible() {
 void MessageAccessible::Announce() {
   if (QAccessibleInterface* before = ChildOf(shown_)) Send(*before, QAccessible::ObjectHide);
   shown_ = Showing();
-  QAccessibleInterface* const now = ChildOf(shown_);
-  if (now == nullptr) return;
-  // The name first: readers announce the name of what becomes visible.
-  Send(*now, QAccessible::NameChanged);
-  Send(*now, QAccessible::ObjectShow);
+  if (QAccessibleInterface* const now = ChildOf(shown_)) {
+    // The name first: readers announce the name of what becomes visible.
+    Send(*now, QAccessible::NameChanged);
+    Send(*now, QAccessible::ObjectShow);
+  }
+  static_cast<NoticeAccessible&>(*child(childCount() - 1)).Say(Caption());
 }
 
 QAccessible::Role MessageAccessible::Showing() const {

@@ -9,8 +9,9 @@
 
 namespace terramark::window {
 
-/// A label with two children, an alert and a status bar. While there is a text one of them is
-/// visible: readers announce what becomes visible.
+/// A label with three children, an alert, a status bar and a notification. While there is a text,
+/// the notification and one of the others are visible: readers announce what becomes visible, some
+/// only the one kind.
 class MessageAccessible final : public QAccessibleWidget {
  public:
   explicit MessageAccessible(LabelView& view);
@@ -32,7 +33,8 @@ class MessageAccessible final : public QAccessibleWidget {
   QAccessibleInterface* ChildOf(QAccessible::Role role) const;
 
   LabelView& view_;
-  std::array<QAccessible::Id, 2> children_{};
+  /// The notification is the last.
+  std::array<QAccessible::Id, 3> children_{};
   QAccessible::Role shown_ = QAccessible::NoRole;
 };
 

@@ -118,7 +118,7 @@ class Reader(Editor):
 
     def read_window(self):
         nodes = [node for node in below(self.tree) if has(node, "SHOWING") and
-                 node.get_role_name() not in ("filler", "status bar")]
+                 node.get_role_name() not in ("filler", "status bar", "notification")]
         for name in CONTROLS.keys() - {"ArmyAt0", "Continent0"}:
             at = [node for node in nodes if extents(node) == self.control(name)]
             check(f"{name} where it stands, with a name apart from its hint", len(at) == 1 and
@@ -157,12 +157,13 @@ class Reader(Editor):
                              (["Return", "Left", "Return"], -1, "at")):
             self.hears(lambda: self.key(*keys), (MOVED, 0, *scotland))
             left, top = self.areas[2]
-            where = f"{way} {left + x}, {top}" + ", fill point top left" * (way == "at")
+            corner = ", fill point top left" if way == "at" else ""
+            where = f"{way} {left + x}, {top}{corner}, current"
             self.wait(f"Scotland {where}", lambda: items[1].get_description() == where)
             check("it stands there", extents(items[1])[:2] == (
                 self.map.left + left + x, self.map.top + top))
         self.hears(lambda: self.key("c"), (MOVED, 0, *scotland))
-        check("the corner turned", items[1].get_description().endswith("fill point top right"))
+        check("the corner turned", "fill point top right" in items[1].get_description())
         self.key("F6", "ctrl+a")
         self.hears(lambda: self.key("x"), (NAMED, 0, "list item", " 2: x in Region The Isles"))
         self.hears(lambda: self.key("Up"),
