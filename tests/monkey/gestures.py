@@ -84,7 +84,7 @@ class Draw:
 
 
 MAP_KEYS = ("Right:5 Left:2 End space:4 shift+space:4 Return:3 c:2 Menu Escape ctrl+Return Prior "
-            "Next shift+Next Up:2 Down:2 shift+Right:2 ctrl+plus ctrl+minus ctrl+0 F1:0.2")
+            "Next shift+Next Up:2 Down:2 shift+Right:2 ctrl+plus ctrl+minus:2 ctrl+0 ctrl+9 F1:0.2")
 LIST_KEYS = "Down:4 Up Return:4 Escape Tab"
 READING = ("Tab:5 Return:4 alt+Left:3 alt+Right Next:2 End ctrl+plus ctrl+minus ctrl+0 shift+Down "
            "ctrl+c ctrl+a shift+F10:0.5 Escape:0.5")
