@@ -73,12 +73,12 @@ class CanvasBench {
   double Move() {
     form_.Picture1.ScrollTo(0, 0);
     // Near the corner that stays where the picture is shrunk, and in view where it is magnified.
-    const forms::PixelRect marker = MapToBox(form_.Picture1, SeenBounds(form_.ArmyAt(1)));
-    const forms::PixelPoint grip =
+    const forms::PixelRect marker = MapToBox(form_.Picture1, DisplayBounds(form_.ArmyAt(1)));
+    const forms::PixelPoint held =
         box_.TopLeft() +
         forms::PixelPoint{marker.Left + 1,
                           std::min(marker.Top + marker.Height, form_.Picture1.ViewHeight()) - 1};
-    form_.Pointer.Press(grip.X, grip.Y, forms::LeftButton, 0);
+    form_.Pointer.Press(held.X, held.Y, forms::LeftButton, 0);
     if (!form_.Pointer.CurrentDrag()) qFatal("no marker is in the air");
     const auto move = [&](int i) {
       form_.Pointer.Move(box_.Left + 60 + 7 * (i % 50), box_.Top + 40 + 3 * (i % 50), 0);

@@ -31,7 +31,7 @@ void MoveCursorTo(Form1& form, forms::Label* marker) {
 
 void MoveDragBy(Form1& form, int across, int down) {
   form.Pointer.MoveKeyDrag(across, down);
-  form.Picture1.ScrollIntoView(form.Pointer.CurrentDrag()->Seen());
+  form.Picture1.ScrollIntoView(form.Pointer.CurrentDrag()->DisplayBounds());
 }
 
 /// Also when it is far outside the picture.

@@ -1,7 +1,7 @@
 #include "canvas/markerdescription.h"
 
-#include "document/corner.h"
 #include "document/numbers.h"
+#include "shell/markers.h"
 
 namespace terramark {
 
@@ -10,10 +10,10 @@ std::string AreaDescription(const Tables& tables, std::int16_t area) {
          tables.RegionName(tables.AreaRegion(area));
 }
 
-std::string FillPointText(const Tables& tables, std::int16_t area) {
-  const std::int16_t corner = tables.AreaCorner(area);
-  return std::string("fill point ") + (AtBottom(corner) ? "bottom" : "top") +
-         (AtRight(corner) ? " right" : " left");
+std::string FillCornerText(const Tables& tables, std::int16_t area) {
+  const forms::Corner corner = FillCorner(tables, area);
+  return std::string("fill point ") + (corner.Bottom ? "bottom" : "top") +
+         (corner.Right ? " right" : " left");
 }
 
 std::string RegionDescription(const Tables& tables, std::int16_t region) {

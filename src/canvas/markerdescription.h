@@ -11,7 +11,7 @@ namespace terramark {
 /// For example " 7: Ash in Region North". The Area's number must be in the tables.
 std::string AreaDescription(const Tables& tables, std::int16_t area);
 /// For example "fill point bottom left". The Area's number must be in the tables.
-std::string FillPointText(const Tables& tables, std::int16_t area);
+std::string FillCornerText(const Tables& tables, std::int16_t area);
 /// For example " 2:  North". The Region's number must be in the tables.
 std::string RegionDescription(const Tables& tables, std::int16_t region);
 

@@ -27,15 +27,9 @@ void BeginMarkerDrag(Form1& form, forms::Label& marker, const forms::MouseEvent&
 
 void TurnCorner(Form1& form, std::int16_t area) {
   const std::int16_t old = form.AreaCorner(area);
-  if (IsCorner(old)) {
-    SetCorner(form, area, NextCorner(old));
-    return;
-  }
-  // A code that is no corner has no effect until the next turn.
-  form.AreaCorner(area) = NextCorner(old);
-  form.ArmyAt(area).Caption = MarkerCaption(area, old);
-  // The same caption, but below actual size another corner stays.
-  form.ArmyAt(area).Refresh();
+  SetCorner(form, area, NextCorner(old));
+  // The caption shows a code that is no corner until the next turn.
+  if (!IsCorner(old)) form.ArmyAt(area).Caption = MarkerCaption(area, old);
 }
 
 /// Moves a marker that was dropped on itself by the distance of the drag; false when that is 0.

@@ -1,6 +1,5 @@
 #include "canvas/savelayout.h"
 
-#include <filesystem>
 #include <string>
 
 #include "canvas/refreshmap.h"
@@ -30,14 +29,13 @@ void ShowWriteFault(Form1& form, const std::string& name, const files::SafeFile&
   ShowFileFault(form, "Cannot write Map Layout File ", name, rest);
 }
 
-/// A layout's picture is found where the layout lies, unless its path begins at the root.
+/// Warns, when loading the layout will not find its picture. By what was saved: a comma ends the
+/// picture's name. The message bar stays blank after a save.
 void WarnOfLostPicture(Form1& form, const std::string& layout, const std::string& text) {
   LayoutReader saved(text, form);
   if (!saved.ReadHead()) return;
   const std::string& picture = saved.Layout().PictureFile;
-  const std::filesystem::path folder =
-      std::filesystem::path(form.Host.NativePath(layout)).parent_path();
-  if (files::RegularFile::Open(folder / form.Host.NativePath(picture))) return;
+  if (files::CanOpenNamedFile(form.Host.NativePath(layout), form.Host.NativePath(picture))) return;
   const std::string title = picture.substr(picture.find_last_of('/') + 1);
   ShowHelpbar(form, "The picture " + title + " does not lie beside this layout");
 }

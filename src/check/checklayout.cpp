@@ -38,8 +38,7 @@ void AddUnreadable(Report& report, int line, const std::string& why) {
 /// A name without a folder is in the folder of the layout, which the editor makes the current one.
 /// File names are UTF-8, as in the editor.
 bool PictureExists(const std::string& picture, const std::string& layout) {
-  const auto folder = std::filesystem::path(layout).parent_path();
-  return files::RegularFile::Open(folder / ToUtf8(picture)).has_value();
+  return files::CanOpenNamedFile(layout, ToUtf8(picture));
 }
 
 /// Reports faults of the picture's line. Of a missing picture whose path a comma has ended the rest

@@ -7,8 +7,8 @@ namespace terramark {
 
 struct Form1;
 
-/// F1: help about the control with the focus. F6: to the map and back. Ctrl with plus, minus and 0:
-/// the zoom.
+/// F1: help about the control with the focus. F6: to the map and back. Ctrl with plus, minus, 0 and
+/// 9: the zoom.
 void Form_KeyDown(Form1& form, forms::KeyEvent& event);
 
 }  // namespace terramark

@@ -11,7 +11,6 @@
 #include "selection/arrowkeys.h"
 #include "selection/inspector.h"
 #include "shell/form1.h"
-#include "shell/markers.h"
 #include "shell/startup.h"
 
 namespace terramark {
@@ -33,8 +32,9 @@ void ConnectMarkers(Form1& form) {
   area.MouseUp = [&form](const auto& event) { ArmyAt_MouseUp(form, event); };
   area.DragDrop = [&form](const auto& event) { ArmyAt_DragDrop(form, event); };
   area.AccessibleNameOf = [&form](std::int16_t index) { return AreaDescription(form, index); };
-  area.AccessibleNoteOf = [&form](std::int16_t index) { return FillPointText(form, index); };
-  area.FixedCornerOf = [&form](std::int16_t index) { return FillCorner(form, index); };
+  area.AccessibleDescriptionOf = [&form](std::int16_t index) {
+    return FillCornerText(form, index);
+  };
   forms::Label& region = form.Continent(0);
   region.MouseDown = [&form](const auto& event) { Continent_MouseDown(form, event); };
   region.MouseUp = [&form](const auto& event) { Continent_MouseUp(form, event); };

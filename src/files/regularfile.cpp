@@ -63,4 +63,8 @@ Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size
   return RegularFile::Open(path).and_then([&](const auto& file) { return file.Read(most); });
 }
 
+bool CanOpenNamedFile(const std::filesystem::path& namedBy, const std::filesystem::path& name) {
+  return RegularFile::Open(namedBy.parent_path() / name).has_value();
+}
+
 }  // namespace terramark::files

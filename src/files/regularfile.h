@@ -45,4 +45,8 @@ class RegularFile {
 /// Opens such a file and returns its bytes from the start, at most `most`.
 Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size_t most);
 
+/// Whether such a file can be opened where another file names it: a relative name begins in the
+/// folder of that file.
+bool CanOpenNamedFile(const std::filesystem::path& namedBy, const std::filesystem::path& name);
+
 }  // namespace terramark::files

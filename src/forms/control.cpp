@@ -49,8 +49,7 @@ void Control::CopyCommon(const Control& from) {
   ToolTipText = from.ToolTipText;
   AccessibleName = from.AccessibleName;
   AccessibleNameOf = from.AccessibleNameOf;
-  AccessibleNoteOf = from.AccessibleNoteOf;
-  FixedCornerOf = from.FixedCornerOf;
+  AccessibleDescriptionOf = from.AccessibleDescriptionOf;
   ListOrder = from.ListOrder;
   HelpTopic = from.HelpTopic;
   InnerScale = from.InnerScale;

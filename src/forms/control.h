@@ -22,12 +22,6 @@ enum class Scale { Twips, Pixels };
 
 enum class StackEnd { Front, Back };
 
-/// A corner of a rectangle; without either, the top left one.
-struct Corner {
-  bool Right = false;
-  bool Bottom = false;
-};
-
 class Control : public PropertyOwner {
  public:
   /// The name and the index of a control never change; a control outside an array has index 0.
@@ -54,11 +48,9 @@ class Control : public PropertyOwner {
   /// The name of an element of a control array on a picture, by its index. Where it is empty,
   /// assistive tools read the caption.
   std::function<std::string(std::int16_t index)> AccessibleNameOf;
-  /// What assistive tools read after the place of such an element; empty for nothing.
-  std::function<std::string(std::int16_t index)> AccessibleNoteOf;
-  /// The corner of such an element that keeps its place where the picture is shown below its actual
-  /// size and the element is not; see SeenBounds. Where it is empty, the top left one.
-  std::function<Corner(std::int16_t index)> FixedCornerOf;
+  /// What assistive tools read after the place of an element of a control array on a picture, by
+  /// its index; empty for nothing.
+  std::function<std::string(std::int16_t index)> AccessibleDescriptionOf;
   /// The order among the labels on a picture for assistive tools: the lowest first; labels with the
   /// same number by their index.
   std::int16_t ListOrder = 0;

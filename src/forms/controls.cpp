@@ -26,6 +26,7 @@ void Label::FitCaption() {
 void Label::CopyTemplate(const Label& from) {
   CopyCommon(from);
   BorderStyle = from.BorderStyle;
+  AnchorCorner = from.AnchorCorner;
   Alignment = from.Alignment;
   AutoSize = from.AutoSize;
   Caption = from.Caption;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "forms/control.h"
+#include "forms/geometry.h"
 
 namespace terramark::forms {
 
@@ -27,6 +28,9 @@ class Label : public Control {
 
   Property<std::string> Caption{*this, PropertyId::Caption};
   Property<Border> BorderStyle{*this, PropertyId::BorderStyle, Border::None};
+  /// The corner that keeps its place on a picture that is shown below its actual size; see
+  /// DisplayBounds.
+  Property<Corner> AnchorCorner{*this, PropertyId::AnchorCorner};
   forms::Alignment Alignment = forms::Alignment::Left;
   forms::Announcement Announcement = forms::Announcement::AsName;
   /// Whether the announcement reports a fault.

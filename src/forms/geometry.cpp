@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/picturebox.h"
 
@@ -39,16 +40,19 @@ PixelRect PixelBounds(const Control& control) {
           NearestPixel(control.Width / pixel.X), NearestPixel(control.Height / pixel.Y)};
 }
 
-PixelRect SeenBounds(const Control& control) {
+PixelRect DisplayBounds(const Control& control) {
   PixelRect bounds = PixelBounds(control);
   const Control* const container = control.Container();
-  if (container == nullptr || container->Kind() != ControlKind::PictureBox) return bounds;
+  if (control.Kind() != ControlKind::Label || container == nullptr ||
+      container->Kind() != ControlKind::PictureBox) {
+    return bounds;
+  }
   const Magnification zoom = static_cast<const PictureBox&>(*container).Zoom;
   if (zoom.Picture == 1) return bounds;
-  const Corner fixed = control.FixedCornerOf ? control.FixedCornerOf(control.Index()) : Corner{};
+  const Corner anchor = static_cast<const Label&>(control).AnchorCorner;
   const PixelPoint more{(zoom.Picture - 1) * bounds.Width, (zoom.Picture - 1) * bounds.Height};
-  if (fixed.Right) bounds.Left -= more.X;
-  if (fixed.Bottom) bounds.Top -= more.Y;
+  if (anchor.Right) bounds.Left -= more.X;
+  if (anchor.Bottom) bounds.Top -= more.Y;
   bounds.Width += more.X;
   bounds.Height += more.Y;
   return bounds;
@@ -74,7 +78,7 @@ PixelPoint InnerOrigin(const Control& control) {
 }
 
 PixelPoint CentreOnForm(const Control& control) {
-  const PixelRect bounds = SeenBounds(control);
+  const PixelRect bounds = DisplayBounds(control);
   const PixelPoint middle = bounds.TopLeft() + PixelPoint{bounds.Width / 2, bounds.Height / 2};
   return control.Container() == nullptr ? middle : MapToForm(*control.Container(), middle);
 }

@@ -30,6 +30,14 @@ struct PixelRect {
   }
 };
 
+/// A corner of a rectangle; with neither set, the top left one.
+struct Corner {
+  bool Right = false;
+  bool Bottom = false;
+
+  bool operator==(const Corner&) const = default;
+};
+
 /// A place, or a width and height, in the scale of a control's inside.
 struct ScalePoint {
   float X = 0;
@@ -44,9 +52,9 @@ PixelRect PixelBounds(const Control& control);
 
 /// The part of its container that a control covers on the screen, in the same pixels as
 /// PixelBounds, from which it differs only for a label on a picture that is shown below its actual
-/// size. Such a label is shown at its actual size, so that it can be read and hit, and covers more
-/// of the picture; its fixed corner stays.
-PixelRect SeenBounds(const Control& control);
+/// size. Such a label is shown at its own size, so that it can be read and hit, and covers more of
+/// the picture; its AnchorCorner stays. It may be outside the picture, by up to 2^29 pixels.
+PixelRect DisplayBounds(const Control& control);
 
 /// Maps a pixel of the form's inside to a pixel of a control's inside, counted from its corner. For
 /// a picture box that is the pixel of the picture that is visible there. Either may be outside.

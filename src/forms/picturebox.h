@@ -81,7 +81,8 @@ class PictureBox : public Control {
   /// Zooms about a pixel of the box: what is visible there stays there, as far as the picture's
   /// edges allow.
   void ZoomTo(Magnification zoom, PixelPoint about);
-  /// The largest step at which the picture is visible as a whole, or else the smallest of all.
+  /// The largest step at which the picture is visible as a whole, or else the smallest of all;
+  /// actual size without a picture.
   Magnification FittingZoom() const;
   /// The middle of the visible part, in pixels of the box.
   PixelPoint ViewCentre() const { return {ViewWidth() / 2, ViewHeight() / 2}; }

@@ -32,7 +32,7 @@ Control* TopmostIn(Control& container, PixelPoint inside, Disabled disabled) {
     Control* child = stack[left - 1];
     if (!child->Visible) continue;
     if (!child->Enabled && disabled == Disabled::LetsThrough) continue;
-    const PixelRect bounds = SeenBounds(*child);
+    const PixelRect bounds = DisplayBounds(*child);
     if (!bounds.Contains(inside)) continue;
     PixelPoint deep = inside - bounds.TopLeft();
     if (child->Kind() == ControlKind::PictureBox) {
@@ -211,8 +211,8 @@ void PointerRouter::NotifyPointerMoved() const {
   if (form_.observer_ != nullptr) form_.observer_->PointerMoved();
 }
 
-PixelRect PointerRouter::ActiveDrag::Seen() const {
-  return SeenBounds(Source).MovedBy(TopLeft - PixelBounds(Source).TopLeft());
+PixelRect PointerRouter::ActiveDrag::DisplayBounds() const {
+  return forms::DisplayBounds(Source).MovedBy(TopLeft - PixelBounds(Source).TopLeft());
 }
 
 std::optional<PointerRouter::ActiveDrag> PointerRouter::CurrentDrag() const {

@@ -78,10 +78,10 @@ class PointerRouter {
     PixelPoint HotSpot;
 
     /// The part of the container that the control covers on the screen at that place.
-    PixelRect Seen() const;
+    PixelRect DisplayBounds() const;
   };
   std::optional<ActiveDrag> CurrentDrag() const;
-  /// The same if keys drag this control.
+  /// The same if keys drag this control, else nothing.
   std::optional<ActiveDrag> KeyDragOf(const Control& control) const;
 
   /// A control is about to be destroyed.

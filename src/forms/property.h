@@ -26,6 +26,7 @@ enum class PropertyId {
   ForeColor,
   Tag,
   BorderStyle,
+  AnchorCorner,
 };
 
 /// The owner of properties. PropertyChanged runs before the assignment returns.

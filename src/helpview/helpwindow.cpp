@@ -149,7 +149,7 @@ void HelpWindow::PlaceBeside(const QWidget& editor) {
       PlaceBesideWindow(room, editor.frameGeometry(), framed(wanted_), framed(minimumSize()));
   placed_ = place.marginsRemoved(frame).size();
   resize(placed_);
-  // A place is that of the frame.
+  // This takes the corner of the frame.
   move(place.topLeft());
 }
 

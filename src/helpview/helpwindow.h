@@ -18,8 +18,8 @@ namespace terramark::helpview {
 
 class HelpWindow : public QWidget {
  public:
-  /// Opens beside the editor's window, whenever it was not open, where the screen has room; null
-  /// for no editor's window.
+  /// Each opening places the window beside the editor's where the screen has room; null leaves the
+  /// place to the window manager.
   explicit HelpWindow(const QWidget* editor);
 
   /// Shows a topic and raises the window; for a number that is no topic, the contents.

@@ -1,5 +1,6 @@
 #include "paint/blackblocks.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -14,7 +15,7 @@ namespace {
 using forms::PixelBits;
 using Word = PixelBits::Word;
 
-/// A bit for each two of the word's, set where one of them is; in the lower half.
+/// ORs neighbouring bits, and packs the results into the lower half.
 Word PairsIn(Word bits) {
   bits = (bits | bits >> 1U) & 0x5555555555555555U;
   bits = (bits | bits >> 1U) & 0x3333333333333333U;
@@ -24,7 +25,7 @@ Word PairsIn(Word bits) {
   return (bits | bits >> 16U) & 0x00000000FFFFFFFFU;
 }
 
-/// Adds a row of twice as many bits.
+/// ORs a row into the row of half its length.
 void AddHalved(std::span<const Word> row, std::span<Word> to) {
   for (std::size_t i = 0; i < row.size(); ++i) {
     to[i / 2] |= PairsIn(row[i]) << (i % 2 * PixelBits::WordBits / 2);
@@ -38,6 +39,7 @@ PixelBits FirstLevel(const forms::Raster& picture) {
   const auto width = static_cast<std::size_t>(picture.Width);
   const std::span<const std::uint32_t> pixels(picture.Pixels);
   for (int y = 0; y < picture.Height; ++y) {
+    // A flood of the black could enter just the black pixels.
     SetOpenBits(pixels.subspan(picture.IndexOf(0, y), width), 0, forms::FloodStops::AtOtherColours,
                 row);
     // The bits beyond the last pixel have no meaning.
@@ -49,14 +51,17 @@ PixelBits FirstLevel(const forms::Raster& picture) {
   return level;
 }
 
-PixelBits NextLevel(const PixelBits& from, int width, int height) {
-  PixelBits level((width + 1) / 2, (height + 1) / 2);
-  for (int y = 0; y < height; ++y) AddHalved(from.Row(y), level.Row(y / 2));
+PixelBits NextLevel(const PixelBits& from, int fromWidth, int fromHeight) {
+  PixelBits level((fromWidth + 1) / 2, (fromHeight + 1) / 2);
+  for (int y = 0; y < fromHeight; ++y) AddHalved(from.Row(y), level.Row(y / 2));
   return level;
 }
 
 /// For a zoom below actual size, how many steps of halving it is.
 std::size_t LevelOf(forms::Magnification zoom) {
+  static_assert(std::ranges::all_of(forms::ZoomSteps, [](forms::Magnification step) {
+    return std::has_single_bit(static_cast<unsigned>(step.Picture));
+  }));
   return static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(zoom.Picture)));
 }
 

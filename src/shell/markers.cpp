@@ -22,7 +22,7 @@ forms::Control* MarkerAtCursor(Form1& form) {
 }
 
 void ScrollMarkerIntoView(Form1& form, const forms::Control& marker) {
-  if (marker.IsVisible()) form.Picture1.ScrollIntoView(SeenBounds(marker));
+  if (marker.IsVisible()) form.Picture1.ScrollIntoView(DisplayBounds(marker));
 }
 
 MarkerState MarkerStateOf(const forms::Label& marker) {
@@ -74,6 +74,7 @@ forms::Corner FillCorner(const Tables& tables, std::int16_t area) {
 
 void SetCorner(Form1& form, std::int16_t area, std::int16_t corner) {
   form.AreaCorner(area) = corner;
+  form.ArmyAt(area).AnchorCorner = FillCorner(form, area);
   form.ArmyAt(area).Caption = MarkerCaption(area, corner);
 }
 

@@ -54,7 +54,8 @@ void PaintMarker(forms::Label& marker, forms::Color colour, TagForm text = TagFo
 /// Gives an Area's marker the colour and the Tag of its Region's marker. The background stays.
 void CopyRegionColour(forms::Label& area, const forms::Label& region);
 
-/// The corner of an Area's marker that is the Area's fill point.
+/// The corner of an Area's marker that is the Area's fill point; for a code that is no corner, the
+/// top left one. The Area's number must be in the tables.
 forms::Corner FillCorner(const Tables& tables, std::int16_t area);
 
 /// Makes a corner of an Area's marker the fill point, and shows it in the caption. The marker must

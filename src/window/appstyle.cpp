@@ -60,7 +60,7 @@ QPalette LightPalette() {
       {QPalette::ToolTipText, Qt::black}, {QPalette::PlaceholderText, Greyed},
   };
   QPalette palette;
-  // Later versions of Qt have more roles, which mark something.
+  // Roles that later versions of Qt add, such as an accent, get the colour of selections.
   for (int role = 0; role < QPalette::NColorRoles; ++role) {
     palette.setColor(QPalette::All, static_cast<QPalette::ColorRole>(role), Marked);
   }
@@ -72,8 +72,9 @@ QPalette LightPalette() {
   return palette;
 }
 
-/// The first button of a box is the agreeing one, on every desktop. A thumb may be short: a colour
-/// bar has only a few dozen pixels of travel for 257 values.
+/// Every window has the light palette. The first button of a box is the agreeing one, on every
+/// desktop. A thumb may be short: a colour bar has only a few dozen pixels of travel for 257
+/// values.
 class Style : public QProxyStyle {
  public:
   Style() : QProxyStyle("Fusion") {}
@@ -81,8 +82,8 @@ class Style : public QProxyStyle {
   using QProxyStyle::polish;
   void polish(QWidget* widget) override {
     QProxyStyle::polish(widget);
-    // Some desktops give kinds of widget colours of their own, which count for more than the
-    // application's, but for less than those of the window.
+    // A desktop may set a palette for a class of widgets, which overrides the application's and is
+    // overridden by the window's.
     if (widget->isWindow()) widget->setPalette(LightPalette());
   }
 

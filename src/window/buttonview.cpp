@@ -18,8 +18,8 @@ namespace {
 
 constexpr int EdgeWidth = 2;
 
-/// Of the focus ring and what is left free inside it.
-constexpr int RingWidth = 2;
+/// The focus ring and a free pixel inside it.
+constexpr int FocusRingInset = 2;
 
 /// How far the face of a disabled button fades into the form's, and its text into the face. The
 /// text keeps a contrast of 3 : 1 on every colour.
@@ -89,8 +89,8 @@ void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   if (isDown()) inside.translate(1, 1);
   const QColor ink = TextColourOn(face);
   painter.setPen(isEnabled() ? ink : Faded(ink, face, TextFading));
-  // Of a file's path both ends are worth seeing, also in the ring.
-  const QRect words = inside.adjusted(RingWidth, 0, -RingWidth, 0);
+  // Of a file's path both ends are worth seeing, so they stay clear of the ring.
+  const QRect words = inside.adjusted(FocusRingInset, 0, -FocusRingInset, 0);
   paint::DrawCaption(painter, words, paint::ElidedText(button_.Caption, Qt::ElideMiddle),
                      Qt::ElideMiddle);
   if (hasFocus()) paint::DrawFocusRing(painter, inside);

@@ -1,5 +1,7 @@
 #include "window/canvasaccessible.h"
 
+#include <QAccessible>
+#include <QStringList>
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -14,8 +16,8 @@ namespace terramark::window {
 
 namespace {
 
-QString WordFor(MarkerState look) {
-  switch (look) {
+QString WordFor(MarkerState state) {
+  switch (state) {
     case MarkerState::Current:
       return "current";
     case MarkerState::Marked:
@@ -103,12 +105,12 @@ void CanvasAccessible::NotifyLabel(const forms::Label& label) {
   if (now.Place != before.Place) Send(marker, QAccessible::LocationChanged);
   const bool moved = now.PlaceText != before.PlaceText;
   const bool changed = moved || now.Note != before.Note;
-  if (changed || now.Look != before.Look) Send(marker, QAccessible::DescriptionChanged);
+  if (changed || now.State != before.State) Send(marker, QAccessible::DescriptionChanged);
   if (changed && focused_ == &label) {
     notice_.Say(moved ? Joined({now.PlaceText, now.Note}) : now.Note);
   }
-  const bool selected = now.Look != MarkerState::Plain;
-  if (selected == (before.Look != MarkerState::Plain)) return;
+  const bool selected = now.State != MarkerState::Plain;
+  if (selected == (before.State != MarkerState::Plain)) return;
   Send(marker, selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
 }
 
@@ -119,7 +121,10 @@ void CanvasAccessible::NotifyRemoved(const forms::Control& label) {
 
 void CanvasAccessible::Forget(const forms::Control& label) {
   NotifyRemoved(label);
-  if (focused_ == &label) focused_ = nullptr;
+  if (focused_ == &label) {
+    focused_ = nullptr;
+    notice_.Say({});
+  }
   const auto id = ids_.find(&label);
   if (id == ids_.end()) return;
   QAccessible::deleteAccessibleInterface(id->second);
@@ -137,7 +142,7 @@ CanvasAccessible::NotifiedState CanvasAccessible::StateNow(const forms::Label& l
   };
   NotifiedState now;
   now.Name = MarkerName(label);
-  now.Look = MarkerStateOf(label);
+  now.State = MarkerStateOf(label);
   now.Place = ScreenRectOf(label);
   if (const auto drag = label.ParentForm()->Pointer.KeyDragOf(label)) {
     // What is said at each step of a drag is the place alone.
@@ -145,13 +150,14 @@ CanvasAccessible::NotifiedState CanvasAccessible::StateNow(const forms::Label& l
     return now;
   }
   now.PlaceText = place("at %1, %2", PixelBounds(label).TopLeft());
-  if (label.AccessibleNoteOf) now.Note = paint::FromCp1252(label.AccessibleNoteOf(label.Index()));
+  if (label.AccessibleDescriptionOf)
+    now.Note = paint::FromCp1252(label.AccessibleDescriptionOf(label.Index()));
   return now;
 }
 
 QString CanvasAccessible::DescriptionOf(const forms::Label& label) const {
   const NotifiedState now = StateNow(label);
-  return Joined({now.PlaceText, now.Note, WordFor(now.Look)});
+  return Joined({now.PlaceText, now.Note, WordFor(now.State)});
 }
 
 QRect CanvasAccessible::ScreenRectOf(const forms::Label& label) const {

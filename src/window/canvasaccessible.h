@@ -30,9 +30,9 @@ class CanvasAccessible final : public QAccessibleWidget {
   void Refocused() { focused_ = nullptr; }
 
   QString MarkerName(const forms::Label& label) const;
-  /// The corner of a label in pixels of the picture, also during a key drag, its note, and whether
-  /// it is current or marked. Readers learn of a move by this text alone: Qt 6.4 does not pass on
-  /// LocationChanged.
+  /// The corner of a label in pixels of the picture, also during a key drag, then its own
+  /// description, and whether it is current or marked. Qt 6.4 does not pass on LocationChanged, so
+  /// a move is told by this text.
   QString DescriptionOf(const forms::Label& label) const;
   /// In pixels of the screen.
   QRect ScreenRectOf(const forms::Label& label) const;
@@ -50,7 +50,7 @@ class CanvasAccessible final : public QAccessibleWidget {
     QString Name;
     QString PlaceText;
     QString Note;
-    MarkerState Look = MarkerState::Plain;
+    MarkerState State = MarkerState::Plain;
     QRect Place;
   };
 
@@ -68,7 +68,8 @@ class CanvasAccessible final : public QAccessibleWidget {
   mutable std::unordered_map<const forms::Control*, QAccessible::Id> ids_;
   std::unordered_map<const forms::Control*, NotifiedState> notified_;
   const forms::Label* focused_ = nullptr;
-  /// The last child: says what changed of the label that has the focus. Qt keeps it likewise.
+  /// The last child: says what changed of the label that has the focus. Registered with Qt, which
+  /// deletes it at deleteAccessibleInterface.
   NoticeAccessible& notice_;
 };
 

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "forms/form.h"
-#include "forms/geometry.h"
 #include "paint/boxpaint.h"
 #include "paint/frames.h"
 
@@ -46,7 +45,7 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
       box_(box),
       horizontalBar_(Qt::Horizontal, this),
       verticalBar_(Qt::Vertical, this),
-      zoom_(*this),
+      zoomLabel_(*this),
       cursorItem_(box.CursorItem) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   if (box.TabStop) setFocusPolicy(Qt::TabFocus);
@@ -56,9 +55,9 @@ CanvasView::CanvasView(forms::PictureBox& box, QWidget& container)
     bar->setCursor(Qt::ArrowCursor);
     connect(bar, &QScrollBar::valueChanged, this, scroll);
   }
-  FindBlack();
+  UpdateBlackBlocks();
   PlaceScrollBars();
-  zoom_.Tell(box_.Zoom, Viewport());
+  zoomLabel_.ShowZoom(box_.Zoom, Viewport());
 }
 
 void CanvasView::PlaceScrollBars() {
@@ -73,17 +72,17 @@ void CanvasView::PlaceScrollBars() {
 
 void CanvasView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::CursorItem) return MoveRing();
+  // First: when memory runs out, nothing has changed here.
+  if (id == forms::PropertyId::Picture) UpdateBlackBlocks();
   PlaceScrollBars();
-  zoom_.Tell(box_.Zoom, Viewport());
+  zoomLabel_.ShowZoom(box_.Zoom, Viewport());
   for (auto& [label, seen] : seen_) seen = label->Visible ? RestingRectOf(*label) : QRect();
   shownDragRect_ = DragRect();
   update();
-  // Last: when memory runs out the box keeps its old picture, and what is known of that.
-  if (id == forms::PropertyId::Picture) FindBlack();
 }
 
-/// A refreshed picture is the same object, whose pixels have been read.
-void CanvasView::FindBlack() {
+/// A refresh assigns the same picture again; it need not be read twice.
+void CanvasView::UpdateBlackBlocks() {
   if (blackOf_ == box_.Picture.Get()) return;
   black_ = paint::BlackBlocks(box_.Picture);
   blackOf_ = box_.Picture;
@@ -125,14 +124,14 @@ QRect CanvasView::MapToBox(const forms::PixelRect& onPicture) const {
 
 QRect CanvasView::WidgetRectOf(const forms::Control& label) const {
   const auto drag = box_.ParentForm()->Pointer.KeyDragOf(label);
-  return drag ? MapToBox(drag->Seen()) : RestingRectOf(label);
+  return drag ? MapToBox(drag->DisplayBounds()) : RestingRectOf(label);
 }
 
 QRect CanvasView::DragRect() const {
   const forms::PointerRouter& pointer = box_.ParentForm()->Pointer;
   const auto drag = pointer.CurrentDrag();
   if (!drag || drag->Source.Container() != &box_) return {};
-  QRect area = MapToBox(drag->Seen());
+  QRect area = MapToBox(drag->DisplayBounds());
   const forms::PixelPoint held = forms::MapToBox(box_, drag->HotSpot);
   const QRect view = Viewport();
   // In a key drag no pointer shows the place, so the label is shown as far as it is in view.
@@ -188,7 +187,7 @@ void CanvasView::paintEvent(QPaintEvent* event) {
 
 void CanvasView::PaintMarker(QPainter& painter, const QRect& area,
                              const forms::Label& label) const {
-  // Below actual size a label keeps its own.
+  // Below actual size a label keeps its own size.
   paint::PaintLabel(painter, area, box_.Zoom.Get().Screen, label);
 }
 

@@ -43,7 +43,7 @@ class CanvasView : public QWidget, public ControlView {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void FindBlack();
+  void UpdateBlackBlocks();
   void PlaceScrollBars();
   void MoveRing();
   void UpdateCursorShape();
@@ -51,8 +51,9 @@ class CanvasView : public QWidget, public ControlView {
 
   /// A part of the picture in pixels of the widget.
   QRect MapToBox(const forms::PixelRect& onPicture) const;
+  /// Where a label is shown when it is not dragged, in pixels of the widget.
   QRect RestingRectOf(const forms::Control& label) const {
-    return MapToBox(forms::SeenBounds(label));
+    return MapToBox(forms::DisplayBounds(label));
   }
   /// Where the dragged label is shown, in pixels of the widget; empty without a drag.
   QRect DragRect() const;
@@ -64,7 +65,7 @@ class CanvasView : public QWidget, public ControlView {
   forms::PictureBox& box_;
   QScrollBar horizontalBar_;
   QScrollBar verticalBar_;
-  ZoomLabel zoom_;
+  ZoomLabel zoomLabel_;
   /// How far the wheel has been turned towards the next zoom step, in eighths of a degree.
   int zoomTurn_ = 0;
   /// How far it has been turned towards the next pixel, in parts of a pixel: NotchAngle parts are
@@ -74,7 +75,7 @@ class CanvasView : public QWidget, public ControlView {
   const forms::Control* cursorItem_;
   /// Where each visible label was shown last, in pixels of the widget.
   std::unordered_map<const forms::Control*, QRect> seen_;
-  /// Of the picture that is shown.
+  /// The picture's black, and the picture from which it was computed.
   paint::BlackBlocks black_;
   forms::Picture blackOf_;
   QRect shownDragRect_;

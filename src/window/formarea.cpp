@@ -23,7 +23,7 @@ FormArea::FormArea(QWidget& window) : QScrollArea(&window) {
   widgets::NameScrollBars(*this, "Form");
 }
 
-void FormArea::Show(QWidget& inside, QSize least) {
+void FormArea::SetContent(QWidget& inside, QSize least) {
   inside.setMinimumSize(least);
   if (widget() == nullptr) setWidget(&inside);
 }
@@ -33,7 +33,7 @@ void FormArea::Reveal(const QRect& place) {
   RevealAlong(*verticalScrollBar(), place.top(), place.height(), viewport()->height());
 }
 
-void FormArea::TurnWheel(const QWheelEvent& turn) {
+void FormArea::ScrollByWheel(const QWheelEvent& turn) {
   const bool across = turn.modifiers().testFlag(Qt::ShiftModifier);
   const auto way = [across](QPoint by) { return across ? by.transposed() : by; };
   QWheelEvent event(turn.position(), turn.globalPosition(), way(turn.pixelDelta()),

@@ -7,21 +7,21 @@
 
 namespace terramark::window {
 
-/// The keys belong to the form, so that the area neither takes the focus nor scrolls by keys.
+/// The keys belong to the form, so the area neither takes the focus nor scrolls by keys.
 class FormArea final : public QScrollArea {
  public:
   explicit FormArea(QWidget& window);
 
   /// Shows the form's inside, which takes all the room there is but never gets smaller than
-  /// `least`, in pixels. The area does not own it.
-  void Show(QWidget& inside, QSize least);
+  /// `least`, in pixels. The area becomes its parent; destroy it before the area.
+  void SetContent(QWidget& inside, QSize least);
 
-  /// Scrolls as little as shows the place, in pixels of the inside, as a whole, or its top left
+  /// Scrolls by the least that shows the whole place, in pixels of the inside, or its top left
   /// corner where it is larger than the window.
   void Reveal(const QRect& place);
 
   /// Scrolls by the wheel, sideways with Shift, as the map does.
-  void TurnWheel(const QWheelEvent& turn);
+  void ScrollByWheel(const QWheelEvent& turn);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -10,8 +10,8 @@ namespace terramark::window {
 
 MainWindow::MainWindow(Form1& form) : form_(form), area_(*this), inside_(form, *area_.viewport()) {
   setCentralWidget(&area_);
-  inside_.Scrolling().OnFocus = [this](const QRect& place) { area_.Reveal(place); };
-  inside_.Scrolling().OnWheel = [this](const QWheelEvent& turn) { area_.TurnWheel(turn); };
+  inside_.Scrolling().OnReveal = [this](const QRect& place) { area_.Reveal(place); };
+  inside_.Scrolling().OnWheel = [this](const QWheelEvent& turn) { area_.ScrollByWheel(turn); };
   inside_.ApplyWindowProperties();
   resize(inside_.DesignSize());
   FitScreen();
@@ -22,7 +22,7 @@ void MainWindow::FitScreen() {
   const QSize room = screen()->availableGeometry().size() - frame;
   const QRect standing = inside_.childrenRect();
   const QSize needed(standing.right() + 1, standing.bottom() + 1);
-  area_.Show(inside_, needed);
+  area_.SetContent(inside_, needed);
   setMinimumSize(needed.boundedTo(room));
   resize(size().boundedTo(room));
 }

@@ -11,7 +11,7 @@ namespace terramark::window {
 
 /// A label with three children, an alert, a status bar and a notification. While there is a text,
 /// the notification and one of the others are visible: readers announce what becomes visible, some
-/// only the one kind.
+/// only a notification.
 class MessageAccessible final : public QAccessibleWidget {
  public:
   explicit MessageAccessible(LabelView& view);

@@ -1,5 +1,6 @@
-// Says something to assistive tools once, whatever they are at: Orca says what becomes visible only
-// if it is a notification, and Qt 6.4 gives it no text with a changed description.
+// Says something to assistive tools once, whatever they are at. Orca reads a thing that becomes
+// visible only if it is a notification, and reads no changed description, since Qt 6.4 does not
+// pass the new text on.
 #pragma once
 
 #include <QString>

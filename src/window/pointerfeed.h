@@ -24,7 +24,8 @@ class PointerFeed : public QObject {
   /// mouse itself receives it after the router.
   void Watch(QWidget& widget, MouseUse use);
 
-  /// Whether a button of the mouse is down that was pressed on the form.
+  /// Whether a button of the mouse is down that was pressed on the form; the router counts presses
+  /// that keys simulate, too.
   bool HoldsButton() const { return holdsButton_; }
 
   /// Called when a button has been released and the form has handled that.

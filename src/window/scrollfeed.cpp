@@ -26,7 +26,7 @@ bool UsesWheel(const forms::Control& control) {
 
 ScrollFeed::ScrollFeed(QWidget& inside, PointerFeed& pointer) : inside_(inside), pointer_(pointer) {
   inside.installEventFilter(this);
-  pointer.OnRelease = [this] { Tell(); };
+  pointer.OnRelease = [this] { RevealPending(); };
 }
 
 void ScrollFeed::Watch(ControlView& view) {
@@ -41,7 +41,7 @@ bool ScrollFeed::eventFilter(QObject* watched, QEvent* event) {
       GotFocus(widget, static_cast<QFocusEvent*>(event)->reason());
       return false;
     case QEvent::KeyRelease:
-      TellCursorItem(widget);
+      RevealCursorItem(widget);
       return false;
     case QEvent::Wheel:
       if (!OnWheel || widget.property(KeepsWheel).toBool()) return false;
@@ -57,26 +57,26 @@ void ScrollFeed::GotFocus(QWidget& widget, Qt::FocusReason reason) {
   // The keyboard only comes back to where it was; and the form as a whole has no place.
   if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
   if (&widget == &inside_) return;
-  untold_ = &widget;
-  if (reason != Qt::MouseFocusReason) Tell();
+  pendingFocus_ = &widget;
+  if (reason != Qt::MouseFocusReason) RevealPending();
 }
 
-void ScrollFeed::Tell() {
-  if (!untold_ || pointer_.HoldsButton()) return;
-  const QWidget& widget = *untold_;
-  untold_.clear();
-  if (widget.hasFocus()) Tell(widget, widget.rect());
+void ScrollFeed::RevealPending() {
+  if (!pendingFocus_ || pointer_.HoldsButton()) return;
+  const QWidget& widget = *pendingFocus_;
+  pendingFocus_.clear();
+  if (widget.hasFocus()) Reveal(widget, widget.rect());
 }
 
-void ScrollFeed::TellCursorItem(const QWidget& widget) const {
+void ScrollFeed::RevealCursorItem(const QWidget& widget) const {
   const auto* canvas = dynamic_cast<const CanvasView*>(&widget);
   if (canvas == nullptr || pointer_.HoldsButton()) return;
   const forms::Control* const item = canvas->VisibleCursorItem();
-  if (item != nullptr) Tell(widget, canvas->WidgetRectOf(*item) & canvas->Viewport());
+  if (item != nullptr) Reveal(widget, canvas->WidgetRectOf(*item) & canvas->Viewport());
 }
 
-void ScrollFeed::Tell(const QWidget& widget, const QRect& part) const {
-  if (OnFocus && !part.isEmpty()) OnFocus(part.translated(widget.mapTo(&inside_, QPoint())));
+void ScrollFeed::Reveal(const QWidget& widget, const QRect& part) const {
+  if (OnReveal && !part.isEmpty()) OnReveal(part.translated(widget.mapTo(&inside_, QPoint())));
 }
 
 }  // namespace terramark::window

@@ -1,5 +1,7 @@
 #include "window/zoomlabel.h"
 
+#include <QPalette>
+
 namespace terramark::window {
 
 namespace {
@@ -15,7 +17,7 @@ ZoomLabel::ZoomLabel(QWidget& box) : QLabel(&box) {
   setMargin(2);
 }
 
-void ZoomLabel::Tell(forms::Magnification zoom, const QRect& view) {
+void ZoomLabel::ShowZoom(forms::Magnification zoom, const QRect& view) {
   // The smallest, 3.125, has four digits.
   const QString now = QString("%1 %").arg(100.0 * zoom.Screen / zoom.Picture, 0, 'g', 4);
   if (now != text()) {

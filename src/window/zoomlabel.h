@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QRect>
 
 #include "forms/zoom.h"
 
@@ -11,8 +12,8 @@ class ZoomLabel : public QLabel {
  public:
   explicit ZoomLabel(QWidget& box);
 
-  /// The part of the box that shows the picture is in pixels of the box.
-  void Tell(forms::Magnification zoom, const QRect& view);
+  /// Shows a zoom in the corner of `view`, in pixels of the box, or hides itself.
+  void ShowZoom(forms::Magnification zoom, const QRect& view);
 };
 
 }  // namespace terramark::window

@@ -47,7 +47,7 @@ TEST_F(SaveLayout, ALostPictureIsSaidUnlessTheWritingStops) {
   ExpectRed("Area Fir has no neighbours");
 }
 
-/// Where a picture without a folder is named as it is.
+/// Its NativePath leaves names that begin with "land" as they are.
 class BareNames : public SaveLayout {
   std::string NativePath(const std::string& path) override {
     return path.starts_with("land") ? path : SaveLayout::NativePath(path);

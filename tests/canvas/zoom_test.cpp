@@ -81,7 +81,7 @@ TEST_F(ZoomTest, BelowActualSizeAMarkerKeepsItsSizeAndItsFillPointItsPlace) {
     Area().Move(600, 304);
     const PixelPoint fill{AtRight(corner) ? 632 : 600, AtBottom(corner) ? 320 : 304};
     Show({1, 8});
-    const PixelRect seen = MapToBox(Box, SeenBounds(Area()));
+    const PixelRect seen = MapToBox(Box, DisplayBounds(Area()));
     EXPECT_EQ(seen.Width, 32);
     EXPECT_EQ(seen.Height, 16);
     EXPECT_EQ(seen.Left + (AtRight(corner) ? 32 : 0), MapToBox(Box, fill).X) << corner;
@@ -96,8 +96,8 @@ TEST_F(ZoomTest, BelowActualSizeAMarkerKeepsItsSizeAndItsFillPointItsPlace) {
   Form.Continent.Load(1);
   Form.Continent(1).Visible = true;
   Form.Continent(1).Move(800, 80);
-  EXPECT_EQ(SeenBounds(Form.Continent(1)).TopLeft().X, 800);
-  EXPECT_EQ(SeenBounds(Form.Continent(1)).TopLeft().Y, 80);
+  EXPECT_EQ(DisplayBounds(Form.Continent(1)).TopLeft().X, 800);
+  EXPECT_EQ(DisplayBounds(Form.Continent(1)).TopLeft().Y, 80);
 }
 
 TEST_F(ZoomTest, EveryGestureMeansThePixelThatIsSeen) {
@@ -112,7 +112,7 @@ TEST_F(ZoomTest, EveryGestureMeansThePixelThatIsSeen) {
     SCOPED_TRACE(testing::Message() << zoom.Screen << " : " << zoom.Picture << " " << travel);
     Area().Move(603, 301);
     Show(zoom);
-    const PixelRect seen = MapToBox(Box, SeenBounds(Area()));
+    const PixelRect seen = MapToBox(Box, DisplayBounds(Area()));
     const PixelPoint corner = MapToForm(Form, PixelBounds(Box).TopLeft() + seen.TopLeft());
     const int end = corner.X + seen.Width;
     EXPECT_EQ(&Form.Pointer.ControlAt(corner.X, corner.Y), &Area());

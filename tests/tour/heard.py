@@ -57,7 +57,7 @@ def check(what, right):
 
 class Reader(Editor):
     def __init__(self, screen, program):
-        screen.start_buses()
+        screen.start_bus()
         os.environ.clear()
         os.environ.update(screen.environment)
         Atspi.init()
@@ -162,7 +162,8 @@ class Reader(Editor):
             self.wait(f"Scotland {where}", lambda: items[1].get_description() == where)
             check("it stands there", extents(items[1])[:2] == (
                 self.map.left + left + x, self.map.top + top))
-        self.hears(lambda: self.key("c"), (MOVED, 0, *scotland))
+        self.hears(lambda: self.key("c"), (MOVED, 0, *scotland),
+                   (SHOW, 1, "notification", "fill point top right"))
         check("the corner turned", "fill point top right" in items[1].get_description())
         self.key("F6", "ctrl+a")
         self.hears(lambda: self.key("x"), (NAMED, 0, "list item", " 2: x in Region The Isles"))
@@ -170,8 +171,10 @@ class Reader(Editor):
                    (SELECT, 0, "list item", " 5: Norway in Region Scandinavia"))
 
     def announce(self):
-        refusal = SHOW, 1, "alert", "Can only delete the last Area - Egypt"
-        self.hears(lambda: self.press_control("DelControl"), refusal)
+        words = "Can only delete the last Area - Egypt"
+        refusal = SHOW, 1, "alert", words
+        self.hears(lambda: self.press_control("DelControl"), refusal,
+                   (SHOW, 1, "notification", words))
         for _ in range(2):  # also where it is no news
             self.hears(lambda: self.press_control("Cvalid"),
                        (SHOW, 1, "status bar", "This map has no errors"))

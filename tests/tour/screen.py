@@ -98,8 +98,8 @@ class Screen:
         self.started.append(subprocess.Popen(command, **usual | self.rights | options))
         return self.started[-1]
 
-    def start_buses(self):
-        """Starts a session bus of its own, on which what windows tell their readers goes about."""
+    def start_bus(self):
+        """Starts a session bus of its own, by which programs reach assistive tools."""
         told, address = os.pipe()
         self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={address}"],
                    pass_fds=[address])

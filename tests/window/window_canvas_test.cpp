@@ -220,7 +220,7 @@ TEST_F(MarkerTest, EachPixelOfAZoomedMapIsTheNearestOfThePictureOrBlack) {
     box.ZoomTo(zoom, {9, 9});
     box.ScrollIntoView(PixelBounds(Marker()));
     const QImage seen = Of(box).grab(QRect(0, 0, box.ViewWidth(), box.ViewHeight())).toImage();
-    const forms::PixelRect marker = MapToBox(box, SeenBounds(Marker()));
+    const forms::PixelRect marker = MapToBox(box, DisplayBounds(Marker()));
     EXPECT_EQ(marker.Width, 32 * zoom.Screen);
     int wrong = 0;
     const auto hasBlack = [&](int left, int top) {
