@@ -34,6 +34,10 @@ class PixelBits {
     return (Row(y)[static_cast<std::size_t>(x / WordBits)] >> x % WordBits & 1) != 0;
   }
 
+  void Set(int x, int y) {
+    Row(y)[static_cast<std::size_t>(x / WordBits)] |= Word{1} << x % WordBits;
+  }
+
   /// Sets the bits that are set in `other`, which has the same size.
   void Add(const PixelBits& other) {
     for (std::size_t i = 0; i < words_.size(); ++i) words_[i] |= other.words_[i];

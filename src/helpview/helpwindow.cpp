@@ -1,6 +1,7 @@
 #include "helpview/helpwindow.h"
 
 #include <QBoxLayout>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -143,7 +144,9 @@ void HelpWindow::PlaceBeside(const QWidget& editor) {
              out.bottom() - in.bottom()};
   }
   const QRect room = editor.screen()->availableGeometry();
-  const auto framed = [&](QSize inside) { return QRect({}, inside).marginsAdded(frame).size(); };
+  const auto framed = [&](QSize inside) {
+    return QRect({}, inside).marginsAdded(frame).size().boundedTo(room.size());
+  };
   if (size() != placed_) wanted_ = size();
   const QRect place =
       PlaceBesideWindow(room, editor.frameGeometry(), framed(wanted_), framed(minimumSize()));
@@ -158,7 +161,9 @@ void HelpWindow::Open(std::int32_t topic) {
   Show(TopicIndex(topics_, topic));
   setWindowState(windowState() & ~Qt::WindowMinimized);
   const bool fillsScreen = isMaximized() || isFullScreen();
-  if (editor_ && !isVisible() && !fillsScreen) PlaceBeside(*editor_);
+  // On Wayland no window can place itself.
+  const bool canPlace = !QGuiApplication::platformName().startsWith("wayland");
+  if (editor_ && canPlace && !isVisible() && !fillsScreen) PlaceBeside(*editor_);
   page_.setFocus();
   show();
   raise();

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 
 #include "forms/floodbits.h"
@@ -57,6 +58,20 @@ PixelBits NextLevel(const PixelBits& from, int fromWidth, int fromHeight) {
   return level;
 }
 
+/// A block at the edge that is cut so short that it is not shown gives its black to the one before.
+void FoldEdge(PixelBits& level, forms::Magnification zoom, int width, int height) {
+  const int across = ToScreen(zoom, width);
+  const int down = ToScreen(zoom, height);
+  const bool rest = across > 0 && across * zoom.Picture < width;
+  const int rows = (height + zoom.Picture - 1) / zoom.Picture;
+  for (int y = 0; rest && y < rows; ++y) {
+    if (level.At(across, y)) level.Set(across - 1, y);
+  }
+  if (down > 0 && down < rows)
+    std::ranges::transform(level.Row(down), level.Row(down - 1), level.Row(down - 1).begin(),
+                           std::bit_or<>());
+}
+
 /// For a zoom below actual size, how many steps of halving it is.
 std::size_t LevelOf(forms::Magnification zoom) {
   static_assert(std::ranges::all_of(forms::ZoomSteps, [](forms::Magnification step) {
@@ -76,6 +91,11 @@ BlackBlocks::BlackBlocks(const forms::Picture& picture) {
     width = (width + 1) / 2;
     height = (height + 1) / 2;
     levels_.push_back(NextLevel(levels_.back(), width, height));
+  }
+  for (const forms::Magnification zoom : forms::ZoomSteps) {
+    if (const std::size_t level = LevelOf(zoom); level > 0) {
+      FoldEdge(levels_[level - 1], zoom, picture->Width, picture->Height);
+    }
   }
 }
 

@@ -19,10 +19,9 @@ class BlackBlocks {
   /// pixels, and so on up to the smallest zoom. std::bad_alloc when memory runs out.
   explicit BlackBlocks(const forms::Picture& picture);
 
-  /// For each block of the picture that is one pixel at a zoom, whether any pixel in it is black. A
-  /// block that reaches beyond the edge is judged by its pixels on the picture: there are as many
-  /// blocks as the picture's width and height divided by a block's, rounded up. Null at actual size
-  /// and above, and without a picture. The zoom must be a step.
+  /// For each pixel of the picture as it is shown at a zoom, whether any pixel of its block is
+  /// black. The last block across and down has what is left at the picture's edge, too. Null at
+  /// actual size and above, and without a picture. The zoom must be a step.
   const forms::PixelBits* At(forms::Magnification zoom) const;
 
  private:

@@ -8,9 +8,11 @@ namespace terramark::paint {
 
 QRect MapToDevice(const QTransform& toDevice, const QRect& area) {
   const QRectF mapped = toDevice.mapRect(QRectF(area));
-  // Each edge is rounded by itself; QRectF::toRect rounds sizes.
-  return {QPoint(qRound(mapped.left()), qRound(mapped.top())),
-          QPoint(qRound(mapped.right()) - 1, qRound(mapped.bottom()) - 1)};
+  // Each edge is rounded by itself; QRectF::toRect rounds sizes. A half is rounded up on either
+  // side of 0, as MapFromDevice assumes; qRound goes away from 0.
+  const auto edge = [](double at) { return static_cast<int>(std::floor(at + 0.5)); };
+  return {QPoint(edge(mapped.left()), edge(mapped.top())),
+          QPoint(edge(mapped.right()) - 1, edge(mapped.bottom()) - 1)};
 }
 
 int MapFromDevice(int onDevice, double scale, double origin) {

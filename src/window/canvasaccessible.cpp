@@ -67,12 +67,12 @@ class MarkerAccessible final : public AccessibleItem {
 CanvasAccessible::CanvasAccessible(CanvasView& canvas)
     : QAccessibleWidget(&canvas, RoleOf(canvas)),
       canvas_(canvas),
-      notice_(*std::make_unique<NoticeAccessible>(*this).release()) {
-  QAccessible::registerAccessibleInterface(&notice_);
+      notice_(*std::make_unique<NoticeAccessible>(*this).release()),
+      noticeId_(QAccessible::registerAccessibleInterface(&notice_)) {
 }
 
 CanvasAccessible::~CanvasAccessible() {
-  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(&notice_));
+  QAccessible::deleteAccessibleInterface(noticeId_);
   for (const auto& [label, id] : ids_) QAccessible::deleteAccessibleInterface(id);
 }
 
@@ -234,7 +234,10 @@ QAccessibleInterface* CanvasAccessible::childAt(int x, int y) const {
     return IsLabel(child) && child->Visible &&
            ScreenRectOf(static_cast<const forms::Label&>(*child)).contains(x, y);
   });
-  if (hit == stack.rend() || !rect().contains(x, y)) return QAccessibleWidget::childAt(x, y);
+  if (hit == stack.rend() || !rect().contains(x, y)) {
+    QAccessibleInterface* const part = QAccessibleWidget::childAt(x, y);
+    return part == &notice_ ? nullptr : part;
+  }
   return MarkerOf(static_cast<const forms::Label&>(**hit));
 }
 

@@ -71,6 +71,7 @@ class CanvasAccessible final : public QAccessibleWidget {
   /// The last child: says what changed of the label that has the focus. Registered with Qt, which
   /// deletes it at deleteAccessibleInterface.
   NoticeAccessible& notice_;
+  QAccessible::Id noticeId_;
 };
 
 }  // namespace terramark::window

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "forms/form.h"
@@ -72,7 +73,6 @@ void CanvasView::PlaceScrollBars() {
 
 void CanvasView::ShowOwn(forms::PropertyId id) {
   if (id == forms::PropertyId::CursorItem) return MoveRing();
-  // First: when memory runs out, nothing has changed here.
   if (id == forms::PropertyId::Picture) UpdateBlackBlocks();
   PlaceScrollBars();
   zoomLabel_.ShowZoom(box_.Zoom, Viewport());
@@ -84,8 +84,12 @@ void CanvasView::ShowOwn(forms::PropertyId id) {
 /// A refresh assigns the same picture again; it need not be read twice.
 void CanvasView::UpdateBlackBlocks() {
   if (blackOf_ == box_.Picture.Get()) return;
-  black_ = paint::BlackBlocks(box_.Picture);
   blackOf_ = box_.Picture;
+  try {
+    black_ = paint::BlackBlocks(blackOf_);
+  } catch (const std::bad_alloc&) {
+    black_ = {};  // the picture shows without
+  }
 }
 
 const forms::Control* CanvasView::VisibleCursorItem() const {

@@ -86,9 +86,9 @@ bool PointerFeed::IsOverWidget(const QWidget& widget, const QMouseEvent& event) 
 
 void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
   if (ButtonMask(event.button()) == 0) return;
+  const QPoint at = MapFromWidget(widget, event);
   ReleaseLost(widget, event);
   holdsButton_ = true;
-  const QPoint at = MapFromWidget(widget, event);
   if (form_.Pointer.ButtonsDown() == 0) {
     if (widget.isEnabled()) held_ = qobject_cast<QPushButton*>(&widget);
     reachesMouseUp_ = static_cast<bool>(form_.Pointer.ControlAt(at.x(), at.y()).MouseUp);
@@ -99,8 +99,8 @@ void PointerFeed::Press(QWidget& widget, const QMouseEvent& event) {
 }
 
 void PointerFeed::Move(const QWidget& widget, const QMouseEvent& event) {
-  ReleaseLost(widget, event);
   const QPoint at = MapFromWidget(widget, event);
+  ReleaseLost(widget, event);
   if (held_) held_->setDown(held_->rect().contains(held_->mapFrom(&inside_, at)));
   form_.Pointer.Move(at.x(), at.y(), KeyMask(event.modifiers()));
 }

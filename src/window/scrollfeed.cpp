@@ -45,7 +45,7 @@ bool ScrollFeed::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::Wheel:
       if (!OnWheel || widget.property(KeepsWheel).toBool()) return false;
-      OnWheel(*static_cast<QWheelEvent*>(event));
+      if (!pointer_.HoldsButton()) OnWheel(*static_cast<QWheelEvent*>(event));
       return true;
     default:
       return false;
@@ -54,9 +54,11 @@ bool ScrollFeed::eventFilter(QObject* watched, QEvent* event) {
 
 /// What is under a pressed button must stay there until it is released.
 void ScrollFeed::GotFocus(QWidget& widget, Qt::FocusReason reason) {
-  // The keyboard only comes back to where it was; and the form as a whole has no place.
-  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
   if (&widget == &inside_) return;
+  // After a dialog or a menu the keyboard mostly comes back to where it was.
+  const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+  if (back && lastFocus_ == &widget) return;
+  lastFocus_ = &widget;
   pendingFocus_ = &widget;
   if (reason != Qt::MouseFocusReason) RevealPending();
 }

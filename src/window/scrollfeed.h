@@ -43,6 +43,8 @@ class ScrollFeed : public QObject {
   const PointerFeed& pointer_;
   /// Has got the focus by a press of a button that is still down.
   QPointer<QWidget> pendingFocus_;
+  /// Had the focus last.
+  QPointer<QWidget> lastFocus_;
 };
 
 }  // namespace terramark::window

@@ -170,7 +170,8 @@ def main():
         print("Orca is not installed.")
         sys.exit(77)
     program = Path(sys.argv[1]).resolve()
-    with tempfile.TemporaryDirectory(prefix="terramark-spoken-") as folder:
+    with tempfile.TemporaryDirectory(prefix="terramark-spoken-",
+                                     ignore_cleanup_errors=True) as folder:
         os.chdir(shutil.copytree(SAMPLES, folder + "/samples"))
         settings = Path(folder, ".local/share/orca")
         settings.mkdir(parents=True)

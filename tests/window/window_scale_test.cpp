@@ -244,6 +244,13 @@ TEST_F(ScaleTest, ASmallWindowScrollsToWhatHasTheKeyboardAndNeverUnderAPress) {
     Look();
     EXPECT_TRUE(Screen == scrolled) << "nothing stays where it was";
   }
+  // The picture's corner lies at each part of a pixel beyond the window's edge.
+  Box.ScrollTo(0, 0);
+  for (int out = 0; out < 8; ++out) {
+    area.horizontalScrollBar()->setValue(out);
+    area.verticalScrollBar()->setValue(place(Box).top() + area.verticalScrollBar()->value() + out);
+    Look();
+  }
   Form.Quit.SetFocus();
   const QPoint home = place(Form.Quit).topLeft();
   wheelOver(Box);
