@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <new>
-#include <ranges>
 #include <utility>
 
 #include "forms/borderfill.h"
@@ -104,9 +104,8 @@ Magnification PictureBox::FittingZoom() const {
   const auto fits = [&](Magnification zoom) {
     return ToScreen(zoom, image.Width) <= BoxWidth() && ToScreen(zoom, image.Height) <= BoxHeight();
   };
-  const auto steps = std::views::reverse(ZoomSteps);
-  const auto largest = std::ranges::find_if(steps, fits);
-  return largest != steps.end() ? *largest : ZoomSteps[0];
+  const auto largest = std::find_if(std::rbegin(ZoomSteps), std::rend(ZoomSteps), fits);
+  return largest != std::rend(ZoomSteps) ? *largest : ZoomSteps[0];
 }
 
 void PictureBox::ScrollIntoView(const PixelRect& onPicture) {

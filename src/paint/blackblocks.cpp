@@ -67,9 +67,9 @@ void FoldEdge(PixelBits& level, forms::Magnification zoom, int width, int height
   for (int y = 0; rest && y < rows; ++y) {
     if (level.At(across, y)) level.Set(across - 1, y);
   }
-  if (down > 0 && down < rows)
-    std::ranges::transform(level.Row(down), level.Row(down - 1), level.Row(down - 1).begin(),
-                           std::bit_or<>());
+  if (down == 0 || down == rows) return;
+  std::ranges::transform(level.Row(down), level.Row(down - 1), level.Row(down - 1).begin(),
+                         std::bit_or<>());
 }
 
 /// For a zoom below actual size, how many steps of halving it is.

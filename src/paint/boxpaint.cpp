@@ -58,7 +58,7 @@ QImage Zoomed(const forms::PictureBox& box, const BlackBlocks& black, const QTra
         if (fill.Pixels.At(columns[x].OnImage, row)) to[x] = fill.Paint;
       }
     }
-    if (zoomed < blocksDown) {
+    if (blocks != nullptr && zoomed < blocksDown) {
       for (std::size_t x = 0; x < columns.size() && columns[x].Zoomed < blocksAcross; ++x) {
         if (blocks->At(columns[x].Zoomed, zoomed)) to[x] = Black;
       }
