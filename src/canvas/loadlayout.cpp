@@ -17,7 +17,7 @@ void LoadMpa_MouseUp(Form1& form) {
   form.CommonDialog1.Purpose = {.Title = "Load a Map Layout"};
   SelectAFile(form, LayoutFiles, name);
   if (name.empty()) return;
-  const auto bytes = files::ReadRegularFile(form.Host.NativePath(name), MaxLayoutBytes);
+  const auto bytes = files::ReadRegularFile(FilePath(form, name), MaxLayoutBytes);
   if (!bytes) {
     ShowFileFault(form, "Cannot open Map Layout File ", name, ": " + bytes.error().Description());
     return;

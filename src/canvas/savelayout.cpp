@@ -35,8 +35,8 @@ void WarnOfLostPicture(Form1& form, const std::string& layout, const std::string
   LayoutReader saved(text, form);
   if (!saved.ReadHead()) return;
   const std::string& picture = saved.Layout().PictureFile;
-  if (files::CanOpenNamedFile(form.Host.NativePath(layout), form.Host.NativePath(picture))) return;
-  const std::string title = picture.substr(picture.find_last_of('/') + 1);
+  if (files::CanOpenNamedFile(FilePath(form, layout), FilePath(form, picture))) return;
+  const std::string title = picture.substr(FolderLength(picture));
   ShowHelpbar(form, "The picture " + title + " does not lie beside this layout");
 }
 
@@ -50,7 +50,7 @@ void SaveCFG_MouseUp(Form1& form) {
   if (name.empty()) return;
 
   const ShowResult shown = RefreshMap(form);
-  files::SafeFile file(form.Host.NativePath(name));
+  files::SafeFile file(FilePath(form, name));
   if (const auto opened = file.Open(); !opened) {
     ShowWriteFault(form, name, file, opened.error());
     return;

@@ -7,6 +7,7 @@
 
 #include "document/codepage.h"
 #include "document/numbers.h"
+#include "files/pathof.h"
 #include "files/regularfile.h"
 #include "layoutfile/layoutreader.h"
 #include "validation/rules.h"
@@ -38,7 +39,7 @@ void AddUnreadable(Report& report, int line, const std::string& why) {
 /// A name without a folder is in the folder of the layout, which the editor makes the current one.
 /// File names are UTF-8, as in the editor.
 bool PictureExists(const std::string& picture, const std::string& layout) {
-  return files::CanOpenNamedFile(layout, ToUtf8(picture));
+  return files::CanOpenNamedFile(files::PathOf(layout), files::PathOf(ToUtf8(picture)));
 }
 
 /// Reports faults of the picture's line. Of a missing picture whose path a comma has ended the rest
@@ -124,7 +125,7 @@ void CheckAll(Report& report, LayoutReader& reader, const std::string& path) {
 }  // namespace
 
 Report CheckLayout(const std::string& path) {
-  const auto bytes = files::ReadRegularFile(path, MaxLayoutBytes);
+  const auto bytes = files::ReadRegularFile(files::PathOf(path), MaxLayoutBytes);
   if (bytes) return CheckBytes(*bytes, path);
   Report report;
   AddUnreadable(report, 0, bytes.error().Description());

@@ -28,7 +28,7 @@ struct Report {
 
 /// Reads the file as the editor does, but without its picture, and checks the map by the editor's
 /// rules. If the picture does not exist, the editor stops after the head; here the rest is read
-/// too, from the next line on where a comma has ended the picture's path.
+/// too, from the next line on where a comma has ended the picture's path. The path is UTF-8.
 Report CheckLayout(const std::string& path);
 /// The same for bytes that are, or would be, in a file with this path.
 Report CheckBytes(std::string_view bytes, const std::string& path);

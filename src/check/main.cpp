@@ -4,21 +4,23 @@
 #include <string>
 
 #include "check/checklayout.h"
+#include "files/commandline.h"
 
 int main(int argc, char** argv) {
-  using namespace terramark::check;
-  if (argc < 2) {
+  using namespace terramark;
+  using check::Severity;
+  const std::vector<std::string> layouts = files::Arguments(argc, argv);
+  if (layouts.empty()) {
     std::fputs("usage: terramark-check LAYOUT...\n", stderr);
     return static_cast<int>(Severity::Unreadable);
   }
   Severity worst = Severity::Good;
-  for (int i = 1; i < argc; ++i) {
-    const Report report = CheckLayout(argv[i]);
-    const std::string lines = FormatReport(argv[i], report);
-    std::fwrite(lines.data(), 1, lines.size(), stdout);
+  // A full disk must not look like a result without faults.
+  bool written = true;
+  for (const std::string& layout : layouts) {
+    const check::Report report = check::CheckLayout(layout);
+    written = files::Print(check::FormatReport(layout, report)) && written;
     worst = std::max(worst, report.Worst);
   }
-  // A full disk must not look like a result without faults.
-  const bool written = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
   return static_cast<int>(written ? worst : Severity::Unreadable);
 }

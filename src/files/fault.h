@@ -1,8 +1,6 @@
 // The reason why something cannot be done with a file.
 #pragma once
 
-#include <sys/types.h>
-
 #include <string>
 #include <tl/expected.hpp>
 
@@ -10,12 +8,14 @@ namespace terramark::files {
 
 class Fault {
  public:
-  /// A call of the system failed with this errno.
+  /// A call of the system failed with this number: an errno, or a system error code of Windows.
   explicit Fault(int error) : error_(error) {}
-  /// The file is not a regular one, according to its mode as stat returns it.
-  static Fault OfKind(mode_t mode);
+  /// The name is that of a folder.
+  static Fault IsFolder();
+  /// The name is that of a pipe, a device or the like.
+  static Fault IsNoPlainFile();
 
-  /// The errno; 0 when the kind of the file is the reason.
+  /// The system's number; 0 when the kind of the file is the reason.
   int Error() const { return error_; }
   /// The text for the user, to stand after a colon: it begins with a small letter and is in
   /// English, like all texts of the editor.
@@ -34,5 +34,13 @@ using Result = tl::expected<Value, Fault>;
 inline tl::unexpected<Fault> Failed(int error) {
   return tl::unexpected(Fault(error));
 }
+
+/// The system's numbers for what the editor itself finds.
+extern const int NoSuchFile;
+extern const int FileTooLarge;
+extern const int InputOutputError;
+
+/// What the system means by a number, in the words of Description.
+std::string ErrorText(int error);
 
 }  // namespace terramark::files

@@ -1,11 +1,7 @@
 #include "files/fileversion.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <ctime>
-
-#include "files/descriptor.h"
+#include <chrono>
 
 namespace terramark::files {
 
@@ -17,10 +13,6 @@ constexpr std::int64_t FineNanoseconds = 20'000'000;
 constexpr std::int64_t CoarseSeconds = 2;
 constexpr std::int64_t NanosecondsPerSecond = 1'000'000'000;
 
-Moment MomentOf(const timespec& time) {
-  return {time.tv_sec, time.tv_nsec};
-}
-
 /// Subtracts from the clock's time: the time of a file can be any number, and adding to it could
 /// overflow.
 Moment Before(const Moment& now, std::int64_t seconds, std::int64_t nanoseconds) {
@@ -31,23 +23,16 @@ Moment Before(const Moment& now, std::int64_t seconds, std::int64_t nanoseconds)
 }  // namespace
 
 Moment Moment::Now() {
-  timespec now{};
-  ::clock_gettime(CLOCK_REALTIME, &now);
-  return MomentOf(now);
+  using namespace std::chrono;
+  const auto now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch());
+  const auto whole = floor<seconds>(now);
+  return {whole.count(), (now - whole).count()};
 }
 
 bool FileVersion::SettledBy(const Moment& now) const {
   const bool coarse = Modified.Nanoseconds == 0 && Changed.Nanoseconds == 0;
   const Moment limit = coarse ? Before(now, CoarseSeconds, 0) : Before(now, 0, FineNanoseconds);
   return std::max(Modified, Changed) < limit;
-}
-
-Result<FileVersion> VersionOf(int file) {
-  struct stat status {};
-  const int error = ErrorOf([&] { return ::fstat(file, &status); });
-  if (error != 0) return Failed(error);
-  return FileVersion{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
-                     MomentOf(status.st_mtim), MomentOf(status.st_ctim)};
 }
 
 }  // namespace terramark::files

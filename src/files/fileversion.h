@@ -4,6 +4,7 @@
 #include <compare>
 #include <cstdint>
 
+#include "files/descriptor.h"
 #include "files/fault.h"
 
 namespace terramark::files {
@@ -35,6 +36,6 @@ struct FileVersion {
 };
 
 /// The present version of an open file.
-Result<FileVersion> VersionOf(int file);
+Result<FileVersion> VersionOf(FileNumber file);
 
 }  // namespace terramark::files

@@ -1,13 +1,9 @@
 #include "files/inplace.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <string>
 
-#include "files/descriptor.h"
+#include "files/openfile.h"
 #include "files/readbytes.h"
 #include "files/writeall.h"
 
@@ -15,33 +11,16 @@ namespace terramark::files {
 
 namespace {
 
-constexpr off_t MaxKept = off_t{64} << 20;
+constexpr std::uintmax_t MaxKept = std::uintmax_t{64} << 20;
 
-/// Reads the whole file. One that is not regular, or too large to keep in memory, is refused.
-Result<std::string> ReadAll(int file) {
-  struct stat status {};
-  const int error = ErrorOf([&] { return ::fstat(file, &status); });
-  if (error != 0) return Failed(error);
-  if (!S_ISREG(status.st_mode)) return Failed(EINVAL);
-  if (status.st_size > MaxKept) return Failed(EFBIG);
-  const auto size = static_cast<std::size_t>(status.st_size);
-  auto bytes = ReadBytes(file, size);
-  if (bytes && bytes->size() != size) return Failed(EIO);  // it is being cut short just now
+/// Reads the whole file. One that is too large to keep in memory is refused.
+Result<std::string> ReadAll(const OpenedFile& file) {
+  if (file.Size > MaxKept) return Failed(FileTooLarge);
+  const auto size = static_cast<std::size_t>(file.Size);
+  auto bytes = ReadBytes(file.File.Number(), size);
+  // It is being cut short just now.
+  if (bytes && bytes->size() != size) return Failed(InputOutputError);
   return bytes;
-}
-
-/// All functions below return 0 or an errno.
-int Truncate(int file, std::size_t size) {
-  return ErrorOf([&] { return ::ftruncate(file, static_cast<off_t>(size)); });
-}
-
-/// Reserves the disk space, so that a full disk fails before any byte of the old text is
-/// overwritten. The size of the file stays. Where space cannot be reserved, writing will find out.
-int MakeRoom(int file, std::size_t size) {
-  if (size == 0) return 0;
-  const auto length = static_cast<off_t>(size);
-  const int error = ErrorOf([&] { return ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, length); });
-  return error == EOPNOTSUPP || error == ENOSYS || error == EINVAL ? 0 : error;
 }
 
 /// How far overwriting the old bytes came.
@@ -51,7 +30,7 @@ struct Progress {
   int Error = 0;
 };
 
-Progress Overwrite(int file, std::string_view text, std::size_t oldSize) {
+Progress Overwrite(FileNumber file, std::string_view text, std::size_t oldSize) {
   Progress done{.Text = WriteAll(file, text)};
   done.Error = done.Text.Error;
   // A file that already has the right size is not truncated: that could only fail.
@@ -63,7 +42,7 @@ Progress Overwrite(int file, std::string_view text, std::size_t oldSize) {
   return done;
 }
 
-bool PutBack(int file, std::string_view old, const Progress& done) {
+bool PutBack(FileNumber file, std::string_view old, const Progress& done) {
   const std::size_t gone = done.Text.Bytes;
   if (gone == 0 && !done.Cut) return true;
   const std::size_t put = WriteAll(file, old).Bytes;
@@ -74,24 +53,29 @@ bool PutBack(int file, std::string_view old, const Progress& done) {
   return put >= lost && sized && Flush(file) == 0;
 }
 
+tl::unexpected<InPlaceFault> Kept(Fault why) {
+  return tl::unexpected(InPlaceFault{why});
+}
+
 }  // namespace
 
-InPlaceResult WriteInPlace(const std::filesystem::path& path, std::string_view text) {
-  const Descriptor file(
-      Uninterrupted([&] { return ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC); }));
-  if (!file.IsOpen()) return {InPlace::Kept, errno};
-  const Result<std::string> old = ReadAll(file.Number());
-  if (!old) return {InPlace::Kept, old.error().Error()};
+tl::expected<void, InPlaceFault> WriteInPlace(const std::filesystem::path& path,
+                                              std::string_view text) {
+  const auto opened = OpenToOverwrite(path);
+  if (!opened) return Kept(opened.error());
+  const FileNumber file = opened->File.Number();
+  const Result<std::string> old = ReadAll(*opened);
+  if (!old) return Kept(old.error());
 
-  if (const int error = MakeRoom(file.Number(), text.size()); error != 0) {
+  // So that a full disk fails before any byte of the old text is overwritten.
+  if (const int error = Reserve(file, text.size()); error != 0) {
     // Frees the space that was reserved beyond the old text.
-    Truncate(file.Number(), old->size());
-    return {InPlace::Kept, error};
+    Truncate(file, old->size());
+    return Kept(Fault(error));
   }
-  const Progress done = Overwrite(file.Number(), text, old->size());
-  if (done.Error == 0) return {InPlace::Written, 0};
-  const bool whole = PutBack(file.Number(), *old, done);
-  return {whole ? InPlace::Kept : InPlace::Damaged, done.Error};
+  const Progress done = Overwrite(file, text, old->size());
+  if (done.Error == 0) return {};
+  return tl::unexpected(InPlaceFault{Fault(done.Error), !PutBack(file, *old, done)});
 }
 
 }  // namespace terramark::files

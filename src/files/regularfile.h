@@ -11,6 +11,7 @@
 #include "files/descriptor.h"
 #include "files/fault.h"
 #include "files/fileversion.h"
+#include "files/openfile.h"
 
 namespace terramark::files {
 
@@ -21,10 +22,10 @@ class RegularFile {
   static Result<RegularFile> Open(const std::filesystem::path& path);
 
   /// Bytes at the time of opening.
-  std::uintmax_t Size() const { return size_; }
+  std::uintmax_t Size() const { return opened_.Size; }
 
   /// The file's version now.
-  Result<FileVersion> Version() const { return VersionOf(file_.Number()); }
+  Result<FileVersion> Version() const { return VersionOf(opened_.File.Number()); }
 
   /// The bytes from the start up to Size(), at most `most`. Fewer when another program has
   /// truncated the file meanwhile; a read that fails gives a fault, never a short result.
@@ -34,12 +35,9 @@ class RegularFile {
   Result<std::size_t> ReadAt(std::uintmax_t offset, std::span<char> room) const;
 
  private:
-  explicit RegularFile(Descriptor file) : file_(std::move(file)) {}
-  /// Also detects files that only look like regular ones.
-  Result<> TakeSize();
+  explicit RegularFile(OpenedFile opened) : opened_(std::move(opened)) {}
 
-  Descriptor file_;
-  std::uintmax_t size_ = 0;
+  OpenedFile opened_;
 };
 
 /// Opens such a file and returns its bytes from the start, at most `most`.

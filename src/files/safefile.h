@@ -2,13 +2,11 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
-#include <string>
+#include <memory>
 #include <string_view>
 
-#include "files/descriptor.h"
 #include "files/fault.h"
-#include "files/permissions.h"
+#include "files/replacementfile.h"
 
 namespace terramark::files {
 
@@ -38,10 +36,6 @@ namespace terramark::files {
 class SafeFile {
  public:
   explicit SafeFile(std::filesystem::path target);
-  SafeFile(const SafeFile&) = delete;
-  SafeFile& operator=(const SafeFile&) = delete;
-  /// Removes the temporary file, unless it has become the target or is kept.
-  ~SafeFile();
 
   /// Checks whether the target can be written, as far as that is known beforehand. Touches nothing
   /// but the temporary file.
@@ -57,34 +51,13 @@ class SafeFile {
   const std::filesystem::path& Kept() const { return kept_; }
 
  private:
-  Result<> FindTarget();
   Result<> WriteOver(std::string_view text);
+  void KeepText();
 
-  // These return 0 or an errno.
-  int Complete(std::string_view text);
-  int OpenUnnamed();
-  int OpenNamed();
-  int OpenTemporary(const std::filesystem::path& path, int flags);
-  int TakeTarget(std::string_view text);
-  int NameTemporary(std::string_view text);
-  int TakeOldName();
-  int TakeNewName();
-  int TakeReservedName();
-  int LinkTo(const std::filesystem::path& name) const;
-  template <typename Make>
-  int MakeTemporary(Make make);
-
-  std::filesystem::path Folder() const;
-
-  std::filesystem::path target_;
-  std::optional<Permissions> old_;   // of the target, when there is one
-  Descriptor file_;                  // the temporary file while it is open
-  std::filesystem::path temporary_;  // its name, once it has one
-  bool whole_ = true;                // false while the temporary file has a part of the text
-  bool mayReplace_ = true;           // whether nobody would lose a right by it
+  std::unique_ptr<ReplacementFile> new_;
+  int refusal_ = 0;  // why the folder takes no temporary file
   bool damaged_ = false;
   std::filesystem::path kept_;
-  int refusal_ = 0;  // why the folder takes no temporary file
 };
 
 }  // namespace terramark::files

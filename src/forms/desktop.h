@@ -85,9 +85,8 @@ class Desktop {
   /// gives the empty picture. A fault when the file is missing or cannot be decoded. Throws
   /// std::bad_alloc when memory runs out.
   virtual LoadedPicture LoadPicture(const std::string& path, int width, int height) = 0;
-  /// The name for the file system, in its own encoding, of a path in 8-bit text. The FileName that
-  /// the dialog returned last means the file that was chosen there, whatever characters are "?" in
-  /// it.
+  /// The name for the file system, in UTF-8, of a path in 8-bit text. The FileName that the dialog
+  /// returned last means the file that was chosen there, whatever characters are "?" in it.
   virtual std::string NativePath(const std::string& path) = 0;
   /// Makes the folder of a file the current one, where relative paths begin. A path without a
   /// folder changes nothing, nor does a folder that cannot be entered.

@@ -1,6 +1,5 @@
 #include "paint/cp1252.h"
 
-#include <QFile>
 #include <QList>
 #include <algorithm>
 
@@ -45,14 +44,6 @@ QString ComposedForm(const QString& text) {
     composed += text.sliced(from, end - from).normalized(QString::NormalizationForm_C);
   }
   return composed;
-}
-
-std::string InSystemEncoding(const std::string& text) {
-  return QFile::encodeName(FromCp1252(text)).toStdString();
-}
-
-std::string FromSystemEncoding(const std::string& name) {
-  return ToCp1252(QFile::decodeName(name.c_str()));
 }
 
 bool FitsCp1252(const QString& text) {

@@ -1,5 +1,4 @@
-// Converts between the editor's 8-bit text, code page 1252, and Unicode, for what is shown and for
-// the names of files.
+// Converts between the editor's 8-bit text, code page 1252, and Unicode.
 #pragma once
 
 #include <QString>
@@ -14,10 +13,6 @@ std::string ToCp1252(const QString& text);
 
 /// The text with letters and marks composed where possible, in linear time.
 QString ComposedForm(const QString& text);
-
-/// The text in the encoding of the system's file names; characters that one of both lacks are lost.
-std::string InSystemEncoding(const std::string& text);
-std::string FromSystemEncoding(const std::string& name);
 
 /// Whether the text is the same after a conversion to 8-bit text and back.
 bool FitsCp1252(const QString& text);

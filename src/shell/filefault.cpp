@@ -7,6 +7,7 @@
 #include "forms/geometry.h"
 #include "shell/bars.h"
 #include "shell/colours.h"
+#include "shell/filenames.h"
 #include "shell/form1.h"
 
 namespace terramark {
@@ -22,7 +23,7 @@ constexpr std::size_t MaxPathChars = 500;
 /// Keeps so many characters of a path around an ellipsis: first those of the file's name, then
 /// those at both ends of the folders.
 std::string ElidePath(const std::string& path, std::size_t kept) {
-  const std::size_t folders = path.rfind('/') + 1;  // 0 without any
+  const std::size_t folders = FolderLength(path);
   const std::size_t name = path.size() - folders;
   // If the name alone is too long, no folder is shown.
   const std::size_t from = kept < name ? folders : 0;

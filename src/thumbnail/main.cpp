@@ -11,15 +11,16 @@
 #include <utility>
 
 #include "canvas/showlayout.h"
+#include "document/codepage.h"
 #include "files/currentfolder.h"
 #include "files/regularfile.h"
 #include "files/safefile.h"
 #include "layoutfile/layoutreader.h"
-#include "paint/cp1252.h"
 #include "paint/mapimage.h"
 #include "paint/windowless.h"
 #include "shell/backdrop.h"
 #include "shell/clearmap.h"
+#include "shell/filenames.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
 #include "thumbnail/ending.h"
@@ -96,12 +97,11 @@ void Show(const std::filesystem::path& path, const std::filesystem::path& png, i
   ShowHead(form, layout);
   PlaceMarkers(form, layout);
   if (const ShowResult shown = ShowMap(form); !shown) {
-    Refuse("cannot read picture " + paint::InSystemEncoding(form.PictureFile) + ": " +
-           shown.error());
+    Refuse("cannot read picture " + ToUtf8(form.PictureFile) + ": " + shown.error());
   }
   const auto bytes = paint::MapAsPng(form.Picture1, side);
   if (!bytes) Refuse("there is no picture to show");
-  Write(png, *bytes, {path, desktop.NativePath(form.PictureFile)});
+  Write(png, *bytes, {path, FilePath(form, form.PictureFile)});
 }
 
 }  // namespace

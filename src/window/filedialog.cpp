@@ -15,11 +15,13 @@
 #include <QListView>
 #include <QMimeDatabase>
 #include <QScreen>
-#include <QSettings>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTreeView>
 #include <algorithm>
+#if QT_CONFIG(settings)
+#include <QSettings>
+#endif
 
 #include "paint/cp1252.h"
 #include "shell/filenames.h"
@@ -62,9 +64,12 @@ class KindByName : public QFileIconProvider {
 };
 
 /// Otherwise the dialog would restore columns and folders from the last run, also of other
-/// programs. Only layouts outlive a run of the editor.
+/// programs. Only layouts outlive a run of the editor. On Windows, where this would not help, Qt is
+/// built without settings.
 void ForgetSettings() {
+#if QT_CONFIG(settings)
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+#endif
 }
 
 /// Makes the dialog as wide as its columns, as far as the screen allows.
@@ -156,7 +161,8 @@ class CompleterPopups final : public QObject {
   }
 };
 
-/// Adds the samples, where dist/CMakeLists.txt installs them, to the usual places.
+/// Adds the samples, where dist/CMakeLists.txt installs them, to the usual places. On Windows they
+/// lie beside the program, and its dialog takes no places.
 void AddSamples(QFileDialog& chooser) {
   const QDir samples(QCoreApplication::applicationDirPath() + "/../share/terramark/samples");
   if (!samples.exists()) return;

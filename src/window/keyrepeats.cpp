@@ -25,21 +25,9 @@ bool IsNew(const QEvent& surface) {
          QPlatformSurfaceEvent::SurfaceCreated;
 }
 
-/// Null where the platform is not X11, or the server cannot report repeats.
-std::unique_ptr<X11Keyboard> ConnectX11() {
-  // Other platforms may have an X11 connection too, beside their own keyboards.
-  if (QGuiApplication::platformName() != "xcb") return nullptr;
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return nullptr;
-  auto keyboard = std::make_unique<X11Keyboard>(x11->connection());
-  if (!keyboard->AskForDetectableRepeats()) return nullptr;
-  qGuiApp->installNativeEventFilter(keyboard.get());
-  return keyboard;
-}
-
 }  // namespace
 
-KeyRepeats::KeyRepeats() : x11_(ConnectX11()) {
+KeyRepeats::KeyRepeats() : source_(ConnectRepeatSource()) {
   qGuiApp->installEventFilter(this);
 }
 
@@ -49,7 +37,7 @@ bool KeyRepeats::eventFilter(QObject* watched, QEvent* event) {
   if (window == nullptr || event == copy_) return false;
   switch (event->type()) {
     case QEvent::PlatformSurface:
-      if (x11_ && IsNew(*event)) x11_->Watch(*window);
+      if (source_ && IsNew(*event)) source_->Watch(*window);
       return false;
     // A key that a shortcut takes comes as this event only.
     case QEvent::ShortcutOverride:
@@ -63,7 +51,7 @@ bool KeyRepeats::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool KeyRepeats::IsRepeat(const QKeyEvent& press) const {
-  return x11_ ? X11Keyboard::IsRepeat(press) : press.isAutoRepeat();
+  return source_ ? source_->IsRepeat(press) : press.isAutoRepeat();
 }
 
 bool KeyRepeats::WentDownIn(const QWindow& window, const QKeyEvent& event) const {
@@ -84,7 +72,7 @@ bool KeyRepeats::Pressed(QWindow& window, QKeyEvent& event) {
 }
 
 bool KeyRepeats::Released(QWindow& window, QKeyEvent& event) {
-  const bool repeat = x11_ == nullptr && event.isAutoRepeat();
+  const bool repeat = source_ == nullptr && event.isAutoRepeat();
   const bool here = WentDownIn(window, event);
   if (!repeat) down_.erase(ScanCodeOf(event));
   return !here || ResendMarked(window, event, repeat);

@@ -9,7 +9,7 @@
 #include <memory>
 #include <unordered_map>
 
-#include "window/x11keyboard.h"
+#include "window/repeatsource.h"
 
 namespace terramark::window {
 
@@ -35,8 +35,8 @@ class KeyRepeats : public QObject {
   /// Returns whether the event is that copy.
   bool ResendMarked(QWindow& window, QKeyEvent& event, bool repeat);
 
-  /// Null where the platform marks repeats itself.
-  std::unique_ptr<X11Keyboard> x11_;
+  /// Null where the events are marked already.
+  std::unique_ptr<RepeatSource> source_;
   /// The window in which each held key was pressed, by ScanCodeOf.
   std::unordered_map<std::uint32_t, QPointer<QWindow>> down_;
   /// The copy that is being delivered.

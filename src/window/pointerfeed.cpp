@@ -120,13 +120,14 @@ void PointerFeed::Release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifie
 }
 
 /// Whether a place of the form is visible: the window is large enough, the form is scrolled there,
-/// and no other window covers it. Only X11 knows of the windows of other programs, and then reports
-/// no widget of ours there.
+/// and no other window covers it. Where the platform knows of the windows of other programs, it
+/// reports none of ours there.
 bool PointerFeed::IsUncovered(QPoint at) const {
   const bool inView = inside_.parentWidget()->rect().contains(inside_.mapToParent(at));
   if (!inView || !inside_.rect().contains(at)) return false;
   const QWindow* over = QGuiApplication::topLevelAt(inside_.mapToGlobal(at));
-  if (over == nullptr) return QGuiApplication::platformName() != "xcb";
+  const QString platform = QGuiApplication::platformName();
+  if (over == nullptr) return platform != "xcb" && platform != "windows";
   return over == inside_.window()->windowHandle();
 }
 

@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -12,7 +11,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "document/codepage.h"
 #include "files/currentfolder.h"
+#include "files/pathof.h"
 #include "helpview/showhelp.h"
 #include "paint/cp1252.h"
 #include "paint/elidedtext.h"
@@ -78,8 +79,8 @@ void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
   const QString folder = chosen_.isEmpty() ? QDir::currentPath() : QFileInfo(chosen_).path();
   const QString path = AskForFile(dialog, folder, window_);
   if (path.isEmpty()) return;
-  TakeChosenPath(dialog, path);
-  chosen_ = path;
+  chosen_ = QDir::toNativeSeparators(path);
+  TakeChosenPath(dialog, chosen_);
 }
 
 void QtDesktop::ShowModal(forms::Form& form) {
@@ -124,16 +125,16 @@ forms::TextExtent QtDesktop::MeasureText(const std::string& text) {
 
 forms::LoadedPicture QtDesktop::LoadPicture(const std::string& path, int width, int height) {
   if (path.empty()) return std::make_shared<forms::Raster>();
-  return picture_.Load(NativePath(path), width, height);
+  return picture_.Load(files::PathOf(NativePath(path)), width, height);
 }
 
 std::string QtDesktop::NativePath(const std::string& path) {
-  if (path == paint::ToCp1252(chosen_)) return QFile::encodeName(chosen_).toStdString();
-  return paint::InSystemEncoding(path);
+  if (path == paint::ToCp1252(chosen_)) return chosen_.toStdString();
+  return ToUtf8(path);
 }
 
 void QtDesktop::EnterFolderOf(const std::string& path) {
-  files::EnterFolderOf(NativePath(path));
+  files::EnterFolderOf(files::PathOf(NativePath(path)));
 }
 
 void QtDesktop::End(int status) {

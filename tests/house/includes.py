@@ -12,8 +12,8 @@ WITH_QT = {"bitmap": {"QtCore"}, "metafile": {"QtCore", "QtGui"}, "pictures": {"
            "paint": {"QtCore", "QtGui"}, "widgets": WIDGETS, "helpview": WIDGETS, "window": WIDGETS}
 CMAKE = (TOP / "CMakeLists.txt").read_text()
 ROOMS = {name: links.split() for name, links in re.findall(
-    r"^terramark_room\((\w+)([^)]*)\)", CMAKE, re.M)}
-PROGRAMS = set(re.findall(r"^add_executable\(\S+ (\w+)/main\.cpp\)", CMAKE, re.M))
+    r"^ *terramark_room\((\w+)([^)]*)\)", CMAKE, re.M)}
+PROGRAMS = set(re.findall(r"^ *add_executable\(.* (\w+)/main\.cpp\)", CMAKE, re.M))
 
 
 def linked(name):

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -14,6 +14,7 @@
 #include "shell/startup.h"
 #include "support/markertext.h"
 #include "support/scripteddesktop.h"
+#include "support/temporaryfolder.h"
 #include "support/tinylayout.h"
 
 namespace terramark {
@@ -21,20 +22,20 @@ namespace terramark {
 class LayoutFolder : public testing::Test, public ScriptedDesktop {
  public:
   LayoutFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "layoutXXXXXX").string();
-    Folder = mkdtemp(pattern.data());
     AddPicture(TinyPicture);
     Form_Load(Form);
   }
-  ~LayoutFolder() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(Folder, ignored);
+
+  std::string NativePath(const std::string& path) override { return FileOf(path).string(); }
+  /// In the folder even where the name has a folder of its own.
+  std::filesystem::path FileOf(std::string name) const {
+    std::ranges::replace_if(
+        name, [](char byte) { return byte == ':' || byte == '\\'; }, '-');
+    return Folder / name;
   }
 
-  std::string NativePath(const std::string& path) override { return Folder / path; }
-
   void Put(const std::string& name, const std::string& bytes) {
-    std::ofstream(Folder / name, std::ios::binary) << bytes;
+    std::ofstream(FileOf(name), std::ios::binary) << bytes;
   }
   void AddPicture(const std::string& name) {
     Put(name, "a picture");
@@ -52,12 +53,13 @@ class LayoutFolder : public testing::Test, public ScriptedDesktop {
   std::string Saved(const std::string& name) {
     FileNames = {name};
     SaveCFG_MouseUp(Form);
-    return BytesOf(Folder / name);
+    return BytesOf(FileOf(name));
   }
 
   const std::string Tiny = TinyWith({});
   const std::string TinyPicture = "C:\\MAPS\\TINY.BMP";
-  std::filesystem::path Folder;
+  const TemporaryFolder Temporary;
+  const std::filesystem::path& Folder = Temporary.Path();
   Form1 Form{*this};
 };
 

@@ -1,6 +1,7 @@
-#include "window/x11keyboard.h"
+#include "window/posix/x11keyboard.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <cstdlib>
 #include <memory>
 #include <type_traits>
@@ -50,7 +51,7 @@ void X11Keyboard::Watch(QWindow& window) {
   xcb_change_window_attributes(connection_, id, XCB_CW_EVENT_MASK, &mask);
 }
 
-bool X11Keyboard::IsRepeat(const QKeyEvent& press) {
+bool X11Keyboard::IsRepeat(const QKeyEvent& press) const {
   return (press.nativeModifiers() & RepeatBit) != 0;
 }
 
@@ -79,6 +80,17 @@ bool X11Keyboard::nativeEventFilter(const QByteArray& type, void* message, qintp
       break;
   }
   return false;
+}
+
+std::unique_ptr<RepeatSource> ConnectRepeatSource() {
+  // Other platforms may have an X11 connection too, beside their own keyboards.
+  if (QGuiApplication::platformName() != "xcb") return nullptr;
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) return nullptr;
+  auto keyboard = std::make_unique<X11Keyboard>(x11->connection());
+  if (!keyboard->AskForDetectableRepeats()) return nullptr;
+  qGuiApp->installNativeEventFilter(keyboard.get());
+  return keyboard;
 }
 
 }  // namespace terramark::window

@@ -1,9 +1,9 @@
-#include "files/permissions.h"
+#include "files/posix/permissions.h"
 
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "files/descriptor.h"
+#include "files/posix/calls.h"
 
 namespace terramark::files {
 

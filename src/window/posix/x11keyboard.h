@@ -4,17 +4,17 @@
 #include <xcb/xcb.h>
 
 #include <QAbstractNativeEventFilter>
-#include <QKeyEvent>
-#include <QWindow>
 #include <bitset>
 #include <cstdint>
+
+#include "window/repeatsource.h"
 
 namespace terramark::window {
 
 /// By default an X server reports a repeat as a release and a press, like a key that is struck
 /// again. With detectable repeats it reports presses alone: then a press of a key that is down is a
 /// repeat, and each release is a release.
-class X11Keyboard final : public QAbstractNativeEventFilter {
+class X11Keyboard final : public RepeatSource, public QAbstractNativeEventFilter {
  public:
   /// The connection must be that of the application.
   explicit X11Keyboard(xcb_connection_t* connection) : connection_(connection) {}
@@ -24,9 +24,8 @@ class X11Keyboard final : public QAbstractNativeEventFilter {
   bool AskForDetectableRepeats();
   /// Has the server report which keys are down each time that the window gets the focus: what was
   /// pressed or released before went to other windows.
-  void Watch(QWindow& window);
-  /// Whether the key was down already when this press of it, in a watched window, was sent.
-  static bool IsRepeat(const QKeyEvent& press);
+  void Watch(QWindow& window) override;
+  bool IsRepeat(const QKeyEvent& press) const override;
 
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
