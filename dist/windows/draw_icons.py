@@ -3,8 +3,8 @@
 
     dist/windows/draw_icons.py FOLDER
 
-FOLDER gets terramark.ico, the drawing as it stands, and layout.ico, a sheet of paper with the map
-of the drawing on it, for the files *.tml.
+FOLDER gets terramark.ico, the drawing as it stands; layout.ico, a sheet of paper with the map of
+the drawing on it, for the files *.tml; and setup.bmp, the picture of the setup's last page.
 """
 import struct
 import sys
@@ -88,7 +88,22 @@ def icon(colour_at, exact_sizes):
     return directory + b"".join(images)
 
 
+def setup_picture():
+    """Gives a bitmap of the size that setups have, with the map of the drawing in the sea."""
+    width, height, scale = 164, 314, 5  # a row fills whole words
+    left, top = (width - 32 * scale) // 2, (height - 32 * scale) // 3
+    body = b""
+    for y in range(height - 1, -1, -1):
+        for x in range(width):
+            across, down = (x - left) // scale, (y - top) // scale
+            inside = 0 < across < 31 and 0 < down < 31
+            body += bytes(reversed(COLOURS[ROWS[down][across] if inside else "B"]))
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(body), 0, 0, 0, 0)
+    return struct.pack("<2sIII", b"BM", 54 + len(body), 0, 54) + header + body
+
+
 folder = Path(sys.argv[1])
 folder.mkdir(parents=True, exist_ok=True)
 (folder / "terramark.ico").write_bytes(icon(drawing, [size for size in SIZES if size % 32 == 0]))
 (folder / "layout.ico").write_bytes(icon(paper, []))
+(folder / "setup.bmp").write_bytes(setup_picture())

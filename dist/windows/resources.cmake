@@ -5,7 +5,7 @@
 function(terramark_windows_resources target description)
   set(source ${PROJECT_SOURCE_DIR}/dist/windows)
   set(folder ${PROJECT_BINARY_DIR}/resources)
-  set(icons ${folder}/terramark.ico ${folder}/layout.ico)
+  set(icons ${folder}/terramark.ico ${folder}/layout.ico ${folder}/setup.bmp)
   if(NOT TARGET terramark_icons)
     find_program(PYTHON3 python3 REQUIRED)
     add_custom_command(OUTPUT ${icons}

@@ -1,6 +1,6 @@
 ; Sets Terramark up, and makes the uninstaller. dist/make-windows gives VERSION (1.0), NUMBERS
-; (1.0.0.0), COPYRIGHT, ICON, OUTPUT, and LIST, a file with the macros InstallFiles, DeleteFiles and
-; RemoveFolders.
+; (1.0.0.0), COPYRIGHT, OUTPUT, PICTURES, the folder that draw_icons.py filled, and LIST, a file
+; with the macros InstallFiles, DeleteFiles and RemoveFolders.
 ;
 ;   setup.exe [/S] [/AllUsers | /CurrentUser] [/D=FOLDER]
 ;   uninstall.exe [/S]
@@ -44,8 +44,9 @@ VIAddVersionKey "LegalCopyright" "${COPYRIGHT}"
 !define TYPE_KEY "Software\Classes\Terramark.Layout"
 !define ENDING_KEY "Software\Classes\.tml"
 
-!define MUI_ICON "${ICON}"
-!define MUI_UNICON "${ICON}"
+!define MUI_ICON "${PICTURES}/terramark.ico"
+!define MUI_UNICON "${PICTURES}/terramark.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURES}/setup.bmp"
 Page custom ModePage LeaveModePage
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -235,7 +236,7 @@ Function LeaveModePage
   Call UseMode
 FunctionEnd
 
-; By way of the start menu, since what an administrator's setup opens has the administrator's rights.
+; By way of the start menu: what an administrator's setup opens itself has the same rights.
 Function OpenTerramark
   Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\Terramark.lnk"'
 FunctionEnd
@@ -336,7 +337,7 @@ Function un.onInit
           Quit
         ${EndIf}
       ${EndIf}
-      !insertmacro Stop "Terramark is set up for all users. Only an administrator can remove it." 740
+      !insertmacro Stop "Only an administrator can remove Terramark for all users." 740
     ${EndIf}
   ${EndIf}
 FunctionEnd
