@@ -26,6 +26,14 @@ function(terramark_windows_resources target description)
   string(REPLACE ";" "." dotted "${numbers}")
   string(REPLACE ";" "," numbers "${numbers}")
   file(STRINGS ${PROJECT_SOURCE_DIR}/LICENSE copyright REGEX "^Copyright" LIMIT_COUNT 1)
+  # The names of settings in a manifest begin with a web address. The project writes down no host,
+  # so it comes from the program that makes the setup, which writes manifests too.
+  find_program(MAKENSIS makensis REQUIRED)
+  file(STRINGS ${MAKENSIS} settings REGEX "/SMI/2016/WindowsSettings" LIMIT_COUNT 1)
+  string(REGEX MATCH "[a-z]+://[a-z.]+/SMI" settings "${settings}")
+  if(NOT settings)
+    message(FATAL_ERROR "${MAKENSIS} does not name the settings of a manifest")
+  endif()
   configure_file(${source}/terramark.rc.in ${folder}/${target}.rc @ONLY)
   configure_file(${source}/terramark.manifest.in ${folder}/${target}.manifest @ONLY)
   # The resource compiler reads these by name alone, so that no rule knows of them.

@@ -73,6 +73,13 @@ TEST_F(ShellTest, AFaultLeavesOutTheMiddleOfALongPath) {
   EXPECT_EQ(shown(f + name + f, name), "nnnnnnnnnnnn...ffffffffffff" + name);
 }
 
+TEST_F(ShellTest, AFolderEndsAtTheSystemsOwnSeparators) {
+  const bool windows = std::filesystem::path::preferred_separator != '/';
+  EXPECT_EQ(FolderLength("first.bmp"), 0U);
+  EXPECT_EQ(FolderLength("maps/first.bmp"), 5U);
+  EXPECT_EQ(FolderLength("C:\\maps/old\\first.bmp"), windows ? 12U : 8U);
+}
+
 TEST_F(ShellTest, OnlyARegularFileThatCanBeReadIsThere) {
   const std::string file = SAMPLES "/europe.bmp";
   EXPECT_EQ(FileExists(Form, file), 1);
