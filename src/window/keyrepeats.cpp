@@ -50,8 +50,8 @@ bool KeyRepeats::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-bool KeyRepeats::IsRepeat(const QKeyEvent& press) const {
-  return source_ ? source_->IsRepeat(press) : press.isAutoRepeat();
+bool KeyRepeats::IsRepeat(const QKeyEvent& event) {
+  return source_ ? source_->IsRepeat(event) : event.isAutoRepeat();
 }
 
 bool KeyRepeats::WentDownIn(const QWindow& window, const QKeyEvent& event) const {
@@ -72,7 +72,7 @@ bool KeyRepeats::Pressed(QWindow& window, QKeyEvent& event) {
 }
 
 bool KeyRepeats::Released(QWindow& window, QKeyEvent& event) {
-  const bool repeat = source_ == nullptr && event.isAutoRepeat();
+  const bool repeat = IsRepeat(event);
   const bool here = WentDownIn(window, event);
   if (!repeat) down_.erase(ScanCodeOf(event));
   return !here || ResendMarked(window, event, repeat);

@@ -28,7 +28,7 @@ class KeyRepeats : public QObject {
  private:
   bool Pressed(QWindow& window, QKeyEvent& event);
   bool Released(QWindow& window, QKeyEvent& event);
-  bool IsRepeat(const QKeyEvent& press) const;
+  bool IsRepeat(const QKeyEvent& event);
   /// Whether the key was pressed in the window.
   bool WentDownIn(const QWindow& window, const QKeyEvent& event) const;
   /// An event with the right mark passes. Otherwise a marked copy is sent in its place, at once.

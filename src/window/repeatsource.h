@@ -16,11 +16,12 @@ class RepeatSource {
 
   /// To be called for each window when it is created, and before it is shown.
   virtual void Watch(QWindow& window) = 0;
-  /// Whether the key was down already when this press of it, in a watched window, was sent.
-  virtual bool IsRepeat(const QKeyEvent& press) const = 0;
+  /// Whether the key was down already when this event of it was sent to a watched window; a release
+  /// may be that of a repeat. To be asked once for each event, in their order.
+  virtual bool IsRepeat(const QKeyEvent& event) = 0;
 };
 
-/// Null where the system marks repeats itself and Qt passes the marks on, or where it cannot tell.
+/// Null where Qt's events say it, or where nobody can tell.
 std::unique_ptr<RepeatSource> ConnectRepeatSource();
 
 }  // namespace terramark::window

@@ -51,8 +51,8 @@ void X11Keyboard::Watch(QWindow& window) {
   xcb_change_window_attributes(connection_, id, XCB_CW_EVENT_MASK, &mask);
 }
 
-bool X11Keyboard::IsRepeat(const QKeyEvent& press) const {
-  return (press.nativeModifiers() & RepeatBit) != 0;
+bool X11Keyboard::IsRepeat(const QKeyEvent& event) {
+  return event.type() != QEvent::KeyRelease && (event.nativeModifiers() & RepeatBit) != 0;
 }
 
 bool X11Keyboard::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/) {

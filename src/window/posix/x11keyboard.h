@@ -25,7 +25,7 @@ class X11Keyboard final : public RepeatSource, public QAbstractNativeEventFilter
   /// Has the server report which keys are down each time that the window gets the focus: what was
   /// pressed or released before went to other windows.
   void Watch(QWindow& window) override;
-  bool IsRepeat(const QKeyEvent& press) const override;
+  bool IsRepeat(const QKeyEvent& event) override;
 
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
