@@ -154,7 +154,6 @@ int WindowsReplacement::TakeTarget(std::string_view text) {
 }
 
 int WindowsReplacement::Complete(std::string_view text) {
-  whole_ = false;
   int error = WriteAll(file_.Number(), text).Error;
   if (error == 0) error = Flush(file_.Number());
   file_.Close();

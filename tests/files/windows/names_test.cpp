@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -109,8 +110,12 @@ TEST(WindowsFiles, TellWhoHasThemOpenAndStayAsTheyAre) {
   EXPECT_EQ(Save(map, "x"), "the file is read-only");
   EXPECT_EQ(Load(map), "new");
   ASSERT_TRUE(SetFileAttributesW(map.c_str(), FILE_ATTRIBUTE_NORMAL));
-  const auto files = fs::directory_iterator(folder.Path());
-  EXPECT_EQ(std::distance(begin(files), end(files)), 1);
+  const fs::path rival = folder.Path() / "rival.tml";
+  SafeFile late(rival);
+  ASSERT_TRUE(late.Open());
+  std::ofstream(rival) << "rival";
+  EXPECT_EQ(late.Replace("late").error().Description(), "file exists");
+  EXPECT_EQ(Load(rival), "rival");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 // the calls here.
 #include <gtest/gtest.h>
 #include <windows.h>
+// After the header above.
+#include <sddl.h>
 
 #include <algorithm>
 #include <array>
@@ -25,6 +27,8 @@ struct Strike {
   std::string Hit{};     // the call that was struck
   bool Created = false;  // before it, the temporary file was there
   bool Named = false;    // before it, that had the target's name
+  bool Loose = false;    // what has been written is not flushed
+  bool Rash = false;     // the name was taken while it was so
 };
 
 Strike* Armed = nullptr;
@@ -55,7 +59,15 @@ BOOL Naming(const char* name, LPCWSTR target, LPCWSTR backup, Real real) {
   const bool halfway = error == AllFail || error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
   if (halfway && backup != nullptr) MoveFileW(target, backup);
   const BOOL done = Call(name, FALSE, real);
-  if (Armed != nullptr && done != FALSE) Armed->Named = Armed->Hit.empty();
+  if (Armed != nullptr && done != FALSE) {
+    Armed->Named = Armed->Hit.empty();
+    Armed->Rash = Armed->Loose;
+  }
+  return done;
+}
+
+BOOL Written(bool loose, BOOL done) {
+  if (Armed != nullptr && done != FALSE) Armed->Loose = loose;
   return done;
 }
 
@@ -90,11 +102,14 @@ WRAP(HANDLE, CreateFileW,
                 return e == CREATE_NEW ? Created(file) : file; }))
 PLAIN(GetFileSizeEx, (HANDLE a, PLARGE_INTEGER b), (a, b))
 PLAIN(ReadFile, (HANDLE a, LPVOID b, DWORD c, LPDWORD d, LPOVERLAPPED e), (a, b, c, d, e))
-PLAIN(WriteFile, (HANDLE a, LPCVOID b, DWORD c, LPDWORD d, LPOVERLAPPED e),
-      (a, b, Armed != nullptr ? std::min<DWORD>(c, 500) : c, d, e))
+WRAP(BOOL, WriteFile, (HANDLE a, LPCVOID b, DWORD c, LPDWORD d, LPOVERLAPPED e),
+     Written(true, Call("WriteFile", FALSE, [&] {
+       return real(a, b, Armed != nullptr ? std::min<DWORD>(c, 500) : c, d, e);
+     })))
 PLAIN(SetFileInformationByHandle, (HANDLE a, FILE_INFO_BY_HANDLE_CLASS b, LPVOID c, DWORD d),
       (a, b, c, d))
-PLAIN(FlushFileBuffers, (HANDLE a), (a))
+WRAP(BOOL, FlushFileBuffers, (HANDLE a),
+     Written(false, Call("FlushFileBuffers", FALSE, [&] { return real(a); })))
 PLAIN(SetFileAttributesW, (LPCWSTR a, DWORD b), (a, b))
 PLAIN(GetFileSecurityW, (LPCWSTR a, SECURITY_INFORMATION b, PSECURITY_DESCRIPTOR c, DWORD d,
                          LPDWORD e), (a, b, c, d, e))
@@ -115,12 +130,29 @@ std::string BytesOf(const fs::path& path) {
   return {std::istreambuf_iterator(file), {}};
 }
 
-/// Owner, access list and attributes.
+std::wstring OwnerOf(const fs::path& path) {
+  std::array<std::byte, 1000> block{};
+  DWORD size = 0;
+  PSID owner = nullptr;
+  BOOL byDefault = FALSE;
+  LPWSTR name = nullptr;
+  EXPECT_TRUE(
+      GetFileSecurityW(path.c_str(), OWNER_SECURITY_INFORMATION, block.data(), 1000, &size));
+  EXPECT_TRUE(GetSecurityDescriptorOwner(block.data(), &owner, &byDefault));
+  EXPECT_TRUE(ConvertSidToStringSidW(owner, &name));
+  std::wstring found = name;
+  LocalFree(name);
+  return found;
+}
+
+constexpr std::size_t RightsBytes = 1000;
+
+/// Owner and access list in so many bytes, and then the attributes.
 std::string RightsOf(const fs::path& path) {
-  std::string rights(1000, '\0');
+  std::string rights(RightsBytes, '\0');
   DWORD size = 0;
   EXPECT_TRUE(GetFileSecurityW(path.c_str(), OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION,
-                               rights.data(), 1000, &size));
+                               rights.data(), RightsBytes, &size));
   return rights + std::to_string(GetFileAttributesW(path.c_str()));
 }
 
@@ -136,6 +168,12 @@ class WindowsSaving : public testing::TestWithParam<Scene> {
     for (const auto& file : fs::directory_iterator(Folder.Path())) fs::remove(file);
     if (!HasOld) return;
     std::ofstream(Map, std::ios::binary) << Old;
+    // For the owner alone, unlike other files of the folder.
+    PSECURITY_DESCRIPTOR list = nullptr;
+    ASSERT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(
+        (L"D:P(A;;FA;;;" + OwnerOf(Map) + L")").c_str(), SDDL_REVISION_1, &list, nullptr));
+    ASSERT_TRUE(SetFileSecurityW(Map.c_str(), DACL_SECURITY_INFORMATION, list));
+    LocalFree(list);
     SetFileAttributesW(Map.c_str(), FILE_ATTRIBUTE_HIDDEN);
     Rights = RightsOf(Map);
   }
@@ -169,7 +207,7 @@ class WindowsSaving : public testing::TestWithParam<Scene> {
   }
   /// Whether a save is to succeed all the same.
   bool Bearable(const Strike& strike) const {
-    const auto& [at, error, closed, count, hit, created, named] = strike;
+    const auto& [at, error, closed, count, hit, created, named, loose, rash] = strike;
     if (hit.empty() || named || hit == "taken" || hit == "DeleteFileW") return true;
     if (hit == "GetFileSecurityW") return error == ERROR_ACCESS_DENIED || created;
     if (hit == "SetFileInformationByHandle") return error != ERROR_DISK_FULL;
@@ -232,8 +270,13 @@ TEST_P(WindowsSaving, LosesNothingWhateverFails) {
         if (file == Map) continue;
         ++litter;
         EXPECT_TRUE(file.filename().string().starts_with(".terramark-"));
+        EXPECT_TRUE(!HasOld ||
+                    RightsOf(file).substr(0, RightsBytes) == Rights.substr(0, RightsBytes));
         if (blow == AllFail && Kept.filename() == file.filename()) whole = BytesOf(file) == New;
       }
+      EXPECT_FALSE(strike.Rash || (said && strike.Loose && over)) << strike.Hit;
+      EXPECT_TRUE(HasOld || !said ||
+                  (GetFileAttributesW(Map.c_str()) & FILE_ATTRIBUTE_HIDDEN) == 0);
       EXPECT_LE(litter, blow < 0 ? 2 : strike.Hit == "DeleteFileW" ? 1 : 0);
       EXPECT_TRUE(whole || (closed && blow == AllFail)) << strike.Hit;
       EXPECT_TRUE(!HasOld || !Kept.empty() || RightsOf(Map) == Rights) << strike.Hit;
