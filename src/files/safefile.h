@@ -34,11 +34,11 @@ namespace terramark::files {
 /// it, and it may be deleted, unless it is Kept or the target is a mix. On a file system that can
 /// neither link nor rename without replacing, a kill may leave a new target empty.
 ///
-/// On Windows the system replaces the file, which keeps its attributes and its time of creation. The
-/// old file has a hidden name beside the target meanwhile, ".terramark-...-old": a kill between the
-/// two changes of names leaves it there, and nothing under the target's name. The rights are owner
-/// and access list. While another program has the file open without allowing this, a save waits for
-/// a second, and then fails; a link to a file that does not exist is refused.
+/// On Windows the system replaces the file, which keeps its attributes and its time of creation.
+/// The old file has a hidden name beside the target meanwhile, ".terramark-...-old": a kill between
+/// the two changes of names leaves it there, and nothing under the target's name. The rights are
+/// owner and access list. While another program has the file open without allowing this, a save
+/// waits for a second, and then fails; a link to a file that does not exist is refused.
 class SafeFile {
  public:
   explicit SafeFile(std::filesystem::path target);

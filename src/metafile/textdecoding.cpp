@@ -1,11 +1,8 @@
 #include "metafile/textdecoding.h"
 
-#include <iconv.h>
+#include <string_view>
 
-#include <array>
-#include <bit>
-#include <cstdint>
-
+#include "files/codepages.h"
 #include "metafile/fontmatch.h"
 #include "metafile/symbolencoding.h"
 
@@ -13,30 +10,30 @@ namespace terramark::metafile {
 namespace {
 
 struct Charset {
-  const char* CodePage;
+  int CodePage;  // its number in Windows
   int Number;
   bool DoubleByte;
 };
 
 constexpr Charset Charsets[] = {
-    {"MACINTOSH", 77, false},  //
-    {"CP932", 128, true},      //
-    {"UHC", 129, true},        //
-    {"GBK", 134, true},        //
-    {"BIG5", 136, true},       //
-    {"CP1253", 161, false},    //
-    {"CP1254", 162, false},    //
-    {"CP1258", 163, false},    //
-    {"CP1255", 177, false},    //
-    {"CP1256", 178, false},    //
-    {"CP1257", 186, false},    //
-    {"CP1251", 204, false},    //
-    {"CP874", 222, false},     //
-    {"CP1250", 238, false},    //
-    {"CP437", 255, false},     //
+    {10000, 77, false},  //
+    {932, 128, true},    //
+    {949, 129, true},    //
+    {936, 134, true},    //
+    {950, 136, true},    //
+    {1253, 161, false},  //
+    {1254, 162, false},  //
+    {1258, 163, false},  //
+    {1255, 177, false},  //
+    {1256, 178, false},  //
+    {1257, 186, false},  //
+    {1251, 204, false},  //
+    {874, 222, false},   //
+    {1250, 238, false},  //
+    {437, 255, false},   //
 };
 
-constexpr Charset Western{"CP1252", 0, false};
+constexpr Charset Western{1252, 0, false};
 
 const Charset& CharsetOf(int number) {
   for (const Charset& charset : Charsets) {
@@ -50,36 +47,6 @@ bool IsLeadByte(int number, unsigned char byte) {
   if (number == Japanese) return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
   return byte >= 0x81 && byte != 0xFF;
 }
-
-class Converter {
- public:
-  explicit Converter(const char* codePage) : handle_(iconv_open("UTF-8", codePage)) {}
-  ~Converter() {
-    if (Open()) iconv_close(handle_);
-  }
-  Converter(const Converter&) = delete;
-  Converter& operator=(const Converter&) = delete;
-
-  QString Convert(QByteArrayView bytes) {
-    if (!Open()) return QString::fromLatin1(bytes);
-    std::array<char, 16> out{};
-    char* from = const_cast<char*>(bytes.data());  // iconv does not write to its input
-    char* to = out.data();
-    std::size_t fromLeft = static_cast<std::size_t>(bytes.size());
-    std::size_t toLeft = out.size();
-    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-    if (iconv(handle_, &from, &fromLeft, &to, &toLeft) == static_cast<std::size_t>(-1)) {
-      return QString(QChar::ReplacementCharacter);
-    }
-    // Some code pages hold back a letter in case an accent follows.
-    iconv(handle_, nullptr, nullptr, &to, &toLeft);
-    return QString::fromUtf8(out.data(), to - out.data());
-  }
-
- private:
-  bool Open() const { return std::bit_cast<std::intptr_t>(handle_) != -1; }
-  iconv_t handle_;
-};
 
 }  // namespace
 
@@ -100,7 +67,11 @@ QString DecodeLetter(QByteArrayView letter, const Font& font) {
     case FontContents::Letters:
       break;
   }
-  return Converter(CharsetOf(font.Charset).CodePage).Convert(letter);
+  const std::string_view bytes(letter.data(), static_cast<std::size_t>(letter.size()));
+  const auto decoded = files::DecodeLetterBytes(CharsetOf(font.Charset).CodePage, bytes);
+  if (!decoded) return QString::fromLatin1(letter);
+  return decoded->empty() ? QString(QChar::ReplacementCharacter)
+                          : QString::fromStdU16String(*decoded);
 }
 
 }  // namespace terramark::metafile
