@@ -1,7 +1,9 @@
 #include <windows.h>
 
+#include <QAbstractEventDispatcher>
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
+#include <QObject>
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
@@ -17,6 +19,8 @@ namespace {
 /// next press it therefore takes for a repeat.
 class WindowsKeyboard final : public RepeatSource, public QAbstractNativeEventFilter {
  public:
+  WindowsKeyboard();
+
   void Watch(QWindow& /*window*/) override {}
   bool IsRepeat(const QKeyEvent& event) override;
 
@@ -24,7 +28,8 @@ class WindowsKeyboard final : public RepeatSource, public QAbstractNativeEventFi
 
  private:
   /// The messages of a key that have not come as events yet. Qt collects messages before it sends
-  /// the events of them, in the same order. Some messages come as no event.
+  /// the events of them, in the same order. Some messages come as no event: those of an input
+  /// method, and combinations that the system takes. They are forgotten when Qt begins to wait.
   struct Waiting {
     unsigned All = 0;
     unsigned New = 0;  // those of a key that was not down
@@ -35,7 +40,15 @@ class WindowsKeyboard final : public RepeatSource, public QAbstractNativeEventFi
   std::unordered_map<std::uint32_t, Waiting> waiting_;  // by scan code
   /// The verdict on a press that has come as an override only; it comes again as a press.
   std::optional<bool> overridden_;
+  /// Ends the connection to the dispatcher with this object.
+  QObject connected_;
 };
+
+WindowsKeyboard::WindowsKeyboard() {
+  // All events have been sent by then. A message left over would give its mark to a later press.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   &connected_, [this] { waiting_.clear(); });
+}
 
 bool WindowsKeyboard::nativeEventFilter(const QByteArray& /*type*/, void* message,
                                         qintptr* /*result*/) {
