@@ -76,8 +76,12 @@ forms::Answer QtDesktop::MsgBox(const std::string& text, forms::Buttons buttons,
 }
 
 void QtDesktop::ShowOpen(forms::CommonDialog& dialog) {
-  const QString folder = chosen_.isEmpty() ? QDir::currentPath() : QFileInfo(chosen_).path();
+  const QString current = QDir::currentPath();
+  const QString folder = chosen_.isEmpty() ? current : QFileInfo(chosen_).path();
   const QString path = AskForFile(dialog, folder, window_);
+  // The dialog of Windows enters the folder of the chosen file. There a picture whose name has no
+  // folder would no longer be found when the map is saved.
+  if (QDir::currentPath() != current) QDir::setCurrent(current);
   if (path.isEmpty()) return;
   chosen_ = QDir::toNativeSeparators(path);
   TakeChosenPath(dialog, chosen_);
