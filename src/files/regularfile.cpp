@@ -6,6 +6,20 @@
 
 namespace terramark::files {
 
+namespace {
+
+/// Whether a name begins with two separators. The library for Windows does not know these as the
+/// start of a whole path, and would join them to a folder.
+bool IsInNetwork(const std::filesystem::path& name) {
+  const auto isSeparator = [](auto unit) {
+    return unit == '/' || unit == std::filesystem::path::preferred_separator;
+  };
+  const auto& units = name.native();
+  return units.size() > 1 && isSeparator(units[0]) && isSeparator(units[1]);
+}
+
+}  // namespace
+
 Result<RegularFile> RegularFile::Open(const std::filesystem::path& path) {
   // The system would end the path at the NUL.
   constexpr std::filesystem::path::value_type Nul = 0;
@@ -31,7 +45,7 @@ Result<std::string> ReadRegularFile(const std::filesystem::path& path, std::size
 }
 
 bool CanOpenNamedFile(const std::filesystem::path& namedBy, const std::filesystem::path& name) {
-  return RegularFile::Open(namedBy.parent_path() / name).has_value();
+  return RegularFile::Open(IsInNetwork(name) ? name : namedBy.parent_path() / name).has_value();
 }
 
 }  // namespace terramark::files
