@@ -45,7 +45,9 @@ bool IsDevice(std::wstring_view name) {
 /// The name behind a computer and the name of what it shares: `\\computer\share\...` without the
 /// first two backslashes. Pipes look like files of a share.
 bool IsPipe(std::wstring_view name) {
-  const std::wstring_view share = name.substr(std::min(name.find(L'\\'), name.size() - 1) + 1);
+  const std::size_t end = std::min(name.find(L'\\'), name.size());
+  const std::wstring_view share =
+      name.substr(std::min(name.find_first_not_of(L'\\', end), name.size()));
   return BeginsWith(share, L"pipe\\") || BeginsWith(share, L"mailslot\\");
 }
 
