@@ -70,7 +70,7 @@ class WindowsReplacement final : public ReplacementFile {
 
 WindowsReplacement::~WindowsReplacement() {
   file_.Close();
-  if (!temporary_.empty()) ::DeleteFileW(temporary_.c_str());
+  if (!temporary_.empty()) Patiently([&] { return ::DeleteFileW(temporary_.c_str()); });
 }
 
 Result<> WindowsReplacement::FindTarget() {
@@ -86,6 +86,7 @@ Result<> WindowsReplacement::FindTarget() {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
     if (auto followed = FollowLinks(); !followed) return followed;
     attributes = ::GetFileAttributesW(target_.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return Failed(static_cast<int>(::GetLastError()));
   }
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return tl::unexpected(Fault::IsFolder());
   if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return Failed(ERROR_FILE_READ_ONLY);
@@ -171,10 +172,13 @@ int WindowsReplacement::TakeOldName() {
     return ::ReplaceFileW(target, temporary_.c_str(), backup_.c_str(), 0, nullptr, nullptr);
   });
   if (error == 0) {
-    ::DeleteFileW(backup_.c_str());
+    Patiently([&] { return ::DeleteFileW(backup_.c_str()); });
   } else if (!IsTaken(target)) {
     // It stopped between the two changes of names.
-    lost_ = ::MoveFileExW(backup_.c_str(), target, MOVEFILE_WRITE_THROUGH) == FALSE;
+    const int stuck = ErrorOf(::MoveFileExW(backup_.c_str(), target, MOVEFILE_WRITE_THROUGH));
+    // It did not: somebody else has removed the old file.
+    if (stuck == ERROR_FILE_NOT_FOUND) return TakeNewName();
+    lost_ = stuck != 0;
   }
   return error;
 }
