@@ -53,6 +53,7 @@ TEST(WindowsNames, AreTakenWholeOrRefusedBeforeAnythingIsOpened) {
             {LR"(\\?\GLOBALROOT\Device\Null)", nullptr, device},
             {LR"(\\host\PIPE\first)", nullptr, device},
             {LR"(\\?\UNC\host\mailslot\first)", nullptr, device},
+            {LR"(\\host\\pipe\first)", nullptr, device},
             {LR"(C:\maps\first.bmp:hidden)", nullptr, wrong},
             {LR"(\\host\maps\first:hidden.tml)", nullptr, wrong}};
   for (const auto& [given, full, why] : cases) {
@@ -116,6 +117,12 @@ TEST(WindowsFiles, TellWhoHasThemOpenAndStayAsTheyAre) {
   std::ofstream(rival) << "rival";
   EXPECT_EQ(late.Replace("late").error().Description(), "file exists");
   EXPECT_EQ(Load(rival), "rival");
+  SafeFile alone(map);
+  ASSERT_TRUE(alone.Open());
+  ASSERT_TRUE(fs::remove(map));
+  EXPECT_TRUE(alone.Replace("again"));
+  EXPECT_EQ(Load(map), "again");
+  EXPECT_TRUE(CanOpenNamedFile(LR"(C:\maps\first.tml)", L"\\\\?\\" + map.native()));
 }
 
 }  // namespace
