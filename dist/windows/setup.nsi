@@ -302,7 +302,7 @@ Section "Terramark" Terramark
 
   ; The dialogs for files begin in the folder where the program is started. That is where users keep
   ; what they make, and not the samples: in an installation for all nobody may save there. The
-  ; samples are in the side bar of the dialogs.
+  ; samples lie in the folder of the program.
   StrCpy $OUTDIR "$DOCUMENTS"
   ${If} $ForAll = 1
     StrCpy $OUTDIR "%USERPROFILE%\Documents"
