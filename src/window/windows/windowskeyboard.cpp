@@ -6,6 +6,7 @@
 #include <QObject>
 #include <cstdint>
 #include <optional>
+#include <queue>
 #include <unordered_map>
 
 #include "window/repeatsource.h"
@@ -27,17 +28,13 @@ class WindowsKeyboard final : public RepeatSource, public QAbstractNativeEventFi
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
  private:
-  /// The messages of a key that have not come as events yet. Qt collects messages before it sends
-  /// the events of them, in the same order. Some messages come as no event: those of an input
-  /// method, and combinations that the system takes. They are forgotten when Qt begins to wait.
-  struct Waiting {
-    unsigned All = 0;
-    unsigned New = 0;  // those of a key that was not down
-  };
-
   bool IsWaitingRepeat(const QKeyEvent& press);
 
-  std::unordered_map<std::uint32_t, Waiting> waiting_;  // by scan code
+  /// The messages of each key that have not come as events yet, by scan code: whether they are
+  /// repeats. Qt collects messages before it sends the events of them, in the same order. Some
+  /// messages come as no event: those of an input method, and combinations that the system takes.
+  /// They are forgotten when Qt begins to wait.
+  std::unordered_map<std::uint32_t, std::queue<bool>> waiting_;
   /// The verdict on a press that has come as an override only; it comes again as a press.
   std::optional<bool> overridden_;
   /// Ends the connection to the dispatcher with this object.
@@ -59,20 +56,18 @@ bool WindowsKeyboard::nativeEventFilter(const QByteArray& /*type*/, void* messag
   constexpr LPARAM WasDown = LPARAM{1} << 30;
   const MSG& key = *static_cast<const MSG*>(message);
   if (key.message != WM_KEYDOWN && key.message != WM_SYSKEYDOWN) return false;
-  auto& waiting = waiting_[static_cast<std::uint32_t>(key.lParam >> ScanCodeShift & ScanCodeBits)];
-  ++waiting.All;
-  if ((key.lParam & WasDown) == 0) ++waiting.New;
+  const auto place = static_cast<std::uint32_t>(key.lParam >> ScanCodeShift & ScanCodeBits);
+  waiting_[place].push((key.lParam & WasDown) != 0);
   return false;
 }
 
 bool WindowsKeyboard::IsWaitingRepeat(const QKeyEvent& press) {
   auto& waiting = waiting_[press.nativeScanCode()];
   // A loop of the system's own has passed the message on.
-  if (waiting.All == 0) return press.isAutoRepeat();
-  --waiting.All;
-  if (waiting.New == 0) return true;
-  --waiting.New;
-  return false;
+  if (waiting.empty()) return press.isAutoRepeat();
+  const bool repeat = waiting.front();
+  waiting.pop();
+  return repeat;
 }
 
 bool WindowsKeyboard::IsRepeat(const QKeyEvent& event) {
