@@ -40,7 +40,7 @@ need_packages() {
     say_and_stop "cannot install these packages (apt-get failed): ${missing[*]}"
 }
 
-# Brings the build folder of a preset up to date: build PRESET [TARGET].
+# Brings the build folder of a preset up to date: build PRESET [TARGET...].
 build() {
   local folder=build/$1
   # A folder that another tree or an older preset left behind is configured anew.
@@ -48,5 +48,5 @@ build() {
     ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$folder/CMakeCache.txt"; then
     cmake --fresh --preset "$1" || say_and_stop "cannot configure $folder, see above"
   fi
-  cmake --build "$folder" ${2:+--target "$2"} || say_and_stop "cannot build $folder, see above"
+  cmake --build "$folder" ${2:+--target "${@:2}"} || say_and_stop "cannot build $folder, see above"
 }

@@ -44,6 +44,8 @@ def place_of(name):
 
 
 class Editor:
+    WINDOWS = "^terramark$"  # the instance part of the class that all its windows have
+
     def __init__(self, screen, program):
         self.screen = screen
         self.wait = screen.wait
@@ -109,7 +111,7 @@ class Editor:
         would still swallow a press."""
         self.screen.wait_active(TITLE)
         self.wait("all dialogs gone", lambda: len(self.screen.tool(
-            "search", "--onlyvisible", "--classname", "^terramark$", check=False).split()) == 1)
+            "search", "--onlyvisible", "--classname", self.WINDOWS, check=False).split()) == 1)
 
     def park(self):
         """Moves the pointer out of the way; tips over the boxes go away."""

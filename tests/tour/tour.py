@@ -42,6 +42,10 @@ class Tour(KeyboardMap):
         self.shots += 1
         self.screen.save(self.output / f"{self.shots:02}-{name}.png", WINDOW.moved(*self.origin))
 
+    def full_name(self, name):
+        """Of a file in the current folder, as the editor writes it into a layout."""
+        return os.path.abspath(name)
+
     def save_and_compare(self, name, expected, picture):
         self.choose("SaveCFG", name)
         self.compare(name, expected, picture)
@@ -52,7 +56,7 @@ class Tour(KeyboardMap):
         self.wait_blank_bar()
         shutil.copy(name, self.output)
         got, want = (Path(file).read_bytes().split(b"\r\n") for file in (name, expected))
-        want[1], want[3] = got[1], os.path.abspath(picture).encode()
+        want[1], want[3] = got[1], self.full_name(picture).encode()
         for pair in zip_longest(got, want):
             if len(set(pair)) > 1:
                 raise Failure("{}: {!r} instead of {!r}".format(name, *pair))
@@ -359,23 +363,28 @@ class Tour(KeyboardMap):
         self.step(f"The tour is over; its pictures are in {self.output}")
 
 
-def main():
-    if len(sys.argv) != 3:
-        sys.exit(__doc__)
-    program, output = (Path(argument).resolve() for argument in sys.argv[1:])
+def run(tour, program, output, folder=None):
+    """Plays a tour of this class or one of its kind; the samples are copied into the folder."""
     shutil.rmtree(output, ignore_errors=True)
     output.mkdir(parents=True)
-    with tempfile.TemporaryDirectory(prefix="terramark-tour-") as folder:
-        os.chdir(shutil.copytree(HERE.parents[1] / "samples", folder + "/samples"))
-        screen = Screen(folder)
+    with tempfile.TemporaryDirectory(prefix="terramark-tour-") as own:
+        os.chdir(shutil.copytree(HERE.parents[1] / "samples", folder or own + "/samples",
+                                 dirs_exist_ok=True))
+        screen = Screen(own)
         try:
-            Tour(screen, program, output).play()
+            tour(screen, program, output).play()
         except Failure as failure:
             print("FAILED:", failure)
             screen.save(output / "failed.png")
             sys.exit(Path(screen.log.name).read_text(errors="replace"))
         finally:
             screen.close()
+
+
+def main():
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    run(Tour, *(Path(argument).resolve() for argument in sys.argv[1:]))
 
 
 if __name__ == "__main__":
