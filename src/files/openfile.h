@@ -39,7 +39,7 @@ int Truncate(FileNumber file, std::uintmax_t size);
 /// system cannot.
 int Reserve(FileNumber file, std::uintmax_t size);
 
-/// Returns when all of the file is on the disk.
+/// Returns when all of the file is on the disk, as far as the disk can be asked for it.
 int Flush(FileNumber file);
 
 }  // namespace terramark::files

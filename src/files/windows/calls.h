@@ -15,6 +15,12 @@ inline int ErrorOf(BOOL succeeded) {
   return succeeded != FALSE ? 0 : static_cast<int>(::GetLastError());
 }
 
+/// The file system does not know the request.
+inline bool IsUnknownRequest(int error) {
+  return error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION ||
+         error == ERROR_INVALID_PARAMETER || error == ERROR_CALL_NOT_IMPLEMENTED;
+}
+
 /// A file's number as the system's calls take it. Of a closed one it is INVALID_HANDLE_VALUE.
 inline HANDLE Native(FileNumber file) {
   return reinterpret_cast<HANDLE>(file);

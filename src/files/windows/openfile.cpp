@@ -106,7 +106,8 @@ int Reserve(FileNumber file, std::uintmax_t size) {
 }
 
 int Flush(FileNumber file) {
-  return ErrorOf(::FlushFileBuffers(Native(file)));
+  const int error = ErrorOf(::FlushFileBuffers(Native(file)));
+  return IsUnknownRequest(error) ? 0 : error;
 }
 
 }  // namespace terramark::files

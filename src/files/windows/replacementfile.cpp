@@ -57,7 +57,8 @@ class WindowsReplacement final : public ReplacementFile {
   // These return 0 or an error code.
   int Complete(std::string_view text);
   int TakeOldName();
-  int TakeNewName() const;
+  /// Without flags it is refused when there is a file of the target's name.
+  int TakeName(DWORD flags) const;
 
   std::filesystem::path target_;
   std::optional<Rights> old_;  // of the target, when there is one
@@ -124,6 +125,7 @@ int WindowsReplacement::TryToWrite() const {
 }
 
 int WindowsReplacement::Create() {
+  if (old_ && !old_->AreShown()) return ERROR_ACCESS_DENIED;
   // Short, so that it fits wherever the target's name fits. The process number keeps it apart from
   // those of other editors, and from what ended ones have left.
   const std::wstring stem = target_.parent_path() / L".terramark-";
@@ -145,7 +147,7 @@ int WindowsReplacement::Create() {
 
 int WindowsReplacement::TakeTarget(std::string_view text) {
   int error = Complete(text);
-  if (error == 0) error = old_ ? TakeOldName() : TakeNewName();
+  if (error == 0) error = old_ ? TakeOldName() : TakeName(0);
   if (error != 0) return error;
   temporary_.clear();
   // What has the name now is on the disk already; this brings the name there.
@@ -173,20 +175,23 @@ int WindowsReplacement::TakeOldName() {
   });
   if (error == 0) {
     Patiently([&] { return ::DeleteFileW(backup_.c_str()); });
+  } else if (IsUnknownRequest(error)) {
+    // Some networks cannot replace. Attributes and rights have been given already.
+    return TakeName(MOVEFILE_REPLACE_EXISTING);
   } else if (!IsTaken(target)) {
     // It stopped between the two changes of names.
     const int stuck = ErrorOf(::MoveFileExW(backup_.c_str(), target, MOVEFILE_WRITE_THROUGH));
     // It did not: somebody else has removed the old file.
-    if (stuck == ERROR_FILE_NOT_FOUND) return TakeNewName();
+    if (stuck == ERROR_FILE_NOT_FOUND) return TakeName(0);
     lost_ = stuck != 0;
   }
   return error;
 }
 
-int WindowsReplacement::TakeNewName() const {
-  // Refused when there is a file of that name by now.
-  return Patiently(
-      [&] { return ::MoveFileExW(temporary_.c_str(), target_.c_str(), MOVEFILE_WRITE_THROUGH); });
+int WindowsReplacement::TakeName(DWORD flags) const {
+  return Patiently([&] {
+    return ::MoveFileExW(temporary_.c_str(), target_.c_str(), flags | MOVEFILE_WRITE_THROUGH);
+  });
 }
 
 bool WindowsReplacement::OldMayBeOverwritten(int error) const {

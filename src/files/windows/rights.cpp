@@ -43,9 +43,7 @@ int Rights::Read(const std::wstring& name, DWORD attributes) {
   const int error = ReadRights(name, descriptor_);
   if (error == 0) return 0;
   shown_ = error != ERROR_ACCESS_DENIED;
-  const bool none = error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION ||
-                    error == ERROR_CALL_NOT_IMPLEMENTED;
-  return none || !shown_ ? 0 : error;
+  return IsUnknownRequest(error) || !shown_ ? 0 : error;
 }
 
 SECURITY_ATTRIBUTES* Rights::ForCreating() {
@@ -69,7 +67,6 @@ SECURITY_ATTRIBUTES* Rights::ForCreating() {
 }
 
 bool Rights::GiveOwnerTo(const std::wstring& name) const {
-  if (!shown_) return false;
   const PSID owner = descriptor_.empty() ? nullptr : OwnerIn(descriptor_);
   if (owner == nullptr || HasOwner(name, owner)) return true;
   auto* const block = const_cast<std::byte*>(descriptor_.data());

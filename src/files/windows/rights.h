@@ -15,6 +15,9 @@ class Rights {
   /// or does not show them to the user, there are none.
   int Read(const std::wstring& name, DWORD attributes);
 
+  /// Whether the user may know the rights. Otherwise no other file can be given them.
+  bool AreShown() const { return shown_; }
+
   /// For creating a file that nobody else may open than who may open this one. It refers to this
   /// object; null where the file system keeps no rights.
   SECURITY_ATTRIBUTES* ForCreating();
@@ -28,7 +31,7 @@ class Rights {
 
  private:
   DWORD attributes_ = FILE_ATTRIBUTE_NORMAL;
-  bool shown_ = true;                  // whether the user may know the rights
+  bool shown_ = true;
   std::vector<std::byte> descriptor_;  // owner and access list in one block; may be empty
   SECURITY_DESCRIPTOR listOnly_{};
   SECURITY_ATTRIBUTES creating_{};
