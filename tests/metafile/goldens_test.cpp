@@ -17,6 +17,17 @@ QByteArray BytesOf(const QString& path) {
   return file.readAll();
 }
 
+/// Whether a case is of letters and the system draws those in its own way. The golden pictures have
+/// them as FreeType draws them.
+bool HasOwnLetters([[maybe_unused]] const QByteArray& cell) {
+#ifdef Q_OS_WIN
+  return cell.startsWith("text") || cell.contains("Text") || cell.startsWith("character set") ||
+         cell.startsWith("letters");
+#else
+  return false;
+#endif
+}
+
 /// Compares a metafile, in which each cell of a grid has a name, with the picture beside this file.
 /// It is left where the metafiles of the build are when it differs; copied from there, once it has
 /// been looked at, it is the new golden picture.
@@ -34,16 +45,16 @@ void ExpectGolden(const QString& folder, const QString& name, const QList<QByteA
   const QImage golden = QImage(GOLDENS "/" + name + ".png").convertToFormat(drawn.format());
   const QString left = METAFILES "/" + name + ".png";
   QFile::remove(left);
-  if (drawn == golden) return;
-
-  EXPECT_TRUE(drawn.save(left));
   std::string different;
   for (qsizetype i = 0; i < cells.size(); ++i) {
     const int place = static_cast<int>(i);
     const QPoint corner(place % columns * cell.width(), place / columns * cell.height());
     const QRect box(corner, cell);
-    if (drawn.copy(box) != golden.copy(box)) different += "\n  " + cells[i].toStdString();
+    if (HasOwnLetters(cells[i]) || drawn.copy(box) == golden.copy(box)) continue;
+    different += "\n  " + cells[i].toStdString();
   }
+  if (different.empty()) return;
+  EXPECT_TRUE(drawn.save(left));
   ADD_FAILURE() << left.toStdString() << " is not the golden picture in" << different;
 }
 
