@@ -47,28 +47,36 @@ const char* SubstituteFor(const QByteArray& face) {
   return nullptr;
 }
 
-/// The mean widths of the letters of the faces that the families stand in for, for a size of one
-/// pixel. A metafile's width is a multiple of them: they are the mean widths that Arial, Times New
-/// Roman, Courier New and Arial Narrow state. Our families have the same letters but count other
-/// ones too, so their own mean is larger.
-struct WidthRow {
+/// The faces that the families stand in for, which Windows has instead, and the mean widths of
+/// their letters for a size of one pixel. A metafile's width is a multiple of the widths that these
+/// faces state. Our families have the same letters but count other ones too, so their own mean is
+/// larger.
+struct FamilyRow {
   const char* Family;
+  const char* StandsFor;
   double Regular;
   double Bold;
 };
 
-constexpr WidthRow Widths[] = {
-    {"Liberation Sans", 0.441, 0.480},
-    {"Liberation Serif", 0.401, 0.427},
-    {"Liberation Mono", 0.600, 0.600},
-    {"Liberation Sans Narrow", 0.362, 0.392},
+constexpr FamilyRow FamilyRows[] = {
+    {"Liberation Sans", "Arial", 0.441, 0.480},
+    {"Liberation Serif", "Times New Roman", 0.401, 0.427},
+    {"Liberation Mono", "Courier New", 0.600, 0.600},
+    {"Liberation Sans Narrow", "Arial Narrow", 0.362, 0.392},
 };
 
-double MeanWidthOf(const QFont& face) {
-  for (const WidthRow& row : Widths) {
-    if (face.family() == QLatin1StringView(row.Family)) return face.bold() ? row.Bold : row.Regular;
+/// Null for a family that is none of ours.
+const FamilyRow* RowOf(const QString& family) {
+  for (const FamilyRow& row : FamilyRows) {
+    if (family == QLatin1StringView(row.Family)) return &row;
   }
-  return 0;
+  return nullptr;
+}
+
+double MeanWidthOf(const QFont& face) {
+  const FamilyRow* const row = RowOf(face.family());
+  if (row == nullptr) return 0;
+  return face.bold() ? row->Bold : row->Regular;
 }
 
 /// The metrics of the symbol font, for a size of one pixel.
@@ -181,7 +189,8 @@ MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   const FontContents contents = ContentsOf(wanted);
   MatchedFont matched;
   QFont& face = matched.Face;
-  face.setFamily(FamilyOf(wanted));
+  const QString family = FamilyOf(wanted);
+  face.setFamilies({family, QLatin1StringView(RowOf(family)->StandsFor)});
   face.setStyleStrategy(QFont::NoAntialias);
   face.setHintingPreference(QFont::PreferFullHinting);
   face.setBold(wanted.Weight >= BoldFrom);
