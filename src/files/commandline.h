@@ -11,7 +11,7 @@ namespace terramark::files {
 /// On Windows, where the shell leaves patterns as they are, each has become the names that it fits.
 std::vector<std::string> Arguments(int argc, char** argv);
 
-/// Writes a text in UTF-8 to the standard output: as bytes, but for a terminal that wants another
+/// Writes a text in UTF-8 to the standard output, converted where a terminal wants another
 /// encoding. False when not all of it could be written.
 bool Print(std::string_view text);
 

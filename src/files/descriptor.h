@@ -25,6 +25,7 @@ class Descriptor {
 
   bool IsOpen() const { return number_ != -1; }
   FileNumber Number() const { return number_; }
+  /// Implemented beside the other calls, in posix/openfile.cpp and windows/openfile.cpp.
   void Close();
 
  private:

@@ -1,4 +1,4 @@
-// What the system does with an open file, one call each. Their files are in posix/ and windows/.
+// What the system does with an open file, one call each; implemented in posix/ and windows/.
 #pragma once
 
 #include <cstddef>

@@ -8,8 +8,8 @@ namespace terramark::files {
 
 namespace {
 
-/// Whether a name begins with two separators. The library for Windows does not know these as the
-/// start of a whole path, and would join them to a folder.
+/// Whether a name begins with two separators. The standard library on Windows does not take such a
+/// name for an absolute path, and would join it to a folder.
 bool IsInNetwork(const std::filesystem::path& name) {
   const auto isSeparator = [](auto unit) {
     return unit == '/' || unit == std::filesystem::path::preferred_separator;

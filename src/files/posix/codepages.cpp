@@ -10,7 +10,7 @@ namespace terramark::files {
 
 namespace {
 
-/// The number under which the system knows a page by another name.
+/// A page that iconv knows by a name without its number.
 struct NamedPage {
   int Number;
   const char* Name;

@@ -6,7 +6,7 @@
 
 #include "files/windows/unicode.h"
 
-// Of the C library, which its headers declare only for its own start of a program.
+// A function of the C library. The headers declare it only for the library's own start-up code.
 extern "C" __declspec(dllimport) int __cdecl __wgetmainargs(int* count, wchar_t*** words,
                                                             wchar_t*** environment,
                                                             int expandPatterns, void* startInfo);

@@ -14,9 +14,9 @@ constexpr std::wstring_view AsItStandsInNetwork = L"\\\\?\\UNC\\";
 constexpr std::wstring_view OfDevices = L"\\\\.\\";
 constexpr std::wstring_view OfNetwork = L"\\\\";
 
-/// Names of devices in every folder; the last four with a digit behind them, one of three of them
-/// raised.
+/// Names that mean devices in every folder.
 constexpr std::wstring_view Devices[] = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
+/// These do with a digit behind them, which may be a superscript.
 constexpr std::wstring_view Ports[] = {L"COM", L"LPT"};
 constexpr std::wstring_view PortDigits = L"0123456789\u00B9\u00B2\u00B3";
 
@@ -29,8 +29,8 @@ bool BeginsWith(std::wstring_view name, std::wstring_view start) {
   return SameName(name.substr(0, start.size()), start);
 }
 
-/// Whether a name without folders is that of a device, on older versions of Windows with any ending
-/// and blanks before it.
+/// Whether a name without folders is that of a device. On older versions of Windows an ending, and
+/// blanks before it, do not count.
 bool IsDevice(std::wstring_view name) {
   std::wstring_view stem = name.substr(0, name.find(L'.'));
   stem = stem.substr(0, stem.find_last_not_of(L' ') + 1);

@@ -18,8 +18,8 @@ struct KnownError {
   const char* Text;
 };
 
-/// What happens to files. The system's own texts are in the user's language. What other systems
-/// know too has the words that it has there.
+/// The errors that files give, since the system's own texts are in the user's language. An error
+/// that other systems have too is described in the same words as there.
 constexpr KnownError Known[] = {
     {ERROR_FILE_NOT_FOUND, "no such file or directory"},
     {ERROR_PATH_NOT_FOUND, "no such file or directory"},

@@ -34,7 +34,7 @@ int Patiently(Call call) {
   return error;
 }
 
-/// All names that begin with `\\?\` are as ExtendedPath gives them.
+/// From FindTarget on all names are in the form that ExtendedPath gives.
 class WindowsReplacement final : public ReplacementFile {
  public:
   explicit WindowsReplacement(std::filesystem::path target) : target_(std::move(target)) {}
@@ -179,9 +179,9 @@ int WindowsReplacement::TakeOldName() {
     // Some networks cannot replace. Attributes and rights have been given already.
     return TakeName(MOVEFILE_REPLACE_EXISTING);
   } else if (!IsTaken(target)) {
-    // It stopped between the two changes of names.
+    // It stopped between the two changes of names: the old file gets its name back.
     const int stuck = ErrorOf(::MoveFileExW(backup_.c_str(), target, MOVEFILE_WRITE_THROUGH));
-    // It did not: somebody else has removed the old file.
+    // There is no backup either: somebody else has removed the old file.
     if (stuck == ERROR_FILE_NOT_FOUND) return TakeName(0);
     lost_ = stuck != 0;
   }

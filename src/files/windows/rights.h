@@ -18,8 +18,8 @@ class Rights {
   /// Whether the user may know the rights. Otherwise no other file can be given them.
   bool AreShown() const { return shown_; }
 
-  /// For creating a file that nobody else may open than who may open this one. It refers to this
-  /// object; null where the file system keeps no rights.
+  /// For creating a file that only those may open who may open this one. It refers to this object;
+  /// null where the file system keeps no rights.
   SECURITY_ATTRIBUTES* ForCreating();
 
   /// Makes the owner that of another file too; false where the user may not. The owner can always
