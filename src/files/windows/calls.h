@@ -7,12 +7,20 @@
 
 namespace terramark::files {
 
+/// What other programs may do meanwhile with a file that is opened: anything.
+constexpr DWORD SharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 /// An error code that the headers lack.
 constexpr int DiskQuotaExceeded = 1295;
 
+/// The error code of the call that has just failed.
+inline int LastError() {
+  return static_cast<int>(::GetLastError());
+}
+
 /// 0, or the error code of a call that has failed.
 inline int ErrorOf(BOOL succeeded) {
-  return succeeded != FALSE ? 0 : static_cast<int>(::GetLastError());
+  return succeeded != FALSE ? 0 : LastError();
 }
 
 /// The file system does not know the request.

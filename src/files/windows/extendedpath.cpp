@@ -1,9 +1,9 @@
 #include "files/windows/extendedpath.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <string_view>
+
+#include "files/windows/calls.h"
 
 namespace terramark::files {
 
@@ -59,7 +59,7 @@ Result<std::wstring> FullName(const std::filesystem::path& path) {
   for (DWORD length = 0;; full.resize(length)) {
     length =
         ::GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-    if (length == 0) return Failed(static_cast<int>(::GetLastError()));
+    if (length == 0) return Failed(LastError());
     if (length < full.size()) {
       full.resize(length);
       return full;

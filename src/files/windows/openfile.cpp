@@ -1,6 +1,7 @@
 #include "files/openfile.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "files/windows/calls.h"
 #include "files/windows/extendedpath.h"
@@ -37,14 +38,13 @@ Result<OpenedFile> Open(const std::filesystem::path& path, DWORD access) {
   if (!name) return tl::unexpected(name.error());
   // Asked first, since opening a folder gives the reason that permission is denied.
   const DWORD attributes = ::GetFileAttributesW(name->c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return Failed(static_cast<int>(::GetLastError()));
+  if (attributes == INVALID_FILE_ATTRIBUTES) return Failed(LastError());
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return tl::unexpected(Fault::IsFolder());
   // Whatever serves a name that is no file learns nothing of the user.
   constexpr DWORD Anonymous = SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS;
-  constexpr DWORD Shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  Descriptor file = Owned(::CreateFileW(name->c_str(), access, Shared, nullptr, OPEN_EXISTING,
-                                        FILE_ATTRIBUTE_NORMAL | Anonymous, nullptr));
-  if (!file.IsOpen()) return Failed(static_cast<int>(::GetLastError()));
+  Descriptor file = Owned(::CreateFileW(name->c_str(), access, SharedWithAll, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL | Anonymous, nullptr));
+  if (!file.IsOpen()) return Failed(LastError());
   if (::GetFileType(Native(file.Number())) != FILE_TYPE_DISK) {
     return tl::unexpected(Fault::IsNoPlainFile());
   }

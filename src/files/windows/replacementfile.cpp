@@ -14,7 +14,6 @@ namespace terramark::files {
 
 namespace {
 
-constexpr DWORD Shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 /// Programs that look into each new file, such as virus scanners, have it open for a moment.
 constexpr int Tries = 20;
 constexpr DWORD WaitMilliseconds = 50;
@@ -80,14 +79,14 @@ Result<> WindowsReplacement::FindTarget() {
   target_ = *std::move(name);
   DWORD attributes = ::GetFileAttributesW(target_.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
-    const int error = static_cast<int>(::GetLastError());
+    const int error = LastError();
     if (error == ERROR_FILE_NOT_FOUND) return {};
     return Failed(error);
   }
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
     if (auto followed = FollowLinks(); !followed) return followed;
     attributes = ::GetFileAttributesW(target_.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) return Failed(static_cast<int>(::GetLastError()));
+    if (attributes == INVALID_FILE_ATTRIBUTES) return Failed(LastError());
   }
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return tl::unexpected(Fault::IsFolder());
   if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return Failed(ERROR_FILE_READ_ONLY);
@@ -99,14 +98,14 @@ Result<> WindowsReplacement::FindTarget() {
 
 /// A link to a file that does not exist is refused.
 Result<> WindowsReplacement::FollowLinks() {
-  const Descriptor file = Owned(::CreateFileW(target_.c_str(), 0, Shared, nullptr, OPEN_EXISTING,
-                                              FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-  if (!file.IsOpen()) return Failed(static_cast<int>(::GetLastError()));
+  const Descriptor file = Owned(::CreateFileW(target_.c_str(), 0, SharedWithAll, nullptr,
+                                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  if (!file.IsOpen()) return Failed(LastError());
   std::wstring name(MAX_PATH, L'\0');
   for (DWORD length = 0;; name.resize(length)) {
     length = ::GetFinalPathNameByHandleW(Native(file.Number()), name.data(),
                                          static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED);
-    if (length == 0) return Failed(static_cast<int>(::GetLastError()));
+    if (length == 0) return Failed(LastError());
     if (length < name.size()) {
       name.resize(length);
       target_ = std::move(name);
@@ -117,8 +116,8 @@ Result<> WindowsReplacement::FollowLinks() {
 
 int WindowsReplacement::TryToWrite() const {
   const auto open = [&] {
-    return Owned(::CreateFileW(target_.c_str(), GENERIC_WRITE, Shared, nullptr, OPEN_EXISTING,
-                               FILE_ATTRIBUTE_NORMAL, nullptr))
+    return Owned(::CreateFileW(target_.c_str(), GENERIC_WRITE, SharedWithAll, nullptr,
+                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))
         .IsOpen();
   };
   return Patiently(open);
