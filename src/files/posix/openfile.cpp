@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <utility>
 
 #include "files/posix/calls.h"
 

@@ -9,6 +9,7 @@
 #include <csignal>
 #include <cstdio>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "files/openfile.h"

@@ -2,9 +2,11 @@
 
 #include <QAbstractEventDispatcher>
 #include <QAbstractNativeEventFilter>
+#include <QByteArray>
 #include <QGuiApplication>
 #include <QObject>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <queue>
 #include <unordered_map>

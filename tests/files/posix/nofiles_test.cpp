@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <string>
+
 #include "files/regularfile.h"
 #include "support/temporaryfolder.h"
 

@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
 
 #include "files/safefile.h"
 #include "support/temporaryfolder.h"
