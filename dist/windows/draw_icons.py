@@ -16,7 +16,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1]))
 from draw_icon import png, read_drawing  # noqa: E402
 
 SIZES = 16, 24, 32, 48, 64, 128, 256
-LARGEST_BITMAP = 48  # what shows icons also reads PNG from here on only
+LARGEST_BITMAP = 48  # larger images are PNG, which not everything reads in small ones
 
 CLEAR, BLACK, WHITE, GREY = (0, 0, 0, 0), (0, 0, 0, 255), (255, 255, 255, 255), (192, 192, 192, 255)
 

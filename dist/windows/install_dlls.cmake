@@ -1,6 +1,7 @@
 # Installs the DLLs that the programs and the plug-in import, and those which these import in turn:
 # from Qt's folder, else from the compiler's. Any other has to be one of Windows' own, for which the
-# compiler has an import library, or the name of a set of them. Strips all of them, and the programs.
+# compiler has an import library, or the name of a set of them. Strips all that it installs, and the
+# programs.
 cmake_policy(VERSION 3.25)
 set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 set(waiting terramark.exe terramark-check.exe platforms/qwindows.dll)
