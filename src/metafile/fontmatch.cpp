@@ -65,12 +65,23 @@ constexpr FamilyRow FamilyRows[] = {
     {"Liberation Sans Narrow", "Arial Narrow", 0.362, 0.392},
 };
 
-/// Null for a family that is none of ours.
+/// Null for a family that is in neither column.
 const FamilyRow* RowOf(const QString& family) {
   for (const FamilyRow& row : FamilyRows) {
-    if (family == QLatin1StringView(row.Family)) return &row;
+    if (family == QLatin1StringView(row.Family) || family == QLatin1StringView(row.StandsFor)) {
+      return &row;
+    }
   }
   return nullptr;
+}
+
+/// The family, or the face that it stands in for where that alone is installed.
+QString InstalledOf(const QString& family) {
+  static const QStringList installed = QFontDatabase::families();
+  const FamilyRow* const row = RowOf(family);
+  if (row == nullptr || installed.contains(family)) return family;
+  const QString face = QString::fromLatin1(row->StandsFor);
+  return installed.contains(face) ? face : family;
 }
 
 double MeanWidthOf(const QFont& face) {
@@ -189,8 +200,7 @@ MatchedFont MatchFont(const Font& wanted, QPointF scale) {
   const FontContents contents = ContentsOf(wanted);
   MatchedFont matched;
   QFont& face = matched.Face;
-  const QString family = FamilyOf(wanted);
-  face.setFamilies({family, QLatin1StringView(RowOf(family)->StandsFor)});
+  face.setFamily(InstalledOf(FamilyOf(wanted)));
   face.setStyleStrategy(QFont::NoAntialias);
   face.setHintingPreference(QFont::PreferFullHinting);
   face.setBold(wanted.Weight >= BoldFrom);
